@@ -1,0 +1,24 @@
+# What every target of this project shares: strict warnings, the include root and, on demand, the sanitizers.
+add_library(contrats_options INTERFACE)
+target_compile_options(contrats_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+target_include_directories(contrats_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(CONTRATS_SANITIZE)
+  target_compile_options(contrats_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(contrats_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# contrats_folder(name LINK below...): one library for one folder of src/. It links only what stands below it, so
+# that an include that points upward does not link.
+function(contrats_folder name)
+  cmake_parse_arguments(ARG "" "" "LINK;PRIVATE" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_library(contrats_${name} STATIC ${sources})
+  target_link_libraries(contrats_${name} PUBLIC contrats_options)
+  foreach(below ${ARG_LINK})
+    target_link_libraries(contrats_${name} PUBLIC contrats_${below})
+  endforeach()
+  target_link_libraries(contrats_${name} PRIVATE ${ARG_PRIVATE})
+endfunction()

@@ -1,0 +1,76 @@
+#pragma once
+// What a Db stands on: named files of texts under keys, and nothing else. A text is a record's canonical text form
+// (see CItem). Implementations stand in storage/; the query language, the dictionary and the routines are above.
+//
+// Every write is whole, durable and final when it returns. Every failure is a StoreError that names the file and
+// the key; no call passes over a damaged record.
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace data {
+
+// Keys from `debut` on and before `fin`, in byte order. `sansFin` lifts the upper bound.
+struct KeyRange {
+  std::string debut;
+  std::string fin;
+  bool sansFin = true;
+
+  static KeyRange Tout() { return {}; }
+  // All keys that begin with `prefixe`.
+  static KeyRange Prefixe(std::string_view prefixe);
+  static KeyRange Une(std::string_view cle);
+
+  bool Vide() const { return !sansFin && fin <= debut; }
+  bool Contient(std::string_view cle) const { return cle >= debut && (sansFin || cle < fin); }
+  // The keys that both ranges hold.
+  KeyRange Avec(const KeyRange& autre) const;
+};
+
+// A former text of a record. `numero` grows with time within one record, from 1. `horodatage` and `utilisateur` tell
+// when and by whom it was replaced; `supprime` that it was replaced by nothing.
+struct AncienTexte {
+  long numero = 0;
+  std::string texte;
+  std::string horodatage;
+  std::string utilisateur;
+  bool supprime = false;
+};
+
+struct FichierCompte {
+  std::string nom;
+  long articles = 0;
+};
+
+class Storage {
+ public:
+  // Called for each record in ascending byte order of the keys; the views live until it returns. False stops the scan.
+  // It may read the same Storage, and must not write to it.
+  using Visiteur = std::function<bool(std::string_view cle, std::string_view texte)>;
+
+  virtual ~Storage() = default;
+
+  // False, and `texte` untouched, when there is no such record.
+  virtual bool Get(std::string_view fichier, std::string_view cle, std::string& texte) = 0;
+  // Replaces or creates. The former text, if it differs, goes to the history.
+  virtual void Put(std::string_view fichier, std::string_view cle, std::string_view texte) = 0;
+  // False when there was no such record. The former text goes to the history.
+  virtual bool Erase(std::string_view fichier, std::string_view cle) = 0;
+  virtual void Scan(std::string_view fichier, const KeyRange& cles, const Visiteur& visiteur) = 0;
+
+  // The files that hold at least one record, by name.
+  virtual std::vector<FichierCompte> Fichiers() = 0;
+  // Former texts of one record, oldest first; empty when it was never overwritten.
+  virtual std::vector<AncienTexte> Historique(std::string_view fichier, std::string_view cle) = 0;
+
+  // Runs `travail` so that all its writes stand when this returns, or none does when it throws. Not to be nested.
+  virtual void EnUnBloc(const std::function<void()>& travail) = 0;
+};
+
+// Refuses, by a StoreError, a file name that is not upper-case ASCII letters and digits, an empty key, a key with a control
+// character, and a key or text that is not valid UTF-8 or holds a zero byte. Every backend calls it before a write.
+void VerifierEcriture(std::string_view fichier, std::string_view cle, std::string_view texte);
+
+}  // namespace data

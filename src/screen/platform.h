@@ -1,0 +1,115 @@
+#pragma once
+// What a host gives to the screens: small services, each replaceable. The headless versions stand in screen/headless and
+// serve tests and the scenario pilot; a desktop host gives its own.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/poste.h"
+
+namespace screen {
+
+class Form;
+
+inline const std::string TitreMessage = "Message KORVALDIS";
+
+enum class Boutons { Ok, OkAnnuler, OuiNon, OuiNonAnnuler };
+enum class Icone { Aucune, Information, Question, Exclamation, Arret };
+enum class Reponse { Ok, Annuler, Oui, Non };
+
+struct Message {
+  std::string texte;
+  Boutons boutons = Boutons::Ok;
+  Icone icone = Icone::Aucune;
+  std::string titre;
+  // A notice has one answer; anything else asks.
+  bool Demande() const { return boutons != Boutons::Ok; }
+};
+
+class Messages {
+ public:
+  virtual ~Messages() = default;
+  // Blocks until the user has answered.
+  virtual Reponse Montrer(const Message& message) = 0;
+};
+
+class Modales {
+ public:
+  virtual ~Modales() = default;
+  // Called with a form just made visible; returns when it is no longer.
+  virtual void Attendre(Form& form) = 0;
+  // A pop-up menu of the form was asked for at the pointer.
+  virtual void MontrerMenu(Form& form, std::string_view menu) = 0;
+};
+
+// The pointer and the event queue during long work.
+class Curseur {
+ public:
+  virtual ~Curseur() = default;
+  virtual void Attente(bool attente) = 0;
+  virtual void TraiterEvenements() = 0;
+  virtual void Bip() = 0;
+};
+
+// Paper. Coordinates are twips, 567 to the centimetre, from the page's top left corner.
+class Imprimante {
+ public:
+  virtual ~Imprimante() = default;
+  virtual std::vector<std::string> Noms() const = 0;
+  // Makes the printer of that index the one that prints.
+  virtual void Choisir(int imprimante) = 0;
+  virtual void Police(const std::string& nom, double points, bool gras) = 0;
+  virtual void Texte(int x, int y, const std::string& texte) = 0;
+  virtual void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) = 0;
+  virtual void FinPage() = 0;
+  virtual void FinDocument() = 0;
+};
+
+// The workstation's settings store.
+class Reglages {
+ public:
+  virtual ~Reglages() = default;
+  virtual std::string Lire(const std::string& section, const std::string& cle,
+                           const std::string& defaut) const = 0;
+  virtual void Ecrire(const std::string& section, const std::string& cle, const std::string& valeur) = 0;
+};
+
+// The help system. Commands are those of the platform's help call.
+class Aide {
+ public:
+  virtual ~Aide() = default;
+  static constexpr int Sommaire = 11;
+  static constexpr int Quitter = 2;
+  virtual void Appeler(const std::string& fichier, int commande) = 0;
+};
+
+// A sibling control of the suite, which a form hosts and drives by named properties and methods.
+class ControleHeberge {
+ public:
+  virtual ~ControleHeberge() = default;
+  virtual void Regler(const std::string& propriete, const std::string& valeur) = 0;
+  virtual std::string Lire(const std::string& propriete) const = 0;
+  virtual void Appeler(const std::string& methode) = 0;
+};
+
+class ControlesHeberges {
+ public:
+  virtual ~ControlesHeberges() = default;
+  // The control of that name, which lives as long as the host; nullptr when the host does not have it.
+  virtual ControleHeberge* Trouver(const std::string& nom) = 0;
+};
+
+// One of each; the host keeps them alive as long as any form.
+struct Platform {
+  Messages& messages;
+  Modales& modales;
+  Curseur& curseur;
+  Imprimante& imprimante;
+  Reglages& reglages;
+  Aide& aide;
+  ControlesHeberges& controles;
+  const data::Poste& poste;
+};
+
+}  // namespace screen
