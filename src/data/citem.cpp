@@ -87,7 +87,8 @@ void erasePiece(std::string& texte, Span zone, char sep, int n) {
 
 void refuse(std::string_view texte, std::string_view separateurs) {
   if (texte.find_first_of(separateurs) != std::string_view::npos) {
-    throw std::invalid_argument("CItem: a text set at one level holds a separator of that level or above");
+    throw std::invalid_argument(
+        "CItem: a text set at one level holds a separator of that level or above");
   }
 }
 
@@ -123,8 +124,8 @@ void CItem::SetText(std::string_view texte) {
     const auto fin = texte.find(SepAttribut, debut);
     const std::string_view attribut = texte.substr(debut, fin - debut);
     // Most attributes are one plain value and need no second look.
-    if (attribut.empty() || (attribut.back() != SepValeur &&
-                             attribut.find(SepSousValeur) == std::string_view::npos)) {
+    if (attribut.empty() ||
+        (attribut.back() != SepValeur && attribut.find(SepSousValeur) == std::string_view::npos)) {
       avant_.emplace_back(attribut);
     } else {
       avant_.push_back(canonical(attribut));
@@ -156,7 +157,9 @@ std::string_view CItem::Vue(int a, int v, int s) const {
   return piece(Vue(a, v), SepSousValeur, s);
 }
 
-int CItem::DCount(int a) const { return count(Vue(a), SepValeur); }
+int CItem::DCount(int a) const {
+  return count(Vue(a), SepValeur);
+}
 
 std::string& CItem::Place(int a) {
   if (a > DCount()) {
@@ -296,6 +299,8 @@ void CItem::DBWrite() const {
   attache_->Ecrire(cle_, Text());
 }
 
-void CItem::DBWriteU() const { DBWrite(); }
+void CItem::DBWriteU() const {
+  DBWrite();
+}
 
 }  // namespace data

@@ -8,12 +8,14 @@
 //   X.Append("z");         a new attribute after the last
 //   X.Text()               the whole item as one text, empty for an empty item
 //
-// Attributes, values and subvalues are numbered from 1; attribute 0 is the record's key. Content is UTF-8 text.
-// The text form is canonical: empty ends are cut at every level, so two items with the same content have the same
-// text whatever the order of the sets, and setting a place to what it already reads changes nothing. No operation fails
-// for an index that does not exist: reads give "", counts 0, deletes do nothing, and places below 1 cannot be set.
+// Attributes, values and subvalues are numbered from 1; attribute 0 is the record's key. Content is
+// UTF-8 text. The text form is canonical: empty ends are cut at every level, so two items with the
+// same content have the same text whatever the order of the sets, and setting a place to what it
+// already reads changes nothing. No operation fails for an index that does not exist: reads give
+// "", counts 0, deletes do nothing, and places below 1 cannot be set.
 //
-// An item read from a file, or made by DbFile::NewItem, is attached and can be written. A copy keeps the attachment.
+// An item read from a file, or made by DbFile::NewItem, is attached and can be written. A copy
+// keeps the attachment.
 
 #include <memory>
 #include <string>
@@ -55,8 +57,9 @@ class CItem {
   std::string_view Vue(int a, int v) const;
   std::string_view Vue(int a, int v, int s) const;
 
-  // Each replaces exactly its level. `texte` may hold the separators of lower levels; one of its own level or above
-  // would move what stands beside it, and is a programmer's error (std::invalid_argument).
+  // Each replaces exactly its level. `texte` may hold the separators of lower levels; one of its
+  // own level or above would move what stands beside it, and is a programmer's error
+  // (std::invalid_argument).
   void Set(int a, std::string_view texte);
   void Set(int a, int v, std::string_view texte);
   void Set(int a, int v, int s, std::string_view texte);
@@ -88,8 +91,9 @@ class CItem {
   void Ouvrir(int position);
   void Couper();
 
-  // The attributes are held as a gap buffer: `avant_` in order, then `apres_` in reverse. Edits that walk in one
-  // direction, such as filtering a result of 50,000 rows from its end, then cost no quadratic moving.
+  // The attributes are held as a gap buffer: `avant_` in order, then `apres_` in reverse. Edits
+  // that walk in one direction, such as filtering a result of 50,000 rows from its end, then cost
+  // no quadratic moving.
   std::vector<std::string> avant_;
   std::vector<std::string> apres_;
   std::shared_ptr<const Attache> attache_;

@@ -7,8 +7,9 @@
 //   CItem r = db.Selectionner("SSELECT CONTRAT AVEC 0 = \"00001]\"", "CONTRAT", "0 7 8");
 //   for (int i = 1; i <= r.DCount(); ++i) use r(i, 1), r(i, 2), r(i, 3);
 //
-// The query language is described in data/query.h. A value of a result row that is itself multi-valued comes with its value
-// separators lowered to subvalue separators, so that column j of a row is always value j.
+// The query language is described in data/query.h. A value of a result row that is itself
+// multi-valued comes with its value separators lowered to subvalue separators, so that column j of
+// a row is always value j.
 
 #include <map>
 #include <memory>
@@ -32,7 +33,8 @@ class DbFile {
   CItem Read(std::string_view cle) const;
   // The small form of Read: false, and `item` untouched, when the key is absent. Other errors rise.
   bool Lire(std::string_view cle, CItem& item) const;
-  // A new empty attached item, whether or not a record stands under the key. Nothing is stored before DBWrite.
+  // A new empty attached item, whether or not a record stands under the key. Nothing is stored
+  // before DBWrite.
   CItem NewItem(std::string_view cle) const;
   // Removes the record; an absent one is no error.
   void DeleteItem(std::string_view cle) const;
@@ -53,8 +55,9 @@ class Db {
   // Any well-formed name opens; a run-time file exists from its first record on.
   DbFile OpenFile(std::string_view nom);
 
-  // Runs the query of a request item given in its text form: attribute 1 the query, 2 the file, 3 the field list.
-  // `option` is always ""; `statut` receives 0. A query that cannot be understood is a StoreError.
+  // Runs the query of a request item given in its text form: attribute 1 the query, 2 the file, 3
+  // the field list. `option` is always ""; `statut` receives 0. A query that cannot be understood
+  // is a StoreError.
   CItem Select(std::string_view requete, std::string_view option, long& statut);
   // A list command: "EFFACER-LISTE <name>". Forgetting an unknown list is no error.
   CItem Execute(std::string_view requete, std::string_view option, long& statut);

@@ -1,6 +1,7 @@
 #pragma once
-// The workstation as the logic sees it: the clock, the user's name and the decimal separator. Nothing else in the
-// system reads the clock or the environment, so that a test or a scenario can fix the day.
+// The workstation as the logic sees it: the clock, the user's name and the decimal separator.
+// Nothing else in the system reads the clock or the environment, so that a test or a scenario can
+// fix the day.
 
 #include <string>
 

@@ -1,9 +1,10 @@
 #pragma once
-// What a Db stands on: named files of texts under keys, and nothing else. A text is a record's canonical text form
-// (see CItem). Implementations stand in storage/; the query language, the dictionary and the routines are above.
+// What a Db stands on: named files of texts under keys, and nothing else. A text is a record's
+// canonical text form (see CItem). Implementations stand in storage/; the query language, the
+// dictionary and the routines are above.
 //
-// Every write is whole, durable and final when it returns. Every failure is a StoreError that names the file and
-// the key; no call passes over a damaged record.
+// Every write is whole, durable and final when it returns. Every failure is a StoreError that names
+// the file and the key; no call passes over a damaged record.
 
 #include <functional>
 #include <string>
@@ -29,8 +30,8 @@ struct KeyRange {
   KeyRange Avec(const KeyRange& autre) const;
 };
 
-// A former text of a record. `numero` grows with time within one record, from 1. `horodatage` and `utilisateur` tell
-// when and by whom it was replaced; `supprime` that it was replaced by nothing.
+// A former text of a record. `numero` grows with time within one record, from 1. `horodatage` and
+// `utilisateur` tell when and by whom it was replaced; `supprime` that it was replaced by nothing.
 struct AncienTexte {
   long numero = 0;
   std::string texte;
@@ -46,8 +47,8 @@ struct FichierCompte {
 
 class Storage {
  public:
-  // Called for each record in ascending byte order of the keys; the views live until it returns. False stops the scan.
-  // It may read the same Storage, and must not write to it.
+  // Called for each record in ascending byte order of the keys; the views live until it returns.
+  // False stops the scan. It may read the same Storage, and must not write to it.
   using Visiteur = std::function<bool(std::string_view cle, std::string_view texte)>;
 
   virtual ~Storage() = default;
@@ -65,12 +66,14 @@ class Storage {
   // Former texts of one record, oldest first; empty when it was never overwritten.
   virtual std::vector<AncienTexte> Historique(std::string_view fichier, std::string_view cle) = 0;
 
-  // Runs `travail` so that all its writes stand when this returns, or none does when it throws. Not to be nested.
+  // Runs `travail` so that all its writes stand when this returns, or none does when it throws. Not
+  // to be nested.
   virtual void EnUnBloc(const std::function<void()>& travail) = 0;
 };
 
-// Refuses, by a StoreError, a file name that is not upper-case ASCII letters and digits, an empty key, a key with a control
-// character, and a key or text that is not valid UTF-8 or holds a zero byte. Every backend calls it before a write.
+// Refuses, by a StoreError, a file name that is not upper-case ASCII letters and digits, an empty
+// key, a key with a control character, and a key or text that is not valid UTF-8 or holds a zero
+// byte. Every backend calls it before a write.
 void VerifierEcriture(std::string_view fichier, std::string_view cle, std::string_view texte);
 
 }  // namespace data

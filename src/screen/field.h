@@ -1,15 +1,15 @@
 #pragma once
-// The fields of a form. A field has its control's name and knows text, value, rows, selected row, enabled and visible, as
-// its kind needs; it draws nothing. A setter is the program's way to change it and fires what the user's own act would
-// fire, and only if something changes:
+// The fields of a form. A field has its control's name and knows text, value, rows, selected row,
+// enabled and visible, as its kind needs; it draws nothing. A setter is the program's way to change
+// it and fires what the user's own act would fire, and only if something changes:
 //
 //   text -> Change                     check box value -> Click
-//   selected row -> Click              option set -> Click; its siblings in the frame go out silently
-//   bar value -> Change                tab -> Click with the former tab
+//   selected row -> Click              option set -> Click; its siblings in the frame go out
+//   silently bar value -> Change                tab -> Click with the former tab
 //
-// A drop-down's text follows its row without Change, and setting or typing its text leaves no row selected. Rows
-// can be added, inserted and removed silently; the selected row stays on its text, or is lost with it, silently too.
-// What the user does comes through screen::User alone.
+// A drop-down's text follows its row without Change, and setting or typing its text leaves no row
+// selected. Rows can be added, inserted and removed silently; the selected row stays on its text,
+// or is lost with it, silently too. What the user does comes through screen::User alone.
 
 #include <string>
 #include <string_view>
@@ -22,7 +22,21 @@ namespace screen {
 class Form;
 class Frame;
 
-enum class Kind { Texte, Deroulante, Liste, Bouton, Option, Case, Cadre, Etiquette, Onglets, UpDown, Barre, Menu, Image };
+enum class Kind {
+  Texte,
+  Deroulante,
+  Liste,
+  Bouton,
+  Option,
+  Case,
+  Cadre,
+  Etiquette,
+  Onglets,
+  UpDown,
+  Barre,
+  Menu,
+  Image
+};
 
 class Field {
  public:
@@ -37,7 +51,8 @@ class Field {
 
   bool Enabled() const { return enabled_; }
   bool Visible() const { return visible_; }
-  // A field that loses enabled or visible while it is active is no longer active; no LostFocus is fired.
+  // A field that loses enabled or visible while it is active is no longer active; no LostFocus is
+  // fired.
   void SetEnabled(bool enabled);
   void SetVisible(bool visible);
   // Enabled and visible, the frames around it and its form included: only then it takes user acts.
@@ -48,8 +63,9 @@ class Field {
   const std::string& Libelle() const { return libelle_; }
   void SetLibelle(std::string libelle) { libelle_ = std::move(libelle); }
 
-  // Makes this the active field, after LostFocus of the one that was. Inside a LostFocus handler it redirects the move
-  // under way; on the field being left it keeps the focus there. Nothing happens when the field is not accessible.
+  // Makes this the active field, after LostFocus of the one that was. Inside a LostFocus handler it
+  // redirects the move under way; on the field being left it keeps the focus there. Nothing happens
+  // when the field is not accessible.
   void SetFocus();
 
   Handler GotFocus;
@@ -69,8 +85,8 @@ class Field {
   bool visible_ = true;
 };
 
-// A group of fields with a caption. Its enabled and visible count for all that stands in it; options in one frame exclude
-// each other (options outside any frame are one group of the form).
+// A group of fields with a caption. Its enabled and visible count for all that stands in it;
+// options in one frame exclude each other (options outside any frame are one group of the form).
 class Frame : public Field {
  public:
   Frame(Form& form, std::string nom, std::string libelle = {}, Frame* cadre = nullptr)
@@ -113,7 +129,8 @@ class TextField : public Field {
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
   int Longueur() const { return longueur_; }
-  // Takes line ends; every other field drops them, as it drops every control character typed or pasted.
+  // Takes line ends; every other field drops them, as it drops every control character typed or
+  // pasted.
   bool Multiligne() const { return multiligne_; }
   void SetMultiligne(bool multiligne) { multiligne_ = multiligne; }
 
@@ -170,8 +187,11 @@ class ListBox : public RowsField {
 class ComboBox : public RowsField {
  public:
   // `saisie`: text can be typed; otherwise only a row can be chosen. `longueur` as for TextField.
-  ComboBox(Form& form, std::string nom, bool saisie = true, Frame* cadre = nullptr, int longueur = 0)
-      : RowsField(form, Kind::Deroulante, std::move(nom), cadre), saisie_(saisie), longueur_(longueur) {}
+  ComboBox(Form& form, std::string nom, bool saisie = true, Frame* cadre = nullptr,
+           int longueur = 0)
+      : RowsField(form, Kind::Deroulante, std::move(nom), cadre),
+        saisie_(saisie),
+        longueur_(longueur) {}
 
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);

@@ -1,14 +1,15 @@
 #pragma once
-// A form: a named set of fields, one of which may be active. Screens derive from it, hold their fields as members in tab
-// order and tie their handlers in the constructor:
+// A form: a named set of fields, one of which may be active. Screens derive from it, hold their
+// fields as members in tab order and tie their handlers in the constructor:
 //
 //   class Frm_Stage : public Form {
 //     TextField Txt_Ecole{*this, "Txt_Ecole", 60};
 //     Button Cmd_OK{*this, "Cmd_OK", "OK"};
 //   };
 //
-// Moving the focus fires LostFocus of the field that had it before anything of the next field, a button's Click
-// included. A handler that sets the focus back keeps it, and the act that was moving it does not happen.
+// Moving the focus fires LostFocus of the field that had it before anything of the next field, a
+// button's Click included. A handler that sets the focus back keeps it, and the act that was moving
+// it does not happen.
 //
 // Invariants: names are unique in a form; the active field, if any, is accessible.
 
@@ -51,15 +52,16 @@ class Form {
   void Show();
   void Hide();
 
-  // Asks QueryUnload and, unless it refuses, hides. The frame's close box ends here. False when refused.
+  // Asks QueryUnload and, unless it refuses, hides. The frame's close box ends here. False when
+  // refused.
   bool Close();
 
   // MessageBox with the title that all of the system's messages bear, or another.
-  Reponse MessageBox(const std::string& texte, Boutons boutons = Boutons::Ok, Icone icone = Icone::Aucune,
-                     const std::string& titre = TitreMessage);
+  Reponse MessageBox(const std::string& texte, Boutons boutons = Boutons::Ok,
+                     Icone icone = Icone::Aucune, const std::string& titre = TitreMessage);
 
-  // Moves the focus to `champ`, with LostFocus and GotFocus. False when the move did not happen: a handler kept or
-  // redirected the focus, or `champ` is or became inaccessible.
+  // Moves the focus to `champ`, with LostFocus and GotFocus. False when the move did not happen: a
+  // handler kept or redirected the focus, or `champ` is or became inaccessible.
   bool MoveFocus(Field& champ);
   // Tab: to the next accessible field in tab order, round the end. False as MoveFocus.
   bool MoveFocusNext();
@@ -82,7 +84,8 @@ class Form {
   std::string titre_;
   std::vector<Field*> fields_;
   Field* active_ = nullptr;
-  // While LostFocus of the active field runs: the field to go to afterwards, changed by a SetFocus from inside.
+  // While LostFocus of the active field runs: the field to go to afterwards, changed by a SetFocus
+  // from inside.
   Field* leaving_ = nullptr;
   Field* destination_ = nullptr;
   bool enabled_ = true;

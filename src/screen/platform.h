@@ -1,6 +1,6 @@
 #pragma once
-// What a host gives to the screens: small services, each replaceable. The headless versions stand in screen/headless and
-// serve tests and the scenario pilot; a desktop host gives its own.
+// What a host gives to the screens: small services, each replaceable. The headless versions stand
+// in screen/headless and serve tests and the scenario pilot; a desktop host gives its own.
 
 #include <string>
 #include <string_view>
@@ -72,7 +72,8 @@ class Reglages {
   virtual ~Reglages() = default;
   virtual std::string Lire(const std::string& section, const std::string& cle,
                            const std::string& defaut) const = 0;
-  virtual void Ecrire(const std::string& section, const std::string& cle, const std::string& valeur) = 0;
+  virtual void Ecrire(const std::string& section, const std::string& cle,
+                      const std::string& valeur) = 0;
 };
 
 // The help system. Commands are those of the platform's help call.
@@ -96,7 +97,8 @@ class ControleHeberge {
 class ControlesHeberges {
  public:
   virtual ~ControlesHeberges() = default;
-  // The control of that name, which lives as long as the host; nullptr when the host does not have it.
+  // The control of that name, which lives as long as the host; nullptr when the host does not have
+  // it.
   virtual ControleHeberge* Trouver(const std::string& nom) = 0;
 };
 

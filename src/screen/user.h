@@ -1,6 +1,7 @@
 #pragma once
-// The one door for what a user does. The desktop binder, the scenario pilot and the tests all act through it, so that a
-// rule that holds in one holds in all. Every act first brings the focus to its field, as a click or a Tab would.
+// The one door for what a user does. The desktop binder, the scenario pilot and the tests all act
+// through it, so that a rule that holds in one holds in all. Every act first brings the focus to
+// its field, as a click or a Tab would.
 
 #include <string>
 #include <string_view>
@@ -12,8 +13,9 @@ namespace screen {
 
 enum class Acte {
   Fait,
-  Inaccessible,  // the field or its form is disabled or hidden, or the row or tab does not exist: nothing happened
-  Avale,         // the field that had the focus kept it (or sent it elsewhere): the act did not happen
+  Inaccessible,  // the field or its form is disabled or hidden, or the row or tab does not exist:
+                 // nothing happened
+  Avale,  // the field that had the focus kept it (or sent it elsewhere): the act did not happen
 };
 
 class User {
@@ -25,14 +27,16 @@ class User {
   // Tab: leaves the active field for the next one.
   Acte Quitter();
 
-  // Focus, then the text in place of what stood there, key by key: KeyPress may drop or change each key, and Change is fired
-  // after each that counts. Keys go where the focus is, as on a keyboard: a Change handler that moves it takes the rest along.
-  // An empty text erases what stood there. Fields of no typed text are Inaccessible.
+  // Focus, then the text in place of what stood there, key by key: KeyPress may drop or change each
+  // key, and Change is fired after each that counts. Keys go where the focus is, as on a keyboard:
+  // a Change handler that moves it takes the rest along. An empty text erases what stood there.
+  // Fields of no typed text are Inaccessible.
   Acte Taper(Field& champ, std::string_view texte);
-  // One key into the field: Entree, Echap, Retour (erases the last character) or a character, added at the end.
+  // One key into the field: Entree, Echap, Retour (erases the last character) or a character, added
+  // at the end.
   Acte Touche(Field& champ, char32_t touche);
-  // The whole new text at once, as a paste or an input method gives it: no KeyPress, one Change. Cut at the field's length;
-  // control characters are left out.
+  // The whole new text at once, as a paste or an input method gives it: no KeyPress, one Change.
+  // Cut at the field's length; control characters are left out.
   Acte Coller(Field& champ, std::string_view texte);
 
   // Button, option, check box, menu entry; on a list or drop-down, its selected row again.
