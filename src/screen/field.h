@@ -4,8 +4,8 @@
 // it and fires what the user's own act would fire, and only if something changes:
 //
 //   text -> Change                     check box value -> Click
-//   selected row -> Click              option set -> Click; its siblings in the frame go out
-//   silently bar value -> Change                tab -> Click with the former tab
+//   selected row -> Click              option set -> Click; its siblings go out silently
+//   bar value -> Change                tab -> Click with the former tab
 //
 // A drop-down's text follows its row without Change, and setting or typing its text leaves no row
 // selected. Rows can be added, inserted and removed silently; the selected row stays on its text,

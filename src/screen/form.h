@@ -32,7 +32,7 @@ class Form {
   const std::string& Nom() const { return nom_; }
   const std::string& Titre() const { return titre_; }
   void SetTitre(std::string titre) { titre_ = std::move(titre); }
-  screen::Platform& Platform() const { return platform_; }
+  Platform& Services() const { return platform_; }
 
   // Fields in tab order.
   const std::vector<Field*>& Fields() const { return fields_; }
@@ -79,7 +79,7 @@ class Form {
   void Register(Field& champ);
   void Unfocus(const Field& champ);
 
-  screen::Platform& platform_;
+  Platform& platform_;
   std::string nom_;
   std::string titre_;
   std::vector<Field*> fields_;
