@@ -1,0 +1,133 @@
+#include "data/texte.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <random>
+
+namespace data {
+namespace {
+
+TEST(Texte, CutsByCharacters) {
+  struct Cas {
+    const char* texte;
+    int n;
+    const char* gauche;
+    const char* droite;
+    const char* aPartir;  // milieu(texte, n)
+  };
+  // The euro sign has three bytes, the last sign four; \xC3 alone is a stray byte.
+  const Cas cas[] = {
+      {"", 3, "", "", ""},
+      {"Hélène", 2, "Hé", "ne", "élène"},
+      {"Hélène", 6, "Hélène", "Hélène", "e"},
+      {"Hélène", 7, "Hélène", "Hélène", ""},
+      {"Hélène", 0, "", "", "Hélène"},
+      {"Hélène", -5, "", "", "Hélène"},
+      {"Hélène", INT_MIN, "", "", "Hélène"},
+      {"Hélène", INT_MAX, "Hélène", "Hélène", ""},
+      {"5 €\xF0\x9F\x98\x80", 1, "5", "\xF0\x9F\x98\x80", "5 €\xF0\x9F\x98\x80"},
+      {"5 €\xF0\x9F\x98\x80", 3, "5 €", " €\xF0\x9F\x98\x80", "€\xF0\x9F\x98\x80"},
+      {"a\xC3z", 2, "a\xC3", "\xC3z", "\xC3z"},
+      {"a\xE2\x82", 2, "a\xE2", "\xE2\x82", "\xE2\x82"},
+  };
+  for (const Cas& c : cas) {
+    SCOPED_TRACE(std::string(c.texte) + " / " + std::to_string(c.n));
+    EXPECT_EQ(gauche(c.texte, c.n), c.gauche);
+    EXPECT_EQ(droite(c.texte, c.n), c.droite);
+    EXPECT_EQ(milieu(c.texte, c.n), c.aPartir);
+  }
+  EXPECT_EQ(milieu("Hélène", 4, 2), "èn");
+  EXPECT_EQ(milieu("Hélène", 6, 9), "e");
+  EXPECT_EQ(milieu("Hélène", 2, -1), "");
+  EXPECT_EQ(position("né à Évry", "à"), 4);
+  EXPECT_EQ(position("né à Évry", "É"), 6);
+  EXPECT_EQ(position("né", ""), 0);
+  EXPECT_EQ(position("né", "x"), 0);
+}
+
+TEST(Texte, CompletesAndTrims) {
+  EXPECT_EQ(completeADroite("né", 4), "né  ");
+  EXPECT_EQ(completeADroite("7", 3, '0'), "700");
+  EXPECT_EQ(completeAGauche("7", 3, '0'), "007");
+  EXPECT_EQ(completeAGauche("Œdipe", 5), "Œdipe");
+  EXPECT_EQ(completeAGauche("1234", 3, '0'), "1234");
+  EXPECT_EQ(completeAGauche("1234", INT_MIN), "1234");
+  EXPECT_EQ(colonne("Désirée", 4), "Dési");
+  EXPECT_EQ(colonne("Éva", 5), "Éva  ");
+  EXPECT_EQ(sansBlancsAGauche("  a b "), "a b ");
+  EXPECT_EQ(sansBlancsADroite("  a b "), "  a b");
+  EXPECT_EQ(sansBlancs("  a b "), "a b");
+  EXPECT_EQ(sansBlancs("   "), "");
+  EXPECT_EQ(sansAucunBlanc(" 1 234,50 "), "1234,50");
+  EXPECT_EQ(mots("  le  8 mai "), (std::vector<std::string>{"le", "8", "mai"}));
+  EXPECT_TRUE(mots("  ").empty());
+}
+
+TEST(Texte, UpperCaseKeepsAccents) {
+  const struct {
+    const char *texte, *attendu;
+  } cas[] = {
+      {"d'Œuvre-Noël, 12 bis", "D'ŒUVRE-NOËL, 12 BIS"},
+      {"àâäæçéèêëîïñôöœùûüÿ", "ÀÂÄÆÇÉÈÊËÎÏÑÔÖŒÙÛÜŸ"},
+      {"þ÷ß×µ", "Þ÷ß×µ"},                // neither sign nor sharp s has a capital here
+      {"āķĺňŋŷźžšřğı", "ĀĶĹŇŊŶŹŽŠŘĞI"},  // both parities of the pairs
+      {"ŸŹŽĶĸŉ", "ŸŹŽĶĸŉ"},              // capitals and letters without capital stay
+      {"e\xCC\x81t\xE9", "E\xCC\x81T\xE9"},
+      {"шλ€", "шλ€"},
+  };
+  for (const auto& c : cas) EXPECT_EQ(majuscules(c.texte), c.attendu);
+}
+
+TEST(Texte, ValidityAndControls) {
+  const char* bons[] = {"",
+                        "az",
+                        "é",
+                        "\xE0\xA0\x80",
+                        "\xED\x9F\xBF",
+                        "\xEE\x80\x80",
+                        "\xF0\x90\x80\x80",
+                        "\xF4\x8F\xBF\xBF"};
+  for (const char* t : bons) EXPECT_TRUE(utf8Valide(t)) << t;
+  // Overlong forms, surrogates, above the last code point, cut short, stray bytes.
+  const char* mauvais[] = {"\xC0\x80",
+                           "\xC1\xBF",
+                           "\xE0\x9F\xBF",
+                           "\xED\xA0\x80",
+                           "\xF0\x8F\xBF\xBF",
+                           "\xF4\x90\x80\x80",
+                           "\xF5\x80\x80\x80",
+                           "a\xC3",
+                           "\xE2\x82",
+                           "\xF0\x9F\x98",
+                           "\x80",
+                           "\xFF",
+                           "\xC3\x41"};
+  for (const char* t : mauvais) EXPECT_FALSE(utf8Valide(t)) << t;
+  EXPECT_EQ(sansControles("a\tb\r\nc\x7F\xC2\x80"
+                          "d\xC2\x9F\xC2\xA0é\x1E"),
+            "abcd\xC2\xA0é");
+}
+
+// Any bytes: cutting anywhere loses nothing, and upper case is reached in one step.
+TEST(Texte, DamagedTextsAreCutWithoutLoss) {
+  const unsigned graine = std::random_device{}();
+  SCOPED_TRACE("seed " + std::to_string(graine));
+  std::mt19937 hasard(graine);
+  const std::string alphabet = "aZ \x80\xBF\xC3\xA9\xE2\x82\xAC\xED\xF0\x9F\x98\xFF";
+  for (int tour = 0; tour < 5000; ++tour) {
+    std::string texte;
+    for (auto n = hasard() % 12; n > 0; --n) texte += alphabet[hasard() % alphabet.size()];
+    const int total = longueur(texte);
+    const int n = static_cast<int>(hasard() % 13);
+    ASSERT_LE(total, static_cast<int>(texte.size()));
+    ASSERT_EQ(gauche(texte, n) + milieu(texte, n + 1), texte);
+    ASSERT_EQ(gauche(texte, total - n) + droite(texte, n < total ? n : total), texte);
+    ASSERT_EQ(longueur(completeAGauche(texte, 20)), 20);
+    ASSERT_EQ(majuscules(majuscules(texte)), majuscules(texte));
+    ASSERT_TRUE(!utf8Valide(texte) || utf8Valide(gauche(texte, n)));
+  }
+}
+
+}  // namespace
+}  // namespace data
