@@ -1,5 +1,6 @@
 #pragma once
-// The handlers that a form ties to its fields. An unset handler is no event.
+// The handlers that a form ties to its fields. An unset handler is no event. A handler may replace
+// itself, or drop the form that it belongs to: what runs is a copy.
 
 #include <functional>
 
@@ -15,5 +16,15 @@ using TabHandler = std::function<void(int ancien)>;
 inline constexpr char32_t ToucheEntree = 13;
 inline constexpr char32_t ToucheEchap = 27;
 inline constexpr char32_t ToucheRetour = 8;
+
+inline void fire(const Handler& handler) {
+  if (const Handler copie = handler) copie();
+}
+inline void fire(const KeyHandler& handler, char32_t& touche) {
+  if (const KeyHandler copie = handler) copie(touche);
+}
+inline void fire(const TabHandler& handler, int ancien) {
+  if (const TabHandler copie = handler) copie(ancien);
+}
 
 }  // namespace screen

@@ -7,9 +7,11 @@
 //   selected row -> Click              option set -> Click; its siblings go out silently
 //   bar value -> Change                tab -> Click with the former tab
 //
-// A drop-down's text follows its row without Change, and setting or typing its text leaves no row
-// selected. Rows can be added, inserted and removed silently; the selected row stays on its text,
-// or is lost with it, silently too. What the user does comes through screen::User alone.
+// A drop-down's text follows its row without Change, and setting or typing another text leaves no
+// row selected. Rows can be added, inserted and removed silently; the selected row stays on its
+// text, or is lost with it, silently too. Clearing the rows of a drop-down empties its text as well,
+// silently: a handler that refills it and wants the text kept sets it again. What the user does
+// comes through screen::User alone.
 
 #include <string>
 #include <string_view>
@@ -55,7 +57,9 @@ class Field {
   // fired.
   void SetEnabled(bool enabled);
   void SetVisible(bool visible);
-  // Enabled and visible, the frames around it and its form included: only then it takes user acts.
+  // Enabled and visible, the frames around it included: only then the focus can stand in it.
+  bool Disponible() const;
+  // Disponible, in a form that is shown and enabled: only then it takes user acts.
   bool Accessible() const;
   // A field that the keyboard can reach: not a frame, label, image, menu or bar.
   bool Focalisable() const;
@@ -65,7 +69,8 @@ class Field {
 
   // Makes this the active field, after LostFocus of the one that was. Inside a LostFocus handler it
   // redirects the move under way; on the field being left it keeps the focus there. Nothing happens
-  // when the field is not accessible.
+  // when the field is not disponible. The form may be disabled or not yet shown: a refusal during
+  // long work still says where to go on.
   void SetFocus();
 
   Handler GotFocus;
@@ -158,7 +163,7 @@ class RowsField : public Field {
   void Clear();
 
   int ListIndex() const { return listIndex_; }
-  // A row that does not exist counts as -1.
+  // A row that does not exist counts as -1, which empties a drop-down's text.
   void SetListIndex(int ligne);
 
   Handler Click;
@@ -168,14 +173,13 @@ class RowsField : public Field {
  protected:
   RowsField(Form& form, Kind genre, std::string nom, Frame* cadre)
       : Field(form, genre, std::move(nom), cadre, {}) {}
-  // A drop-down's text follows its row.
+  // Called when the selected row or its text has changed: a drop-down's text follows.
   virtual void SuivreLigne() {}
-
-  std::vector<std::string> rows_;
-  int listIndex_ = -1;
+  void PerdreLigne() { listIndex_ = -1; }
 
  private:
-  friend class User;
+  std::vector<std::string> rows_;
+  int listIndex_ = -1;
 };
 
 class ListBox : public RowsField {
@@ -206,7 +210,6 @@ class ComboBox : public RowsField {
   void SuivreLigne() override;
 
  private:
-  friend class User;
   std::string text_;
   bool saisie_;
   int longueur_;
@@ -276,7 +279,7 @@ class RangeField : public Field {
 
 class ScrollBar : public RangeField {
  public:
-  // The value that a bar never set stands at.
+  // The upper bound of a bar that was never given one.
   static constexpr int MaxInitial = 32767;
   ScrollBar(Form& form, std::string nom, Frame* cadre = nullptr)
       : RangeField(form, Kind::Barre, std::move(nom), MaxInitial, cadre) {}
@@ -285,7 +288,8 @@ class ScrollBar : public RangeField {
 class UpDown : public RangeField {
  public:
   UpDown(Form& form, std::string nom, Frame* cadre = nullptr)
-      : RangeField(form, Kind::UpDown, std::move(nom), 10, cadre) {}
+      : RangeField(form, Kind::UpDown, std::move(nom), MaxInitial, cadre) {}
+  static constexpr int MaxInitial = 10;
 };
 
 }  // namespace screen

@@ -11,8 +11,10 @@
 // button's Click included. A handler that sets the focus back keeps it, and the act that was moving
 // it does not happen.
 //
-// Invariants: names are unique in a form; the active field, if any, is accessible.
+// Invariants: names are unique in a form (a second one is a std::logic_error); the active field, if
+// any, is enabled and visible, its frames included. A hidden form has no events of focus.
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,11 +48,15 @@ class Form {
   void SetEnabled(bool enabled) { enabled_ = enabled; }
 
   bool Visible() const { return visible_; }
-  // Shows the form above the others and returns when it has been hidden.
+  // Shows the form above the others, runs Activate and returns when the form has been hidden. Also
+  // hidden when an error rises through it. Showing a form that is shown is a std::logic_error.
   void ShowModal();
-  // Shown without blocking: the host's own form.
+  // Shown without blocking: the host's own form. Runs Activate unless it is shown already.
   void Show();
+  // No field is active afterwards, and no LostFocus is fired.
   void Hide();
+  // Expires with the form: for whoever looks at it again after a handler has run.
+  std::weak_ptr<const void> Vie() const { return vie_; }
 
   // Asks QueryUnload and, unless it refuses, hides. The frame's close box ends here. False when
   // refused.
@@ -61,10 +67,16 @@ class Form {
                      Icone icone = Icone::Aucune, const std::string& titre = TitreMessage);
 
   // Moves the focus to `champ`, with LostFocus and GotFocus. False when the move did not happen: a
-  // handler kept or redirected the focus, or `champ` is or became inaccessible.
+  // handler kept or redirected the focus or hid the form, or `champ` is or became unable to take it;
+  // the field that had the focus then keeps it. During LostFocus it redirects, as SetFocus.
   bool MoveFocus(Field& champ);
-  // Tab: to the next accessible field in tab order, round the end. False as MoveFocus.
+  // Tab: to the next field that can take the focus in tab order, round the end. False as MoveFocus,
+  // and when no field can.
   bool MoveFocusNext();
+
+  // Message boxes and modal shows so far, of all forms: typing compares it, since the keys that
+  // follow a box are meant for the box.
+  static unsigned long Interruptions();
 
  protected:
   // The Form_Unload of a screen: false refuses the closing.
@@ -76,20 +88,22 @@ class Form {
  private:
   friend class Field;
   friend class User;
+  class Depart;
   void Register(Field& champ);
-  void Unfocus(const Field& champ);
+  // Drops the active field silently when it can no longer be active.
+  void VerifierActif();
 
   Platform& platform_;
   std::string nom_;
   std::string titre_;
   std::vector<Field*> fields_;
   Field* active_ = nullptr;
-  // While LostFocus of the active field runs: the field to go to afterwards, changed by a SetFocus
-  // from inside.
-  Field* leaving_ = nullptr;
+  // Set while LostFocus of the active field runs: the field to go to afterwards, changed by a
+  // SetFocus from inside.
   Field* destination_ = nullptr;
   bool enabled_ = true;
   bool visible_ = false;
+  std::shared_ptr<const void> vie_ = std::make_shared<char>();
 };
 
 }  // namespace screen

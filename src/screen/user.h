@@ -1,8 +1,9 @@
 #pragma once
 // The one door for what a user does. The desktop binder, the scenario pilot and the tests all act
 // through it, so that a rule that holds in one holds in all. Every act first brings the focus to
-// its field, as a click or a Tab would.
+// its field, as a click or a Tab would; bars, menus and the form's surface leave it where it is.
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -13,14 +14,15 @@ namespace screen {
 
 enum class Acte {
   Fait,
-  Inaccessible,  // the field or its form is disabled or hidden, or the row or tab does not exist:
-                 // nothing happened
-  Avale,  // the field that had the focus kept it (or sent it elsewhere): the act did not happen
+  Inaccessible,  // the field or its form is disabled or hidden, the row or tab does not exist, or
+                 // a field of that kind takes no such act: nothing happened
+  Avale,  // the field that had the focus kept it (or sent it elsewhere), or a handler took the
+          // screen away before the act was complete
 };
 
 class User {
  public:
-  explicit User(Form& form) : form_(form) {}
+  explicit User(Form& form) : form_(form), vie_(form.Vie()) {}
 
   // Focus alone, as a click into a text field or a Tab does.
   Acte Focus(Field& champ);
@@ -28,18 +30,21 @@ class User {
   Acte Quitter();
 
   // Focus, then the text in place of what stood there, key by key: KeyPress may drop or change each
-  // key, and Change is fired after each that counts. Keys go where the focus is, as on a keyboard:
-  // a Change handler that moves it takes the rest along. An empty text erases what stood there.
+  // key, and Change is fired after each that counts. The first key that counts replaces the text.
+  // Keys go where the focus is, as on a keyboard: a Change handler that moves it takes the rest
+  // along. Avale when keys are left over: after a message box or a modal form, or when the form is
+  // hidden or disabled or has no active field any more. An empty text erases what stood there.
   // Fields of no typed text are Inaccessible.
   Acte Taper(Field& champ, std::string_view texte);
   // One key into the field: Entree, Echap, Retour (erases the last character) or a character, added
-  // at the end.
+  // at the end. Enter and the blank press a focused button, the blank a check box or an option.
   Acte Touche(Field& champ, char32_t touche);
   // The whole new text at once, as a paste or an input method gives it: no KeyPress, one Change.
   // Cut at the field's length; control characters are left out.
   Acte Coller(Field& champ, std::string_view texte);
 
-  // Button, option, check box, menu entry; on a list or drop-down, its selected row again.
+  // Button, option, check box, menu entry; on a list or drop-down, its selected row again; on a text
+  // the focus alone.
   Acte Cliquer(Field& champ);
   // A row of a list or drop-down. Clicking the row that is already selected fires Click too.
   Acte Choisir(Field& champ, int ligne);
@@ -48,6 +53,7 @@ class User {
   // A double click on a row: Choisir, then DblClick.
   Acte DoubleCliquer(Field& champ, int ligne);
   Acte Onglet(TabStrip& onglets, int onglet);
+  // Held between the bounds, as a bar that is dragged.
   Acte Barre(RangeField& barre, int valeur);
   Acte ClicDroit();
   // The frame's close box: Fait when the form went away, Avale when it refused.
@@ -55,8 +61,12 @@ class User {
 
  private:
   Acte Entrer(Field& champ);
+  // Whether the form still is there for the user.
+  bool Presente() const;
+  bool Presser(Field& champ, char32_t touche, bool remplacer);
 
   Form& form_;
+  std::weak_ptr<const void> vie_;
 };
 
 }  // namespace screen
