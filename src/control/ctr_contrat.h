@@ -1,0 +1,150 @@
+#pragma once
+// The contract list of one carer: the embeddable screen that a host places on a form of its own. The host uses it in this
+// order:
+//
+//   1. create it                          5. init
+//   2. TheDatabase, TheClient             6. Affiche, if it wants filters preset
+//   3. W_Code, W_NomPrenom,               7. when W_Sortir has become 1, or when it wishes,
+//      W_EtatSuppAidant, W_CodeContrat       destroy it
+//   4. DroitsUtilisateur
+//
+// The control has two modes. Selection mode: the filters are on, the lists off, Cmd_Recherche is on. List mode, after a
+// search: the filters are off, the lists on, Cmd_OK is on and leads back. The database, client, rights and platform outlive
+// the control. A StoreError other than an absent record rises from any call to the host, the screen being usable again.
+
+#include <optional>
+#include <string>
+
+#include "control/placement.h"
+#include "data/citem.h"
+#include "screen/form.h"
+#include "session/aide.h"
+#include "session/droits.h"
+#include "session/session.h"
+
+namespace control {
+
+class Ctr_Contrat : public screen::Form {
+ public:
+  explicit Ctr_Contrat(screen::Platform& platform);
+  ~Ctr_Contrat() override;
+
+  // The host's properties. The carer code has 5 characters and is the left part of every contract key.
+  std::string W_Code;
+  std::string W_NomPrenom;
+  // The carer is in the deleted state: no contract can be added.
+  bool W_EtatSuppAidant = false;
+  // The key of one contract to open straight away, or "".
+  std::string W_CodeContrat;
+  // Output: 1 when the user has left by Cmd_Retour.
+  int W_Sortir = 0;
+  // Called when W_Sortir has become 1, so that the host closes the form that holds the control.
+  screen::Handler Sortie;
+
+  void TheDatabase(data::Db& db) { session_.Db = &db; }
+  void TheClient(session::Client& client) { session_.LeClient = &client; }
+  void DroitsUtilisateur(const session::Droits& droits);
+  // Opens the session's files, fills the legal-entity filter and shows the carer.
+  void init();
+  // Presets the filters and searches. `typeAct`: "P" entity contracts, "M" private employers, else both. `codeAsso`: legal
+  // entity; "" or an unknown one leaves that filter as it stands. `actifs`: "A" active, "H" ended, else all.
+  void Affiche(std::string_view typeAct, std::string_view codeAsso, std::string_view actifs);
+  void Remplir_Association();
+  // List mode, with the lists as they stand.
+  void Afficher_Liste();
+  // Selection mode, with the default filters.
+  void Effacer_Donnees();
+  // Fills the list from the carer's contracts by the filters and the sort chosen.
+  void Recherche_Contrat();
+
+  // The contract key of each row: attribute = row + 1.
+  const data::CItem& ClesContrats() const { return clesContrats_; }
+  const session::Session& Etat() const { return session_; }
+
+  // The rows that fit the lists without a scroll bar.
+  static constexpr int LignesVisibles = 15;
+  static constexpr int BoutonDroit = 2;
+
+  screen::Label Etq_Aidant{*this, "Etq_Aidant", "Aidant :"};
+  screen::Label Etq_CodeAidant{*this, "Etq_CodeAidant"};
+  screen::Label Etq_NomPrenomAidant{*this, "Etq_NomPrenomAidant"};
+
+  screen::Frame Cdr_Association{*this, "Cdr_Association", "Entité Juridique"};
+  screen::ComboBox Cbo_Association{*this, "Cbo_Association", true, &Cdr_Association};
+
+  screen::Frame Cdr_SelectContrat{*this, "Cdr_SelectContrat", "Sélection des contrats "};
+  screen::Frame Cdr_Validite{*this, "Cdr_Validite", "Validité ", &Cdr_SelectContrat};
+  screen::OptionButton Opt_TousValid{*this, "Opt_TousValid", "Tous", &Cdr_Validite};
+  screen::OptionButton Opt_Actif{*this, "Opt_Actif", "Actifs", &Cdr_Validite};
+  screen::OptionButton Opt_Historique{*this, "Opt_Historique", "Historiques", &Cdr_Validite};
+  screen::Frame Cdr_Type{*this, "Cdr_Type", "Type ", &Cdr_SelectContrat};
+  screen::OptionButton Opt_PartEmpl{*this, "Opt_PartEmpl", "Particuliers employeurs", &Cdr_Type};
+  screen::OptionButton Opt_Autres{*this, "Opt_Autres", "Autres", &Cdr_Type};
+  screen::OptionButton Opt_TousType{*this, "Opt_TousType", "Tous", &Cdr_Type};
+  screen::Frame Cdr_TriContrat{*this, "Cdr_TriContrat", "Tri des contrats "};
+  screen::OptionButton Opt_TriEmpl{*this, "Opt_TriEmpl", "Employeur", &Cdr_TriContrat};
+  screen::OptionButton Opt_TriCroiss{*this, "Opt_TriCroiss", "Anc. croissante", &Cdr_TriContrat};
+  screen::OptionButton Opt_TriDecroiss{*this, "Opt_TriDecroiss", "Anc. décroissante",
+                                       &Cdr_TriContrat};
+  screen::Button Cmd_Recherche{*this, "Cmd_Recherche", "Recherche"};
+
+  screen::Label Etq_Debut{*this, "Etq_Debut", "Début"};
+  screen::Label Etq_Fin{*this, "Etq_Fin", "Fin"};
+  screen::Label Etq_Type{*this, "Etq_Type", "Type"};
+  screen::Label Etq_Employeur{*this, "Etq_Employeur", "Employeur"};
+  screen::Label Etq_Qualification{*this, "Etq_Qualification", "Convention Collective"};
+  screen::ListBox Lst_DatDebContrat{*this, "Lst_DatDebContrat"};
+  screen::ListBox Lst_DatFinContrat{*this, "Lst_DatFinContrat"};
+  screen::ListBox Lst_Type{*this, "Lst_Type"};
+  screen::ListBox Lst_EmplEtabContrat{*this, "Lst_EmplEtabContrat"};
+  screen::ListBox Lst_QualifContrat{*this, "Lst_QualifContrat"};
+  screen::ScrollBar Bdv_Detail{*this, "Bdv_Detail"};
+
+  screen::Button Cmd_Ajouter{*this, "Cmd_Ajouter", "Ajouter"};
+  screen::Button Cmd_OK{*this, "Cmd_OK", "OK"};
+  screen::Button Cmd_Retour{*this, "Cmd_Retour", "Retour"};
+
+  screen::MenuItem Mnu_Aide{*this, "Mnu_Aide", "Aide"};
+  screen::MenuItem Mnu_Sommaire{*this, "Mnu_Sommaire", "Aide KORVALDIS"};
+
+ protected:
+  void MouseDown(int bouton) override;
+
+ private:
+  // A list of the control and what it shows of a row.
+  struct Colonne {
+    screen::ListBox Ctr_Contrat::*liste;
+    std::string LigneContrat::*texte;
+  };
+  static const std::array<Colonne, 5> Colonnes;
+
+  void Cbo_Association_Click();
+  void Cbo_Association_Change();
+  void Cmd_Recherche_Click();
+  void Cmd_Ok_Click();
+  void Cmd_Retour_Click();
+  void Liste_Click(const screen::ListBox& source);
+  void Bdv_Detail_Change();
+  void Mnu_Sommaire_Click();
+
+  void PrendreFiltresParDefaut();
+  void ActiverListes(bool actives);
+  void ViderListes();
+  void AjusterBarre();
+  bool GarderValidite(const data::CItem& contrat, long debutPeriode) const;
+  bool GarderType(const data::CItem& contrat) const;
+  void LireEmployeur(const data::CItem& contrat, std::string& libelle);
+  LigneContrat FaireLigne(const data::CItem& contrat, const std::string& employeur);
+  Tri TriChoisi() const;
+  void AfficherLignes(const std::vector<LigneContrat>& lignes);
+
+  session::Session session_;
+  session::AideEnLigne aide_;
+  const session::Droits* droits_ = nullptr;
+  session::Droit droit_;
+  // The legal entity that the list is restricted to; "" for all.
+  std::string codeAssocFiltre_;
+  data::CItem clesContrats_;
+};
+
+}  // namespace control
