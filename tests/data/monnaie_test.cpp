@@ -1,0 +1,94 @@
+#include "data/monnaie.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace data {
+namespace {
+
+Monnaie m(std::string_view texte) {
+  return Monnaie::DeTexte(texte);
+}
+
+TEST(Monnaie, ReadsEveryUnit) {
+  EXPECT_EQ(Monnaie::DeCentiemes("15167"), m("151,67"));
+  EXPECT_EQ(Monnaie::DeMilliemes("-11520"), m("-11,52"));
+  EXPECT_EQ(Monnaie::DeDixMilliemes("5"), m("0.0005"));
+  EXPECT_EQ(Monnaie::DeCentiemes("1234,5"), m("12,345"));
+  EXPECT_EQ(Monnaie::DeCentiemes("") + Monnaie::DeTexte("  "), Monnaie());
+  EXPECT_EQ(m("0,00005").DixMilliemes(), 1);
+  EXPECT_EQ(m("-0,00005").DixMilliemes(), -1);
+  EXPECT_EQ(m("0,00004999").DixMilliemes(), 0);
+  EXPECT_EQ(m("3 428,50").Centiemes(), 342850);
+  EXPECT_EQ(m("1,0049").Centiemes(), 100);
+  EXPECT_EQ(m("-1,005").Centiemes(), -101);
+  EXPECT_EQ(m("1,0015").Milliemes(), 1002);
+  EXPECT_THROW(m("12a"), NombreInvalide);
+  EXPECT_THROW(Monnaie::DeCentiemes("O"), NombreInvalide);
+  EXPECT_EQ(Monnaie::Valeur(" 12,5 h"), m("12,5"));
+  EXPECT_EQ(Monnaie::Valeur("-1.2.3"), m("-1,2"));
+  EXPECT_EQ(Monnaie::Valeur("n/a") + Monnaie::Valeur("") + Monnaie::Valeur("-"), Monnaie());
+}
+
+TEST(Monnaie, CalculatesExactly) {
+  Monnaie somme;
+  for (int i = 0; i < 1000; ++i) somme += m("0,1");
+  EXPECT_EQ(somme, m("100"));
+  EXPECT_EQ(m("1,5") - m("2,25"), -m("0,75"));
+  EXPECT_EQ(m("1,25") * m("-1,3333"), m("-1,6666"));  // -1,666625
+  EXPECT_EQ(m("0,01") * m("0,005"), m("0,0001"));     // 0,00005
+  EXPECT_EQ(m("10") / m("3"), m("3,3333"));
+  EXPECT_EQ(m("-20") / m("3"), m("-6,6667"));
+  EXPECT_EQ(m("1") / m("-20000"), m("-0,0001"));  // -0,00005
+  EXPECT_EQ(m("151,67") * m("12") / m("52"), m("35,0008"));
+  EXPECT_LT(m("-0,0001"), Monnaie());
+  EXPECT_THROW(m("1") / Monnaie(), NombreInvalide);
+}
+
+TEST(Monnaie, RoundsAndWrites) {
+  const struct {
+    const char *valeur, *deux, *court, *plancher;
+    bool demi;
+  } cas[] = {
+      {"12,5", "12,50", "12,5", "12", true},
+      {"-2,5", "-2,50", "-2,5", "-3", true},
+      {"0,005", "0,01", "0,005", "0", false},
+      {"-0,004", "0,00", "-0,004", "-1", false},
+      {"1200", "1200,00", "1200", "1200", true},
+      {"-0,995", "-1,00", "-0,995", "-1", false},
+      {"0", "0,00", "0", "0", true},
+      {"7,0625", "7,06", "7,0625", "7", false},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.valeur);
+    EXPECT_EQ(m(c.valeur).Texte(2), c.deux);
+    EXPECT_EQ(m(c.valeur).TexteCourt(), c.court);
+    EXPECT_EQ(m(c.valeur).PartieEntiere(), m(c.plancher));
+    EXPECT_EQ(m(c.valeur).EntierOuDemi(), c.demi);
+    EXPECT_EQ(m(c.valeur).Arrondi(2), m(c.deux));
+  }
+  EXPECT_EQ(m("2,5").Texte(0) + m("2,5").Texte(1, "."), "32.5");
+}
+
+// At the bounds of the type every operation raises, none wraps.
+TEST(Monnaie, OverflowRaises) {
+  const Monnaie plus = Monnaie::DeDixMilliemes("9223372036854775807");
+  const Monnaie moins = Monnaie::DeDixMilliemes("-9223372036854775808");
+  EXPECT_EQ(plus.Texte(4), "922337203685477,5807");
+  EXPECT_EQ(moins.TexteCourt(), "-922337203685477,5808");
+  EXPECT_THROW(plus + m("0,0001"), NombreInvalide);
+  EXPECT_THROW(moins - m("0,0001"), NombreInvalide);
+  EXPECT_THROW(-moins, NombreInvalide);
+  EXPECT_THROW(moins.Absolue(), NombreInvalide);
+  EXPECT_THROW(plus * m("2"), NombreInvalide);
+  EXPECT_THROW(moins * moins, NombreInvalide);
+  EXPECT_THROW(moins / m("-1"), NombreInvalide);
+  EXPECT_THROW(moins.PartieEntiere(), NombreInvalide);
+  EXPECT_THROW(plus.Arrondi(0), NombreInvalide);
+  EXPECT_THROW(Monnaie::DeDixMilliemes("9223372036854775808"), NombreInvalide);
+  EXPECT_THROW(Monnaie::Entier(LLONG_MIN), NombreInvalide);
+}
+
+}  // namespace
+}  // namespace data
