@@ -1,0 +1,279 @@
+#include "data/lib.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdlib>
+
+#include "data/jour.h"
+
+namespace data {
+namespace {
+
+const PosteFixe poste(21511);
+
+TEST(Jour, NumbersOfDays) {
+  const struct {
+    Date date;
+    long jour;
+    const char* affichee;
+    int semaine;  // 0 Monday
+  } cas[] = {
+      {{1967, 12, 31}, 0, "31/12/1967", 6},     {{1968, 1, 1}, 1, "01/01/1968", 0},
+      {{1968, 2, 29}, 60, "29/02/1968", 3},     {{1968, 12, 31}, 366, "31/12/1968", 1},
+      {{1967, 12, 30}, -1, "30/12/1967", 5},    {{1899, 12, 31}, -24836, "31/12/1899", 6},
+      {{2000, 1, 1}, 11689, "01/01/2000", 5},   {{2000, 2, 29}, 11748, "29/02/2000", 1},
+      {{2026, 11, 22}, 21511, "22/11/2026", 6}, {{2100, 2, 28}, 48272, "28/02/2100", 6},
+      {{2100, 3, 1}, 48273, "01/03/2100", 0},   {{2241, 10, 14}, 99999, "14/10/2241", 3},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.affichee);
+    EXPECT_EQ(jourDe(c.date), c.jour);
+    EXPECT_EQ(dateDe(c.jour), c.date);
+    EXPECT_EQ(jourDeSemaine(c.jour), c.semaine);
+    EXPECT_EQ(dateAffichee(c.jour), c.affichee);
+    EXPECT_EQ(lireDateAffichee(c.affichee), c.jour);
+  }
+  const Date absentes[] = {{2100, 2, 29}, {2026, 2, 29}, {2026, 4, 31}, {2026, 13, 1},
+                           {2026, 0, 1},  {2026, 1, 0},  {0, 1, 1},     {10000, 1, 1}};
+  for (const Date& d : absentes) EXPECT_EQ(jourDe(d), std::nullopt) << d.annee << " " << d.mois;
+  EXPECT_EQ(dateAffichee(LONG_MIN) + dateAffichee(LONG_MAX), "");
+  EXPECT_EQ(dateDe(LONG_MAX), (Date{9999, 12, 31}));
+  EXPECT_EQ(dateDe(LONG_MIN), (Date{1, 1, 1}));
+}
+
+// Every day of the years that can be typed follows the one before it.
+TEST(Jour, CalendarWithoutGap) {
+  Date attendue{1900, 1, 1};
+  for (long jour = *jourDe(attendue); attendue.annee < 2200; ++jour) {
+    ASSERT_EQ(dateDe(jour), attendue);
+    ASSERT_EQ(jourDe(attendue), jour);
+    if (++attendue.jour > joursDuMois(attendue.annee, attendue.mois)) {
+      attendue = attendue.mois == 12 ? Date{attendue.annee + 1, 1, 1}
+                                     : Date{attendue.annee, attendue.mois + 1, 1};
+    }
+  }
+}
+
+TEST(Jour, Periods) {
+  EXPECT_EQ(premierJour("202611"), 21490);  // 21 days before the 22nd
+  EXPECT_EQ(dernierJour("202611"), 21519);
+  EXPECT_EQ(dernierJour("200002"), 11748);
+  EXPECT_EQ(periodeDe(0), "196712");
+  EXPECT_EQ(decalePeriode("202611", 2), "202701");
+  EXPECT_EQ(decalePeriode("202601", -1), "202512");
+  EXPECT_EQ(decalePeriode("202611", -23), "202412");
+  EXPECT_EQ(decalePeriode("999912", 1) + decalePeriode("000101", -1), "");
+  EXPECT_EQ(moisAnnee("202608") + moisAnnee("202602"), "août 2026février 2026");
+  for (const char* t : {"", "202613", "202600", "2026", "20261a", "2026011", "000001"}) {
+    EXPECT_EQ(premierJour(t), std::nullopt) << t;
+    EXPECT_EQ(moisAnnee(t) + decalePeriode(t, 1), "") << t;
+  }
+}
+
+TEST(LibDate, NormalisesWhatAClerkTypes) {
+  Lib lib(poste);
+  const struct {
+    const char *saisie, *attendu;
+  } bons[] = {
+      {"22/11/2026", "22/11/2026"}, {"1/5/26", "01/05/2026"},     {"01-05-49", "01/05/2049"},
+      {"1.5.50", "01/05/1950"},     {" 1 5  26 ", "01/05/2026"},  {"1 / 5 / 2026", "01/05/2026"},
+      {"010526", "01/05/2026"},     {"01052026", "01/05/2026"},   {"29/2/00", "29/02/2000"},
+      {"1/1/1900", "01/01/1900"},   {"31/12/2199", "31/12/2199"},
+  };
+  for (const auto& c : bons) {
+    EXPECT_EQ(lib.NormaliseDateText(c.saisie), c.attendu) << c.saisie;
+    EXPECT_FALSE(lib.DateError()) << c.saisie;
+  }
+  const char* mauvais[] = {"",         "demain",     "29/02/2100", "31/04/2026", "1/13/2026",
+                           "1/5",      "1/5/26/",    "/1/5/26",    "1//5/26",    "1/5/026",
+                           "1/1/ab",   "1/1/-26",    "0105261",    "001/5/26",   "1/5/1899",
+                           "1/5/2200", "0x/05/2026", "1/5/20 26"};
+  for (const char* t : mauvais) {
+    EXPECT_EQ(lib.NormaliseDateText(t), t);
+    EXPECT_TRUE(lib.DateError()) << t;
+  }
+}
+
+TEST(LibDate, InternalAndBack) {
+  const Lib lib(poste);
+  EXPECT_EQ(lib.DateToInternal("22/11/2026"), "21511");
+  EXPECT_EQ(lib.DateToInternal("23/11/2026"), "21512");
+  EXPECT_EQ(lib.DateToInternal("14/10/2241"), "99999");
+  EXPECT_EQ(lib.DateToInternal("  ") + lib.DateToInternal(""), "");
+  EXPECT_THROW(lib.DateToInternal("31/02/2026"), DateInvalide);
+  EXPECT_EQ(lib.LireDate("31/02/2026"), std::nullopt);
+  EXPECT_EQ(lib.DateFromInternal("21511"), "22/11/2026");
+  EXPECT_EQ(lib.DateFromInternal("00001"), "01/01/1968");
+  for (const char* t : {"", "CDD", "9999999"}) EXPECT_EQ(lib.DateFromInternal(t), t);
+}
+
+TEST(LibNumber, FilterKey) {
+  const Lib lib(poste);
+  PosteFixe posteAnglais(0);
+  posteAnglais.SetSeparateurDecimal(".");
+  const Lib anglais(posteAnglais);
+  const struct {
+    const Lib& lib;
+    const char* texte;
+    char32_t touche;
+    bool moins;
+    char32_t attendue;
+  } cas[] = {
+      {lib, "12", U'0', false, U'0'},     {lib, "12", U'9', false, U'9'},
+      {lib, "", U'a', true, 0},           {lib, "", U' ', true, 0},
+      {lib, "", U'é', true, 0},           {lib, "", U'+', true, 0},
+      {lib, "12", U',', false, U','},     {lib, "12", U'.', false, U','},
+      {lib, "1,2", U',', true, 0},        {lib, "1.2", U',', true, 0},
+      {anglais, "12", U',', false, U'.'}, {lib, "", U'-', true, U'-'},
+      {lib, "", U'-', false, 0},          {lib, "-1", U'-', true, 0},
+      {lib, "1,2", 8, false, 8},          {lib, "1,2", 13, false, 13},
+      {lib, "1", 0x7F, true, 0},
+  };
+  for (const auto& c : cas) {
+    char32_t touche = c.touche;
+    c.lib.FilterKey(c.texte, touche, c.moins);
+    EXPECT_EQ(touche, c.attendue) << c.texte << " + " << static_cast<int>(c.touche);
+  }
+}
+
+TEST(LibNumber, FormatNumber) {
+  const Lib lib(poste);
+  const struct {
+    const char* texte;
+    int avant, apres;
+    bool signe;
+    const char* attendu;  // nullptr: refused
+  } cas[] = {
+      {"12,5", 5, 2, false, "   12,50"},
+      {"12.5", 5, 2, true, "    12,50"},
+      {"-5", 5, 2, true, "-    5,00"},
+      {"-    5,00", 5, 2, true, "-    5,00"},
+      {"0", 5, 2, false, "    0,00"},
+      {"", 5, 2, false, nullptr},
+      {",5", 1, 3, false, "0,500"},
+      {"5,", 1, 1, false, "5,0"},
+      {"12345,674", 5, 2, false, "12345,67"},
+      {"0,005", 5, 2, false, "    0,01"},
+      {"99999,994", 5, 2, false, "99999,99"},
+      {"99999,995", 5, 2, false, nullptr},
+      {"-0,005", 1, 2, true, "-0,01"},
+      {"-0,004", 1, 2, false, "0,00"},
+      {"-1", 5, 2, false, nullptr},
+      {"007,5", 1, 0, false, "8"},
+      {"12 345,6", 5, 1, false, "12345,6"},
+      {"+7", 2, 0, false, " 7"},
+      {"999999999,00005", 9, 4, false, "999999999,0001"},
+      {"123456", 5, 2, false, nullptr},
+      {"12,3,4", 5, 2, false, nullptr},
+      {"1 23", 5, 2, false, nullptr},
+      {"12-", 5, 2, true, nullptr},
+      {"-", 5, 2, true, nullptr},
+      {",", 5, 2, true, nullptr},
+      {"1e3", 5, 2, false, nullptr},
+      {"\xC3", 5, 2, false, nullptr},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.texte);
+    const auto champ = lib.FormatNumberField(c.texte, c.avant, c.apres, c.signe);
+    if (c.attendu != nullptr) {
+      EXPECT_EQ(champ, c.attendu);
+      EXPECT_EQ(lib.FormatNumber(c.texte, c.avant, c.apres, c.signe), c.attendu);
+    } else {
+      EXPECT_EQ(champ, std::nullopt);
+      EXPECT_THROW(lib.FormatNumber(c.texte, c.avant, c.apres, c.signe), NombreInvalide);
+    }
+  }
+  EXPECT_EQ(lib.FormatNumber(Monnaie::DeCentiemes("-15167"), 5, 2, true), "-  151,67");
+  PosteFixe anglais(0);
+  anglais.SetSeparateurDecimal(".");
+  EXPECT_EQ(Lib(anglais).FormatNumber("12,5", 3, 2, false), " 12.50");
+}
+
+TEST(LibNumber, Routines) {
+  EXPECT_EQ(CadrerMontant("   12,50", false), "12,50");
+  EXPECT_EQ(CadrerMontant("-   12,50", true), "-12,50");
+  EXPECT_EQ(CadrerMontant("    12,50", true), "12,50");
+  EXPECT_EQ(CadrerMontant("-   12,50", false), "-   12,50");
+  EXPECT_EQ(FormatZoneNumBis("12,349", 4, 2, false), "  12,34");
+  EXPECT_EQ(FormatZoneNumBis("0,99999", 4, 2, false), "   0,99");
+  EXPECT_EQ(FormatZoneNumBis("-7.5", 4, 2, true), "-   7,50");
+  EXPECT_EQ(FormatZoneNumBis("-7,5", 4, 2, false), "   7,50");
+  EXPECT_EQ(FormatZoneNumBis("3,4567", 1, 3, false), "3,450");  // two decimals kept, not three
+  EXPECT_EQ(FormatZoneNumBis("12345,10", 4, 1, false), "12345,1");
+  EXPECT_EQ(FormatZoneNumBis("2,5", 1, 0, false), "2,5");
+  EXPECT_THROW(FormatZoneNumBis("", 4, 2, false), NombreInvalide);
+  EXPECT_EQ(Determinerdate("202602") + Determinerdate("202608"), "février 2026aout 2026");
+  EXPECT_EQ(Determinerdate("202612") + Determinerdate("202613"), "decembre 20262026");
+  EXPECT_EQ(Determinerdate(""), "");
+  EXPECT_EQ(formeMilliers("  1234567,80"), "1 234 567,80");
+  EXPECT_EQ(formeMilliers("-  123"), "-123");
+  EXPECT_EQ(formeMilliers("1000.5") + formeMilliers(",5") + formeMilliers("n/a"), "1 000.50,5n/a");
+  const struct {
+    const char* texte;
+    long long attendu;
+  } entiers[] = {{"12,5", 12},
+                 {"12.5", 12},
+                 {"-12,9", -12},
+                 {"", 0},
+                 {"abc", 0},
+                 {"0045", 45},
+                 {" 7", 7},
+                 {"12 rue", 12},
+                 {"1 234", 1234},
+                 {",9", 0},
+                 {"--5", 0},
+                 {"-", 0},
+                 {"99999999999999999999", LLONG_MAX},
+                 {"-99999999999999999999", LLONG_MIN}};
+  for (const auto& c : entiers) EXPECT_EQ(entier(c.texte), c.attendu) << c.texte;
+}
+
+TEST(LibNumber, ZoneNumCarac) {
+  constexpr const char* longue = "Zone numerique trop longue";
+  const struct {
+    const char* texte;
+    int avant, apres, avantApres;
+    const char* message;
+    bool information, erreur;
+  } cas[] = {
+      {"", 3, 2, 3, "", false, false},
+      {"-1,5", 1, 1, 2, "", false, false},
+      {",5", 0, 1, 0, "", false, false},
+      {"123", 3, 2, 3, "", false, false},
+      {"-", 3, 2, 4, "Vous ne pouvez pas saisir seulement un moins.", true, false},
+      {",", 3, 2, 3, "Vous ne pouvez pas saisir une virgule seule.", true, false},
+      {"-,", 3, 2, 4, "Vous ne pouvez pas saisir un moins et une virgule seuls.", true, false},
+      {"1234,5", 3, 2, 3, "Trop de chiffres avant la virgule", false, false},
+      {"1234,567", 3, 2, 3, "Trop de chiffres avant la virgule", false, false},
+      {"1234", 3, 2, 3, longue, false, true},
+      {"-1234", 3, 2, 4, longue, false, true},
+      {"12,345", 3, 2, 3, "Trop de chiffres après la virgule", false, true},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.texte);
+    int avant = c.avant;
+    const ControleZoneNum r = ZoneNumCarac(c.texte, avant, c.apres, ",");
+    EXPECT_EQ(r.message, c.message);
+    EXPECT_EQ(r.information, c.information);
+    EXPECT_EQ(r.erreur, c.erreur);
+    EXPECT_EQ(r.Focus(), !r.Passe());
+    EXPECT_EQ(avant, c.avantApres);
+  }
+}
+
+TEST(Poste, NameAndClock) {
+  EXPECT_EQ(poste.Horodatage(), "2026-11-22 00:00:00");
+  const PosteSysteme systeme;
+  setenv("USER", "", 1);
+  setenv("LOGNAME", " Marie-Hélène\tde La Tour d'Auvergne", 1);
+  EXPECT_EQ(systeme.NomUtilisateur(), "Marie-Hélènede La To");
+  setenv("USER", "rose", 1);
+  EXPECT_EQ(systeme.NomUtilisateur(), "rose");
+  const std::string jour = dateAffichee(systeme.Aujourdhui());
+  EXPECT_EQ(systeme.Horodatage().substr(0, 4), jour.substr(6));
+  EXPECT_EQ(systeme.Horodatage().size(), 19u);
+}
+
+}  // namespace
+}  // namespace data
