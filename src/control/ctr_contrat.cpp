@@ -179,8 +179,8 @@ void Ctr_Contrat::Cmd_Retour_Click() {
   if (Sortie) Sortie();
 }
 
-// One row of the five lists is selected as one. Only the last list moves the bar; since every click sets its row too, the
-// bar follows them all.
+// One row of the five lists is selected as one. Only the last list moves the bar; since every click
+// sets its row too, the bar follows them all.
 void Ctr_Contrat::Liste_Click(const screen::ListBox& source) {
   for (const auto& colonne : Colonnes) {
     auto& liste = this->*colonne.liste;

@@ -1,6 +1,6 @@
 #pragma once
-// The contract list of one carer: the embeddable screen that a host places on a form of its own. The host uses it in this
-// order:
+// The contract list of one carer: the embeddable screen that a host places on a form of its own.
+// The host uses it in this order:
 //
 //   1. create it                          5. init
 //   2. TheDatabase, TheClient             6. Affiche, if it wants filters preset
@@ -8,9 +8,10 @@
 //      W_EtatSuppAidant, W_CodeContrat       destroy it
 //   4. DroitsUtilisateur
 //
-// The control has two modes. Selection mode: the filters are on, the lists off, Cmd_Recherche is on. List mode, after a
-// search: the filters are off, the lists on, Cmd_OK is on and leads back. The database, client, rights and platform outlive
-// the control. A StoreError other than an absent record rises from any call to the host, the screen being usable again.
+// The control has two modes. Selection mode: the filters are on, the lists off, Cmd_Recherche is
+// on. List mode, after a search: the filters are off, the lists on, Cmd_OK is on and leads back.
+// The database, client, rights and platform outlive the control. A StoreError other than an absent
+// record rises from any call to the host, the screen being usable again.
 
 #include <optional>
 #include <string>
@@ -29,7 +30,8 @@ class Ctr_Contrat : public screen::Form {
   explicit Ctr_Contrat(screen::Platform& platform);
   ~Ctr_Contrat() override;
 
-  // The host's properties. The carer code has 5 characters and is the left part of every contract key.
+  // The host's properties. The carer code has 5 characters and is the left part of every contract
+  // key.
   std::string W_Code;
   std::string W_NomPrenom;
   // The carer is in the deleted state: no contract can be added.
@@ -46,8 +48,9 @@ class Ctr_Contrat : public screen::Form {
   void DroitsUtilisateur(const session::Droits& droits);
   // Opens the session's files, fills the legal-entity filter and shows the carer.
   void init();
-  // Presets the filters and searches. `typeAct`: "P" entity contracts, "M" private employers, else both. `codeAsso`: legal
-  // entity; "" or an unknown one leaves that filter as it stands. `actifs`: "A" active, "H" ended, else all.
+  // Presets the filters and searches. `typeAct`: "P" entity contracts, "M" private employers, else
+  // both. `codeAsso`: legal entity; "" or an unknown one leaves that filter as it stands. `actifs`:
+  // "A" active, "H" ended, else all.
   void Affiche(std::string_view typeAct, std::string_view codeAsso, std::string_view actifs);
   void Remplir_Association();
   // List mode, with the lists as they stand.

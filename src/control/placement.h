@@ -1,6 +1,7 @@
 #pragma once
-// Where a contract goes in the list. The list is built by insertion: each kept contract, in the order of the contract
-// numbers, goes before the first row that its sort puts after it. Contracts equal under the sort so stand in number order.
+// Where a contract goes in the list. The list is built by insertion: each kept contract, in the
+// order of the contract numbers, goes before the first row that its sort puts after it. Contracts
+// equal under the sort so stand in number order.
 
 #include <string>
 #include <vector>
@@ -22,8 +23,8 @@ struct LigneContrat {
   bool Terminee() const { return !fin.empty(); }
 };
 
-// The row at which `nouvelle` is inserted in `lignes`, from 0. A row without the text that the sort looks at ends the
-// search: it reads like the end of the list.
+// The row at which `nouvelle` is inserted in `lignes`, from 0. A row without the text that the sort
+// looks at ends the search: it reads like the end of the list.
 std::size_t rangInsertion(const std::vector<LigneContrat>& lignes, const LigneContrat& nouvelle,
                           Tri tri);
 

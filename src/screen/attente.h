@@ -1,6 +1,6 @@
 #pragma once
-// The wait state of a screen during long work: wait cursor, form disabled. Lifted at the end of the scope, also when a
-// store error rises, so that the user gets the screen back.
+// The wait state of a screen during long work: wait cursor, form disabled. Lifted at the end of the
+// scope, also when a store error rises, so that the user gets the screen back.
 
 #include "screen/form.h"
 

@@ -1,5 +1,6 @@
 #pragma once
-// The help of the suite's screens: one help file beside the application, opened in the help window of the calling control.
+// The help of the suite's screens: one help file beside the application, opened in the help window
+// of the calling control.
 
 #include <string>
 
@@ -10,7 +11,8 @@ namespace session {
 class AideEnLigne {
  public:
   static constexpr const char* NomFichier = "Brivalon.HLP";
-  // `dossier` is where the application stands; a separator is put before the file's name when it lacks one.
+  // `dossier` is where the application stands; a separator is put before the file's name when it
+  // lacks one.
   AideEnLigne(screen::Aide& aide, std::string dossier);
 
   const std::string& Fichier() const { return fichier_; }

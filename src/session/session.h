@@ -1,6 +1,7 @@
 #pragma once
-// The session-wide variables: the channel between the contract list, the editor and the dialogs. One Session lives in one
-// list control, from init to its release, and is handed by reference to every screen above it. The names are the trade's own.
+// The session-wide variables: the channel between the contract list, the editor and the dialogs.
+// One Session lives in one list control, from init to its release, and is handed by reference to
+// every screen above it. The names are the trade's own.
 
 #include <array>
 #include <string>
@@ -14,7 +15,8 @@
 
 namespace session {
 
-// The host's client object. The component only keeps it and hands it on to the suite's hosted controls.
+// The host's client object. The component only keeps it and hands it on to the suite's hosted
+// controls.
 class Client {
  public:
   virtual ~Client() = default;
@@ -40,7 +42,8 @@ struct Session {
   data::CItem ItemPeriodesPaie1;
   // Result of the association select: a row is code, name.
   data::CItem ItemAssociations;
-  // The latest record read of each neighbour file. A read that finds nothing leaves the former one in place.
+  // The latest record read of each neighbour file. A read that finds nothing leaves the former one
+  // in place.
   data::CItem ItemCivilAidant, ItemCivilAide, ItemAssociation, ItemEtablissement, ItemTables,
       ItemProfil, ItemRubCharge, ItemConventionCol, ItemContratsPrev, ItemMissionsAidant,
       ItemAidantTte, ItemActivitesAide, ItemActivites, ItemHistorIndem, ItemRibAidant,
@@ -64,12 +67,14 @@ struct Session {
   // Planning checks are in force.
   bool OptionCompteur999 = false;
   bool EtatSuppAidant = false;
+  // The last check of a typed decimal refused its length.
+  bool ErreurZoneNum = false;
 
   std::string SeparateurDecimal;
   int SeparateurDecimalAnsi = 0;
 
-  // Opens the files of the session in their fixed order and reads the current pay period. A StoreError rises to the host;
-  // the files opened before it stay open until Liberer.
+  // Opens the files of the session in their fixed order and reads the current pay period. A
+  // StoreError rises to the host; the files opened before it stay open until Liberer.
   void OuvrirFichiers();
   // Drops every item and every file, and last the database. Writes nothing.
   void Liberer();
