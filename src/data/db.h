@@ -11,12 +11,12 @@
 // multi-valued comes with its value separators lowered to subvalue separators, so that column j of
 // a row is always value j.
 
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "data/citem.h"
+#include "data/routines.h"
 #include "data/storage.h"
 #include "data/store_error.h"
 
@@ -56,12 +56,13 @@ class Db {
   DbFile OpenFile(std::string_view nom);
 
   // Runs the query of a request item given in its text form: attribute 1 the query, 2 the file, 3
-  // the field list. `option` is always ""; `statut` receives 0. A query that cannot be understood
-  // is a StoreError.
+  // the field list. `option` is always ""; `statut` receives 0. A query that cannot be understood,
+  // or that is about another file than attribute 2, is a StoreError.
   CItem Select(std::string_view requete, std::string_view option, long& statut);
-  // A list command: "EFFACER-LISTE <name>". Forgetting an unknown list is no error.
+  // A list command in attribute 1: "EFFACER-LISTE <name>". Forgetting an unknown list is no error.
+  // The result is empty.
   CItem Execute(std::string_view requete, std::string_view option, long& statut);
-  // A stored routine: "REMPLRECURSIF" (see data/routines.h).
+  // A stored routine by name, its parameters in an item's text form (see data/routines.h).
   CItem CallRoutine(std::string_view nom, long& statut, std::string_view requete);
 
   // Select from its three parts.
@@ -71,9 +72,7 @@ class Db {
 
  private:
   std::shared_ptr<Storage> storage_;
-  // Saved lists by name, with the number that makes the next fresh name.
-  std::map<std::string, CItem, std::less<>> listes_;
-  int derniereListe_ = 0;
+  ListesSauvees listes_;
 };
 
 }  // namespace data
