@@ -143,7 +143,17 @@ void TabStrip::SetTab(int onglet) {
   if (onglet < 0 || onglet >= static_cast<int>(onglets_.size()) || onglet == tab_) return;
   const int ancien = tab_;
   tab_ = onglet;
+  MontrerPages();
   fire(Click, ancien);
+}
+
+void TabStrip::Lier(int onglet, Frame& page) {
+  pages_.emplace_back(onglet, &page);
+  MontrerPages();
+}
+
+void TabStrip::MontrerPages() {
+  for (const auto& [onglet, page] : pages_) page->SetVisible(onglet == tab_);
 }
 
 void RangeField::SetValue(int value) {

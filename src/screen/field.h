@@ -15,6 +15,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "screen/events.h"
@@ -248,10 +249,15 @@ class TabStrip : public Field {
   // From 0.
   int Tab() const { return tab_; }
   void SetTab(int onglet);
+  // Ties a frame to a tab: it is visible while its tab is shown, and so takes no user act otherwise.
+  void Lier(int onglet, Frame& page);
   TabHandler Click;
 
  private:
+  void MontrerPages();
+
   std::vector<std::string> onglets_;
+  std::vector<std::pair<int, Frame*>> pages_;
   int tab_ = 0;
 };
 
