@@ -1,0 +1,31 @@
+#pragma once
+// The data file that a command works on, open as long as the object lives.
+
+#include <memory>
+#include <string>
+
+#include "base/contexte.h"
+#include "data/poste.h"
+#include "data/storage.h"
+#include "storage/sqlite.h"
+
+namespace base {
+
+enum class Acces { Lecture, Ecriture };
+
+class Base {
+ public:
+  // Opens the file named by the argument BASE. StoreError when it is absent or no data file. A
+  // command that only reads works on a place that cannot be written, too.
+  Base(const Arguments& arguments, Acces acces);
+
+  data::Storage& Stockage() { return *stockage_; }
+  storage::SqliteStorage& Sqlite() { return *stockage_; }
+  std::shared_ptr<data::Storage> Partage() { return stockage_; }
+
+ private:
+  data::PosteSysteme poste_;
+  std::shared_ptr<storage::SqliteStorage> stockage_;
+};
+
+}  // namespace base
