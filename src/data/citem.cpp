@@ -32,19 +32,20 @@ void cutEnd(std::string& texte, char sep) {
 
 // Cuts empty ends of every value, then of the attribute.
 std::string canonical(std::string_view attribut) {
-  std::string resultat(attribut);
-  if (attribut.empty()) return resultat;
-  if (attribut.find(SepSousValeur) != std::string_view::npos) {
-    resultat.clear();
-    const int valeurs = count(attribut, SepValeur);
-    for (int v = 1; v <= valeurs; ++v) {
-      std::string valeur(piece(attribut, SepValeur, v));
+  std::string resultat;
+  if (attribut.find(SepSousValeur) == std::string_view::npos) {
+    resultat = attribut;
+  } else {
+    resultat.reserve(attribut.size());
+    for (std::size_t debut = 0; debut <= attribut.size();) {
+      const auto fin = std::min(attribut.find(SepValeur, debut), attribut.size());
+      std::string valeur(attribut.substr(debut, fin - debut));
       cutEnd(valeur, SepSousValeur);
-      if (v > 1) resultat += SepValeur;
-      resultat += valeur;
+      (resultat += valeur) += SepValeur;
+      debut = fin + 1;
     }
   }
-  if (!resultat.empty() && resultat.back() == SepValeur) cutEnd(resultat, SepValeur);
+  cutEnd(resultat, SepValeur);
   return resultat;
 }
 
@@ -71,18 +72,14 @@ Span makePiece(std::string& texte, Span zone, char sep, int n) {
   return {debut, fin - debut};
 }
 
-// Removes the n-th piece of texte[zone] with one separator beside it.
+// Removes the n-th piece of texte[zone] with the separator after it. Without the last piece the
+// zone may end in a separator, which the canonical form cuts.
 void erasePiece(std::string& texte, Span zone, char sep, int n) {
   const std::string_view contenu = std::string_view(texte).substr(zone.debut, zone.longueur);
   if (n < 1 || n > count(contenu, sep)) return;
   const Span place = makePiece(texte, zone, sep, n);
-  if (place.debut + place.longueur < zone.debut + zone.longueur) {
-    texte.erase(place.debut, place.longueur + 1);
-  } else if (place.debut > zone.debut) {
-    texte.erase(place.debut - 1, place.longueur + 1);
-  } else {
-    texte.erase(place.debut, place.longueur);
-  }
+  const bool suivie = place.debut + place.longueur < zone.debut + zone.longueur;
+  texte.erase(place.debut, place.longueur + (suivie ? 1 : 0));
 }
 
 void refuse(std::string_view texte, std::string_view separateurs) {
@@ -116,23 +113,23 @@ std::string CItem::Text() const {
 }
 
 void CItem::SetText(std::string_view texte) {
-  avant_.clear();
-  apres_.clear();
-  if (texte.empty()) return;
-  avant_.reserve(static_cast<std::size_t>(count(texte, SepAttribut)));
-  for (std::size_t debut = 0;;) {
-    const auto fin = texte.find(SepAttribut, debut);
+  // Built aside: `texte` may be a view of this very item.
+  std::vector<std::string> attributs;
+  if (!texte.empty()) attributs.reserve(static_cast<std::size_t>(count(texte, SepAttribut)));
+  for (std::size_t debut = 0; debut <= texte.size();) {
+    const auto fin = std::min(texte.find(SepAttribut, debut), texte.size());
     const std::string_view attribut = texte.substr(debut, fin - debut);
     // Most attributes are one plain value and need no second look.
     if (attribut.empty() ||
         (attribut.back() != SepValeur && attribut.find(SepSousValeur) == std::string_view::npos)) {
-      avant_.emplace_back(attribut);
+      attributs.emplace_back(attribut);
     } else {
-      avant_.push_back(canonical(attribut));
+      attributs.push_back(canonical(attribut));
     }
-    if (fin == std::string_view::npos) break;
     debut = fin + 1;
   }
+  avant_ = std::move(attributs);
+  apres_.clear();
   Couper();
 }
 

@@ -1,0 +1,148 @@
+#include "data/citem.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <stdexcept>
+
+#include "data/store_error.h"
+
+namespace data {
+namespace {
+
+// "a|b;c.d" stands for attributes, values and subvalues.
+std::string traduit(std::string_view texte, std::string_view de, std::string_view en) {
+  std::string resultat(texte);
+  for (char& c : resultat) {
+    if (const auto i = de.find(c); i != std::string_view::npos) c = en[i];
+  }
+  return resultat;
+}
+const std::string separateurs = {SepAttribut, SepValeur, SepSousValeur};
+std::string brut(std::string_view texte) {
+  return traduit(texte, "|;.", separateurs);
+}
+std::string lisible(const CItem& item) {
+  return traduit(item.Text(), separateurs, "|;.");
+}
+
+TEST(CItem, EveryEditLeavesTheExactText) {
+  struct Cas {
+    const char* nom;
+    const char* depart;
+    std::function<void(CItem&)> acte;
+    const char* attendu;
+  };
+  const Cas cas[] = {
+      {"set creates what lies before", "", [](CItem& x) { x.Set(3, "a"); }, "||a"},
+      {"value creates what lies before", "a", [](CItem& x) { x.Set(2, 3, "b"); }, "a|;;b"},
+      {"subvalue beyond in a middle value", "a;b;c", [](CItem& x) { x.Set(1, 2, 3, "d"); },
+       "a;b..d;c"},
+      {"lower separators come along", "x", [](CItem& x) { x.Set(1, brut("a;b.c;")); }, "a;b.c"},
+      {"emptying the last cuts the end", "a||b", [](CItem& x) { x.Set(3, ""); }, "a"},
+      {"emptying the last subvalue cuts up", "a|;.b", [](CItem& x) { x.Set(2, 2, 2, ""); }, "a"},
+      {"an inner empty value stays", "a;b;c", [](CItem& x) { x.Set(1, 2, ""); }, "a;;c"},
+      {"absent place set empty", "a", [](CItem& x) { x.Set(9, 9, 9, ""); }, "a"},
+      {"only separators are nothing", "a", [](CItem& x) { x.Set(9, brut(";.;")); }, "a"},
+      {"no place below 1", "a", [](CItem& x) { x.Set(0, "k"), x.Set(1, 0, "k"), x.Set(-1, "k"); },
+       "a"},
+      {"append", "a;b", [](CItem& x) { x.Append("c"), x.Append("d"); }, "a;b|c|d"},
+      {"insert attribute", "a|b", [](CItem& x) { x.Insert(1, "k"); }, "k|a|b"},
+      {"insert beyond the end", "a", [](CItem& x) { x.Insert(3, "k"); }, "a||k"},
+      {"insert value", "a;b|c", [](CItem& x) { x.Insert(1, 2, "k"); }, "a;k;b|c"},
+      {"insert below 1", "a", [](CItem& x) { x.Insert(0, "k"), x.Insert(1, 0, "k"); }, "a"},
+      {"delete row", "a|b|c", [](CItem& x) { x.Delete(2); }, "a|c"},
+      {"delete the last cuts the end", "a||c", [](CItem& x) { x.Delete(3); }, "a"},
+      {"pop a value", "a;b;c", [](CItem& x) { x.Delete(1, 1); }, "b;c"},
+      {"pop the only value", "|a", [](CItem& x) { x.Delete(2, 1); }, ""},
+      {"delete only subvalue keeps places", "a;b;c", [](CItem& x) { x.Delete(1, 2, 1); }, "a;;c"},
+      {"delete what is absent", "a;b",
+       [](CItem& x) { x.Delete(2), x.Delete(1, 3), x.Delete(1, 1, 2), x.Delete(0), x.Delete(-1); },
+       "a;b"},
+      {"empty ends on reading", "", [](CItem& x) { x.SetText(brut("a;b..;|;.|")); }, "a;b"},
+      {"a text taken from itself", "a|b;c|d", [](CItem& x) { x.SetText(x.Vue(2)); }, "b;c"},
+      {"a place taken from itself", "a|b;c", [](CItem& x) { x.Set(1, x.Vue(2)); }, "b;c|b;c"},
+      {"a value taken from itself", "a;b", [](CItem& x) { x.Insert(1, 1, x.Vue(1, 2)); }, "b;a;b"},
+      {"typed set of the whole", "a", [](CItem& x) { x.SetField(-1, -1, -1, brut("b|c")); }, "b|c"},
+      {"typed set of a subvalue", "a;b", [](CItem& x) { x.SetField(1, 2, 2, "c"); }, "a;b.c"}};
+  for (const Cas& c : cas) {
+    CItem item(brut(c.depart));
+    c.acte(item);
+    EXPECT_EQ(lisible(item), c.attendu) << c.nom;
+    EXPECT_EQ(item.DCount(),
+              *c.attendu == 0 ? 0 : std::count(c.attendu, strchr(c.attendu, 0), '|') + 1)
+        << c.nom;
+  }
+}
+
+TEST(CItem, ReadsNothingWhereNothingIs) {
+  const CItem vide;
+  EXPECT_EQ(vide(5) + vide(0) + vide(1, 1) + vide(-1) + vide.Text(), "");
+  EXPECT_EQ(vide.DCount() + vide.DCount(1) + vide.DCount(0), 0);
+  EXPECT_TRUE(vide.Vide());
+  const CItem item(brut("a;b.c;d||e"));
+  EXPECT_EQ(item(1), brut("a;b.c;d"));
+  EXPECT_EQ(item(1, 2), brut("b.c"));
+  EXPECT_EQ(item(1, 2, 2) + item(1, 1, 1) + item(3, 1, 1), "cae");
+  EXPECT_EQ(item(1, 4) + item(1, 2, 3) + item(1, 0) + item(1, 1, -1) + item(2, 1) + item(4), "");
+  EXPECT_EQ(item.DCount(1), 3);
+  EXPECT_EQ(item.DCount(2) + item.DCount(4) + item.DCount(-1), 0);
+  EXPECT_EQ(item.GetText(-1, -1, -1), item.Text());
+  EXPECT_EQ(item.GetText(1, 0, 0), item(1));
+  EXPECT_EQ(item.GetText(1, 2, 0) + item.GetText(1, 2, 1), brut("b.cb"));
+}
+
+TEST(CItem, OrderOfSetsDoesNotShow) {
+  CItem x, y;
+  x.Set(3, 2, "c"), x.Set(1, "a"), x.Set(3, 1, 2, "b"), x.Set(5, "e"), x.Set(5, "");
+  y.Append("a"), y.Set(3, 1, 2, "z"), y.Set(3, 1, 2, "b"), y.Insert(3, 2, "c"), y.Set(1, 2, "");
+  EXPECT_EQ(lisible(x), "a||.b;c");
+  EXPECT_EQ(x.Text(), y.Text());
+}
+
+TEST(CItem, RefusesASeparatorThatWouldMoveNeighbours) {
+  CItem item(brut("a|b;c"));
+  EXPECT_THROW(item.Set(1, brut("x|y")), std::invalid_argument);
+  EXPECT_THROW(item.Set(1, 1, brut("x;y")), std::invalid_argument);
+  EXPECT_THROW(item.Set(1, 1, 1, brut("x.y")), std::invalid_argument);
+  EXPECT_THROW(item.Insert(1, brut("x|y")), std::invalid_argument);
+  EXPECT_THROW(item.Insert(2, 1, brut("x;y")), std::invalid_argument);
+  EXPECT_THROW(item.Insert(2, 1, 1, brut("x.y")), std::invalid_argument);
+  EXPECT_THROW(item.Append(brut("|")), std::invalid_argument);
+  EXPECT_EQ(lisible(item), "a|b;c");
+}
+
+class Carnet : public Attache {
+ public:
+  explicit Carnet(std::string& ecrit) : ecrit_(ecrit) {}
+  void Ecrire(std::string_view cle, std::string_view texte) const override {
+    ecrit_.append(cle).append("=").append(texte).append(";");
+  }
+
+ private:
+  std::string& ecrit_;
+};
+
+TEST(CItem, WritesUnderItsKeyOnlyWhenAttached) {
+  std::string ecrit;
+  CItem item(std::make_shared<Carnet>(ecrit), "00001001", "a");
+  const CItem copie = item;
+  item.SetText("");
+  EXPECT_EQ(item(0) + "/" + item(0, 1) + "/" + item(0, 2), "00001001/00001001/");
+  item.DBWrite();
+  item.Set(1, "b");
+  item.DBWriteU();
+  copie.DBWrite();
+  EXPECT_EQ(ecrit, "00001001=;00001001=b;00001001=a;");
+  try {
+    CItem("a").DBWrite();
+    FAIL() << "an unattached item was written";
+  } catch (const StoreError& e) {
+    EXPECT_EQ(e.Numero(), NumeroErreur::NonAttache);
+  }
+}
+
+}  // namespace
+}  // namespace data
