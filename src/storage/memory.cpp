@@ -39,15 +39,13 @@ void MemoryStorage::Put(std::string_view fichier, std::string_view cle, std::str
 }
 
 bool MemoryStorage::Erase(std::string_view fichier, std::string_view cle) {
-  data::VerifierEcriture(fichier, cle, {});
   std::string avant;
   const bool present = Get(fichier, cle, avant);
   Remplacer(fichier, cle, std::nullopt);
   return present;
 }
 
-// The one way in which a record changes. Nothing is stored before everything that can throw is
-// done, except the growth of the maps themselves.
+// The one way in which a record changes; no text means that it goes.
 void MemoryStorage::Remplacer(std::string_view fichier, std::string_view cle,
                               std::optional<std::string_view> texte) {
   interdire(parcours_ > 0, "MemoryStorage: write from a visitor");

@@ -1,0 +1,75 @@
+#pragma once
+// The store of a workstation: one data file, kept by SQLite, that several processes can share.
+// Readers never wait for a writer nor it for them; writers wait for each other, up to a bound.
+//
+// A write that has returned survives a crash of the program and of the machine. Every page and every
+// record carries a checksum that each read verifies: a damaged place is a StoreError Endommage,
+// never a text, and never taken for "no such record". One object serves one thread.
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "data/poste.h"
+#include "data/storage.h"
+
+namespace storage {
+
+struct SqliteOptions {
+  int attenteMs = 5000;  // how long a write waits for another process before StoreError Occupe
+  long pagesMax = 0;     // 8 KB pages that the file may grow to (then DisquePlein), 0 without bound
+};
+
+// A place of the file that does not read back as it was written.
+struct Dommage {
+  std::string fichier;  // with `cle`, the damaged record; empty when it is no single record
+  std::string cle;
+  std::string message;  // French, one sentence
+};
+
+class SqliteStorage : public data::Storage {
+ public:
+  // Of an existing data file. StoreError when it is absent, a directory, no data file, of another
+  // version, damaged, or on a place that cannot be written. `poste` must outlive the store.
+  static std::unique_ptr<SqliteStorage> Ouvrir(const std::string& chemin, const data::Poste& poste,
+                                               const SqliteOptions& options = {});
+  // The same to consult: every write is a StoreError LectureSeule. It also opens a file on a place
+  // that cannot be written; there, the file must not be changed from elsewhere meanwhile.
+  static std::unique_ptr<SqliteStorage> OuvrirEnLecture(const std::string& chemin,
+                                                        const data::Poste& poste,
+                                                        const SqliteOptions& options = {});
+  // Of a new data file without records. StoreError when something has that name already.
+  static std::unique_ptr<SqliteStorage> Creer(const std::string& chemin, const data::Poste& poste,
+                                              const SqliteOptions& options = {});
+  ~SqliteStorage() override;
+
+  bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override;
+  // A text equal to the stored one writes nothing. Over a damaged record it fails: what cannot be
+  // read cannot go to the history.
+  void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override;
+  bool Erase(std::string_view fichier, std::string_view cle) override;
+  void Scan(std::string_view fichier, const data::KeyRange& cles,
+            const Visiteur& visiteur) override;
+  // Reads the whole file.
+  std::vector<data::FichierCompte> Fichiers() override;
+  std::vector<data::AncienTexte> Historique(std::string_view fichier,
+                                            std::string_view cle) override;
+  // One transaction. A write of the block that failed takes the whole block with it, even when
+  // `travail` passes over the failure. A nested block, or a write from a scan's visitor, is a
+  // programmer's error (std::logic_error).
+  void EnUnBloc(const std::function<void()>& travail) override;
+
+  // Reads every page, record and former text and reports each damaged one; where a damaged page cuts
+  // the way, what stands behind it is read from the other end. `avance`, if any, is told now and then
+  // how many records and former texts have been read. Other processes may go on working.
+  void Verifier(const std::function<void(const Dommage&)>& signaler,
+                const std::function<void(long)>& avance = {});
+
+ private:
+  class Moteur;
+  explicit SqliteStorage(std::unique_ptr<Moteur> moteur);
+
+  std::unique_ptr<Moteur> moteur_;
+};
+
+}  // namespace storage

@@ -1,0 +1,124 @@
+#include "storage/sqlite_erreur.h"
+
+#include <sqlite3.h>
+
+#include <cerrno>
+
+#include "storage/sqlite_pages.h"
+
+namespace storage {
+
+namespace {
+
+using data::NumeroErreur;
+using data::StoreError;
+
+constexpr std::string_view kRestaurer =
+    "Arrêtez la saisie et restaurez la dernière sauvegarde ; la commande verifier de "
+    "contrat-base dit ce qui se lit encore.";
+
+// Result codes by their low byte, unless the whole code has a row of its own.
+struct Traduction {
+  int code;
+  NumeroErreur numero;
+  std::string_view suite;
+};
+constexpr std::string_view kOccupe =
+    "un autre poste garde le fichier occupé. Réessayez dans un instant.";
+constexpr std::string_view kLectureSeule =
+    "le fichier ou son dossier ne peut pas être modifié. Demandez le droit d'y écrire, ou "
+    "copiez le fichier à un endroit où vous l'avez.";
+constexpr std::string_view kPlein =
+    "le disque est plein. Rien n'a été enregistré : libérez de la place, puis recommencez.";
+constexpr std::string_view kEndommage = "le fichier de données est endommagé. ";
+constexpr std::string_view kTronque =
+    "le fichier de données est endommagé : il a été coupé court. ";
+constexpr Traduction kTraductions[] = {
+    {SQLITE_IOERR_DATA, NumeroErreur::Endommage, kEndommage},
+    {SQLITE_IOERR_CORRUPTFS, NumeroErreur::Endommage, kEndommage},
+    {SQLITE_IOERR_SHORT_READ, NumeroErreur::Endommage, kTronque},
+    {SQLITE_CORRUPT, NumeroErreur::Endommage, kEndommage},
+    {SQLITE_FORMAT, NumeroErreur::Endommage, kEndommage},
+    {SQLITE_BUSY, NumeroErreur::Occupe, kOccupe},
+    {SQLITE_LOCKED, NumeroErreur::Occupe, kOccupe},
+    {SQLITE_READONLY, NumeroErreur::LectureSeule, kLectureSeule},
+    {SQLITE_PERM, NumeroErreur::LectureSeule, kLectureSeule},
+    {SQLITE_FULL, NumeroErreur::DisquePlein, kPlein},
+    {SQLITE_NOTADB, NumeroErreur::PasUneBase,
+     "ce n'est pas un fichier de données. Vérifiez le chemin."},
+    {SQLITE_TOOBIG, NumeroErreur::TexteRefuse,
+     "le texte est trop long pour un article. Raccourcissez-le."},
+    {SQLITE_CANTOPEN, NumeroErreur::EntreeSortie,
+     "le fichier, ou le journal qui se tient à côté de lui, ne peut pas être ouvert. Vérifiez le "
+     "chemin et les droits sur le dossier."},
+    {SQLITE_NOMEM, NumeroErreur::EntreeSortie,
+     "la mémoire manque. Fermez d'autres programmes, puis recommencez."},
+};
+
+const Traduction* traduction(int code) {
+  for (const Traduction& ligne : kTraductions) {
+    if (ligne.code == code) return &ligne;
+  }
+  return (code & 0xFF) == code ? nullptr : traduction(code & 0xFF);
+}
+
+// SQLite calls some failures of the shared memory or the log plain input/output errors.
+int codePrecise(sqlite3* db, int code) {
+  if ((code & 0xFF) != SQLITE_IOERR || db == nullptr) return code;
+  switch (sqlite3_system_errno(db)) {
+    case ENOSPC:
+    case EDQUOT:
+      return SQLITE_FULL;
+    case EROFS:
+      return SQLITE_READONLY;
+    default:
+      return code;
+  }
+}
+
+std::string ou(const Acte& acte) {
+  std::string texte(acte.nom);
+  if (acte.fichier.empty()) return texte;
+  if (!acte.cle.empty() && !acte.apres) texte.append(" de l'article « ").append(acte.cle) += " »";
+  texte.append(" du fichier ").append(acte.fichier);
+  if (!acte.cle.empty() && acte.apres) texte.append(" après la clé « ").append(acte.cle) += " »";
+  return texte;
+}
+
+std::string suiteDe(sqlite3* db, int code) {
+  const Traduction* ligne = traduction(code);
+  if (ligne == nullptr) {
+    const char* detail = db == nullptr ? sqlite3_errstr(code) : sqlite3_errmsg(db);
+    return "le disque ou le fichier ne répond pas comme il faut (SQLite " + std::to_string(code) +
+           " : " + detail + "). Vérifiez le disque et la connexion au dossier, puis recommencez.";
+  }
+  if (ligne->numero != NumeroErreur::Endommage) return std::string(ligne->suite);
+  const std::int64_t page = db == nullptr ? 0 : derniereMauvaisePage(db);
+  std::string suite(ligne->suite);
+  if (page > 0) suite = "la page " + std::to_string(page) + " du fichier est endommagée. ";
+  return suite.append(kRestaurer);
+}
+
+}  // namespace
+
+StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const Acte& acte) {
+  const int precise = codePrecise(db, code);
+  const Traduction* ligne = traduction(precise);
+  return erreur(ligne == nullptr ? NumeroErreur::EntreeSortie : ligne->numero, chemin, acte,
+                suiteDe(db, precise));
+}
+
+StoreError erreur(NumeroErreur numero, const std::string& chemin, const Acte& acte,
+                  const std::string& suite) {
+  const std::string lien = acte.fichier.empty() ? " « " : " impossible dans « ";
+  const std::string fin = acte.fichier.empty() ? " » impossible : " : " » : ";
+  return StoreError(numero, ou(acte) + lien + chemin + fin + suite, std::string(acte.fichier),
+                    std::string(acte.cle));
+}
+
+StoreError erreurControle(const std::string& chemin, const Acte& acte) {
+  return erreur(NumeroErreur::Endommage, chemin, acte,
+                "l'article ne se relit pas tel qu'il a été écrit. " + std::string(kRestaurer));
+}
+
+}  // namespace storage

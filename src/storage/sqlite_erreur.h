@@ -1,0 +1,34 @@
+#pragma once
+// From SQLite's result codes to the store's errors, with a French text that says what failed,
+// where, and what to do.
+
+#include <string>
+#include <string_view>
+
+#include "data/store_error.h"
+
+struct sqlite3;
+
+namespace storage {
+
+// What was being done, to word an error. The views are only read while the call lasts.
+struct Acte {
+  // With a file: "Lecture", "Parcours". Without one, up to the data file's name: "Ouverture de".
+  std::string_view nom;
+  std::string_view fichier = {};
+  std::string_view cle = {};
+  bool apres = false;  // at some place after that key, not at its record
+};
+
+// The error for a result code of `db`, right after the call that gave it; `db` may be null.
+// `chemin` is the data file as the user named it.
+data::StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const Acte& acte);
+
+// An error that is found without SQLite: `suite` is the cause and what to do, in whole sentences.
+data::StoreError erreur(data::NumeroErreur numero, const std::string& chemin, const Acte& acte,
+                        const std::string& suite);
+
+// The error for a record, or a former text, whose checksum does not agree.
+data::StoreError erreurControle(const std::string& chemin, const Acte& acte);
+
+}  // namespace storage

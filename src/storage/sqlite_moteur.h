@@ -1,0 +1,82 @@
+#pragma once
+// What SqliteStorage holds: the connection, the statements that it keeps, and the state of blocks
+// and scans. For storage/sqlite.cpp alone.
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "storage/sqlite.h"
+#include "storage/sqlite_connexion.h"
+
+namespace storage {
+
+// A write transaction: taken when it is made, undone when it goes without Valider.
+class Transaction {
+ public:
+  Transaction(Connexion& connexion, const Acte& acte);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  // On return everything is on the disk.
+  void Valider(const Acte& acte);
+
+ private:
+  Connexion& connexion_;
+};
+
+// Scans may nest, so one statement is not enough: as many as were ever under way at once are kept.
+class ReserveRequetes {
+ public:
+  ReserveRequetes(Connexion& connexion, const char* sql) : connexion_(connexion), sql_(sql) {}
+  std::unique_ptr<Requete> Prendre(const Acte& acte);
+  void Rendre(std::unique_ptr<Requete> requete) noexcept;
+
+ private:
+  Connexion& connexion_;
+  const char* sql_;
+  std::vector<std::unique_ptr<Requete>> libres_;  // with room for all that were made
+  std::size_t faites_ = 0;
+};
+
+class SqliteStorage::Moteur {
+ public:
+  Moteur(std::unique_ptr<Connexion> connexion, const data::Poste& poste,
+         const SqliteOptions& options);
+
+  bool Lire(const Acte& acte, std::string& texte);
+  void Parcourir(const Acte& acte, const data::KeyRange& cles, const Visiteur& visiteur);
+  std::vector<data::FichierCompte> Compter();
+  std::vector<data::AncienTexte> Anciens(const Acte& acte);
+
+  void Poser(const Acte& acte, std::string_view texte);
+  bool Oter(const Acte& acte);
+
+  // Runs `ecriture` in the block under way, or in a transaction of its own.
+  void Ecrire(const Acte& acte, const std::function<void()>& ecriture);
+  void EnUnBloc(const std::function<void()>& travail);
+
+  Connexion& Lien() { return *connexion_; }
+  // Throws std::logic_error when a block or a scan is under way.
+  void ExigerRepos() const;
+
+ private:
+  void Archiver(const Acte& acte, std::string_view texte, bool supprime);
+  void ExigerBlocSain(const Acte& acte);
+
+  std::unique_ptr<Connexion> connexion_;
+  const data::Poste& poste_;
+  Requete lire_;
+  Requete poser_;
+  Requete oter_;
+  Requete archiver_;
+  Requete dernierNumero_;
+  ReserveRequetes scans_;
+  ReserveRequetes scansSansFin_;
+  bool enBloc_ = false;
+  std::exception_ptr rupture_;  // the first write of the block that failed
+  int parcours_ = 0;            // scans under way
+};
+
+}  // namespace storage

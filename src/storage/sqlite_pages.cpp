@@ -1,0 +1,207 @@
+#include "storage/sqlite_pages.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <utility>
+
+#include "storage/controle.h"
+
+namespace storage {
+
+namespace {
+
+constexpr std::size_t kContenu = kOctetsPage - kOctetsSceau;
+constexpr int kOctetsMinPage = 512;     // any SQLite page; shorter reads are of the header's fields
+constexpr int kDemandePage = 0x434F4E;  // file control: the last bad page
+
+// A main file. The file of the layer below stands right behind it, in the room that SQLite
+// reserved for both.
+struct Fichier : sqlite3_file {
+  std::int64_t mauvaisePage = 0;
+};
+static_assert(sizeof(Fichier) % 8 == 0, "the file behind it must stay aligned");
+
+Fichier& notre(sqlite3_file* fichier) {
+  return *static_cast<Fichier*>(fichier);
+}
+
+sqlite3_file* dessous(sqlite3_file* fichier) {
+  return reinterpret_cast<sqlite3_file*>(static_cast<Fichier*>(fichier) + 1);
+}
+
+sqlite3_vfs* vfsDessous(sqlite3_vfs* vfs) {
+  return static_cast<sqlite3_vfs*>(vfs->pAppData);
+}
+
+using Sceau = std::array<unsigned char, kOctetsSceau>;
+
+// Never zero: zero stands for a page without a seal.
+Sceau sceauDe(const char* page, std::int64_t numero) {
+  Controle controle;
+  controle.Nombre(numero);
+  controle.Texte({page, kContenu});
+  const std::uint64_t somme = std::max<std::uint64_t>(controle.Somme(), 1);
+  Sceau sceau;
+  for (std::size_t i = 0; i < sceau.size(); ++i) {
+    sceau[i] = static_cast<unsigned char>(somme >> (8 * i));
+  }
+  return sceau;
+}
+
+bool estPage(int octets, sqlite3_int64 position) {
+  return octets == kOctetsPage && position % kOctetsPage == 0;
+}
+
+int taille(sqlite3_file* f, sqlite3_int64* octets) {
+  return dessous(f)->pMethods->xFileSize(dessous(f), octets);
+}
+
+int refuserPage(sqlite3_file* fichier, sqlite3_int64 position) {
+  notre(fichier).mauvaisePage = position / kOctetsPage + 1;
+  return SQLITE_IOERR_DATA;
+}
+
+// A page that the file's end cuts. SQLite would take what is missing for zeros; only a file that is
+// still empty may lack its first page.
+int lireCoupee(sqlite3_file* fichier, sqlite3_int64 position) {
+  sqlite3_int64 octets = 0;
+  const int code = taille(fichier, &octets);
+  if (code != SQLITE_OK) return code;
+  return octets == 0 ? SQLITE_IOERR_SHORT_READ : refuserPage(fichier, position);
+}
+
+int lire(sqlite3_file* fichier, void* tampon, int octets, sqlite3_int64 position) {
+  const int code = dessous(fichier)->pMethods->xRead(dessous(fichier), tampon, octets, position);
+  if (octets < kOctetsMinPage) return code;
+  if (code == SQLITE_IOERR_SHORT_READ) return lireCoupee(fichier, position);
+  if (code != SQLITE_OK) return code;
+  if (!estPage(octets, position)) return refuserPage(fichier, position);
+  char* page = static_cast<char*>(tampon);
+  auto* sceau = reinterpret_cast<unsigned char*>(page + kContenu);
+  if (std::all_of(sceau, sceau + kOctetsSceau, [](unsigned char c) { return c == 0; })) return code;
+  const Sceau attendu = sceauDe(page, position / kOctetsPage + 1);
+  if (!std::equal(attendu.begin(), attendu.end(), sceau)) return refuserPage(fichier, position);
+  std::fill(sceau, sceau + kOctetsSceau, static_cast<unsigned char>(0));
+  return code;
+}
+
+int ecrire(sqlite3_file* fichier, const void* tampon, int octets, sqlite3_int64 position) {
+  const auto xWrite = dessous(fichier)->pMethods->xWrite;
+  if (!estPage(octets, position)) return xWrite(dessous(fichier), tampon, octets, position);
+  const char* page = static_cast<const char*>(tampon);
+  const Sceau sceau = sceauDe(page, position / kOctetsPage + 1);
+  std::array<char, kOctetsPage> scellee;
+  std::copy(page, page + kContenu, scellee.begin());
+  std::copy(sceau.begin(), sceau.end(), scellee.begin() + kContenu);
+  return xWrite(dessous(fichier), scellee.data(), octets, position);
+}
+
+int commander(sqlite3_file* fichier, int demande, void* valeur) {
+  if (demande != kDemandePage) {
+    return dessous(fichier)->pMethods->xFileControl(dessous(fichier), demande, valeur);
+  }
+  *static_cast<std::int64_t*>(valeur) = std::exchange(notre(fichier).mauvaisePage, 0);
+  return SQLITE_OK;
+}
+
+// What only passes through.
+int fermer(sqlite3_file* f) {
+  return dessous(f)->pMethods->xClose(dessous(f));
+}
+int couper(sqlite3_file* f, sqlite3_int64 taille) {
+  return dessous(f)->pMethods->xTruncate(dessous(f), taille);
+}
+int synchroniser(sqlite3_file* f, int modes) {
+  return dessous(f)->pMethods->xSync(dessous(f), modes);
+}
+int verrouiller(sqlite3_file* f, int degre) {
+  return dessous(f)->pMethods->xLock(dessous(f), degre);
+}
+int deverrouiller(sqlite3_file* f, int degre) {
+  return dessous(f)->pMethods->xUnlock(dessous(f), degre);
+}
+int estReserve(sqlite3_file* f, int* oui) {
+  return dessous(f)->pMethods->xCheckReservedLock(dessous(f), oui);
+}
+int secteur(sqlite3_file* f) {
+  return dessous(f)->pMethods->xSectorSize(dessous(f));
+}
+int qualites(sqlite3_file* f) {
+  return dessous(f)->pMethods->xDeviceCharacteristics(dessous(f));
+}
+int shmOuvrir(sqlite3_file* f, int region, int octets, int etendre, void volatile** ou) {
+  return dessous(f)->pMethods->xShmMap(dessous(f), region, octets, etendre, ou);
+}
+int shmVerrouiller(sqlite3_file* f, int debut, int n, int modes) {
+  return dessous(f)->pMethods->xShmLock(dessous(f), debut, n, modes);
+}
+void shmBarriere(sqlite3_file* f) {
+  dessous(f)->pMethods->xShmBarrier(dessous(f));
+}
+int shmFermer(sqlite3_file* f, int supprimer) {
+  return dessous(f)->pMethods->xShmUnmap(dessous(f), supprimer);
+}
+
+// Version 2 has the shared memory of the log and no memory-mapped pages, which would be read
+// without us.
+constexpr sqlite3_io_methods kMethodes = {
+    2,        fermer,      lire,           ecrire,      couper,    synchroniser,
+    taille,   verrouiller, deverrouiller,  estReserve,  commander, secteur,
+    qualites, shmOuvrir,   shmVerrouiller, shmBarriere, shmFermer, nullptr,
+    nullptr};
+
+int ouvrir(sqlite3_vfs* vfs, sqlite3_filename nom, sqlite3_file* fichier, int modes, int* obtenu) {
+  sqlite3_vfs* base = vfsDessous(vfs);
+  if ((modes & SQLITE_OPEN_MAIN_DB) == 0) return base->xOpen(base, nom, fichier, modes, obtenu);
+  new (fichier) Fichier{};
+  const int code = base->xOpen(base, nom, dessous(fichier), modes, obtenu);
+  fichier->pMethods = code == SQLITE_OK ? &kMethodes : nullptr;
+  return code;
+}
+
+// The methods that concern no open file are those of the layer below: they look at nothing in the
+// structure but its path length.
+sqlite3_vfs couche(sqlite3_vfs* base) {
+  sqlite3_vfs vfs = *base;
+  vfs.szOsFile = base->szOsFile + static_cast<int>(sizeof(Fichier));
+  vfs.pNext = nullptr;
+  vfs.zName = "contrats-pages";
+  vfs.pAppData = base;
+  vfs.xOpen = ouvrir;
+  return vfs;
+}
+
+// Registered once, for the life of the program; null when that failed.
+sqlite3_vfs* enregistree() {
+  if (sqlite3_initialize() != SQLITE_OK) return nullptr;
+  sqlite3_vfs* base = sqlite3_vfs_find(nullptr);
+  if (base == nullptr) return nullptr;
+  static sqlite3_vfs vfs = couche(base);
+  return sqlite3_vfs_register(&vfs, 0) == SQLITE_OK ? &vfs : nullptr;
+}
+
+}  // namespace
+
+const char* nomVfsPages() {
+  static const sqlite3_vfs* const vfs = enregistree();
+  return vfs == nullptr ? nullptr : vfs->zName;
+}
+
+std::int64_t derniereMauvaisePage(sqlite3* db) {
+  std::int64_t numero = 0;
+  sqlite3_file_control(db, "main", kDemandePage, &numero);
+  return numero;
+}
+
+bool pageSaine(sqlite3_file* fichier, std::int64_t numero) {
+  std::array<char, kOctetsPage> page;
+  const int code =
+      fichier->pMethods->xRead(fichier, page.data(), kOctetsPage, (numero - 1) * kOctetsPage);
+  notre(fichier).mauvaisePage = 0;
+  return code == SQLITE_OK;
+}
+
+}  // namespace storage

@@ -1,0 +1,33 @@
+#pragma once
+// Sealed pages. SQLite finds a record by the keys of its pages: a damaged key can make it answer
+// that a sound record is absent, and no check of the records that it does return would notice. So
+// each page of a data file ends with a seal, the checksum of its number and content, laid when the
+// page is written and verified when it is read: damage is an error before SQLite looks at it.
+//
+// This is a layer of SQLite's own file access (a "VFS") that passes everything through but the
+// pages of the main file; the write-ahead log has checksums of its own. In memory and in the log
+// the seal reads zero, and a page with a zero seal is taken unverified: so a copy of the log into
+// the file by an ordinary SQLite tool, after a crash, leaves a file that still opens.
+
+#include <cstdint>
+
+struct sqlite3;
+struct sqlite3_file;
+
+namespace storage {
+
+inline constexpr int kOctetsPage = 8192;
+inline constexpr int kOctetsSceau = 8;  // the end of each page that SQLite leaves to us
+
+// Registers the layer on first use; the name is what sqlite3_open_v2 asks for. Null when SQLite
+// could not be started.
+const char* nomVfsPages();
+
+// The number from 1 of the last page of `db` whose seal was found broken since the last call, 0
+// when there was none.
+std::int64_t derniereMauvaisePage(sqlite3* db);
+
+// Whether one page of a file opened through the layer, numbered from 1, reads back as written.
+bool pageSaine(sqlite3_file* fichier, std::int64_t numero);
+
+}  // namespace storage

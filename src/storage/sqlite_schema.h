@@ -1,0 +1,31 @@
+#pragma once
+// The data file as a file: its creation, its tables, and what is checked before it is used. Every
+// function refuses by a StoreError that names the file as it was given.
+//
+//   article  the current text of each record, in the order of file and key
+//   ancien   the former texts, in the order of file, key and number
+//
+// Both carry the checksum of all their other columns (see storage/controle.h).
+
+#include <memory>
+#include <string>
+
+#include "storage/sqlite_connexion.h"
+
+namespace storage {
+
+// Written in the file's header: what tells our files from other SQLite files, and the version of
+// the tables above.
+inline constexpr std::int64_t kApplication = 0x43545254;  // "CTRT"
+inline constexpr std::int64_t kVersion = 1;
+
+// Of an existing data file, to read and write.
+std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, int attenteMs);
+
+// Of an existing data file, to read only, on a place that may be read-only itself.
+std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin, int attenteMs);
+
+// Of a new data file without records. Refuses a path that exists; leaves nothing when it fails.
+std::unique_ptr<Connexion> creerFichier(const std::string& chemin, int attenteMs);
+
+}  // namespace storage

@@ -1,0 +1,321 @@
+// What every store must do, run against each of them.
+
+#include <map>
+#include <memory>
+#include <random>
+#include <stdexcept>
+
+#include "data/poste.h"
+#include "essai.h"
+#include "storage/memory.h"
+#include "storage/sqlite.h"
+#include "support/faulty_storage.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+using data::KeyRange;
+using essai::anciens;
+using essai::etat;
+using essai::refus;
+
+class Conformite : public testing::TestWithParam<std::string> {
+ protected:
+  Conformite() {
+    if (GetParam() == "memoire") {
+      store_ = std::make_unique<storage::MemoryStorage>(poste_);
+    } else {
+      store_ = storage::SqliteStorage::Creer(dossier_.Chemin("essai"), poste_);
+    }
+  }
+  data::Storage& Store() { return *store_; }
+  std::string Lire(std::string_view fichier, std::string_view cle) {
+    std::string texte = "intact";
+    return store_->Get(fichier, cle, texte) ? texte : "absent, " + texte;
+  }
+  std::string Cles(std::string_view fichier, const KeyRange& cles, std::size_t combien = 99) {
+    std::string texte;
+    store_->Scan(fichier, cles, [&](std::string_view cle, std::string_view) {
+      texte += (texte.empty() ? "" : " ") + std::string(cle);
+      return --combien > 0;
+    });
+    return texte;
+  }
+
+  data::PosteFixe poste_{21511, "MARTIN"};  // 22/11/2026
+  support::TempDir dossier_;
+  std::unique_ptr<data::Storage> store_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Magasins, Conformite, testing::Values("memoire", "sqlite"),
+                         [](const auto& essai) { return essai.param; });
+
+TEST_P(Conformite, PutGetErase) {
+  EXPECT_EQ(Lire("CONTRAT", "1"), "absent, intact");
+  Store().Put("CONTRAT", "1",
+              "a\x1e"
+              "b");
+  Store().Put("CONTRAT", "2", "");
+  Store().Put("TABLES", "1", std::string(100000, 'x'));
+  EXPECT_EQ(Lire("CONTRAT", "1"),
+            "a\x1e"
+            "b");
+  EXPECT_EQ(Lire("CONTRAT", "2"), "");
+  EXPECT_EQ(Lire("TABLES", "1"), std::string(100000, 'x'));
+  EXPECT_EQ(Lire("TABLES", "2"), "absent, intact");
+  EXPECT_TRUE(Store().Erase("TABLES", "1"));
+  EXPECT_FALSE(Store().Erase("TABLES", "1"));
+  EXPECT_FALSE(Store().Erase("TABLES", ""));
+  EXPECT_EQ(Lire("TABLES", "1"), "absent, intact");
+  EXPECT_EQ(etat(Store()),
+            "CONTRAT[1=a\x1e"
+            "b 2=]");
+}
+
+TEST_P(Conformite, ScanRangesInByteOrder) {
+  for (const char* cle : {"é", "z", "1", "01", "001", "00", "0", "~"}) Store().Put("B", cle, "t");
+  Store().Put("A", "0", "t");
+  Store().Put("B0", "5", "t");
+  KeyRange milieu;
+  milieu.debut = "001";
+  milieu.fin = "1";
+  milieu.sansFin = false;
+  KeyRange vide = milieu;
+  vide.fin = "001";
+  const struct {
+    KeyRange cles;
+    const char* attendu;
+  } cas[] = {
+      {KeyRange::Tout(), "0 00 001 01 1 z ~ é"},
+      {KeyRange::Prefixe("00"), "00 001"},
+      {KeyRange::Prefixe("é"), "é"},
+      {KeyRange::Prefixe("\xFF"), ""},
+      {KeyRange::Une("00"), "00"},
+      {KeyRange::Une("000"), ""},
+      {milieu, "001 01"},
+      {vide, ""},
+      {milieu.Avec(KeyRange::Prefixe("01")), "01"},
+      {KeyRange::Prefixe("z").Avec(milieu), ""},
+  };
+  for (const auto& c : cas) EXPECT_EQ(Cles("B", c.cles), c.attendu) << c.cles.debut;
+  EXPECT_EQ(Cles("B", KeyRange::Tout(), 3), "0 00 001");
+  EXPECT_EQ(Cles("C", KeyRange::Tout()), "");
+}
+
+TEST_P(Conformite, HistoryKeepsEveryFormerText) {
+  Store().Put("CONTRAT", "1", "a");
+  Store().Put("CONTRAT", "1", "a");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "");
+  Store().Put("CONTRAT", "1", "b");
+  poste_.SetAujourdhui(21512);
+  poste_.SetUtilisateur("PETIT");
+  Store().Erase("CONTRAT", "1");
+  Store().Put("CONTRAT", "1", "c");
+  Store().Put("CONTRAT", "1", "");
+  Store().Put("CONTRAT", "10", "autre");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "1:a 2:b- 3:c");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "10"), "");
+  const auto lus = Store().Historique("CONTRAT", "1");
+  EXPECT_EQ(lus[0].horodatage + lus[0].utilisateur, "2026-11-22 00:00:00MARTIN");
+  EXPECT_EQ(lus[1].horodatage + lus[1].utilisateur, "2026-11-23 00:00:00PETIT");
+}
+
+TEST_P(Conformite, BlockStandsWholeOrNotAtAll) {
+  Store().Put("CONTRAT", "1", "a");
+  Store().Put("TABLES", "x", "seul");
+  const auto travail = [&] {
+    Store().Put("CONTRAT", "1", "b");
+    Store().Put("CONTRAT", "1", "c");
+    Store().Put("CONTRAT", "2", "d");
+    Store().Erase("TABLES", "x");
+    Store().Put("ROLES", "r", "e");
+    EXPECT_EQ(etat(Store()), "CONTRAT[1=c 2=d] ROLES[r=e]");
+  };
+  EXPECT_THROW(Store().EnUnBloc([&] {
+    travail();
+    throw std::runtime_error("panne");
+  }),
+               std::runtime_error);
+  EXPECT_EQ(etat(Store()), "CONTRAT[1=a] TABLES[x=seul]");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "1") + anciens(Store(), "TABLES", "x"), "");
+  // A refused text that the block passes over takes nothing else with it.
+  Store().EnUnBloc([&] {
+    EXPECT_EQ(refus([&] { Store().Put("CONTRAT", "", "z"); }), "TexteRefuse CONTRAT");
+    travail();
+    EXPECT_THROW(Store().EnUnBloc([] {}), std::logic_error);
+  });
+  EXPECT_EQ(etat(Store()), "CONTRAT[1=c 2=d] ROLES[r=e]");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "1:a 2:b");
+  EXPECT_EQ(anciens(Store(), "TABLES", "x"), "1:seul-");
+}
+
+TEST_P(Conformite, WhatCannotBeHeldIsRefused) {
+  using std::string;
+  using namespace std::string_literals;
+  struct Cas {
+    string fichier, cle, texte;
+    bool admis = false;
+  };
+  std::vector<Cas> cas = {
+      {"", "1", "t"},
+      {"contrat", "1", "t"},
+      {"CON TRAT", "1", "t"},
+      {"CONTRAT\xC3\x89", "1", "t"},
+      {"CONTRAT", "", "t"},
+      {"CONTRAT", "a\nb", "t"},
+      {"CONTRAT", "a\x1e", "t"},
+      {"CONTRAT", "a\x7F", "t"},
+      {"CONTRAT", "a\xC2\x85", "t"},
+      {"CONTRAT", "a\0b"s, "t"},
+      {"CONTRAT", "a\xFF", "t"},
+      {"CONTRAT", "a\xC3", "t"},
+      {"F2", " é€ ", "", true},
+  };
+  // One character each, sound or not, at every place of the eight that are looked at together.
+  const std::pair<string, bool> caracteres[] = {
+      {"\0"s, false},
+      {"\x80", false},
+      {"\xBF", false},
+      {"\xC0\x80", false},
+      {"\xC1\xBF", false},
+      {"\xC2\x80", true},
+      {"\xDF\xBF", true},
+      {"\xE0\x9F\xBF", false},
+      {"\xE0\xA0\x80", true},
+      {"\xED\x9F\xBF", true},
+      {"\xED\xA0\x80", false},
+      {"\xEF\xBF\xBF", true},
+      {"\xE2\x82", false},
+      {"\xE2\x28\xA1", false},
+      {"\xF0\x8F\xBF\xBF", false},
+      {"\xF0\x90\x80\x80", true},
+      {"\xF4\x8F\xBF\xBF", true},
+      {"\xF4\x90\x80\x80", false},
+      {"\xF5\x80\x80\x80", false},
+      {"\xFF", false},
+      {"\x01\x1c\x1d\x1e\x7F", true},
+  };
+  for (const auto& [caractere, admis] : caracteres) {
+    for (std::size_t avant = 0; avant < 9; ++avant) {
+      cas.push_back({"CONTRAT", "1", string(avant, 'a') + caractere, admis});
+      cas.push_back({"CONTRAT", "1", string(avant, 'a') + caractere + "abcdefgh", admis});
+    }
+  }
+  for (const auto& c : cas) {
+    SCOPED_TRACE(testing::PrintToString(c.fichier + "|" + c.cle + "|" + c.texte));
+    string attendu = "TexteRefuse";
+    if (!c.fichier.empty()) attendu += " " + c.fichier;
+    if (!c.cle.empty()) attendu += " " + c.cle;
+    const auto ecrire = [&] { Store().Put(c.fichier, c.cle, c.texte); };
+    Store().EnUnBloc([&] { EXPECT_EQ(refus(ecrire), c.admis ? "rien" : attendu); });
+    EXPECT_EQ(Lire(c.fichier, c.cle), c.admis ? c.texte : "absent, intact");
+    Store().Erase(c.fichier, c.cle);
+  }
+}
+
+TEST_P(Conformite, ScansNestAndLetGo) {
+  for (const char* cle : {"1", "2", "3"}) Store().Put("CONTRAT", cle, "t");
+  std::string vus;
+  Store().Scan("CONTRAT", KeyRange::Tout(), [&](std::string_view a, std::string_view) {
+    Store().Scan("CONTRAT", KeyRange::Tout(), [&](std::string_view b, std::string_view) {
+      vus += std::string(a) + std::string(b) + Lire("CONTRAT", a) + " ";
+      return b != "2";
+    });
+    return true;
+  });
+  EXPECT_EQ(vus, "11t 12t 21t 22t 31t 32t ");
+  // A visitor that writes is stopped before it harms the scan; one that throws leaves nothing open.
+  EXPECT_THROW(Store().Scan("CONTRAT", KeyRange::Tout(),
+                            [&](std::string_view, std::string_view) {
+                              Store().Put("CONTRAT", "4", "t");
+                              return true;
+                            }),
+               std::logic_error);
+  Store().Put("CONTRAT", "3", "u");
+  EXPECT_EQ(etat(Store()), "CONTRAT[1=t 2=t 3=u]");
+}
+
+TEST_P(Conformite, FaultyStoreFailsAtTheCallItWasToldTo) {
+  support::FaultyStorage panne(Store());
+  panne.EchouerEcriture(2);
+  panne.Put("CONTRAT", "1", "a");
+  EXPECT_EQ(Lire("CONTRAT", "1"), "a");
+  EXPECT_EQ(refus([&] { panne.EnUnBloc([&] { panne.Put("CONTRAT", "2", "b"); }); }),
+            "EntreeSortie CONTRAT 2");
+  EXPECT_TRUE(panne.Erase("CONTRAT", "1"));
+  EXPECT_EQ(panne.Ecritures(), 3);
+  EXPECT_EQ(panne.Appels(), 4);
+  panne.EchouerAppel(1);
+  EXPECT_EQ(refus([&] { panne.Historique("CONTRAT", "1"); }), "EntreeSortie CONTRAT 1");
+  EXPECT_EQ(etat(panne), "");
+}
+
+// The plainest possible store, to compare with.
+struct Modele {
+  std::map<std::string, std::map<std::string, std::string>> fichiers;
+  std::map<std::string, std::string> historiques;  // by file and key, as essai::anciens writes them
+  std::map<std::string, int> numeros;
+
+  void Remplacer(const std::string& fichier, const std::string& cle, const std::string* texte) {
+    auto& articles = fichiers[fichier];
+    const auto avant = articles.find(cle);
+    if (avant != articles.end() && (texte == nullptr || *texte != avant->second)) {
+      const std::string lieu = fichier + "/" + cle;
+      auto& histoire = historiques[lieu];
+      histoire += (histoire.empty() ? "" : " ") + std::to_string(++numeros[lieu]) + ":" +
+                  avant->second + (texte == nullptr ? "-" : "");
+    }
+    if (texte == nullptr) {
+      articles.erase(cle);
+    } else {
+      articles[cle] = *texte;
+    }
+  }
+  std::string Etat() const {
+    std::string tout;
+    for (const auto& [nom, articles] : fichiers) {
+      if (articles.empty()) continue;
+      std::string lignes;
+      for (const auto& [cle, t] : articles) lignes += (lignes.empty() ? "" : " ") + cle + "=" + t;
+      tout += (tout.empty() ? "" : " ") + nom + "[" + lignes + "]";
+    }
+    return tout;
+  }
+};
+
+TEST_P(Conformite, RandomWorkAgreesWithAPlainMap) {
+  const unsigned graine = std::random_device{}();
+  SCOPED_TRACE("seed " + std::to_string(graine));
+  std::mt19937 hasard(graine);
+  const auto tirer = [&](unsigned n) { return hasard() % n; };
+  Modele modele;
+  const auto unActe = [&](Modele& m) {
+    const std::string fichier = tirer(2) == 0 ? "A" : "AB";
+    const std::string cle = std::to_string(tirer(12));
+    const std::string texte(tirer(4) == 0 ? 3000 : tirer(3), static_cast<char>('a' + tirer(3)));
+    if (tirer(3) == 0) {
+      EXPECT_EQ(Store().Erase(fichier, cle), m.fichiers[fichier].count(cle) == 1);
+      m.Remplacer(fichier, cle, nullptr);
+    } else {
+      Store().Put(fichier, cle, texte);
+      m.Remplacer(fichier, cle, &texte);
+    }
+    EXPECT_EQ(anciens(Store(), fichier, cle), m.historiques[fichier + "/" + cle]);
+  };
+  for (int tour = 0; tour < 60 && !HasFailure(); ++tour) {
+    Modele essai = modele;
+    const bool garder = tirer(3) != 0;
+    try {
+      Store().EnUnBloc([&] {
+        for (auto i = tirer(10); i > 0; --i) unActe(essai);
+        if (!garder) throw std::runtime_error("undo");
+      });
+    } catch (const std::runtime_error&) {
+    }
+    if (garder) modele = essai;
+    unActe(modele);
+    ASSERT_EQ(etat(Store()), modele.Etat());
+  }
+}
+
+}  // namespace
