@@ -66,6 +66,8 @@ std::unique_ptr<Connexion> borner(std::unique_ptr<Connexion> connexion,
 }  // namespace
 
 Transaction::Transaction(Connexion& connexion, const Acte& acte) : connexion_(connexion) {
+  // SQLite would let the transaction begin and refuse the first change only.
+  if (sqlite3_db_readonly(connexion_.Db(), "main") != 0) connexion_.Echouer(SQLITE_READONLY, acte);
   connexion_.Executer("BEGIN IMMEDIATE", acte);
 }
 

@@ -1,0 +1,203 @@
+// Opening and creating data files: what is accepted, and how the rest is refused.
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "data/poste.h"
+#include "essai.h"
+#include "storage/sqlite.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+using essai::etat;
+using essai::refus;
+using storage::SqliteStorage;
+namespace fs = std::filesystem;
+
+class Ouverture : public testing::Test {
+ protected:
+  std::string Creer(const std::string& nom) {
+    const std::string chemin = dossier_.Chemin(nom);
+    SqliteStorage::Creer(chemin, poste_)->Put("CONTRAT", "1", "a");
+    return chemin;
+  }
+  // Writes `octets` over a file's bytes from `lieu` on.
+  static void Ecraser(const std::string& chemin, long lieu, const std::string& octets) {
+    std::fstream fichier(chemin, std::ios::in | std::ios::out | std::ios::binary);
+    fichier.seekp(lieu);
+    fichier << octets;
+  }
+  static void Ecrire(const std::string& chemin, const std::string& octets) {
+    std::ofstream(chemin, std::ios::binary) << octets;
+  }
+
+  data::PosteFixe poste_{21511};
+  support::TempDir dossier_;
+};
+
+TEST_F(Ouverture, RefusesWhatIsNoDataFileOfThisVersion) {
+  // Places of SQLite's header: application 68, version 60, page size 16, all big-endian.
+  const std::string version2{"\0\0\0\x02", 4};
+  const std::string version0{"\0\0\0\0", 4};
+  const struct {
+    const char* nom;
+    std::function<void(const std::string&)> faire;
+    const char* attendu;
+    const char* dit;
+  } cas[] = {
+      {"absent", [](const auto&) {}, "EntreeSortie", "pas de fichier à cet endroit"},
+      {"dossier", [](const auto& c) { fs::create_directory(c); }, "PasUneBase", "un dossier"},
+      {"tube", [](const auto& c) { mkfifo(c.c_str(), 0600); }, "PasUneBase", "pas un fichier"},
+      {"vide", [](const auto& c) { Ecrire(c, ""); }, "PasUneBase", "est vide"},
+      {"court", [](const auto& c) { Ecrire(c, "SQLite format 3"); }, "PasUneBase",
+       "pas un fichier"},
+      {"texte", [](const auto& c) { Ecrire(c, std::string(9000, 'x')); }, "PasUneBase",
+       "pas un fichier"},
+      {"autre", [&](const auto&) { Ecraser(Creer("autre"), 68, "ABCD"); }, "PasUneBase",
+       "autre programme"},
+      {"neuf", [&](const auto&) { Ecraser(Creer("neuf"), 60, version2); }, "VersionInconnue",
+       "Installez la dernière version"},
+      {"vieux", [&](const auto&) { Ecraser(Creer("vieux"), 60, version0); }, "VersionInconnue",
+       "Exportez"},
+      {"pages", [&](const auto&) { Ecraser(Creer("pages"), 16, "\x10"); }, "Endommage",
+       "endommagé"},
+      {"sous/un/fichier", [](const auto&) {}, "EntreeSortie", "pas de fichier à cet endroit"},
+  };
+  Ecrire(dossier_.Chemin("sous"), "x");
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.nom);
+    const std::string chemin = dossier_.Chemin(c.nom);
+    c.faire(chemin);
+    for (const bool lecture : {false, true}) {
+      std::string message;
+      EXPECT_EQ(refus(
+                    [&] {
+                      lecture ? SqliteStorage::OuvrirEnLecture(chemin, poste_)
+                              : SqliteStorage::Ouvrir(chemin, poste_);
+                    },
+                    &message),
+                c.attendu);
+      EXPECT_NE(message.find("Ouverture de « " + chemin + " » impossible"), std::string::npos)
+          << message;
+      EXPECT_NE(message.find(c.dit), std::string::npos) << message;
+    }
+  }
+}
+
+TEST_F(Ouverture, CreatesOnlyWhereNothingStands) {
+  const std::string present = Creer("present");
+  const std::string vide = dossier_.Chemin("vide");
+  Ecrire(vide, "");
+  const auto creer = [&](const std::string& chemin) {
+    return refus([&] { SqliteStorage::Creer(chemin, poste_); });
+  };
+  EXPECT_EQ(creer(present), "EntreeSortie");
+  EXPECT_EQ(creer(vide), "EntreeSortie");
+  EXPECT_EQ(creer(dossier_.Dossier().string()), "EntreeSortie");
+  EXPECT_EQ(creer(dossier_.Chemin("nulle/part")), "EntreeSortie");
+  EXPECT_EQ(fs::file_size(vide), 0U);
+  EXPECT_EQ(etat(*SqliteStorage::Ouvrir(present, poste_)), "CONTRAT[1=a]");
+}
+
+TEST_F(Ouverture, NamesThatSqliteWouldReadOtherwiseAreFileNames) {
+  const fs::path avant = fs::current_path();
+  fs::current_path(dossier_.Dossier());
+  for (const char* nom : {":memory:", "file:x?mode=memory", "l'été 100%.contrats"}) {
+    SqliteStorage::Creer(nom, poste_)->Put("CONTRAT", "1", nom);
+    EXPECT_TRUE(fs::is_regular_file(nom)) << nom;
+    EXPECT_EQ(etat(*SqliteStorage::Ouvrir(nom, poste_)), "CONTRAT[1=" + std::string(nom) + "]");
+  }
+  fs::current_path(avant);
+}
+
+TEST_F(Ouverture, ReadOnlyOpeningReadsAndNeverWrites) {
+  const std::string chemin = Creer("essai");
+  const auto ecrivain = SqliteStorage::Ouvrir(chemin, poste_);
+  const auto lecteur = SqliteStorage::OuvrirEnLecture(chemin, poste_);
+  ecrivain->Put("CONTRAT", "2", "b");
+  EXPECT_EQ(etat(*lecteur), "CONTRAT[1=a 2=b]");
+  EXPECT_EQ(refus([&] { lecteur->Put("CONTRAT", "3", "c"); }), "LectureSeule CONTRAT 3");
+  EXPECT_EQ(refus([&] { lecteur->Erase("CONTRAT", "1"); }), "LectureSeule CONTRAT 1");
+  EXPECT_EQ(refus([&] { lecteur->EnUnBloc([] {}); }), "LectureSeule");
+  EXPECT_EQ(etat(*lecteur), "CONTRAT[1=a 2=b]");
+}
+
+// Runs `acte` in a process of a user without rights, as a test run by root must: what it answers.
+std::string sansDroits(const std::function<std::string()>& acte) {
+  int tube[2];
+  if (pipe(tube) != 0) return "no pipe";
+  const pid_t enfant = fork();
+  if (enfant == 0) {
+    const bool change = geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0);
+    const std::string reponse = change ? acte() : "still root";
+    const ssize_t ecrits = write(tube[1], reponse.data(), reponse.size());
+    _exit(ecrits == static_cast<ssize_t>(reponse.size()) ? 0 : 1);
+  }
+  close(tube[1]);
+  std::string reponse(200, '\0');
+  const ssize_t lus = read(tube[0], reponse.data(), reponse.size());
+  close(tube[0]);
+  waitpid(enfant, nullptr, 0);
+  reponse.resize(lus < 0 ? 0 : static_cast<std::size_t>(lus));
+  return reponse;
+}
+
+TEST_F(Ouverture, PlacesWithoutRights) {
+  const std::string chemin = Creer("essai.contrats");
+  const auto ouvrir = [&] { return refus([&] { SqliteStorage::Ouvrir(chemin, poste_); }); };
+  const auto consulter = [&] {
+    std::string lu;
+    const std::string erreur =
+        refus([&] { lu = etat(*SqliteStorage::OuvrirEnLecture(chemin, poste_)); });
+    return lu.empty() ? erreur : lu;
+  };
+  const auto creer = [&] {
+    return refus([&] { SqliteStorage::Creer(dossier_.Chemin("neuf"), poste_); });
+  };
+  fs::permissions(dossier_.Dossier(), fs::perms{0555});
+  fs::permissions(chemin, fs::perms{0666});
+  EXPECT_EQ(sansDroits(ouvrir), "LectureSeule");
+  EXPECT_EQ(sansDroits(consulter), "CONTRAT[1=a]");
+  EXPECT_EQ(sansDroits(creer), "LectureSeule");
+  fs::permissions(dossier_.Dossier(), fs::perms{0777});
+  fs::permissions(chemin, fs::perms{0444});
+  EXPECT_EQ(sansDroits(ouvrir), "LectureSeule");
+  fs::permissions(chemin, fs::perms{0200});
+  EXPECT_EQ(sansDroits(ouvrir), "EntreeSortie");
+  EXPECT_EQ(sansDroits(consulter), "EntreeSortie");
+}
+
+TEST_F(Ouverture, FullDiskRefusesAndKeepsWhatStood) {
+  const std::string chemin = Creer("essai");
+  const std::string gros(20000, 'x');
+  const auto store = SqliteStorage::Ouvrir(chemin, poste_, {50, 12});
+  std::string message;
+  int ecrits = 0;
+  while (ecrits < 100 &&
+         refus([&] { store->Put("TABLES", std::to_string(ecrits), gros); }, &message) == "rien") {
+    ++ecrits;
+  }
+  // Twelve pages of 8 KB hold at most four texts of 20,000 bytes, and at least one.
+  EXPECT_GE(ecrits, 1);
+  EXPECT_LE(ecrits, 4);
+  EXPECT_NE(message.find("le disque est plein"), std::string::npos) << message;
+  EXPECT_EQ(refus([&] {
+              store->EnUnBloc([&] {
+                store->Put("CONTRAT", "1", "b");
+                // Passing over the failure does not save the rest of the block.
+                refus([&] { store->Put("TABLES", "fin", gros); });
+              });
+            }),
+            "DisquePlein TABLES fin");
+  EXPECT_EQ(store->Fichiers().back().articles, ecrits);
+  store->Put("CONTRAT", "1", "c");
+  std::string texte;
+  EXPECT_TRUE(SqliteStorage::Ouvrir(chemin, poste_)->Get("CONTRAT", "1", texte));
+  EXPECT_EQ(texte, "c");
+}
+
+}  // namespace

@@ -1,0 +1,133 @@
+// Several processes on one data file, and processes that die.
+
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "data/poste.h"
+#include "essai.h"
+#include "storage/sqlite.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+using essai::etat;
+using essai::refus;
+using storage::SqliteStorage;
+
+class Processus : public testing::Test {
+ protected:
+  Processus() { SqliteStorage::Creer(chemin_, poste_)->Put("CONTRAT", "0", "a"); }
+  std::unique_ptr<SqliteStorage> Ouvrir(int attenteMs = 5000) {
+    return SqliteStorage::Ouvrir(chemin_, poste_, {attenteMs, 0});
+  }
+  // A child that runs `acte`, exits with 0 when it returns and with 1 when it throws.
+  static pid_t Lancer(const std::function<void()>& acte) {
+    const pid_t enfant = fork();
+    if (enfant != 0) return enfant;
+    try {
+      acte();
+    } catch (...) {
+      _exit(1);
+    }
+    _exit(0);
+  }
+  static int Attendre(pid_t enfant) {
+    int fin = -1;
+    waitpid(enfant, &fin, 0);
+    return fin;
+  }
+  static bool Tue(int fin) { return WIFSIGNALED(fin) && WTERMSIG(fin) == SIGKILL; }
+
+  data::PosteFixe poste_{21511};
+  support::TempDir dossier_;
+  std::string chemin_ = dossier_.Chemin("essai");
+};
+
+TEST_F(Processus, WritersWaitForEachOther) {
+  constexpr int kEnfants = 3;
+  constexpr int kTours = 40;
+  std::vector<pid_t> enfants;
+  for (int e = 0; e < kEnfants; ++e) {
+    enfants.push_back(Lancer([&, e] {
+      const auto store = Ouvrir();
+      for (int i = 0; i < kTours; ++i) {
+        store->Put("CONTRAT", std::to_string(e + 1) + "-" + std::to_string(i), "t");
+        store->Put("CONTRAT", "0", std::to_string(e) + "." + std::to_string(i));
+      }
+    }));
+  }
+  for (const pid_t enfant : enfants) EXPECT_EQ(Attendre(enfant), 0);
+  const auto store = Ouvrir();
+  EXPECT_EQ(store->Fichiers().at(0).articles, 1 + kEnfants * kTours);
+  // No overwritten text is lost, whoever overwrote it.
+  EXPECT_EQ(store->Historique("CONTRAT", "0").size(), kEnfants * kTours);
+}
+
+TEST_F(Processus, LockHeldTooLongIsOccupe) {
+  const auto premier = Ouvrir();
+  const auto second = Ouvrir(50);
+  premier->EnUnBloc([&] {
+    premier->Put("CONTRAT", "0", "b");
+    std::string message;
+    EXPECT_EQ(refus([&] { second->Put("CONTRAT", "0", "c"); }, &message), "Occupe CONTRAT 0");
+    EXPECT_EQ(message, "Écriture de l'article « 0 » du fichier CONTRAT impossible dans « " +
+                           chemin_ +
+                           " » : un autre poste garde le fichier occupé. Réessayez dans un "
+                           "instant.");
+    EXPECT_EQ(etat(*second), "CONTRAT[0=a]");
+  });
+  second->Put("CONTRAT", "0", "c");
+  EXPECT_EQ(essai::anciens(*premier, "CONTRAT", "0"), "1:a 2:b");
+}
+
+TEST_F(Processus, KilledWriterLosesNothingAcknowledged) {
+  int tube[2];
+  ASSERT_EQ(pipe(tube), 0);
+  const pid_t enfant = Lancer([&] {
+    const auto store = Ouvrir();
+    for (int i = 1; i <= 30; ++i) {
+      store->Put("CONTRAT", "0", std::to_string(i));
+      if (write(tube[1], "x", 1) != 1) return;
+    }
+    store->EnUnBloc([&] {
+      for (int i = 0; i < 3000; ++i) store->Put("TABLES", std::to_string(i), std::string(900, 't'));
+      raise(SIGKILL);
+    });
+  });
+  close(tube[1]);
+  char octet = 0;
+  int accuses = 0;
+  while (read(tube[0], &octet, 1) == 1) ++accuses;
+  close(tube[0]);
+  EXPECT_TRUE(Tue(Attendre(enfant)));
+  ASSERT_EQ(accuses, 30);
+  const auto store = Ouvrir(50);
+  EXPECT_EQ(etat(*store), "CONTRAT[0=30]");
+  EXPECT_EQ(store->Historique("CONTRAT", "0").size(), 30U);
+  store->Put("CONTRAT", "0", "suite");
+  store->Verifier([](const storage::Dommage& d) { ADD_FAILURE() << d.message; });
+}
+
+// After a crash the last writes stand in the log alone. An ordinary SQLite tool that looks at the
+// file then copies them into it, without seals.
+TEST_F(Processus, AnOrdinaryToolMayLookAfterACrash) {
+  const pid_t enfant = Lancer([&] {
+    const auto store = Ouvrir();
+    for (int i = 1; i <= 50; ++i) store->Put("CONTRAT", std::to_string(i), std::string(900, 't'));
+    raise(SIGKILL);
+  });
+  ASSERT_TRUE(Tue(Attendre(enfant)));
+  sqlite3* db = nullptr;
+  ASSERT_EQ(sqlite3_open(chemin_.c_str(), &db), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(db, "SELECT count(*) FROM article", nullptr, nullptr, nullptr), SQLITE_OK);
+  sqlite3_close(db);
+  ASSERT_FALSE(std::filesystem::exists(chemin_ + "-wal"));
+  const auto store = Ouvrir();
+  EXPECT_EQ(store->Fichiers().at(0).articles, 51);
+  store->Verifier([](const storage::Dommage& d) { ADD_FAILURE() << d.message; });
+}
+
+}  // namespace
