@@ -22,12 +22,15 @@ constexpr bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-// `what` is the thing refused, with its article; `at` the byte where it stops making sense.
+// `what` is the thing refused, with its article; `at` the byte where it stops making sense. In the
+// quote, blanks stand for control characters, so that the places stay.
 [[noreturn]] void refuseAt(std::string_view what, std::string_view text, std::size_t at,
                            std::string_view why, std::string_view file) {
+  std::string quoted(text);
+  for (char& c : quoted) c = static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
   std::string message(what);
   message += " « ";
-  message += text;
+  message += quoted;
   message +=
       " » est refusée au caractère " + std::to_string(longueur(text.substr(0, at)) + 1) + " : ";
   message += why;
@@ -55,7 +58,7 @@ bool findField(std::string_view file, std::string_view name, Field& field) {
 std::string unknownField(std::string_view file, std::string_view name) {
   if (name.empty()) return "un champ est attendu";
   std::string why("« ");
-  why += name;
+  why += sansControles(name);
   why += " » n'est ni un numéro d'attribut ni un nom de champ du fichier ";
   return why += file;
 }
