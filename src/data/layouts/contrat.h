@@ -232,13 +232,7 @@ inline constexpr int GroupeStage[] = {StageEcole, StageSujet, StageTuteur, Stage
                                       StageSeuil};
 
 // Values that the rules name.
-inline constexpr const char* ConventionParticuliers = "02";
 inline constexpr const char* MarqueAnnule = "O";
 inline constexpr const char* NatureStage = "STG";
-
-// The key in two parts: code of the carer, then number.
-inline constexpr int LongueurCode = 5;
-inline constexpr int LongueurNumero = 3;
-inline constexpr int LongueurCle = LongueurCode + LongueurNumero;
 
 }  // namespace data::Contrat
