@@ -167,15 +167,10 @@ class Lecture : public nlohmann::json_sax<Json> {
     return true;
   }
 
-  bool parse_error(std::size_t, const std::string& jeton, const Json::exception&) override {
-    std::size_t place = Position(lu_);
-    if (place == json_.size() && Incomplet(jeton)) {
-      Refuse(place, "JSON incomplet : le texte s'arrête avant la fin");
-    }
-    // The parser reads one character beyond a number and gives it back.
-    if (place > 0) --place;
-    if (place > 0 && !jeton.empty() && json_[place] != jeton.back()) --place;
-    Refuse(DebutDeCaractere(place), "JSON invalide à partir d'ici");
+  bool parse_error(std::size_t, const std::string&, const Json::exception&) override {
+    const std::size_t place = PlaceFautive();
+    if (place == json_.size()) Refuse(place, "JSON incomplet : le texte s'arrête avant la fin");
+    Refuse(place, "JSON invalide à partir d'ici");
     return false;
   }
 
@@ -238,14 +233,21 @@ class Lecture : public nlohmann::json_sax<Json> {
     while (place != fin && blancs.find(*place) != std::string_view::npos) ++place;
     return place;
   }
-  std::size_t DebutDeCaractere(std::size_t place) const {
-    while (place > 0 && (static_cast<unsigned char>(json_[place]) & 0xC0) == 0x80) --place;
-    return place;
-  }
-  // Whether the last token is the end of the text, or a string that it cuts short.
-  static bool Incomplet(const std::string& jeton) {
-    if (jeton.empty()) return true;
-    return jeton.front() == '"' && (jeton.size() == 1 || jeton.back() != '"');
+  // Where the token begins that the parser could not take; inside a string, the very character;
+  // the end of the text when it is the end that comes too early.
+  std::size_t PlaceFautive() const {
+    constexpr std::string_view Blancs = " \t\r\n";
+    const char* const fin = json_.data() + json_.size();
+    const char* place = ApresBlancs(finJeton_, Blancs);
+    if (place != fin && (*place == ',' || *place == ':')) {
+      // One separator may stand before the token; it is passed once the parser has read beyond it.
+      const char* const apres = ApresBlancs(place + 1, Blancs);
+      if (place + 1 < lu_ || apres == fin) place = apres;
+    }
+    const bool texteOuvert = place != fin && *place == '"' && (place + 1 == lu_ || lu_[-1] != '"');
+    if (texteOuvert) place = lu_ == fin ? fin : lu_ - 1;
+    while (place != fin && (static_cast<unsigned char>(*place) & 0xC0) == 0x80) --place;
+    return Position(place);
   }
 
   std::string_view json_;

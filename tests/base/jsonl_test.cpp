@@ -1,0 +1,222 @@
+// Records as JSON and JSON Lines: what is refused and where, what comes back, what is written.
+
+#include "base/jsonl.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <sstream>
+
+#include "base/cles_vues.h"
+#include "data/citem.h"
+
+namespace {
+
+using base::Enregistrement;
+using base::LecteurJsonl;
+using base::RefusJson;
+
+// "column: reason", or the record written again.
+std::string lecture(const std::string& ligne) {
+  try {
+    const Enregistrement lu = base::lireEnregistrement(ligne);
+    std::string ecrit;
+    base::ecrireEnregistrement(ecrit, lu.fichier, lu.cle, lu.texte);
+    return ecrit;
+  } catch (const RefusJson& refus) {
+    return std::to_string(refus.Colonne()) + ": " + refus.what();
+  }
+}
+
+std::string avecItem(const std::string& item) {
+  return R"({"fichier":"PCS","cle":"1","item":)" + item + "}";
+}
+
+// A caret stands before the character that the refusal must point at.
+struct MauvaiseLigne {
+  std::string ligne;
+  std::string debutRaison;
+};
+
+void attendRefus(const MauvaiseLigne& cas) {
+  const std::size_t place = cas.ligne.find('^');
+  ASSERT_NE(place, std::string::npos) << cas.ligne;
+  long colonne = 1;
+  for (const char c : cas.ligne.substr(0, place)) {
+    if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) ++colonne;
+  }
+  const std::string ligne = cas.ligne.substr(0, place) + cas.ligne.substr(place + 1);
+  const std::string attendu = std::to_string(colonne) + ": " + cas.debutRaison;
+  EXPECT_EQ(lecture(ligne).substr(0, attendu.size()), attendu) << ligne;
+}
+
+TEST(ArticleJson, RefuseAvecPlaceEtRaison) {
+  const MauvaiseLigne cas[] = {
+      // JSON that is none.
+      {R"({"fichier":"PCS","cle":"1","item":["a"^)", "JSON incomplet"},
+      {R"({"fichier":"PCS","cle":"1","item":["é^)", "JSON incomplet"},
+      {"^", "JSON incomplet"},
+      {avecItem(R"(["a",^])"), "JSON invalide"},
+      {avecItem(R"(["a" ^"b"])"), "JSON invalide"},
+      {avecItem(R"(["é",^tru])"), "JSON invalide"},
+      {avecItem(R"(["é\^x"])"), "JSON invalide"},
+      {R"({"fichier" ^12})", "JSON invalide"},
+      {avecItem("[]") + "^{}", "JSON invalide"},
+      {avecItem("[]") + " ^é", "JSON invalide"},
+      // Another shape.
+      {R"(^["a"])", "un enregistrement est un objet"},
+      {R"(^12)", "un enregistrement est un objet"},
+      {avecItem(R"(^"a")"), "un article est le tableau"},
+      {avecItem("^12"), "un article est le tableau"},
+      {avecItem(R"(["a",^{"b":"c"}])"), "objet à l'intérieur"},
+      {avecItem(R"([["a",["b",^["c"]]]])"), "tableau trop profond"},
+      {avecItem(R"(["é",^-3.5])"), "nombre au lieu d'un texte"},
+      {avecItem(R"(["a",["b", ^7]])"), "nombre au lieu d'un texte"},
+      {avecItem("[^null]"), "« true », « false » et « null »"},
+      {R"({"fichier":"PCS","cle":^12,"item":[]})", "nombre au lieu d'un texte"},
+      {R"({"fichier":^["PCS"],"cle":"1","item":[]})", "« fichier » doit être un texte"},
+      // Members.
+      {R"({"fichier":"PCS","cle":"1","item":[], ^"autre":1})", "membre inconnu « autre »"},
+      {R"({"fichier":"PCS","item":[]^})", "il manque le membre « cle »"},
+      {R"({"fichier":"PCS","cle":"1","item":[],^"cle":"2"})", "membre « cle » donné deux fois"},
+      {R"({"fichier": ^"pcs","cle":"1","item":[]})", "Le nom de fichier « pcs »"},
+      {R"({"fichier":^"","cle":"1","item":[]})", "Le nom de fichier"},
+      {R"({"cle" : ^"","fichier":"PCS","item":[]})", "Un article du fichier PCS"},
+      // Characters that no text may hold.
+      {avecItem("[\"é^\x1e\"]"), "séparateur U+001E"},
+      {avecItem("[\"é^\tb\"]"), "caractère de contrôle U+0009"},
+      {avecItem("[\"a^\xC2\x85\"]"), "caractère de contrôle U+0085"},
+      {avecItem(R"(["é^\u001Db"])"), "séparateur U+001D"},
+      {avecItem(R"(["a\\^\n"])"), "caractère de contrôle U+000A"},
+      {avecItem(R"(["^\u007f"])"), "caractère de contrôle U+007F"},
+      {R"({"fichier":"PCS","cle":"1^\u0000","item":[]})", "caractère de contrôle U+0000"},
+      {avecItem("[\"é^\xFF\"]"), "octet qui n'est pas de l'UTF-8"},
+      {avecItem("[\"^\xC0\x80\"]"), "octet qui n'est pas de l'UTF-8"},
+      {avecItem("[\"^\xED\xA0\x80\"]"), "octet qui n'est pas de l'UTF-8"},
+      {avecItem("[]") + "^\xE2\x82", "octet qui n'est pas de l'UTF-8"},
+  };
+  for (const auto& c : cas) attendRefus(c);
+}
+
+TEST(ArticleJson, EcritLaFormeLaPlusCourte) {
+  const struct {
+    const char* item;
+    const char* ecrit;
+  } cas[] = {
+      {"[]", "[]"},
+      {R"(["a","",""])", R"(["a"])"},
+      {R"(["","a"])", R"(["","a"])"},
+      {R"([[],["",""],[["",""]],"b"])", R"(["","","","b"])"},
+      {R"([["a"],[["b"]]])", R"(["a","b"])"},
+      {R"([["a","",["b","","c",""],""]])", R"([["a","",["b","","c"]]])"},
+      {R"([[["a","b"]]])", R"([[["a","b"]]])"},
+      {R"([["",["","a"]],[["b"],"c"]])", R"([["",["","a"]],["b","c"]])"},
+      {R"([ "a\/\u00e9\ud83d\ude00" , "\\u001e\"" ])", R"(["a/é😀","\\u001e\""])"},
+  };
+  for (const auto& c : cas) EXPECT_EQ(lecture(avecItem(c.item)), avecItem(c.ecrit)) << c.item;
+  EXPECT_EQ(lecture(R"( {"item":["a"],"cle":"1", "fichier":"PCS"} )"), avecItem(R"(["a"])"));
+}
+
+TEST(ArticleJson, LItemSeulPeutTenirSurDesLignes) {
+  EXPECT_EQ(data::CItem(base::lireItem("[\n \"a\",\r\n [\"b\",\"c\"]\n]"))(2, 2), "c");
+  try {
+    base::lireItem("[\n \"é\", 3]");
+    FAIL();
+  } catch (const RefusJson& refus) {
+    EXPECT_EQ(refus.Ligne(), 2);
+    EXPECT_EQ(refus.Colonne(), 7);
+  }
+}
+
+// The keys that come out of the reader, "!line:column" for a refused line.
+std::string cles(const std::string& entree, std::size_t limite) {
+  std::istringstream flux(entree);
+  LecteurJsonl lecteur(flux, limite);
+  std::string suite;
+  for (;;) {
+    try {
+      Enregistrement lu;
+      if (!lecteur.Suivant(lu)) return suite;
+      suite += lu.cle + '@' + std::to_string(lecteur.Ligne()) + ' ';
+    } catch (const RefusJson& refus) {
+      suite += '!' + std::to_string(refus.Ligne()) + ':' + std::to_string(refus.Colonne()) + ' ';
+    }
+  }
+}
+
+TEST(LecteurJsonl, CompteLesLignesEtReprendApresUnRefus) {
+  const std::string a = R"({"fichier":"PCS","cle":"a","item":[]})";  // 37 bytes
+  const std::string b = R"({"fichier":"PCS","cle":"b","item":[]})";
+  EXPECT_EQ(cles("", 100), "");
+  EXPECT_EQ(cles("\n \t\r\n", 100), "");
+  EXPECT_EQ(cles("\xEF\xBB\xBF" + a + "\r\n\r\n" + b, 100), "a@1 b@3 ");
+  EXPECT_EQ(cles(a + "\nx\n" + b + "\n", 100), "a@1 !2:1 b@3 ");
+  EXPECT_EQ(cles(a + "\n" + a + " \n" + b, 37), "a@1 !2:38 b@3 ");
+}
+
+TEST(LecteurJsonl, LitUneLigneDePlusieursMegaoctets) {
+  std::string valeurs = "\"v0\"";
+  for (int i = 1; i < 2'000'000; ++i) valeurs += ",\"v\"";
+  std::istringstream flux(avecItem("[[" + valeurs + "]]") + "\n" + avecItem("[\"fin\"]"));
+  LecteurJsonl lecteur(flux);
+  Enregistrement lu;
+  ASSERT_TRUE(lecteur.Suivant(lu));
+  EXPECT_EQ(lu.texte.size(), 2U * 2'000'000);  // a "v" and a separator each, then the 0
+  ASSERT_TRUE(lecteur.Suivant(lu));
+  EXPECT_EQ(lu.texte, "fin");
+}
+
+TEST(ClesVues, RetrouveLaPremiereLigneDeChaqueCle) {
+  base::ClesVues vues;
+  std::map<std::string, long> modele;
+  std::mt19937 alea(3);
+  for (long ligne = 1; ligne <= 20'000; ++ligne) {
+    const std::string cle = std::to_string(alea() % 8000);
+    const std::string fichier = alea() % 2 ? "PCS" : "PAYS";
+    const auto [place, nouvelle] = modele.emplace(fichier + cle, ligne);
+    ASSERT_EQ(vues.Ajoute(fichier, cle, ligne), nouvelle ? 0 : place->second);
+  }
+}
+
+// Random items, written, damaged here and there, read. What is accepted must come back the same
+// once written; what is refused must point into the line.
+TEST(ArticleJson, TientTeteAuxLignesAbimees) {
+  constexpr unsigned Graine = 20261122;
+  const std::string morceaux[] = {"é",    "\"", "\\",   "[",    "]",          "{",    "}",
+                                  ",",    ":",  "\x1e", "\x1d", "\\u00",      "1e9",  "null",
+                                  "\xC3", "\n", " ",    "😀",    "\"item\":[", "\\ud8"};
+  std::mt19937 alea(Graine);
+  const auto tire = [&](std::size_t n) { return static_cast<std::size_t>(alea() % n); };
+  int acceptees = 0;
+  for (int tour = 0; tour < 20'000; ++tour) {
+    data::CItem item;
+    for (std::size_t n = tire(6); n > 0; --n) {
+      const std::string texte = tire(4) == 0 ? "" : morceaux[tire(3)] + std::to_string(tire(9));
+      item.Set(static_cast<int>(1 + tire(4)), static_cast<int>(1 + tire(3)),
+               static_cast<int>(1 + tire(3)), texte);
+    }
+    std::string ligne;
+    base::ecrireEnregistrement(ligne, "PCS", "é1", item.Text());
+    ASSERT_EQ(base::lireEnregistrement(ligne).texte, item.Text()) << ligne;
+
+    for (std::size_t n = 1 + tire(3); n > 0; --n) {
+      const std::string morceau = tire(3) == 0 ? "" : morceaux[tire(std::size(morceaux))];
+      ligne.replace(tire(ligne.size()), tire(3), morceau);
+    }
+    try {
+      const Enregistrement lu = base::lireEnregistrement(ligne);
+      ++acceptees;
+      ASSERT_EQ(data::CItem(lu.texte).Text(), lu.texte) << "graine " << Graine << ": " << ligne;
+      std::string encore;
+      base::ecrireEnregistrement(encore, lu.fichier, lu.cle, lu.texte);
+      ASSERT_EQ(base::lireEnregistrement(encore).texte, lu.texte) << ligne;
+    } catch (const RefusJson& refus) {
+      ASSERT_GE(refus.Colonne(), 1) << ligne;
+      ASSERT_LE(refus.Colonne(), static_cast<long>(ligne.size()) + 1) << ligne;
+    }
+  }
+  EXPECT_GT(acceptees, 100);
+}
+
+}  // namespace
