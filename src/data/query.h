@@ -29,6 +29,7 @@
 //   operator    = <> # < <= > >=
 //   field       an attribute number, 0 or @ID for the key, or a name of data/dictionary.h
 //
+// - SSELECT and SELECT are alike: rows come in ascending key order, or in that of the sorts.
 // - Comparisons right after the file restrict the key and hold whatever the clauses say.
 // - AND binds tighter than OR, between clauses and inside one clause alike.
 // - AVEC: at least one value of the field satisfies the clause's comparisons, taken together on

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "data/query.h"
 
 namespace data {

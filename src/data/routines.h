@@ -23,6 +23,7 @@
 // The first call of a series makes an empty saved list under a fresh name and answers that name
 // before the lines; the later calls answer the lines alone. Nothing is changed in any file.
 
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>

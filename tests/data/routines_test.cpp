@@ -2,19 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "data/db.h"
 #include "storage/memory.h"
 
 namespace data {
 namespace {
 
-constexpr const char* intervention =
-    "00001"
-    "00010"
-    "20000"
-    "001MEN"
-    "1"
-    "0830";
+constexpr const char* intervention = "000010001020000001MEN10830";
 
 class RoutinesTest : public testing::Test {
  protected:
@@ -22,26 +18,10 @@ class RoutinesTest : public testing::Test {
     put("CIVILAIDE", "00010", {"", "Martin", "Rose"});
     put("CIVILAIDANT", "00002", {"", "Durand", "Anne"});
     // 21246 is Monday 02/03/2026.
-    put("TPSEXCEPTIONS",
-        "00002"
-        "21247"
-        "0850",
-        {intervention});
-    put("TPSEXCEPTIONS",
-        "00003"
-        "21246"
-        "1400",
-        {intervention});
-    put("TPSEXCEPTIONS",
-        "00002"
-        "21251"
-        "0850",
-        {intervention});
-    put("TPSEXCEPTIONS",
-        "00002"
-        "21248"
-        "0850",
-        {"another"});
+    put("TPSEXCEPTIONS", "00002212470833", {intervention});
+    put("TPSEXCEPTIONS", "00003212461400", {intervention});
+    put("TPSEXCEPTIONS", "00002212510850", {intervention});
+    put("TPSEXCEPTIONS", "00002212480850", {"another"});
   }
 
   void put(const char* file, const char* key, std::initializer_list<const char*> attributes) {
@@ -81,7 +61,7 @@ class RoutinesTest : public testing::Test {
 
 TEST_F(RoutinesTest, ReplacementsOfASeries) {
   const std::string monday = "Lundi 02/03/2026 à 14,00 : 00003 chez Martin Rose";
-  const std::string tuesday = "Mardi 03/03/2026 à 08,50 : Durand Anne chez Martin Rose";
+  const std::string tuesday = "Mardi 03/03/2026 à 08,33 : Durand Anne chez Martin Rose";
   const std::string both = monday + '|' + tuesday;
   // Cut short: last day 21250 becomes 21245; lengthened: 21246 becomes 21247.
   EXPECT_EQ(call({intervention, "21250", "21246", "AFAIRE", "TEST"}), "REMPL1|" + both);
@@ -96,7 +76,7 @@ TEST_F(RoutinesTest, ReplacementsOfASeries) {
   parameters.Set(20, "2");
   parameters.DBWrite();
   EXPECT_EQ(call({intervention, "21247", "21247", "REMPL2"}),
-            "Mardi 03/03/2026 à 08h30 : Durand Anne chez Martin Rose");
+            "Mardi 03/03/2026 à 08h20 : Durand Anne chez Martin Rose");
 }
 
 TEST_F(RoutinesTest, ListsAreForgotten) {
