@@ -145,7 +145,7 @@ void Ctr_Contrat::Recherche_Contrat() {
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {
-  if (bouton != BoutonDroit) return;
+  if (bouton != session::BoutonDroit) return;
   Mnu_Aide.SetEnabled(true);
   Mnu_Sommaire.SetEnabled(true);
   Services().modales.MontrerMenu(*this, Mnu_Aide.Nom());

@@ -66,7 +66,7 @@ class Ctr_Contrat : public screen::Form {
 
   // The rows that fit the lists without a scroll bar.
   static constexpr int LignesVisibles = 15;
-  static constexpr int BoutonDroit = 2;
+  
 
   screen::Label Etq_Aidant{*this, "Etq_Aidant", "Aidant :"};
   screen::Label Etq_CodeAidant{*this, "Etq_CodeAidant"};

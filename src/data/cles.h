@@ -11,6 +11,8 @@ namespace data {
 // Characters of a carer's code, the left part of every contract key.
 inline constexpr int LongueurCodeAidant = 5;
 // The agreement of private employers: the person helped is the employer.
+// Digits of a contract number.
+inline constexpr std::size_t LongueurNumero = 3;
 inline constexpr std::string_view ConventionParticuliers = "02";
 
 // A contract number as it stands in keys and fields: 3 digits with leading zeros.

@@ -19,7 +19,9 @@
 #include "editor/onglet_origine.h"
 #include "editor/onglet_paie.h"
 #include "rules/chevauchement.h"
+#include "screen/attente.h"
 #include "screen/form.h"
+#include "session/aide.h"
 #include "session/droits.h"
 #include "session/session.h"
 
@@ -45,10 +47,13 @@ class Frm_ElementsContrat : public screen::Form {
   const session::Droits& Droits() const { return *droits_; }
   bool DroitComplet() const { return droit_.Complet(); }
 
-  // The contract as it stands on the screen, for the rules.
+  // The contract as it stands on the screen, for the rules. The end date of a contract on file is
+  // the one on file: nothing on the screen changes it.
   rules::Portee Portee() const;
   rules::Dates Dates() const;
   bool ConventionParticuliers() const;
+  // Verif_SuppDateFin on these: shows the refusal. True when the end date may stand.
+  bool AccepterDateFin();
 
   // False while the fields are filled or cleared by program: change handlers do nothing then.
   bool EvenementsActifs = false;
@@ -57,9 +62,7 @@ class Frm_ElementsContrat : public screen::Form {
   // Ecrire_Ong1 and its like check and give messages; otherwise they copy silently.
   bool EcritureVerifiee = false;
   bool ValidationEnCours = false;
-  // The legal hours check refused the contract.
-  bool RefusHeures = false;
-  bool ModificationPossible = true;
+  // The last change of the end date was refused.
   bool DateFinRefusee = false;
   // The link records of this contract are written already.
   bool LiensDejaCrees = false;
@@ -76,6 +79,8 @@ class Frm_ElementsContrat : public screen::Form {
   rules::Voisinage Voisins;
   // One attribute for each amendment added in this editing.
   data::CItem ClesAvenants;
+  // Rows of code, label and kind: the activities that Cbo_Activite offers.
+  data::CItem ListeActivites;
   // Items of TABLES.
   data::CItem ItemCarteOrange;
   data::CItem ItemFinContrat;
@@ -107,13 +112,39 @@ class Frm_ElementsContrat : public screen::Form {
   void MouseDown(int bouton) override;
 
  private:
+  void LierChamps();
+  void OuvrirFichiers();
+  void DesinitElementContrat();
+  void Remplir_Activites();
+  void Vider_Donnees();
+
   void Ong_Contrat_Click(int ancien);
+  void ActiverActivites();
+  bool BulletinAFacturer();
+  void MontrerParts();
+
   void Cmd_Ok_Click();
+  bool Verifier();
+  // The overlap check: true when the confirmation goes on.
+  bool AccepterDates(screen::Attente& attente);
+  void Mnu_Sommaire_Click();
+
   void Cmd_Retour_Click();
+  void QuitterCreation();
+  bool ProposerEnregistrement();
+  bool ModePaiementChange() const;
+  bool RibManquant(const char* modePaiement);
+  bool EcrireEnQuittant();
+
+  // Clears and hides the editor: every granted way out ends here.
+  void Refermer();
 
   session::Session& session_;
   const session::Droits* droits_ = nullptr;
   session::Droit droit_;
+  session::AideEnLigne aide_;
+  // The nomenclature of professions, held open by the editor.
+  data::DbFile F_PCS_;
   Enregistrement enregistrement_{*this};
 };
 

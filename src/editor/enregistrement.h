@@ -1,10 +1,21 @@
 #pragma once
 // Saving a contract: several files written in a fixed order, each write final. The order keeps the
-// data usable when a later step fails; no check runs after the first write of a new contract.
+// data usable when a later write fails, and no check runs after the first write of a new contract.
+// A StoreError rises from the write that failed; nothing later in the order has been written, the
+// fields are as they were, and saving again ends in the same records.
+//
+// The counter of the carer is written after the contract. An interruption between the two leaves a
+// contract whose number the counter gives out again; such a number is passed over with a notice,
+// never written over.
 
+#include <optional>
 #include <string>
 
 #include "data/citem.h"
+
+namespace dialogs {
+class Frm_Reprise;
+}
 
 namespace editor {
 
@@ -14,23 +25,52 @@ class Enregistrement {
  public:
   explicit Enregistrement(Frm_ElementsContrat& editeur) : editeur_(editeur) {}
 
-  // Brings the tabs into ItemContrat and stores it with its side records. False when a check
-  // refused or the stored record is inconsistent: the refusal has been shown. A StoreError rises,
-  // and saving again after it ends in the same records.
-  bool Ecrire_Donnees();
+  // Forgets what an earlier editing has written.
+  void Commencer();
 
-  // The event of the monthly declaration, before a contract under `cle` is written.
-  void Maj_EvenementDSN(const std::string& cle);
-  // After a successful write: missions ended with the contract, the index of private employers,
-  // and the index files of contracts.
+  // Brings the tabs into ItemContrat and stores it with its side records. False when a check
+  // refused or the stored record is not sound: the refusal has been shown.
+  bool Ecrire_Donnees();
+  // The writes of an existing contract alone, for leaving with a save: declaration event, contract,
+  // follow-up marks, then the reading back.
+  bool Ecrire_Existant();
+
+  // After a successful write: the missions that end with the contract, and the indexes.
   void Maj_Missions();
   void Maj_IndexCreation();
+  void Maj_IndexAvenants();
 
-  // The contract number being written.
-  std::string NumeroContrat;
+  // The number under which this creation has already been written, "" before that.
+  const std::string& NumeroContrat() const { return numeroEcrit_; }
 
  private:
+  bool Ecrire_Nouveau();
+  std::string Choisir_Numero();
+  bool NumeroLibre(const std::string& numero) const;
+
+  std::optional<data::CItem> Chercher_ContratPrecedent() const;
+  void Reprendre_ContratPrecedent(const data::CItem& precedent, const std::string& cle);
+  void Remplir_Reprise(dialogs::Frm_Reprise& reprise, const data::CItem& precedent) const;
+  void Reporter_Conges(const std::string& clePrecedent, const std::string& cle);
+
+  void Ecrire_Contrat(const std::string& cle);
+  void Marquer_Suivi();
+  void Ecrire_Tte();
+  bool Relire(const std::string& cle);
+
+  void Maj_EvenementDSN(const std::string& cle);
+  bool Maj_FinDSN(const std::string& cle, bool annule);
+  void Maj_LienDSN(const std::string& cle, bool annule, bool finChangee);
+  void CreationLien(std::string_view fichier, const std::string& nomIndex);
+
   Frm_ElementsContrat& editeur_;
+  // The answer of the restart dialog: leave is taken over from the previous contract.
+  bool repriseConges_ = false;
+  std::string numeroEcrit_;
+  // What the last attempt of this creation tried to store, and under which number: a record that
+  // holds just this is ours although its write was reported as failed.
+  std::string numeroTente_;
+  std::string texteTente_;
 };
 
 }  // namespace editor

@@ -3,6 +3,7 @@
 // editor, through which they reach the session and each other.
 
 #include "screen/field.h"
+#include "screen/platform.h"
 #include "session/session.h"
 
 namespace editor {

@@ -8,6 +8,9 @@
 
 namespace session {
 
+// The mouse button that opens the help menu of a form.
+inline constexpr int BoutonDroit = 2;
+
 class AideEnLigne {
  public:
   static constexpr const char* NomFichier = "Brivalon.HLP";
