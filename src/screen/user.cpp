@@ -1,48 +1,13 @@
 #include "screen/user.h"
 
 #include "data/texte.h"
+#include "screen/touches.h"
 
 namespace screen {
 
 namespace {
 
 constexpr char32_t Blanc = U' ';
-
-// The characters of a text as keys. A byte that belongs to no character is no key.
-std::u32string keysOf(std::string_view texte) {
-  std::u32string touches;
-  for (std::size_t i = 0; i < texte.size();) {
-    const auto tete = static_cast<unsigned char>(texte[i]);
-    const std::size_t longueur = tete < 0x80 ? 1 : tete < 0xE0 ? 2 : tete < 0xF0 ? 3 : 4;
-    if (!data::utf8Valide(texte.substr(i, longueur))) {
-      ++i;
-      continue;
-    }
-    char32_t touche = longueur == 1 ? tete : tete & (0x7Fu >> longueur);
-    for (std::size_t j = 1; j < longueur; ++j) {
-      touche = touche << 6 | (static_cast<unsigned char>(texte[i + j]) & 0x3Fu);
-    }
-    touches += touche;
-    i += longueur;
-  }
-  return touches;
-}
-
-std::string encode(char32_t touche) {
-  constexpr unsigned tetes[] = {0, 0xC0, 0xE0, 0xF0};
-  if (touche < 0x80) return {static_cast<char>(touche)};
-  const int suites = touche < 0x800 ? 1 : touche < 0x10000 ? 2 : 3;
-  std::string texte{static_cast<char>(tetes[suites] | touche >> (6 * suites))};
-  for (int i = suites - 1; i >= 0; --i) {
-    texte += static_cast<char>(0x80u | (touche >> (6 * i) & 0x3Fu));
-  }
-  return texte;
-}
-
-bool character(char32_t touche) {
-  const bool control = touche < 0x20 || (touche >= 0x7F && touche < 0xA0);
-  return !control && touche <= 0x10FFFF && (touche < 0xD800 || touche > 0xDFFF);
-}
 
 // A field into which a text can be typed, whichever its kind; without one, nothing is typed.
 struct Saisie {
@@ -132,9 +97,9 @@ bool User::Presser(Field& champ, char32_t touche, bool remplacer) {
     return true;
   }
   const bool saut = touche == ToucheEntree && saisie.Multiligne();
-  if (!saut && !character(touche)) return false;
+  if (!saut && !estCaractere(touche)) return false;
   if (saisie.Longueur() > 0 && data::longueur(avant) >= saisie.Longueur()) return false;
-  saisie.Ecrire(avant + (saut ? "\n" : encode(touche)));
+  saisie.Ecrire(avant + (saut ? "\n" : texteDe(touche)));
   return true;
 }
 
@@ -147,13 +112,13 @@ Acte User::Taper(Field& champ, std::string_view texte) {
   }
   const unsigned long interruptions = Form::Interruptions();
   bool remplacer = true;
-  for (char32_t touche : keysOf(texte)) {
+  for (char32_t touche : touchesDe(texte)) {
     if (!Presente() || Form::Interruptions() != interruptions) return Acte::Avale;
     Field* const cible = form_.Active();
     if (cible == nullptr) return Acte::Avale;
     if (cible != &champ) remplacer = false;
     const bool saut = touche == U'\n' && Saisie(*cible).Multiligne();
-    if (!saut && !character(touche)) continue;
+    if (!saut && !estCaractere(touche)) continue;
     if (saut) touche = ToucheEntree;
     if (Presser(*cible, touche, remplacer)) remplacer = false;
   }

@@ -33,16 +33,19 @@ bool propose(Boutons boutons, Reponse reponse) {
 Reponse MessagesEnFile::Montrer(const Message& message) {
   tous_.push_back(message);
   if (!message.Demande()) return Reponse::Ok;
-  if (reponses_.empty()) {
-    throw QuestionInattendue("question sans réponse prévue : « " + message.texte + " »");
-  }
+  if (reponses_.empty()) Refuser("question sans réponse prévue : « " + message.texte + " »");
   const Reponse reponse = reponses_.front();
   if (!propose(message.boutons, reponse)) {
-    throw QuestionInattendue("la réponse " + std::string(nom(reponse)) +
-                             " n'est pas proposée par la question « " + message.texte + " »");
+    Refuser("la réponse " + std::string(nom(reponse)) + " n'est pas proposée par la question « " +
+            message.texte + " »");
   }
   reponses_.pop_front();
   return reponse;
+}
+
+void MessagesEnFile::Refuser(const std::string& raison) {
+  ++inattendues_;
+  throw QuestionInattendue(raison);
 }
 
 std::optional<Message> MessagesEnFile::Prendre() {

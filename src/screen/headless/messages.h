@@ -29,6 +29,8 @@ class MessagesEnFile : public Messages {
   Reponse Montrer(const Message& message) override;
 
   const std::deque<Reponse>& ReponsesRestantes() const { return reponses_; }
+  // The questions that threw; a handler may have taken the exception for an error of its own.
+  int Inattendues() const { return inattendues_; }
   // Every box so far.
   const std::vector<Message>& Tous() const { return tous_; }
   // The oldest box not taken yet, which is thereby taken; nothing when there is none.
@@ -37,9 +39,12 @@ class MessagesEnFile : public Messages {
   std::size_t Restants() const { return tous_.size() - pris_; }
 
  private:
+  [[noreturn]] void Refuser(const std::string& raison);
+
   std::deque<Reponse> reponses_;
   std::vector<Message> tous_;
   std::size_t pris_ = 0;
+  int inattendues_ = 0;
 };
 
 }  // namespace screen::headless
