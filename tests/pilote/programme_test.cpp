@@ -1,0 +1,174 @@
+// The program whole, on the contract list and the data of demo/scenarios.
+
+#include "pilote/programme.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "data/db.h"
+#include "storage/sqlite.h"
+#include "support/temp_dir.h"
+
+namespace pilote {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const std::string Racine = CONTRATS_SOURCE_DIR;
+
+void remplir(data::Db& db) {
+  std::ifstream fichier(Racine + "/demo/scenarios/donnees.jsonl");
+  std::string ligne;
+  while (std::getline(fichier, ligne)) {
+    const auto json = nlohmann::json::parse(ligne);
+    data::CItem item =
+        db.OpenFile(json["fichier"].get<std::string>()).NewItem(json["cle"].get<std::string>());
+    int a = 0;
+    for (const auto& attribut : json["item"]) {
+      ++a;
+      if (attribut.is_string()) item.Set(a, attribut.get<std::string>());
+      int v = 0;
+      if (attribut.is_array()) {
+        for (const auto& valeur : attribut) item.Set(a, ++v, valeur.get<std::string>());
+      }
+    }
+    item.DBWrite();
+  }
+}
+
+class Programme : public testing::Test {
+ protected:
+  Programme() {
+    data::Db db(storage::SqliteStorage::Creer(base, poste));
+    remplir(db);
+  }
+
+  // The exit code; the two outputs stand in `sortie` and `erreurs`.
+  int Lancer(std::vector<std::string> options, const std::string& scenario = {}) {
+    sortie.str({});
+    erreurs.str({});
+    std::istringstream entree(scenario);
+    return executer(options, entree, sortie, erreurs);
+  }
+  // The same on the carer of the demonstration, on 22/11/2026.
+  int Jouer(const std::string& scenario, std::vector<std::string> autres = {}) {
+    autres.insert(autres.end(), {"--base", base, "--aidant", "00001", "--date", "22/11/2026"});
+    return Lancer(autres, scenario);
+  }
+
+  support::TempDir dossier;
+  data::PosteSysteme poste;
+  std::string base = dossier.Chemin("essai.contrats");
+  std::ostringstream sortie;
+  std::ostringstream erreurs;
+};
+
+TEST_F(Programme, ScenariosDeDemonstration) {
+  const std::string dossierDemo = Racine + "/demo/scenarios/";
+  EXPECT_EQ(Jouer("", {dossierDemo + "filtres.scenario"}), Tenu) << erreurs.str();
+  EXPECT_EQ(Jouer("", {dossierDemo + "lecture-seule.scenario", "--niveau", "1"}), Tenu)
+      << erreurs.str();
+  // With full rights its first check does not hold.
+  EXPECT_EQ(Jouer("", {dossierDemo + "lecture-seule.scenario"}), Manque);
+  EXPECT_EQ(erreurs.str(), dossierDemo +
+                               "lecture-seule.scenario:3: verifier Cmd_Ajouter visible non\n"
+                               "  attendu : non\n  trouvé  : oui\n");
+}
+
+// Each block of the documentation stands on its own.
+TEST_F(Programme, ExemplesDeLaDocumentation) {
+  std::ifstream document(Racine + "/docs/scenarios.md");
+  std::string ligne;
+  std::string bloc;
+  bool dedans = false;
+  int blocs = 0;
+  while (std::getline(document, ligne)) {
+    if (dedans && ligne == "```") {
+      EXPECT_EQ(Jouer(bloc), Tenu) << bloc << erreurs.str();
+      dedans = false;
+      ++blocs;
+    } else if (dedans) {
+      bloc += ligne + "\n";
+    } else if (ligne == "```scenario") {
+      dedans = true;
+      bloc.clear();
+    }
+  }
+  EXPECT_FALSE(dedans);
+  EXPECT_GE(blocs, 5);
+}
+
+TEST_F(Programme, EcheanceEtEtatDeLAidant) {
+  EXPECT_EQ(Jouer("verifier Cmd_Ajouter actif non\ncliquer Cmd_Recherche\n"
+                  "verifier Cmd_Ajouter actif non\nverifier Cmd_Ajouter visible oui",
+                  {"--etat-supprime"}),
+            Tenu)
+      << erreurs.str();
+  // On 10/11/2026 the contract that ends that day has not ended yet.
+  EXPECT_EQ(Lancer({"--base", base, "--aidant", "00001", "--date", "10/11/2026"},
+                   "cliquer Opt_Historique\ncliquer Cmd_Recherche\n"
+                   "verifier Lst_DatFinContrat lignes 31/12/2024"),
+            Tenu)
+      << erreurs.str();
+  // A carer without contracts, without a date given.
+  EXPECT_EQ(Lancer({"--base", base, "--aidant", "00002"},
+                   "verifier Etq_NomPrenomAidant libelle \"PETIT Hervé\"\ncliquer Cmd_Recherche\n"
+                   "verifier Lst_Type nombre 0\nverifier Cmd_OK actif oui"),
+            Tenu)
+      << erreurs.str();
+}
+
+TEST_F(Programme, ControleFerme) {
+  EXPECT_EQ(Jouer("cliquer Cmd_Retour\ncliquer Cmd_Recherche"), Manque);
+  EXPECT_EQ(erreurs.str(),
+            "entrée standard:2: cliquer Cmd_Recherche\n  attendu : une forme ouverte\n"
+            "  trouvé  : aucune : l'écran des contrats est fermé\n");
+  EXPECT_EQ(Jouer("cliquer Cmd_Retour\narticle CONTRAT 00001001 4 = I"), Tenu);
+}
+
+// A faulty scenario is refused whole, with every fault, before the data file is opened.
+TEST_F(Programme, ScenarioFautif) {
+  EXPECT_EQ(Lancer({"--base", dossier.Chemin("absent"), "--aidant", "00001"},
+                   "cliquer Cmd_Recherche\ncliquer\nvoir\n  cocher X"),
+            MalDemande);
+  EXPECT_EQ(erreurs.str(),
+            "entrée standard:2:1: Cette commande s'écrit : cliquer NOM.\n"
+            "entrée standard:4:3: La commande « cocher » n'existe pas.\n"
+            "Le scénario n'a pas été joué.\n");
+  EXPECT_EQ(sortie.str(), "");
+}
+
+TEST_F(Programme, OptionsFausses) {
+  const struct {
+    std::vector<std::string> options;
+    const char* raison;
+  } cas[] = {
+      {{}, "Indiquez le fichier de données par --base."},
+      {{"--base", base}, "Indiquez le code de l'aidant par --aidant."},
+      {{"--base", base, "--aidant", "1"}, "--aidant : le code d'un aidant a 5 caractères"},
+      {{"--base", base, "--aidant", "00009"}, "--aidant : l'aidant « 00009 » n'existe pas"},
+      {{"--base", base, "--aidant"}, "Une option est donnée deux fois, ou n'a pas sa valeur."},
+      {{"--base", base, "--aidant", "00001", "--date", "31/02/2026"}, "--date : « 31/02/2026 »"},
+      {{"--base", base, "--aidant", "00001", "--niveau", "deux"}, "--niveau : « deux »"},
+      {{"--base", base, "--aidant", "00001", "--contrat", "00002001"}, "--contrat : la clé"},
+      {{"--base", base, "--aidant", "00001", "--vite"}, "« --vite » n'est pas une option"},
+      {{"--base", base, "--aidant", "00001", "a", "b"}, "« b » n'est pas une option, ni"},
+      {{"--base", base, "--aidant", "00001", "a"}, "Le scénario « a » ne s'ouvre pas."},
+      {{"--base", Racine, "--aidant", "00001"}, "L'écran des contrats ne s'ouvre pas : "},
+      {{"--base", base, "--aidant", "00001", Racine}, "Le scénario"},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.raison);
+    EXPECT_EQ(Lancer(c.options), MalDemande);
+    EXPECT_THAT(erreurs.str(), HasSubstr(c.raison));
+  }
+  EXPECT_EQ(Lancer({"--help"}), Tenu);
+  EXPECT_THAT(sortie.str(), StartsWith("contrat-pilote : "));
+}
+
+}  // namespace
+}  // namespace pilote
