@@ -157,7 +157,7 @@ void setCaracteristiques(Contrat& contrat) {
   contrat.heuresMois = parMois(etat.temps);
   const bool suspendu = contrat.alea.surCent(8);
   contrat.item.Set(C::JoursSuspensionGrille, suspendu ? "3000" : "0");
-  contrat.item.Set(C::DateAnciennete, texte(contrat.plan.debut));
+  contrat.item.Set(C::DateAnciennete, texte(contrat.plan.anciennete));
   contrat.item.Set(C::JoursSuspensionAnciennete, suspendu ? "3000" : "0");
 }
 

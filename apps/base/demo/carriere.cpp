@@ -71,7 +71,11 @@ class Planificateur {
     plan.type = type;
     plan.entite = base_.entite;
     plan.convention = base_.convention;
-    plan.metier = &tirerMetier(alea_, emploi);
+    // Most carers keep their trade from one contract to the next.
+    if (metier_ == nullptr || metier_->emploi != emploi || alea_.surCent(15)) {
+      metier_ = &tirerMetier(alea_, emploi);
+    }
+    plan.metier = metier_;
     plan.debut = debut;
     return plan;
   }
@@ -97,14 +101,18 @@ class Planificateur {
   }
 
   int ajouter(PlanContrat plan) {
+    plan.anciennete = plan.debut;
     carriere_.contrats.push_back(std::move(plan));
     return static_cast<int>(carriere_.contrats.size()) - 1;
   }
 
   // Until numbers are given, links hold the rank in the list plus one.
   void lier(int avant, int apres) {
-    carriere_.contrats[static_cast<std::size_t>(avant)].suivant = apres + 1;
-    carriere_.contrats[static_cast<std::size_t>(apres)].precedent = avant + 1;
+    PlanContrat& premier = carriere_.contrats[static_cast<std::size_t>(avant)];
+    PlanContrat& second = carriere_.contrats[static_cast<std::size_t>(apres)];
+    premier.suivant = apres + 1;
+    second.precedent = avant + 1;
+    second.anciennete = premier.debut;
   }
 
   void planifierStable() {
@@ -290,6 +298,7 @@ class Planificateur {
   const Parametres& parametres_;
   const BaseAidant& base_;
   Alea alea_;
+  const Metier* metier_ = nullptr;  // of the last contract with the entity
   Carriere carriere_;
 };
 

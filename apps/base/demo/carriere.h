@@ -22,6 +22,7 @@ struct PlanContrat {
   int employeur = 0;  // number of the person helped, private employers only
   const Metier* metier = nullptr;
   long debut = 0;
+  long anciennete = 0;   // seniority counts from here; before `debut` when leave is taken over
   long fin = 0;          // 0: the contract is not closed
   long finPresumee = 0;  // fixed term; the day at which it was to end
   const MotifFin* motifFin = nullptr;

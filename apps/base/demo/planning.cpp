@@ -80,7 +80,7 @@ void Planning::ajouter(const Contrat& contrat) {
                                                                         "Avis à tiers détenteur");
   }
   const bool close = plan.fin != 0;
-  if (close && plan.type == 'D' && plan.fin > parametres_.aujourdhui - 400 && alea_.surCent(8)) {
+  if (close && plan.type == 'D' && plan.fin > parametres_.aujourdhui - 400 && alea_.surCent(25)) {
     const std::string portee =
         plan.particulier ? std::string(contrat.codeEntite()) + "M" : contrat.employeur().substr(3);
     articles_[std::string(fichier::TPSSANSCONTRAT)][base_.code + portee];
