@@ -1,0 +1,55 @@
+#pragma once
+// The data files of the benchmarks, made once from the demonstration data, and a raw SQLite
+// connection to them: the same file without anything of ours in between.
+
+#include <sqlite3.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "data/db.h"
+#include "data/poste.h"
+#include "storage/sqlite.h"
+
+namespace bench {
+
+// Where the files stand; set from the command line.
+std::string& dossier();
+
+struct Base {
+  std::string chemin;
+  std::shared_ptr<storage::SqliteStorage> stockage;
+  std::unique_ptr<data::Db> db;
+  long contrats = 0;
+  // A carer from the middle of the file.
+  std::string aidant;
+};
+
+const data::Poste& poste();
+
+// The file with at least so many contracts; opened once.
+Base& base(long contrats);
+// The same data as the smallest file, with a carer "99998" who has 999 contracts.
+Base& baseAidantCharge();
+constexpr const char* AidantCharge = "99998";
+
+class Brut {
+ public:
+  explicit Brut(const std::string& chemin);
+  ~Brut();
+  Brut(const Brut&) = delete;
+  Brut& operator=(const Brut&) = delete;
+
+  // Length of the text under that key, -1 without a record.
+  int lire(const std::string& fichier, const std::string& cle);
+  // The rows of a key range; the sum over every byte of their texts.
+  long parcourir(const std::string& fichier, const std::string& debut, const std::string& fin);
+
+ private:
+  sqlite3* db_ = nullptr;
+  sqlite3_stmt* lecture_ = nullptr;
+  sqlite3_stmt* parcours_ = nullptr;
+};
+
+}  // namespace bench
