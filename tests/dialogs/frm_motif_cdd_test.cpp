@@ -1,0 +1,355 @@
+#include "dialogs/frm_motif_cdd.h"
+
+#include "essai_dialogue.h"
+
+namespace dialogs {
+namespace {
+
+const std::vector<int> Motif{9, 10, 113, 114, 115, 137};
+// 01/03/2026 is day 21245, 01/02/2026 day 21217, 15/03/2026 day 21259.
+constexpr const char* Debut = "01/03/2026";
+const std::string Martin = "00002|MARTIN Hélène|Maladie du 01/02/26 au 15/03/26|000020221217";
+const std::string MartinConges =
+    "00002|MARTIN Hélène|Congés payés du 26/03/26 au 05/04/26|000020521270";
+
+class MotifCDD : public EssaiDialogue {
+ protected:
+  MotifCDD() {
+    article("TABLES", "MOTIFEMBAUCHE", {{1, "A^B"}, {2, "Maladie d'un salarié^Surcroît"}});
+    article("TABLES", "ABSENCES", {{2, "02^05^18"}, {3, "Maladie^Congés payés^Grève"}});
+    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}});
+    article("CIVILAIDANT", "00002", {{2, "MARTIN"}, {3, "Hélène"}});
+    article("CIVILAIDANT", "00003", {{2, "MARCHAND"}, {3, "Luc"}});
+    article("CIVILAIDANT", "00004", {{2, "MARTIN"}, {3, "Jean"}, {36, "21246"}});
+    article("CIVILAIDANT", "00005", {{2, "MARTIN"}, {3, "Paul"}, {36, "21244"}});
+    article("CIVILAIDANT", "00006", {{2, "MARTINEAU-DESCHAMPS"}, {3, "Marie-Christine"}});
+    article("CIVILAIDANT", "12000", {{2, "ÉLOI"}, {3, "Zoé"}});
+    article("CONTRAT", "00001001", {{1, "01"}, {2, "001"}, {3, "001001"}, {7, "20000"}});
+    article("CONTRAT", "00002001", {{1, "01"}, {2, "001"}, {3, "001001"}, {7, "21245"}});
+    article("CONTRAT", "00003001",
+            {{1, "02"}, {2, "009"}, {3, "00007"}, {7, "20000"}, {8, "21245"}});
+    article("CONTRAT", "00006001", {{1, "01"}, {2, "001"}, {3, "001001"}, {7, "20000"}});
+    const std::pair<const char*, const char*> absences[] = {
+        {"000020221217", "21259"}, {"000020521270", "21280"}, {"000021821240", "21260"},
+        {"000020221100", "21244"}, {"000060221217", "21259"}, {"120000221217", "21259"}};
+    for (const auto& [cle, fin] : absences) article("ABSENCESAIDANT", cle, {{2, fin}});
+  }
+
+  std::unique_ptr<Frm_MotifCDD> creer(const session::Droits& d, const char* debut = Debut,
+                                      const char* convention = "01") {
+    auto form = std::make_unique<Frm_MotifCDD>(hote.platform, session);
+    form->DroitsUtilisateur(d);
+    form->Etq_CodeAidant.SetLibelle("00001");
+    form->DateDebut = debut;
+    form->Contexte = {convention, "001", "00007"};
+    form->init();
+    return form;
+  }
+  static std::string saisie(const Frm_MotifCDD& f) {
+    return f.Txt_CodeAidant.Text() + "|" + f.Cbo_AidantRemplace.Text() + "|" +
+           f.Cbo_Absence.Text() + "|" + f.Txt_CodeAbs.Text();
+  }
+  // List, Ajouter, OK, Retour / code, name, absence, Supprimer, Ok, Annuler.
+  static std::string mode(const Frm_MotifCDD& f) {
+    std::string texte;
+    for (const screen::Field* champ : std::initializer_list<const screen::Field*>{
+             &f.Lst_AidantRemplace, &f.Cmd_AjouterAidant, &f.Cmd_OK, &f.Cmd_Retour,
+             &f.Txt_CodeAidant, &f.Cbo_AidantRemplace, &f.Cbo_Absence, &f.Cmd_SupprimerAidant,
+             &f.Cmd_OkAidant, &f.Cmd_AnnulerAidant}) {
+      texte += champ->Enabled() ? '1' : '0';
+    }
+    return texte.insert(4, "/");
+  }
+  static std::string lignes(const Frm_MotifCDD& f) {
+    std::string texte;
+    for (const auto& ligne : f.Lst_AidantRemplace.Rows()) {
+      const LigneRemplace l = LireLigne(ligne);
+      texte += "[" + l.code + "|" + l.nom + "|" + l.absence + "|" + l.cleAbsence + "]";
+    }
+    return texte;
+  }
+  // Adds a carer with the absence of that row, -1 for none.
+  void ajouter(screen::User& user, Frm_MotifCDD& f, const char* code, int absence) {
+    user.Cliquer(f.Cmd_AjouterAidant);
+    user.Taper(f.Txt_CodeAidant, code);
+    if (absence < 0) user.Taper(f.Cbo_Absence, "");
+    if (absence >= 0) user.Choisir(f.Cbo_Absence, absence);
+    user.Cliquer(f.Cmd_OkAidant);
+  }
+};
+
+TEST_F(MotifCDD, UnCodeNEstPrisQuAvecUnContratAuDebut) {
+  const std::string suite = " Il n'y a donc pas de remplacement à effectuer.";
+  const std::string entite = "E Cet aidant n'a pas de contrat avec cette entité." + suite;
+  const std::string aide = "E Cet aidant n'a pas de contrat avec cet aidé." + suite;
+  const std::string inconnu = "E Cet aidant n'existe pas.";
+  const struct {
+    std::string code;
+    const char *debut, *convention;
+    std::string message, attendu;
+  } cas[] = {
+      // The start of the contract replaced is the day itself; ended absences and type 18 are out.
+      {"00002", Debut, "01", "", Martin},
+      {"00002", "28/02/2026", "01", entite, "|||"},
+      {"00002", Debut, "02", aide, "|||"},
+      {"00002", "", "01", entite, "|||"},
+      // The last day of a private employer's contract, and the day after.
+      {"00003", Debut, "02", "I Aucune absence en cours ou à venir pour l'aidant MARCHAND LUC.",
+       "00003|MARCHAND Luc||"},
+      {"00003", "02/03/2026", "02", aide, "|||"},
+      {"00004", Debut, "01", "E Cet aidant existe mais est à l'état supprimé.", "|||"},
+      {"00004", "02/03/2026", "01", entite, "|||"},
+      // Completed to 12000, whose absence on file does not make up for a contract.
+      {"12", Debut, "01", entite, "|||"},
+      {"99999", Debut, "01", inconnu, "|||"},
+      {"\"] OR", Debut, "01", inconnu, "|||"},
+      {"\x01\x02" + std::string(10000, '\''), Debut, "01", inconnu, "|||"},
+      {"", Debut, "01", "", "|||"},
+  };
+  for (const auto& [code, debut, convention, attendue, attendu] : cas) {
+    const auto f = creer(lecture, debut, convention);
+    montrer(*f, [&, &c = code, &m = attendue, &a = attendu](screen::User& user) {
+      user.Cliquer(f->Cmd_AjouterAidant);
+      EXPECT_EQ(actif(*f), "Txt_CodeAidant");
+      user.Taper(f->Txt_CodeAidant, c);
+      user.Touche(f->Txt_CodeAidant, screen::ToucheEntree);
+      EXPECT_EQ(message(), m) << c;
+      EXPECT_EQ(saisie(*f), a) << c;
+      EXPECT_EQ(actif(*f), "Txt_CodeAidant") << c;
+      hote.messages.Repondre(Reponse::Oui);
+      user.Cliquer(f->Cmd_AnnulerAidant);
+      message();
+      user.Cliquer(f->Cmd_Retour);
+    });
+  }
+}
+
+TEST_F(MotifCDD, UnNomSeChercheParSonDebut) {
+  const auto f = creer(lecture);
+  montrer(*f, [&](screen::User& user) {
+    user.Cliquer(f->Cmd_AjouterAidant);
+    const auto chercher = [&](const std::string& nom) {
+      user.Taper(f->Cbo_AidantRemplace, nom);
+      user.Touche(f->Cbo_AidantRemplace, screen::ToucheEntree);
+      return message();
+    };
+    const std::string rien =
+        "E La saisie d'au moins un caractère est nécessaire pour la recherche.";
+    EXPECT_EQ(chercher(""), rien);
+    EXPECT_EQ(chercher("[\"\""), rien);  // nothing is left that could be searched
+    EXPECT_EQ(chercher("x\" OR = \""), "I Aucun aidant commençant par X\" OR = \".");
+    EXPECT_EQ(chercher("hélène"), "I Aucun aidant commençant par HÉLÈNE.");
+
+    EXPECT_EQ(chercher("martin"), "");
+    // Deleted the day before the start: out. Deleted the day after: in.
+    EXPECT_EQ(
+        f->Cbo_AidantRemplace.Rows(),
+        (std::vector<std::string>{"MARTIN Hélène", "MARTIN Jean", "MARTINEAU-DESCHAMPS Marie"}));
+    EXPECT_EQ(saisie(*f), Martin);
+    EXPECT_EQ(f->Cbo_Absence.ListCount(), 2);
+    user.Choisir(f->Cbo_AidantRemplace, 2);
+    EXPECT_EQ(saisie(*f).substr(0, 32), "00006|MARTINEAU-DESCHAMPS Marie|");
+
+    // Code and name never part: the code brings its name, a name not searched goes.
+    user.Taper(f->Txt_CodeAidant, "00002");
+    EXPECT_EQ(saisie(*f), Martin);
+    user.Taper(f->Cbo_AidantRemplace, "MARCHAND");
+    user.Taper(f->Cbo_Absence, "Vacances");
+    EXPECT_EQ(saisie(*f), "00002|MARTIN Hélène|Vacances|");
+    user.Focus(f->Cmd_AnnulerAidant);
+    EXPECT_EQ(saisie(*f), "00002|MARTIN Hélène||");
+    user.Taper(f->Cbo_AidantRemplace, "");
+    EXPECT_EQ(saisie(*f), "|||");
+    hote.messages.Repondre(Reponse::Oui);
+    user.Cliquer(f->Cmd_AnnulerAidant);
+    user.Cliquer(f->Cmd_Retour);
+  });
+}
+
+TEST_F(MotifCDD, MontreLeContratEtLeRecrit) {
+  contrat({{9, "Remplacement^suite"},
+           {10, "Mme Avant^^M. Nom de plus de trente-quatre caractères"},
+           {113, "B"},
+           {114, "00002^00003^99999"},
+           {115, "000020221217^^999990200001"},
+           {137, "02"},
+           {12, "1"}});
+  const auto f = creer(droits);
+  montrer(*f, [&](screen::User& user) {
+    EXPECT_EQ(f->Cbo_MotifCDD.Text(), "02 - CDD d'usage");
+    EXPECT_EQ(f->Cbo_MotifEmbauche.Text(), "Surcroît");
+    EXPECT_EQ(lignes(*f), "[|Mme Avant||][|M. Nom de plus de trente-quatre caract||][" + Martin +
+                              "][00003|MARCHAND Luc||][99999|||999990200001]");
+    EXPECT_EQ(mode(*f), "1111/000000");
+    user.Choisir(f->Cbo_MotifCDD, 0);
+    user.Taper(f->Txt_MotifEmbContrat_0, "");
+    user.Cliquer(f->Cmd_OK);
+  });
+  // The free texts close up and keep 34 characters; a missing second absence keeps its place.
+  EXPECT_EQ(lu({9, 10, 12, 113, 114, 115, 137}),
+            "9=^suite 10=Mme Avant^M. Nom de plus de trente-quatre ca 12=1 113=B "
+            "114=00002^00003^99999 115=000020221217^^999990200001 137=01");
+}
+
+TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
+  contrat({{10, "Mme Avant"}, {114, "00002"}, {115, "000020221217"}});
+  const auto f = creer(droits);
+  montrer(*f, [&](screen::User& user) {
+    // A free text only goes away.
+    user.DoubleCliquer(f->Lst_AidantRemplace, 0);
+    EXPECT_EQ(saisie(*f) + mode(*f), "|Mme Avant||0000/000101");
+    for (const Reponse reponse : {Reponse::Non, Reponse::Oui}) {
+      EXPECT_EQ(f->Lst_AidantRemplace.ListCount(), 2);
+      hote.messages.Repondre(reponse);
+      user.Cliquer(f->Cmd_SupprimerAidant);
+      EXPECT_EQ(message(), "EON Etes-vous sûr de vouloir supprimer cette ligne ?");
+    }
+    EXPECT_EQ(mode(*f), "1111/000000");
+
+    const std::string refus = "I Cet aidant a déjà été ajouté à la liste.";
+    for (const int absence : {0, -1}) {  // the same absence, and none
+      ajouter(user, *f, "00002", absence);
+      EXPECT_EQ(message(), refus);
+      EXPECT_EQ(mode(*f), "0000/111011");
+      hote.messages.Repondre(Reponse::Oui);
+      user.Cliquer(f->Cmd_AnnulerAidant);
+      message();
+    }
+    ajouter(user, *f, "00002", 1);
+    EXPECT_EQ(lignes(*f), "[" + Martin + "][" + MartinConges + "]");
+
+    // Modified in place: the row itself is no double, the other one is.
+    user.DoubleCliquer(f->Lst_AidantRemplace, 0);
+    EXPECT_EQ(mode(*f), "0000/001111");
+    EXPECT_EQ(saisie(*f), Martin);
+    user.Choisir(f->Cbo_Absence, 1);
+    user.Cliquer(f->Cmd_OkAidant);
+    EXPECT_EQ(message(), refus);
+    user.Choisir(f->Cbo_Absence, 0);
+    user.Cliquer(f->Cmd_OkAidant);
+    EXPECT_EQ(lignes(*f), "[" + Martin + "][" + MartinConges + "]");
+
+    user.Cliquer(f->Cmd_AjouterAidant);
+    user.Cliquer(f->Cmd_OkAidant);
+    EXPECT_EQ(message(), "I Le code de l'aidant est obligatoire.");
+    EXPECT_EQ(actif(*f), "Txt_CodeAidant");
+    user.Taper(f->Txt_CodeAidant, "00001");
+    EXPECT_EQ(message(), "I Aucune absence en cours ou à venir pour l'aidant DURAND ANNE.");
+    user.Cliquer(f->Cmd_OkAidant);
+    EXPECT_EQ(message(), "I L'aidant ne peut pas se remplacer lui-même.");
+    hote.messages.Repondre(Reponse::Non);
+    user.Cliquer(f->Cmd_AnnulerAidant);
+    EXPECT_EQ(message() + saisie(*f),
+              "QON Etes-vous sûr de vouloir quitter cette création ?00001|DURAND Anne||");
+    // Past 30 characters of a name the same absence is not recognised.
+    user.Taper(f->Txt_CodeAidant, "00006");
+    user.Cliquer(f->Cmd_OkAidant);
+    ajouter(user, *f, "00006", 0);
+    EXPECT_EQ(f->Lst_AidantRemplace.ListCount(), 4);
+    EXPECT_EQ(user.Fermer(), Acte::Avale);
+    user.Cliquer(f->Cmd_AjouterAidant);
+    user.Taper(f->Txt_CodeAidant, "9");
+    EXPECT_EQ(user.Cliquer(f->Cmd_OkAidant), Acte::Avale);  // completed, refused: stays on the code
+    EXPECT_EQ(message() + actif(*f), "E Cet aidant n'existe pas.Txt_CodeAidant");
+    hote.messages.Repondre(Reponse::Oui);
+    user.Cliquer(f->Cmd_AnnulerAidant);
+    message();
+    user.Taper(f->Cbo_MotifEmbauche, "Inconnu");
+    user.Cliquer(f->Cmd_OK);
+    EXPECT_EQ(message(), "E La saisie d'un motif d'embauche est obligatoire.");
+    EXPECT_EQ(actif(*f), "Txt_MotifEmbContrat(0)");
+    user.Taper(f->Cbo_MotifEmbauche, "Surcroît");
+    user.Cliquer(f->Cmd_OK);
+  });
+  EXPECT_EQ(lu(Motif),
+            "113=B 114=00002^00002^00006^00006 "
+            "115=000020221217^000020521270^000060221217^000060221217 137=03");
+}
+
+TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
+  const std::string question =
+      "EONA Voulez-vous enregistrer les modifications apportées à cet article ?";
+  const struct {
+    const session::Droits& droits;
+    const char* tape;
+    Reponse reponse;  // Ok: nothing is asked
+    const char* attendu;
+  } cas[] = {
+      {droits, "", Reponse::Ok, "9=Motif 137=03"},
+      {droits, "et plus", Reponse::Oui, "9=Motif^et plus 137=03"},
+      {droits, "et plus", Reponse::Non, "9=Motif 137=03"},
+      {droits, "et plus", Reponse::Annuler, "9=Motif 137=03"},
+      {lecture, "et plus", Reponse::Ok, "9=Motif 137=03"},
+  };
+  for (const auto& c : cas) {
+    contrat({{9, "Motif"}, {137, "03"}});
+    const auto f = creer(c.droits);
+    EXPECT_EQ(f->Cmd_OK.Visible(), &c.droits == &droits);
+    montrer(*f, [&](screen::User& user) {
+      user.Taper(f->Txt_MotifEmbContrat_1, c.tape);
+      const int bips = hote.curseur.Bips();
+      const bool demande = c.reponse != Reponse::Ok;
+      if (demande) hote.messages.Repondre(c.reponse);
+      user.Cliquer(f->Cmd_Retour);
+      EXPECT_EQ(message(), demande ? question : "");
+      EXPECT_EQ(hote.curseur.Bips() - bips, demande ? 1 : 0);
+      EXPECT_EQ(f->Visible(), c.reponse == Reponse::Annuler);
+      EXPECT_EQ(lu(Motif), c.attendu);
+      if (f->Visible()) user.Cliquer(f->Cmd_OK);
+    });
+  }
+}
+
+// The three reads behind a code: the carer, the contracts, the absences.
+TEST_F(MotifCDD, UnePanneRendLEcranEtNeLaisseRienDeNonVerifie) {
+  for (int appel = 1; appel <= 3; ++appel) {
+    contrat({{9, "Motif"}, {114, "00001"}, {137, "03"}});
+    const auto f = creer(droits);
+    montrer(*f, [&](screen::User& user) {
+      store->EchouerAppel(appel);
+      EXPECT_THROW(user.DoubleCliquer(f->Lst_AidantRemplace, 0), data::StoreError);
+      EXPECT_EQ(mode(*f), "1111/000000") << appel;
+      user.Cliquer(f->Cmd_AjouterAidant);
+      store->EchouerAppel(appel);
+      EXPECT_THROW(user.Taper(f->Txt_CodeAidant, "00002"), data::StoreError);
+      EXPECT_TRUE(f->Enabled() && !hote.curseur.EnAttente());
+      EXPECT_EQ(f->Txt_CodeAidant.Text(), "00002");
+      store->EchouerAppel(0);
+      user.Cliquer(f->Cmd_OkAidant);
+      EXPECT_EQ(lignes(*f), "[00001|DURAND Anne||][" + Martin + "]") << appel;
+      user.Cliquer(f->Cmd_OK);
+    });
+    EXPECT_EQ(message(), "");
+  }
+}
+
+TEST_F(MotifCDD, LaTableDesMotifsSeTientAilleurs) {
+  contrat({{113, "B"}});
+  const auto f = creer(droits);
+  montrer(*f, [&](screen::User& user) {
+    user.Cliquer(f->Cmd_MotifsEmbauche);
+    EXPECT_NE(message().find("n'est pas installé"), std::string::npos);
+    auto& controle = hote.controles.Ajouter("Ctr_ParamTable");
+    hote.modales.Prevoir([&](screen::Form& table) {
+      EXPECT_EQ(controle.Journal().back(), "Mode=PARAMAUTREINTERVAIDE");
+      article("TABLES", "MOTIFEMBAUCHE", {{1, "B^C"}, {2, "Surcroît d'activité^Saison"}});
+      controle.Regler("W_Sortir", "0");
+      EXPECT_EQ(screen::User(table).Fermer(), Acte::Avale);
+      controle.Regler("W_Sortir", "1");
+      EXPECT_EQ(screen::User(table).Fermer(), Acte::Fait);
+    });
+    user.Cliquer(f->Cmd_MotifsEmbauche);
+    const auto& journal = controle.Journal();
+    EXPECT_EQ(std::vector<std::string>(journal.begin(), journal.begin() + 6),
+              (std::vector<std::string>{"TheDatabase=Db", "TheClient=LeClient",
+                                        "TheCle=MOTIFEMBAUCHE", "W_Droits=MOTIFS EMBAUCHE",
+                                        "DroitsUtilisateur=W_Droits", "init()"}));
+    EXPECT_EQ(f->Cbo_MotifEmbauche.Text(), "Surcroît d'activité");
+    user.Choisir(f->Cbo_MotifEmbauche, 1);
+    user.Cliquer(f->Cmd_OK);
+  });
+  EXPECT_EQ(lu(Motif), "113=C 137=03");
+}
+
+}  // namespace
+}  // namespace dialogs
