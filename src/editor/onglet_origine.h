@@ -4,11 +4,16 @@
 // helped is the employer.
 //
 // Code boxes and label lists go in pairs: a complete code shows its label, a chosen label its code.
+// A code that is not on file is refused, emptied and focused. One step leads to the next: a new
+// agreement empties the entity, and a new entity the employer, the activities and the retirement
+// body, so that no code outlives what it was chosen for.
 
 #include <string>
 
 #include "data/citem.h"
 #include "editor/onglet.h"
+#include "editor/origine_paire.h"
+#include "editor/origine_verif.h"
 
 namespace editor {
 
@@ -18,9 +23,11 @@ class OngletOrigine : public Onglet {
 
   // Fills the fixed drop-downs: entities, agreements.
   void Remplir_Combos();
-  // From ItemContrat to the fields; for a new contract only the enabling.
+  // From ItemContrat to the fields, change handlers being off meanwhile. For a new contract, only
+  // the enabling, and what an earlier contract may have left in the boxes that are not emptied.
   void Afficher_Ong1();
   // From the fields to ItemContrat. With EcritureVerifiee it checks first; false when it refused.
+  // Run again on other fields, it leaves what a single run on them would.
   bool Ecrire_Ong1();
   // The checks in their order; the first failure is shown and focused. True when all hold.
   bool Verif_Ong1();
@@ -31,14 +38,19 @@ class OngletOrigine : public Onglet {
   // Run by the frame on every tab change too.
   void Txt_DatDebContrat_LostFocus();
 
-  // The start date on file when the tab was shown, as an internal day text.
+  // The start date on file when the tab was shown, as an internal day text; "" for a new contract.
   std::string DebutInitial;
   // Rows of code and label, and for agreements the counting modes and the provident flag.
   data::CItem ListeAssociations;
   data::CItem ListeConvCol;
   // Item NATURECONTRAT of TABLES.
   data::CItem ListeNatures;
-  // The provident code that stood before the employer's was looked up.
+  // What stands in the drop-downs of other tabs that follow agreement, entity and employer: rows of
+  // code and label, in the order of Cbo_LibPrevContrat and Cbo_OrgRetraite.
+  data::CItem ListePrev;
+  data::CItem ListeOrgRetraite;
+  // The provident contract of the private employer chosen, which the contract takes whatever the
+  // third tab shows; "" when there is none in force.
   std::string PrevContratPrecedent;
 
   screen::Label Etq_NumContrat;
@@ -86,7 +98,95 @@ class OngletOrigine : public Onglet {
   screen::ComboBox Cbo_Contrepartie;
 
  private:
-  // Handlers and phases: declared with the code that fills them.
+  // Code lengths, in characters.
+  static constexpr int LongueurConvention = 2;
+  static constexpr int LongueurEntite = 3;
+  static constexpr int LongueurEtablissement = 3;
+  static constexpr int LongueurParticulier = 5;
+
+  void LierCodes();
+  void LierOptions();
+  void LierSaisies();
+  // The label list of a pair, which it follows only while change handlers are on.
+  void LierListe(screen::ComboBox& liste, PaireCode& paire);
+
+  // The agreement is that of private employers.
+  bool Particuliers() const;
+  int LongueurEmployeur() const;
+  void ActiverCodes(bool actifs);
+
+  // Agreement.
+  void Txt_ConvColContrat_Change();
+  void ChoisirConvention();
+  void MontrerSelonConvention();
+  void AdapterConvention();
+  void Proposer_PCS();
+  void Proposer_Conges();
+  void Remplir_Grilles();
+  void Remplir_Prevoyance();
+  void Proposer_Prevoyance();
+  void ViderPrevoyance();
+
+  // Entity.
+  void Txt_AssocContrat_Change();
+  void ViderEntite();
+  std::string QuestionActivites() const;
+  bool Remplir_Activites();
+  void Remplir_Etablissements();
+  void Remplir_OrgRetraite();
+
+  // Employer.
+  void Txt_EmplEtabContrat_Change();
+  void LireParticulier();
+  void LireEtablissement();
+  void LirePrevoyanceEmployeur();
+  void RafraichirEmployeur();
+  void Cbo_LibEmplEtabContrat_KeyPress(char32_t& touche);
+  void Remplir_Aide(const std::string& nom);
+
+  // Options, nature and the other fields.
+  void MontrerTerme(bool determine);
+  void Opt_Horaire_Click();
+  void Opt_Mensuel_Click();
+  void MontrerRepartition();
+  void ChargerNatures();
+  void Cbo_NatureContrat_DropDown();
+  void Cbo_NatureContrat_LostFocus();
+  void MontrerStage();
+  void Txt_PerEssaiContrat_LostFocus();
+  void AdapterReference();
+  void Cmd_DetailEmpl_Click();
+  void Cmd_MotifCDD_Click();
+  void Cmd_Stage_Click();
+
+  // Display.
+  void AfficherNouveau();
+  void AfficherExistant();
+  void AfficherCodes();
+  void AfficherEmployeur();
+  void AfficherOptions();
+  void AfficherSaisies();
+
+  // Checks and writing.
+  SaisieOrigine Saisie() const;
+  void EcrireIdentite();
+  void EcrireDebut();
+  void EcrireNature();
+  void EcrireTerme();
+  std::string LibelleNature(std::string_view code) const;
+  std::string CodeNature() const;
+  // The internal date of a box, "" when it holds none; but what the record holds where the box
+  // still shows just that.
+  std::string Interne(const screen::TextField& champ, int attribut) const;
+
+  PaireCode convention_{Txt_ConvColContrat, Cbo_LibConvColContrat};
+  PaireCode entite_{Txt_AssocContrat, Cbo_LibAssocContrat};
+  PaireCode employeur_{Txt_EmplEtabContrat, Cbo_LibEmplEtabContrat};
+
+  // The first values of effect date and grid start before a moved start date changed them.
+  bool debutDeplace_ = false;
+  std::string effetAvant_;
+  std::string departGrilleAvant_;
 };
 
 }  // namespace editor
