@@ -20,7 +20,7 @@ bool estSuite(char c) {
 // forms, surrogates and what lies above U+10FFFF.
 struct Forme {
   unsigned char premier, dernier;
-  std::size_t octets;
+  unsigned char octets;
   unsigned char min, max;
 };
 constexpr Forme kFormes[] = {
@@ -37,7 +37,7 @@ std::size_t longueurMultiple(std::string_view reste) {
     if (reste.size() < forme.octets) return 0;
     const auto second = static_cast<unsigned char>(reste[1]);
     if (second < forme.min || second > forme.max) return 0;
-    const auto suite = reste.substr(2, forme.octets - 2);
+    const auto suite = reste.substr(2, std::size_t{forme.octets} - 2);
     return std::all_of(suite.begin(), suite.end(), estSuite) ? forme.octets : 0;
   }
   return 0;

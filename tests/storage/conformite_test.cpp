@@ -15,6 +15,7 @@
 namespace {
 
 using data::KeyRange;
+using essai::ajouter;
 using essai::anciens;
 using essai::etat;
 using essai::refus;
@@ -36,7 +37,7 @@ class Conformite : public testing::TestWithParam<std::string> {
   std::string Cles(std::string_view fichier, const KeyRange& cles, std::size_t combien = 99) {
     std::string texte;
     store_->Scan(fichier, cles, [&](std::string_view cle, std::string_view) {
-      texte += (texte.empty() ? "" : " ") + std::string(cle);
+      ajouter(texte, cle);
       return --combien > 0;
     });
     return texte;
@@ -152,64 +153,42 @@ TEST_P(Conformite, BlockStandsWholeOrNotAtAll) {
 TEST_P(Conformite, WhatCannotBeHeldIsRefused) {
   using std::string;
   using namespace std::string_literals;
-  struct Cas {
-    string fichier, cle, texte;
-    bool admis = false;
-  };
-  std::vector<Cas> cas = {
-      {"", "1", "t"},
-      {"contrat", "1", "t"},
-      {"CON TRAT", "1", "t"},
-      {"CONTRAT\xC3\x89", "1", "t"},
-      {"CONTRAT", "", "t"},
-      {"CONTRAT", "a\nb", "t"},
-      {"CONTRAT", "a\x1e", "t"},
-      {"CONTRAT", "a\x7F", "t"},
-      {"CONTRAT", "a\xC2\x85", "t"},
-      {"CONTRAT", "a\0b"s, "t"},
-      {"CONTRAT", "a\xFF", "t"},
-      {"CONTRAT", "a\xC3", "t"},
-      {"F2", " é€ ", "", true},
-  };
-  // One character each, sound or not, at every place of the eight that are looked at together.
-  const std::pair<string, bool> caracteres[] = {
-      {"\0"s, false},
-      {"\x80", false},
-      {"\xBF", false},
-      {"\xC0\x80", false},
-      {"\xC1\xBF", false},
-      {"\xC2\x80", true},
-      {"\xDF\xBF", true},
-      {"\xE0\x9F\xBF", false},
-      {"\xE0\xA0\x80", true},
-      {"\xED\x9F\xBF", true},
-      {"\xED\xA0\x80", false},
-      {"\xEF\xBF\xBF", true},
-      {"\xE2\x82", false},
-      {"\xE2\x28\xA1", false},
-      {"\xF0\x8F\xBF\xBF", false},
-      {"\xF0\x90\x80\x80", true},
-      {"\xF4\x8F\xBF\xBF", true},
-      {"\xF4\x90\x80\x80", false},
-      {"\xF5\x80\x80\x80", false},
-      {"\xFF", false},
-      {"\x01\x1c\x1d\x1e\x7F", true},
-  };
-  for (const auto& [caractere, admis] : caracteres) {
-    for (std::size_t avant = 0; avant < 9; ++avant) {
-      cas.push_back({"CONTRAT", "1", string(avant, 'a') + caractere, admis});
-      cas.push_back({"CONTRAT", "1", string(avant, 'a') + caractere + "abcdefgh", admis});
-    }
-  }
-  for (const auto& c : cas) {
-    SCOPED_TRACE(testing::PrintToString(c.fichier + "|" + c.cle + "|" + c.texte));
+  const auto essayer = [&](const string& fichier, const string& cle, const string& texte,
+                           bool admis) {
+    SCOPED_TRACE(testing::PrintToString(fichier + "|" + cle + "|" + texte));
     string attendu = "TexteRefuse";
-    if (!c.fichier.empty()) attendu += " " + c.fichier;
-    if (!c.cle.empty()) attendu += " " + c.cle;
-    const auto ecrire = [&] { Store().Put(c.fichier, c.cle, c.texte); };
-    Store().EnUnBloc([&] { EXPECT_EQ(refus(ecrire), c.admis ? "rien" : attendu); });
-    EXPECT_EQ(Lire(c.fichier, c.cle), c.admis ? c.texte : "absent, intact");
-    Store().Erase(c.fichier, c.cle);
+    if (!fichier.empty()) attendu += " " + fichier;
+    if (!cle.empty()) attendu += " " + cle;
+    EXPECT_EQ(refus([&] { Store().Put(fichier, cle, texte); }), admis ? "rien" : attendu);
+    EXPECT_EQ(Lire(fichier, cle), admis ? texte : "absent, intact");
+    Store().Erase(fichier, cle);
+  };
+  for (const char* nom : {"", "contrat", "CON TRAT", "CONTRAT\xC3\x89", "CONTRAT/"}) {
+    essayer(nom, "1", "t", false);
+  }
+  for (const string& cle :
+       {""s, "a\nb"s, "a\x1e"s, "a\x7F"s, "a\xC2\x85"s, "a\0b"s, "a\xFF"s, "a\xC3"s}) {
+    essayer("CONTRAT", cle, "t", false);
+  }
+  essayer("F2", " é€ ", "", true);
+  // One character each, at every place of the eight bytes that are looked at together.
+  const auto partout = [&](const string& caractere, bool admis) {
+    Store().EnUnBloc([&] {
+      for (std::size_t avant = 0; avant < 9; ++avant) {
+        essayer("CONTRAT", "1", string(avant, 'a') + caractere, admis);
+        essayer("CONTRAT", "1", string(avant, 'a') + caractere + "abcdefgh", admis);
+      }
+    });
+  };
+  for (const string& c : {"\0"s, "\x80"s, "\xBF"s, "\xC0\x80"s, "\xC1\xBF"s, "\xE0\x9F\xBF"s,
+                          "\xED\xA0\x80"s, "\xE2\x82"s, "\xE2\x28\xA1"s, "\xF0\x8F\xBF\xBF"s,
+                          "\xF4\x90\x80\x80"s, "\xF5\x80\x80\x80"s, "\xFF"s}) {
+    partout(c, false);
+  }
+  for (const string& c :
+       {"\x01\x1c\x1d\x1e\x7F"s, "\xC2\x80"s, "\xDF\xBF"s, "\xE0\xA0\x80"s, "\xED\x9F\xBF"s,
+        "\xEF\xBF\xBF"s, "\xF0\x90\x80\x80"s, "\xF4\x8F\xBF\xBF"s}) {
+    partout(c, true);
   }
 }
 
@@ -250,20 +229,17 @@ TEST_P(Conformite, FaultyStoreFailsAtTheCallItWasToldTo) {
   EXPECT_EQ(etat(panne), "");
 }
 
-// The plainest possible store, to compare with.
+// The plainest possible store, to compare with; its words are those of the verbs in essai.h.
 struct Modele {
   std::map<std::string, std::map<std::string, std::string>> fichiers;
-  std::map<std::string, std::string> historiques;  // by file and key, as essai::anciens writes them
-  std::map<std::string, int> numeros;
+  std::map<std::string, std::pair<long, std::string>> anciens;  // by file and key
 
   void Remplacer(const std::string& fichier, const std::string& cle, const std::string* texte) {
     auto& articles = fichiers[fichier];
     const auto avant = articles.find(cle);
     if (avant != articles.end() && (texte == nullptr || *texte != avant->second)) {
-      const std::string lieu = fichier + "/" + cle;
-      auto& histoire = historiques[lieu];
-      histoire += (histoire.empty() ? "" : " ") + std::to_string(++numeros[lieu]) + ":" +
-                  avant->second + (texte == nullptr ? "-" : "");
+      auto& [numero, histoire] = anciens[fichier + "/" + cle];
+      ajouter(histoire, essai::ancien(++numero, avant->second, texte == nullptr));
     }
     if (texte == nullptr) {
       articles.erase(cle);
@@ -274,10 +250,9 @@ struct Modele {
   std::string Etat() const {
     std::string tout;
     for (const auto& [nom, articles] : fichiers) {
-      if (articles.empty()) continue;
       std::string lignes;
-      for (const auto& [cle, t] : articles) lignes += (lignes.empty() ? "" : " ") + cle + "=" + t;
-      tout += (tout.empty() ? "" : " ") + nom + "[" + lignes + "]";
+      for (const auto& [cle, texte] : articles) ajouter(lignes, std::string(cle) += "=" + texte);
+      if (!articles.empty()) ajouter(tout, std::string(nom) += "[" + lignes + "]");
     }
     return tout;
   }
@@ -300,19 +275,19 @@ TEST_P(Conformite, RandomWorkAgreesWithAPlainMap) {
       Store().Put(fichier, cle, texte);
       m.Remplacer(fichier, cle, &texte);
     }
-    EXPECT_EQ(anciens(Store(), fichier, cle), m.historiques[fichier + "/" + cle]);
+    EXPECT_EQ(anciens(Store(), fichier, cle), m.anciens[fichier + "/" + cle].second);
   };
   for (int tour = 0; tour < 60 && !HasFailure(); ++tour) {
-    Modele essai = modele;
+    Modele suivant = modele;
     const bool garder = tirer(3) != 0;
     try {
       Store().EnUnBloc([&] {
-        for (auto i = tirer(10); i > 0; --i) unActe(essai);
+        for (auto i = tirer(10); i > 0; --i) unActe(suivant);
         if (!garder) throw std::runtime_error("undo");
       });
     } catch (const std::runtime_error&) {
     }
-    if (garder) modele = essai;
+    if (garder) modele = suivant;
     unActe(modele);
     ASSERT_EQ(etat(Store()), modele.Etat());
   }

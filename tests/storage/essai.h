@@ -5,11 +5,22 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "data/storage.h"
 #include "data/store_error.h"
 
 namespace essai {
+
+// One word more in a list parted by blanks.
+inline void ajouter(std::string& liste, std::string_view mot) {
+  if (!liste.empty()) liste += ' ';
+  liste += mot;
+}
+
+inline std::string ancien(long numero, std::string_view texte, bool supprime) {
+  return std::to_string(numero).append(":").append(texte).append(supprime ? "-" : "");
+}
 
 // "CONTRAT[1=a 2=b] TABLES[x=]"
 inline std::string etat(data::Storage& store) {
@@ -18,12 +29,11 @@ inline std::string etat(data::Storage& store) {
     std::string articles;
     long nombre = 0;
     store.Scan(compte.nom, data::KeyRange::Tout(), [&](std::string_view cle, std::string_view t) {
-      articles += (articles.empty() ? "" : " ") + std::string(cle) + "=" + std::string(t);
-      ++nombre;
-      return true;
+      ajouter(articles, std::string(cle).append("=").append(t));
+      return ++nombre > 0;
     });
     EXPECT_EQ(compte.articles, nombre) << compte.nom;
-    texte += (texte.empty() ? "" : " ") + compte.nom + "[" + articles + "]";
+    ajouter(texte, compte.nom + "[" + articles + "]");
   }
   return texte;
 }
@@ -31,39 +41,24 @@ inline std::string etat(data::Storage& store) {
 // "1:a 2:b-", the minus for a text that was replaced by nothing.
 inline std::string anciens(data::Storage& store, std::string_view fichier, std::string_view cle) {
   std::string texte;
-  for (const auto& ancien : store.Historique(fichier, cle)) {
-    texte += (texte.empty() ? "" : " ") + std::to_string(ancien.numero) + ":" + ancien.texte +
-             (ancien.supprime ? "-" : "");
+  for (const auto& a : store.Historique(fichier, cle)) {
+    ajouter(texte, ancien(a.numero, a.texte, a.supprime));
   }
   return texte;
 }
 
-inline const char* nom(data::NumeroErreur numero) {
-  switch (numero) {
-    case data::NumeroErreur::NonTrouve:
-      return "NonTrouve";
-    case data::NumeroErreur::NonAttache:
-      return "NonAttache";
-    case data::NumeroErreur::Question:
-      return "Question";
-    case data::NumeroErreur::TexteRefuse:
-      return "TexteRefuse";
-    case data::NumeroErreur::PasUneBase:
-      return "PasUneBase";
-    case data::NumeroErreur::VersionInconnue:
-      return "VersionInconnue";
-    case data::NumeroErreur::LectureSeule:
-      return "LectureSeule";
-    case data::NumeroErreur::DisquePlein:
-      return "DisquePlein";
-    case data::NumeroErreur::Endommage:
-      return "Endommage";
-    case data::NumeroErreur::Occupe:
-      return "Occupe";
-    case data::NumeroErreur::EntreeSortie:
-      return "EntreeSortie";
+inline std::string nom(data::NumeroErreur numero) {
+  using N = data::NumeroErreur;
+  constexpr std::pair<N, const char*> kNoms[] = {
+      {N::TexteRefuse, "TexteRefuse"},   {N::PasUneBase, "PasUneBase"},
+      {N::LectureSeule, "LectureSeule"}, {N::VersionInconnue, "VersionInconnue"},
+      {N::DisquePlein, "DisquePlein"},   {N::EntreeSortie, "EntreeSortie"},
+      {N::Endommage, "Endommage"},       {N::Occupe, "Occupe"},
+  };
+  for (const auto& [n, texte] : kNoms) {
+    if (n == numero) return texte;
   }
-  return "?";
+  return std::to_string(static_cast<long>(numero));
 }
 
 // "LectureSeule CONTRAT 1", or "rien" when `acte` passes. A refusal must come with a message.

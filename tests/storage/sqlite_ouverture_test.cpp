@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 class Ouverture : public testing::Test {
  protected:
   std::string Creer(const std::string& nom) {
-    const std::string chemin = dossier_.Chemin(nom);
+    std::string chemin = dossier_.Chemin(nom);
     SqliteStorage::Creer(chemin, poste_)->Put("CONTRAT", "1", "a");
     return chemin;
   }

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 
 #include "data/poste.h"
@@ -49,15 +50,15 @@ class Processus : public testing::Test {
 TEST_F(Processus, WritersWaitForEachOther) {
   constexpr int kEnfants = 3;
   constexpr int kTours = 40;
-  std::vector<pid_t> enfants;
-  for (int e = 0; e < kEnfants; ++e) {
-    enfants.push_back(Lancer([&, e] {
+  std::array<pid_t, kEnfants> enfants{};
+  for (std::size_t e = 0; e < kEnfants; ++e) {
+    enfants[e] = Lancer([&, e] {
       const auto store = Ouvrir();
       for (int i = 0; i < kTours; ++i) {
         store->Put("CONTRAT", std::to_string(e + 1) + "-" + std::to_string(i), "t");
         store->Put("CONTRAT", "0", std::to_string(e) + "." + std::to_string(i));
       }
-    }));
+    });
   }
   for (const pid_t enfant : enfants) EXPECT_EQ(Attendre(enfant), 0);
   const auto store = Ouvrir();
