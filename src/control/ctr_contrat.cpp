@@ -15,11 +15,13 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
   Cbo_Association.Click = [this] { Cbo_Association_Click(); };
   Cbo_Association.Change = [this] { Cbo_Association_Change(); };
   Cmd_Recherche.Click = [this] { Cmd_Recherche_Click(); };
+  Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
   for (const auto& colonne : Colonnes) {
     auto& liste = this->*colonne.liste;
     liste.Click = [this, &liste] { Liste_Click(liste); };
+    liste.DblClick = [this] { Appel_Contrat(); };
   }
   Bdv_Detail.Change = [this] { Bdv_Detail_Change(); };
   Mnu_Sommaire.Click = [this] { Mnu_Sommaire_Click(); };
@@ -33,6 +35,7 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
 }
 
 Ctr_Contrat::~Ctr_Contrat() {
+  editeur_.reset();
   aide_.Fermer();
   session_.Liberer();
 }
@@ -64,6 +67,7 @@ void Ctr_Contrat::init() {
   session_.SeparateurDecimalAnsi = static_cast<unsigned char>(session_.SeparateurDecimal.front());
   clesContrats_ = data::CItem();
   if (!droit_.Complet()) Cmd_Ajouter.SetVisible(false);
+  if (!W_CodeContrat.empty()) Appel_Contrat();
 }
 
 void Ctr_Contrat::Affiche(std::string_view typeAct, std::string_view codeAsso,
@@ -173,6 +177,7 @@ void Ctr_Contrat::Cmd_Ok_Click() {
 }
 
 void Ctr_Contrat::Cmd_Retour_Click() {
+  editeur_.reset();
   session_.CombosRemplis = false;
   W_Sortir = 1;
   Hide();

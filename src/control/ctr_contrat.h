@@ -13,11 +13,12 @@
 // The database, client, rights and platform outlive the control. A StoreError other than an absent
 // record rises from any call to the host, the screen being usable again.
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "control/placement.h"
 #include "data/citem.h"
+#include "editor/editeur.h"
 #include "screen/form.h"
 #include "session/aide.h"
 #include "session/droits.h"
@@ -59,6 +60,9 @@ class Ctr_Contrat : public screen::Form {
   void Effacer_Donnees();
   // Fills the list from the carer's contracts by the filters and the sort chosen.
   void Recherche_Contrat();
+  // Opens W_CodeContrat, or else the contract of the selected row, in the editor, and brings its row
+  // up to date when the editor has closed.
+  void Appel_Contrat();
 
   // The contract key of each row: attribute = row + 1.
   const data::CItem& ClesContrats() const { return clesContrats_; }
@@ -66,7 +70,6 @@ class Ctr_Contrat : public screen::Form {
 
   // The rows that fit the lists without a scroll bar.
   static constexpr int LignesVisibles = 15;
-  
 
   screen::Label Etq_Aidant{*this, "Etq_Aidant", "Aidant :"};
   screen::Label Etq_CodeAidant{*this, "Etq_CodeAidant"};
@@ -124,6 +127,7 @@ class Ctr_Contrat : public screen::Form {
   void Cbo_Association_Click();
   void Cbo_Association_Change();
   void Cmd_Recherche_Click();
+  void Cmd_Ajouter_Click();
   void Cmd_Ok_Click();
   void Cmd_Retour_Click();
   void Liste_Click(const screen::ListBox& source);
@@ -141,6 +145,13 @@ class Ctr_Contrat : public screen::Form {
   Tri TriChoisi() const;
   void AfficherLignes(const std::vector<LigneContrat>& lignes);
 
+  editor::Frm_ElementsContrat& ChargerEditeur();
+  editor::Frm_ElementsContrat& OuvrirEditeur();
+  editor::Frm_ElementsContrat& OuvrirEditeurVide();
+  void PreparerEditeur(editor::Frm_ElementsContrat& editeur);
+  void ActualiserLigne();
+  void AjouterLigneEnTete();
+
   session::Session session_;
   session::AideEnLigne aide_;
   const session::Droits* droits_ = nullptr;
@@ -148,6 +159,8 @@ class Ctr_Contrat : public screen::Form {
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
+  // Stays loaded between contracts; it is let go of before the session that it works on.
+  std::unique_ptr<editor::Frm_ElementsContrat> editeur_;
 };
 
 }  // namespace control

@@ -1,0 +1,119 @@
+// The two ways into the contract editor, and what the list does when it returns.
+
+#include "control/ctr_contrat.h"
+#include "data/cles.h"
+#include "data/layouts/contrat.h"
+#include "screen/attente.h"
+
+namespace control {
+
+void Ctr_Contrat::Appel_Contrat() {
+  session::Session& s = session_;
+  s.ConflitContrat = false;
+  s.CleContratCourant =
+      W_CodeContrat.empty() ? clesContrats_(Lst_DatDebContrat.ListIndex() + 1, 1) : W_CodeContrat;
+  s.ItemContrat = data::CItem();
+  s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat);
+  s.TexteContratInitial = s.ItemContrat.Text();
+  s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
+  s.ModeCreation = false;
+  OuvrirEditeur().ShowModal();
+  screen::Attente retour(*this);
+  ActualiserLigne();
+  s.ItemContrat = data::CItem();
+  retour.Finir();
+}
+
+editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeur() {
+  screen::Attente chargement(*this);
+  const session::Pendant enChargement(session_.ChargementContrat);
+  editor::Frm_ElementsContrat& editeur = ChargerEditeur();
+  editeur.DroitsUtilisateur(*droits_);
+  if (editeur.origine.Txt_DatDebContrat.Text().empty()) editeur.origine.Afficher_Ong1();
+  PreparerEditeur(editeur);
+  chargement.Finir();
+  editeur.caracteristiques.Cmd_AjoutAvenant.SetVisible(true);
+  editeur.caracteristiques.Cmd_AjoutAvenant.SetEnabled(true);
+  editeur.DroitsUtilisateur(*droits_);
+  editeur.InitElementContrat();
+  editeur.init();
+  return editeur;
+}
+
+void Ctr_Contrat::Cmd_Ajouter_Click() {
+  session::Session& s = session_;
+  s.CreationAbandonnee = false;
+  s.ItemContrat = data::CItem();
+  s.TexteContratInitial = s.ItemContrat.Text();
+  s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
+  const session::Pendant enCreation(s.ModeCreation);
+  OuvrirEditeurVide().ShowModal();
+  screen::Attente retour(*this);
+  if (!s.CreationAbandonnee && !s.ConflitContrat) AjouterLigneEnTete();
+  s.ConflitContrat = false;
+  retour.Finir();
+}
+
+editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeurVide() {
+  screen::Attente chargement(*this);
+  editor::Frm_ElementsContrat& editeur = ChargerEditeur();
+  editeur.caracteristiques.Cmd_SuiviAnnuel.SetEnabled(false);
+  editeur.origine.Cbo_LibEmplEtabContrat.Clear();
+  PreparerEditeur(editeur);
+  editeur.Afficher_Donnees();
+  if (!session_.CombosRemplis) editeur.Remplir_CombosElement();
+  editeur.DroitsUtilisateur(*droits_);
+  editeur.init();
+  chargement.Finir();
+  return editeur;
+}
+
+editor::Frm_ElementsContrat& Ctr_Contrat::ChargerEditeur() {
+  if (!editeur_) {
+    editeur_ = std::make_unique<editor::Frm_ElementsContrat>(Services(), session_);
+  }
+  return *editeur_;
+}
+
+void Ctr_Contrat::PreparerEditeur(editor::Frm_ElementsContrat& editeur) {
+  editeur.Etq_Aidant.SetLibelle("Aidant : " + W_Code + " " + W_NomPrenom);
+  editeur.Etq_CodeAidant.SetLibelle(W_Code);
+  editeur.Etq_NomPrenomAidant.SetLibelle(W_NomPrenom);
+  editeur.Ong_Contrat.SetTab(editor::Origine);
+}
+
+// The dates of the row that was opened, from the record as it stands now; employer and agreement
+// wait for the next search. A contract that was cancelled meanwhile leaves the list.
+void Ctr_Contrat::ActualiserLigne() {
+  session::Session& s = session_;
+  const int ligne = Lst_DatFinContrat.ListIndex();
+  s.ItemContrat = data::CItem();
+  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat) || ligne < 0) return;
+  if (s.ItemContrat.Vue(data::Contrat::Annule) == "O") {
+    for (const auto& colonne : Colonnes) (this->*colonne.liste).RemoveItem(ligne);
+    clesContrats_.Delete(ligne + 1);
+    AjusterBarre();
+    return;
+  }
+  Lst_DatFinContrat.SetList(ligne,
+                            s.Lib.DateFromInternal(s.ItemContrat.Vue(data::Contrat::DateFin)));
+  Lst_DatDebContrat.SetList(ligne,
+                            s.Lib.DateFromInternal(s.ItemContrat.Vue(data::Contrat::DateDebut)));
+}
+
+// A contract just created stands on top, whatever the sort, until the next search.
+void Ctr_Contrat::AjouterLigneEnTete() {
+  session::Session& s = session_;
+  s.F_CIVILAIDANT.Lire(W_Code, s.ItemCivilAidant);
+  s.ItemContrat = data::CItem();
+  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat)) return;
+  std::string employeur;
+  LireEmployeur(s.ItemContrat, employeur);
+  const LigneContrat ligne = FaireLigne(s.ItemContrat, employeur);
+  for (const auto& [liste, texte] : Colonnes) (this->*liste).InsertItem(0, ligne.*texte);
+  clesContrats_.Insert(1, ligne.cle);
+  if (!Lst_DatDebContrat.Enabled()) Afficher_Liste();
+  AjusterBarre();
+}
+
+}  // namespace control
