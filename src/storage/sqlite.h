@@ -2,9 +2,9 @@
 // The store of a workstation: one data file, kept by SQLite, that several processes can share.
 // Readers never wait for a writer nor it for them; writers wait for each other, up to a bound.
 //
-// A write that has returned survives a crash of the program and of the machine. Every page and every
-// record carries a checksum that each read verifies: a damaged place is a StoreError Endommage,
-// never a text, and never taken for "no such record". One object serves one thread.
+// A write that has returned survives a crash of the program and of the machine. Every page and
+// every record carries a checksum that each read verifies: a damaged place is a StoreError
+// Endommage, never a text, and never taken for "no such record". One object serves one thread.
 
 #include <functional>
 #include <memory>
@@ -59,9 +59,9 @@ class SqliteStorage : public data::Storage {
   // programmer's error (std::logic_error).
   void EnUnBloc(const std::function<void()>& travail) override;
 
-  // Reads every page, record and former text and reports each damaged one; where a damaged page cuts
-  // the way, what stands behind it is read from the other end. `avance`, if any, is told now and then
-  // how many records and former texts have been read. Other processes may go on working.
+  // Reads every page, record and former text and reports each damaged one; where a damaged page
+  // cuts the way, what stands behind it is read from the other end. `avance`, if any, is told now
+  // and then how many records and former texts have been read. Others may go on working.
   void Verifier(const std::function<void(const Dommage&)>& signaler,
                 const std::function<void(long)>& avance = {});
 
