@@ -8,7 +8,7 @@ namespace {
 const std::vector<int> Motif{9, 10, 113, 114, 115, 137};
 // 01/03/2026 is day 21245, 01/02/2026 day 21217, 15/03/2026 day 21259.
 constexpr const char* Debut = "01/03/2026";
-const std::string Martin = "00002|MARTIN Hélène|Maladie du 01/02/26 au 15/03/26|000020221217";
+const std::string Martin = "00002|MARTIN Hélène|Maladie du 01/02/26 au 15/03/26|000020921217";
 const std::string MartinConges =
     "00002|MARTIN Hélène|Congés payés du 26/03/26 au 05/04/26|000020521270";
 
@@ -16,7 +16,7 @@ class MotifCDD : public EssaiDialogue {
  protected:
   MotifCDD() {
     article("TABLES", "MOTIFEMBAUCHE", {{1, "A^B"}, {2, "Maladie d'un salarié^Surcroît"}});
-    article("TABLES", "ABSENCES", {{2, "02^05^18"}, {3, "Maladie^Congés payés^Grève"}});
+    article("TABLES", "ABSENCES", {{2, "09^05^18"}, {3, "Maladie^Congés payés^Grève"}});
     article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}});
     article("CIVILAIDANT", "00002", {{2, "MARTIN"}, {3, "Hélène"}});
     article("CIVILAIDANT", "00003", {{2, "MARCHAND"}, {3, "Luc"}});
@@ -30,8 +30,8 @@ class MotifCDD : public EssaiDialogue {
             {{1, "02"}, {2, "009"}, {3, "00007"}, {7, "20000"}, {8, "21245"}});
     article("CONTRAT", "00006001", {{1, "01"}, {2, "001"}, {3, "001001"}, {7, "20000"}});
     const std::pair<const char*, const char*> absences[] = {
-        {"000020221217", "21259"}, {"000020521270", "21280"}, {"000021821240", "21260"},
-        {"000020221100", "21244"}, {"000060221217", "21259"}, {"120000221217", "21259"}};
+        {"000020921217", "21259"}, {"000020521270", "21280"}, {"000021821240", "21260"},
+        {"000020921100", "21244"}, {"000060921217", "21259"}, {"120000921217", "21259"}};
     for (const auto& [cle, fin] : absences) article("ABSENCESAIDANT", cle, {{2, fin}});
   }
 
@@ -171,7 +171,7 @@ TEST_F(MotifCDD, MontreLeContratEtLeRecrit) {
            {10, "Mme Avant^^M. Nom de plus de trente-quatre caractères"},
            {113, "B"},
            {114, "00002^00003^99999"},
-           {115, "000020221217^^999990200001"},
+           {115, "000020921217^^999990200001"},
            {137, "02"},
            {12, "1"}});
   const auto f = creer(droits);
@@ -188,11 +188,11 @@ TEST_F(MotifCDD, MontreLeContratEtLeRecrit) {
   // The free texts close up and keep 34 characters; a missing second absence keeps its place.
   EXPECT_EQ(lu({9, 10, 12, 113, 114, 115, 137}),
             "9=^suite 10=Mme Avant^M. Nom de plus de trente-quatre ca 12=1 113=B "
-            "114=00002^00003^99999 115=000020221217^^999990200001 137=01");
+            "114=00002^00003^99999 115=000020921217^^999990200001 137=01");
 }
 
 TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
-  contrat({{10, "Mme Avant"}, {114, "00002"}, {115, "000020221217"}});
+  contrat({{10, "Mme Avant"}, {114, "00002"}, {115, "000020921217"}});
   const auto f = creer(droits);
   montrer(*f, [&](screen::User& user) {
     // A free text only goes away.
@@ -263,7 +263,7 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
   });
   EXPECT_EQ(lu(Motif),
             "113=B 114=00002^00002^00006^00006 "
-            "115=000020221217^000020521270^000060221217^000060221217 137=03");
+            "115=000020921217^000020521270^000060921217^000060921217 137=03");
 }
 
 TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
@@ -275,14 +275,14 @@ TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
     Reponse reponse;  // Ok: nothing is asked
     const char* attendu;
   } cas[] = {
-      {droits, "", Reponse::Ok, "9=Motif 137=03"},
-      {droits, "et plus", Reponse::Oui, "9=Motif^et plus 137=03"},
-      {droits, "et plus", Reponse::Non, "9=Motif 137=03"},
-      {droits, "et plus", Reponse::Annuler, "9=Motif 137=03"},
-      {lecture, "et plus", Reponse::Ok, "9=Motif 137=03"},
+      {droits, "", Reponse::Ok, "9=Motif 10=Mme Avant 137=03"},
+      {droits, "et plus", Reponse::Oui, "9=Motif^et plus 10=Mme Avant 137=03"},
+      {droits, "et plus", Reponse::Non, "9=Motif 10=Mme Avant 137=03"},
+      {droits, "et plus", Reponse::Annuler, "9=Motif 10=Mme Avant 137=03"},
+      {lecture, "et plus", Reponse::Ok, "9=Motif 10=Mme Avant 137=03"},
   };
   for (const auto& c : cas) {
-    contrat({{9, "Motif"}, {137, "03"}});
+    contrat({{9, "Motif"}, {10, "Mme Avant"}, {137, "03"}});
     const auto f = creer(c.droits);
     EXPECT_EQ(f->Cmd_OK.Visible(), &c.droits == &droits);
     montrer(*f, [&](screen::User& user) {
@@ -295,7 +295,14 @@ TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
       EXPECT_EQ(hote.curseur.Bips() - bips, demande ? 1 : 0);
       EXPECT_EQ(f->Visible(), c.reponse == Reponse::Annuler);
       EXPECT_EQ(lu(Motif), c.attendu);
-      if (f->Visible()) user.Cliquer(f->Cmd_OK);
+      if (!f->Visible()) return;
+      // What the refused leaving had gathered is forgotten.
+      user.DoubleCliquer(f->Lst_AidantRemplace, 0);
+      hote.messages.Repondre(Reponse::Oui);
+      user.Cliquer(f->Cmd_SupprimerAidant);
+      message();
+      user.Cliquer(f->Cmd_OK);
+      EXPECT_EQ(lu(Motif), "9=Motif^et plus 137=03");
     });
   }
 }
@@ -310,8 +317,14 @@ TEST_F(MotifCDD, UnePanneRendLEcranEtNeLaisseRienDeNonVerifie) {
       EXPECT_THROW(user.DoubleCliquer(f->Lst_AidantRemplace, 0), data::StoreError);
       EXPECT_EQ(mode(*f), "1111/000000") << appel;
       user.Cliquer(f->Cmd_AjouterAidant);
-      store->EchouerAppel(appel);
-      EXPECT_THROW(user.Taper(f->Txt_CodeAidant, "00002"), data::StoreError);
+      if (appel == 2) {  // by name, which takes one read more
+        user.Taper(f->Cbo_AidantRemplace, "martin");
+        store->EchouerAppel(1 + appel);
+        EXPECT_THROW(user.Touche(f->Cbo_AidantRemplace, screen::ToucheEntree), data::StoreError);
+      } else {
+        store->EchouerAppel(appel);
+        EXPECT_THROW(user.Taper(f->Txt_CodeAidant, "00002"), data::StoreError);
+      }
       EXPECT_TRUE(f->Enabled() && !hote.curseur.EnAttente());
       EXPECT_EQ(f->Txt_CodeAidant.Text(), "00002");
       store->EchouerAppel(0);
