@@ -59,7 +59,7 @@ void OngletOrigine::Txt_ConvColContrat_Change() {
     MontrerSelonConvention();
     if (data::longueur(code) < LongueurConvention) {
       convention_.Montrer("");
-      Txt_AssocContrat.SetText("");
+      entite_.Vider();
       editeur_.paie.Lst_ActiviteContrat.Clear();
       editeur_.paie.Lst_RepartActContrat.Clear();
       Griser_ComboOng1();
@@ -80,7 +80,7 @@ void OngletOrigine::Txt_ConvColContrat_Change() {
 // All that a known agreement brings with it, then on to the next code.
 void OngletOrigine::ChoisirConvention() {
   Degriser_ComboOng1();
-  Txt_AssocContrat.SetText("");
+  entite_.Vider();
   AdapterConvention();
   Txt_ConvColContrat.SetEnabled(!Particuliers());
   Cbo_LibConvColContrat.SetEnabled(!Particuliers());
@@ -224,7 +224,7 @@ void OngletOrigine::ViderEntite() {
   ListeOrgRetraite = data::CItem();
   editeur_.fin.Cbo_OrgRetraite.Clear();
   editeur_.fin.Txt_OrgRetraite.SetText("");
-  Txt_EmplEtabContrat.SetText("");
+  employeur_.Vider();
   if (!Particuliers()) employeur_.Remplir({});
 }
 

@@ -43,6 +43,11 @@ void PaireCode::Completer(int longueur) {
   if (!code_.Text().empty()) code_.SetText(data::completeAGauche(code_.Text(), longueur, '0'));
 }
 
+void PaireCode::Vider() {
+  code_.SetText("");
+  Montrer("");
+}
+
 void PaireCode::Refuser() {
   code_.SetText("");
   code_.SetFocus();

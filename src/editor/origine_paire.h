@@ -48,6 +48,8 @@ class PaireCode {
 
   // Completes a code that is not empty with zeros on the left.
   void Completer(int longueur);
+  // Empties both.
+  void Vider();
   // Empties the code and gives its box the focus.
   void Refuser();
   // Runs what a code stands for. Whatever rises from it leaves no unchecked code in the box.

@@ -1,0 +1,180 @@
+#pragma once
+// The editor on a small set of records, driven as a user does. Two entities, agreements "01" to
+// "03" and "07", two private employers; the day is 22/11/2026 and the pay period November 2026.
+//
+//   creer();                               a new contract, as from the list's Ajouter
+//   taper(o().Txt_ConvColContrat, "01");
+//   EXPECT_EQ(messages(), "");             the boxes shown since, parted by "|"
+//   contrat("00001001", {{...}});          a stored contract: the basic one with other attributes
+//   ouvrir("00001001");                    as from a double click
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "data/jour.h"
+#include "data/layouts/contrat.h"
+#include "editor/editeur.h"
+#include "screen/headless/hote.h"
+#include "screen/user.h"
+#include "storage/memory.h"
+#include "support/faulty_storage.h"
+
+namespace essai {
+
+namespace C = data::Contrat;
+using screen::Acte;
+
+inline constexpr long Aujourdhui = 21511;
+inline constexpr const char* Aidant = "00001";
+
+// Internal day of a displayed date; "" stays.
+inline std::string jour(const std::string& affichee) {
+  return affichee.empty() ? "" : std::to_string(data::lireDateAffichee(affichee).value());
+}
+
+class Editeur : public ::testing::Test {
+ protected:
+  using Attributs = std::map<int, std::string>;
+
+  Editeur() {
+    session.Db = &db;
+    article("COMPTEUR", "999", {{18, "1"}});
+    article("PERIODESPAIE", "1", {{1, "202611"}});
+    article("CIVILAIDANT", Aidant, {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
+    article("ASSOCIATION", "001", {{1, "Aide du Val"}});
+    article("ASSOCIATION", "002", {{1, "Bien Chez Soi"}});
+    article("CONVENTIONCOL", "01", {{1, "Branche"}});
+    article("CONVENTIONCOL", "02", {{1, "Particuliers"}, {22, "1"}});
+    article("CONVENTIONCOL", "03", {{1, "Collectif"}});
+    article("CONVENTIONCOL", "07", {{1, "Public"}});
+    article("ETABLISSEMENT", "001001", {{1, "Siège"}});
+    article("ETABLISSEMENT", "002001", {{1, "Nord"}});
+    article("ETABLISSEMENT", "002002", {{1, "Est"}});
+    article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
+    article("ACTIVITES", "001MAN", {{1, "Mandat"}, {12, "M"}});
+    article("ACTIVITES", "002DOM", {{1, "Domicile"}, {12, "P"}});
+    article("ACTIVITES", "002GAR", {{1, "Garde"}, {12, "P"}});
+    article("GRILLESCC", "01B", {{1, "Grille B"}});
+    article("GRILLESCC", "01A", {{1, "Grille A"}});
+    article("GRILLESCC", "03A", {{1, "Grille C"}});
+    article("CONTRATSPREV", "10", {{1, "Cadres"}, {2, "x"}, {3, "01"}});
+    article("CONTRATSPREV", "20", {{1, "Tous"}, {2, "Employés"}, {3, "03"}});
+    article("CONTRATSPREV", "11", {{1, "Autres"}, {3, "01"}});
+    article("CONTRATSPREV", "99", {{1, "Aucun"}, {3, "03"}});
+    article("ORGANISMESOCIAL", "001B", {{1, "Retraite B"}, {3, "03"}});
+    article("ORGANISMESOCIAL", "001A", {{1, "Retraite A"}, {3, "03"}});
+    article("ORGANISMESOCIAL", "001M", {{1, "A la mutuelle"}, {3, "01"}});
+    article("CIVILAIDE", "00007", {{2, "MARTIN"}, {3, "Rose"}});
+    article("CIVILAIDE", "00008", {{2, "MARTINEZ"}, {3, "Luc"}});
+    article("CIVILAIDE", "00009", {{3, "Sans nom"}});
+    article("ELTSPARTEMP", "00007", {{13, "20"}});
+    article("ELTSPARTEMP", "00008", {{2, "R"}});
+    article("PCS", "56", {{1, "Services"}});
+    article("PCS", "563b", {{1, "Aide à domicile"}});
+    article("PCS", "563c", {{1, "Employé de maison"}});
+    data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
+    const char* const lignes[][3] = {
+        {"CDI", "Normal", "O"}, {"STG", "Stagiaire", "O"}, {"OLD", "Ancien", ""}};
+    for (int v = 1; const auto& [code, libelle, choisissable] : lignes) {
+      natures.Set(2, v, code);
+      natures.Set(3, v, libelle);
+      natures.Set(6, v++, choisissable);
+    }
+    natures.DBWrite();
+    session.OuvrirFichiers();
+  }
+
+  void article(const char* fichier, const std::string& cle, const Attributs& attributs) {
+    data::CItem item = db.OpenFile(fichier).NewItem(cle);
+    for (const auto& [a, texte] : attributs) item.Set(a, texte);
+    item.DBWrite();
+  }
+  // An open-ended hourly contract of entity 001 from 01/03/2026, but for `autres`.
+  void contrat(const std::string& cle, Attributs autres = {}) {
+    autres.merge(Attributs{{C::Convention, "01"},
+                           {C::Association, "001"},
+                           {C::Employeur, "001001"},
+                           {C::Type, "I"},
+                           {C::Salaire, "H"},
+                           {C::Statut, "P"},
+                           {C::DateDebut, jour("01/03/2026")},
+                           {C::EssaiRenouvelable, "0"},
+                           {C::Nature, "CDI"},
+                           {C::Avenant, "0"},
+                           {C::DateEffet, jour("01/03/2026")}});
+    article("CONTRAT", cle, autres);
+  }
+
+  void creer() {
+    session.ModeCreation = true;
+    session.ItemContrat = data::CItem();
+    session.TexteContratInitial.clear();
+    if (!editeur) charger();
+    editeur->Afficher_Donnees();
+    if (!session.CombosRemplis) editeur->Remplir_CombosElement();
+    montrer();
+  }
+  void ouvrir(const std::string& cle) {
+    session.ModeCreation = false;
+    session.ItemContrat = session.F_CONTRAT.Read(cle);
+    session.TexteContratInitial = session.ItemContrat.Text();
+    session.DateFinInitiale = session.ItemContrat(C::DateFin);
+    if (!editeur) charger();
+    editeur->InitElementContrat();
+    montrer();
+  }
+
+  editor::OngletOrigine& o() { return editeur->origine; }
+  const data::CItem& c() { return session.ItemContrat; }
+  Acte taper(screen::Field& champ, const std::string& texte) {
+    return screen::User(*editeur).Taper(champ, texte);
+  }
+  Acte cliquer(screen::Field& champ) { return screen::User(*editeur).Cliquer(champ); }
+  Acte choisir(screen::Field& champ, int ligne) {
+    return screen::User(*editeur).Choisir(champ, ligne);
+  }
+  // Types, then leaves by Tab.
+  void remplir(screen::Field& champ, const std::string& texte) {
+    taper(champ, texte);
+    screen::User(*editeur).Quitter();
+  }
+  std::string messages() {
+    std::string textes;
+    while (const auto message = hote.messages.Prendre()) {
+      textes += (textes.empty() ? "" : "|") + message->texte;
+    }
+    return textes;
+  }
+  std::string actif() const { return editeur->Active() == nullptr ? "" : editeur->Active()->Nom(); }
+  static std::string lignes(const screen::RowsField& liste) {
+    std::string texte;
+    for (const auto& ligne : liste.Rows()) texte += (texte.empty() ? "" : "|") + ligne;
+    return texte;
+  }
+
+  screen::headless::Hote hote{Aujourdhui};
+  storage::MemoryStorage memoire{hote.poste};
+  std::shared_ptr<support::FaultyStorage> stockage =
+      std::make_shared<support::FaultyStorage>(memoire);
+  data::Db db{stockage};
+  session::Session session{hote.poste};
+  session::DroitsUniformes droits{2};
+  std::unique_ptr<editor::Frm_ElementsContrat> editeur;
+
+ private:
+  void charger() {
+    editeur = std::make_unique<editor::Frm_ElementsContrat>(hote.platform, session);
+  }
+  void montrer() {
+    editeur->Etq_CodeAidant.SetLibelle(Aidant);
+    editeur->Etq_NomPrenomAidant.SetLibelle("DURAND Anne");
+    editeur->DroitsUtilisateur(droits);
+    editeur->init();
+    editeur->Show();
+  }
+};
+
+}  // namespace essai

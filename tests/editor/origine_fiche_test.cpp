@@ -1,0 +1,392 @@
+#include "editeur_essai.h"
+
+namespace {
+
+using essai::Acte, essai::jour;
+namespace C = essai::C;
+using screen::User;
+
+// Two values of one attribute.
+std::string valeurs(const std::string& une, const std::string& autre) {
+  return une + data::SepValeur + autre;
+}
+
+class Fiche : public essai::Editeur {
+ protected:
+  using Attributs = essai::Editeur::Attributs;
+
+  // Leaves, says no to leaving, and so has the fields copied to the contract in hand.
+  void copier() {
+    hote.messages.Repondre(screen::Reponse::Annuler);
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_TRUE(hote.messages.ReponsesRestantes().empty()) << "nothing was changed";
+  }
+  void nouveau(const char* convention, const char* entite) {
+    creer();
+    taper(o().Txt_ConvColContrat, convention);
+    taper(o().Txt_AssocContrat, entite);
+  }
+  void determine(const char* fin) {
+    cliquer(o().Opt_Determine);
+    remplir(o().Txt_DatFinContrat, fin);
+  }
+  void debuter(const char* debut) { remplir(o().Txt_DatDebContrat, debut); }
+};
+
+TEST_F(Fiche, VerifieDansLOrdre) {
+  const std::string calcule =
+      "Impossible de modifier la date de début : un bulletin a déjà été calculé pour ce contrat.";
+  const std::string incorrecte = "La date saisie est incorrecte, veuillez la ressaisir.";
+  const std::string avantAvenant =
+      "La date de début de contrat ne peut être supérieure à la date d'effet du second avenant, "
+      "veuillez supprimer le contrat et le recréer pour effectuer votre modification.";
+  const Attributs cdd{
+      {C::Type, "D"}, {C::DateFinPresumee, jour("31/03/2026")}, {C::MotifEmbauche, "1"}};
+  const Attributs futur{{C::DateDebut, jour("01/12/2026")}};
+  const struct {
+    const char* nom;
+    std::optional<Attributs> contrat;  // nothing: a new one
+    std::function<void()> actes;
+    std::string message;  // "" when the contract is saved
+    const char* actif;
+  } cas[] = {
+      {"1",
+       {},
+       [&] { creer(); },
+       "La convention collective est obligatoire.",
+       "Txt_ConvColContrat"},
+      {"2",
+       {},
+       [&] { nouveau("01", ""); },
+       "L'entité juridique est obligatoire.",
+       "Txt_AssocContrat"},
+      {"3",
+       {},
+       [&] { nouveau("01", "002"); },
+       "L'employeur est obligatoire.",
+       "Cbo_LibEmplEtabContrat"},
+      {"4",
+       {},
+       [&] { nouveau("01", "001"); },
+       "La date de début de contrat est obligatoire.",
+       "Txt_DatDebContrat"},
+      {"5", Attributs{{C::DateDebut, "abc"}}, {}, incorrecte, "Txt_DatDebContrat"},
+      {"6", Attributs{}, [&] { remplir(o().Txt_DateSignConvEmplAide, "1/1/26"); },
+       "Le numéro de référence est obligatoire si la date de signature convention emploi aidé est "
+       "renseignée.",
+       "Txt_NumRef"},
+      {"7",
+       Attributs{{C::Type, "D"}, {C::DateFinPresumee, "abc"}},
+       {},
+       incorrecte,
+       "Txt_DatFinContrat"},
+      {"8", Attributs{}, [&] { determine("28/02/2026"); },
+       "La date de fin de contrat présumée doit être supérieure ou égale à la date de début de "
+       "contrat.",
+       "Txt_DatFinContrat"},
+      {"8 same day", cdd, [&] { determine("01/03/2026"); }, "", ""},
+      {"9", Attributs{}, [&] { determine(""); },
+       "La date de fin présumée est obligatoire pour un CDD.", "Txt_DatFinContrat"},
+      {"12", Attributs{{C::DepartGrille, valeurs("", jour("01/06/2026"))}},
+       [&] { debuter("02/06/2026"); }, avantAvenant, "Txt_DatDebContrat"},
+      {"13", futur, [&] { debuter("31/10/2026"); },
+       "La date de début de contrat ne peut être antérieure au 01/11/2026.", "Txt_DatDebContrat"},
+      {"13 first day", futur, [&] { debuter("01/11/2026"); }, "", ""},
+      {"14", futur,
+       [&] {
+         article("DETAILCALCUL", "00001001202611", {{1, "x"}});
+         debuter("02/12/2026");
+       },
+       calcule, "Txt_DatDebContrat"},
+      {"14 next month", futur,
+       [&] {
+         db.OpenFile("DETAILCALCUL").DeleteItem("00001001202611");
+         article("DETAILCALCUL", "00001001202612", {{1, "x"}});
+         debuter("02/12/2026");
+       },
+       calcule, "Txt_DatDebContrat"},
+      {"14 unmoved", futur, [&] { remplir(o().Txt_PerEssaiContrat, "30"); }, "", ""},
+      {"15", Attributs{{C::PeriodeTraitee, "202603"}}, [&] { debuter("01/04/2026"); }, calcule,
+       "Txt_DatDebContrat"},
+      {"15 before", Attributs{{C::PeriodeTraitee, "202602"}}, [&] { debuter("01/04/2026"); }, "",
+       ""},
+  };
+  for (const auto& [nom, attributs, actes, message, focus] : cas) {
+    editeur.reset();
+    if (attributs) {
+      contrat("00001001", *attributs);
+      ouvrir("00001001");
+    }
+    if (actes) actes();
+    messages();
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(messages(), message) << nom;
+    EXPECT_EQ(actif(), focus) << nom;
+    EXPECT_EQ(editeur->Visible(), !message.empty()) << nom;
+  }
+}
+
+TEST_F(Fiche, UnMotifSaisiAussitotSuffitUneConventionDeStageNon) {
+  contrat("00001001");
+  ouvrir("00001001");
+  determine("31/12/2026");
+  hote.messages.Repondre(screen::Reponse::Non);
+  hote.modales.Prevoir([](screen::Form& f) { User(f).Cliquer(*f.Find("Cmd_Retour")); });
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(hote.messages.Prendre()->texte, "La saisie d'un motif d'embauche est obligatoire.");
+  EXPECT_TRUE(editeur->Visible());
+  messages();
+
+  User(*editeur).Derouler(o().Cbo_NatureContrat);
+  choisir(o().Cbo_NatureContrat, 1);
+  hote.modales.Prevoir([](screen::Form& f) {
+    User(f).Taper(*f.Find("Txt_MotifEmbContrat(0)"), "Congés");
+    User(f).Cliquer(*f.Find("Cmd_OK"));
+  });
+  hote.modales.Prevoir([](screen::Form& f) {
+    for (const char* champ : {"Txt_Etab", "Txt_SujetStage", "Txt_Tuteur", "Txt_Service"}) {
+      User(f).Taper(*f.Find(champ), "x");
+    }
+    User(f).Taper(*f.Find("Txt_Seuil"), "3");
+    User(f).Cliquer(*f.Find("Cmd_OK"));
+  });
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(),
+            "La saisie d'un motif d'embauche est obligatoire.|"
+            "La saisie du détail de la convention de stage est obligatoire.");
+  EXPECT_TRUE(editeur->Visible());
+  cliquer(editeur->Cmd_OK);
+  EXPECT_FALSE(editeur->Visible());
+  EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::StageEcole), "x");
+}
+
+TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
+  const Attributs avec{{C::Type, "D"},
+                       {C::Salaire, "M"},
+                       {C::Statut, "A"},
+                       {C::DateFinPresumee, jour("31/12/2026")},
+                       {C::PeriodeEssai, "60"},
+                       {C::EssaiRenouvelable, "1"},
+                       {C::DureeMinimale, "6 mois"},
+                       {C::Nature, "OLD"},
+                       {C::DateConventionAidee, jour("15/02/2026")},
+                       {C::ReferenceConventionAidee, "R1"},
+                       {C::ContrepartieInterruption, "3"}};
+  const Attributs particulier{{C::Convention, "02"}, {C::Employeur, "00007"}};
+  const Attributs perdus{{C::Convention, "55"},
+                         {C::Association, "999"},
+                         {C::Employeur, "999888"},
+                         {C::DateDebut, "abc"}};
+  for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec}) {
+    contrat("00001001", autres);
+    ouvrir("00001001");  // the same editor, over what the contract before has left
+    EXPECT_EQ(o().Txt_NumContrat.Text(), "001");
+    EXPECT_FALSE(o().Txt_ConvColContrat.Enabled() || o().Txt_AssocContrat.Enabled() ||
+                 o().Cbo_LibEmplEtabContrat.Enabled());
+    EXPECT_TRUE(o().Txt_DatDebContrat.Enabled());
+    const bool rose = autres == particulier;
+    EXPECT_EQ(editeur->paie.Cac_PaieSalContrat.Visible(), rose);
+    EXPECT_EQ(o().Cbo_LibEmplEtabContrat.Text(), rose               ? "MARTIN Rose"
+                                                 : autres == perdus ? ""
+                                                                    : "Siège");
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(messages(), "");
+    EXPECT_FALSE(editeur->Visible());
+  }
+}
+
+TEST_F(Fiche, EcritChaqueChampASaPlace) {
+  contrat("00001001");
+  ouvrir("00001001");
+  User(*editeur).Derouler(o().Cbo_NatureContrat);
+  EXPECT_EQ(lignes(o().Cbo_NatureContrat), "Normal|Stagiaire");
+  determine("31122027");
+  cliquer(o().Opt_Mensuel);
+  cliquer(o().Opt_Administratif);
+  remplir(o().Txt_PerEssaiContrat, "2x1");
+  cliquer(o().Cac_RenouvEssaiContrat);
+  remplir(o().Txt_DureeMinContrat, "6 mois");
+  choisir(o().Cbo_NatureContrat, 1);
+  remplir(o().Txt_DateSignConvEmplAide, "15-2-26");
+  remplir(o().Txt_NumRef, "R1");
+  choisir(o().Cbo_Contrepartie, 2);
+  copier();
+  const Attributs attendus{{C::Type, "D"},
+                           {C::Salaire, "M"},
+                           {C::Statut, "A"},
+                           {C::DateFinPresumee, jour("31/12/2027")},
+                           {C::PeriodeEssai, "21"},
+                           {C::EssaiRenouvelable, "1"},
+                           {C::DureeMinimale, "6 mois"},
+                           {C::Nature, "STG"},
+                           {C::DateConventionAidee, jour("15/02/2026")},
+                           {C::ReferenceConventionAidee, "R1"},
+                           {C::ContrepartieInterruption, "3"},
+                           {C::Employeur, "001001"}};
+  for (const auto& [a, texte] : attendus) EXPECT_EQ(c()(a), texte) << a;
+
+  remplir(o().Txt_DateSignConvEmplAide, "");  // takes the reference along
+  cliquer(o().Opt_Indetermine);               // and the type its presumed end
+  copier();
+  EXPECT_EQ(c()(C::ReferenceConventionAidee) + c()(C::DateFinPresumee), "");
+  EXPECT_EQ(o().Txt_DatFinContrat.Text(), "");
+}
+
+TEST_F(Fiche, UneNatureQuiNEstPlusStagiairePerdLaConvention) {
+  contrat("00001001", {{C::Nature, "STG"}, {C::StageEcole, "Lycée"}, {C::StageSeuil, "375"}});
+  ouvrir("00001001");
+  EXPECT_TRUE(o().Cmd_Stage.Visible());
+  remplir(o().Cbo_NatureContrat, "Ancien");  // on file, but no longer offered
+  EXPECT_EQ(messages(), "La nature saisie n'existe pas, veuillez la ressaisir.");
+  EXPECT_EQ(actif(), "Cbo_NatureContrat");
+  remplir(o().Cbo_NatureContrat, "Normal");
+  EXPECT_FALSE(o().Cmd_Stage.Visible());
+  copier();
+  EXPECT_EQ(c()(C::Nature) + c()(C::StageEcole) + c()(C::StageSeuil), "CDI");
+}
+
+TEST_F(Fiche, UnDebutDeplaceEntraineLeContratSigne) {
+  const std::string mars = jour("01/03/2026"), avril = jour("01/04/2026"), mai = jour("01/05/2026"),
+                    juin = jour("01/06/2026");
+  for (const std::string& depart : {mars, mai, std::string()}) {
+    contrat("00001001",
+            {{C::DateEffet, valeurs(mars, juin)}, {C::DepartGrille, valeurs(depart, juin)}});
+    ouvrir("00001001");
+    for (const std::string& debut : {avril, mai, mars, avril}) {
+      debuter(session.Lib.DateFromInternal(debut).c_str());
+      remplir(o().Txt_PerEssaiContrat, debut == mars ? "1" : "2");
+      copier();
+      EXPECT_EQ(c()(C::DateDebut), debut);
+      EXPECT_EQ(c()(C::DateEffet), valeurs(debut, juin));
+      EXPECT_EQ(c()(C::DepartGrille), valeurs(depart == mars ? debut : depart, juin)) << depart;
+    }
+    debuter("01/06/2026");
+    EXPECT_EQ(messages().substr(0, 60),
+              "Voulez-vous enregistrer les modifications apportées à cet ");
+    EXPECT_EQ(o().Txt_DatDebContrat.Text(), "");
+    hote.messages.Repondre(screen::Reponse::Non);
+    cliquer(editeur->Cmd_Retour);
+    messages();
+  }
+}
+
+// The copy made on leaving is in the contract in hand already when the checks run.
+TEST_F(Fiche, QuitterEnEnregistrantCompareAuDebutSurFichier) {
+  contrat("00001001", {{C::PeriodeTraitee, "202603"}});
+  ouvrir("00001001");
+  debuter("01/05/2026");
+  hote.messages.Repondre(screen::Reponse::Oui);
+  cliquer(editeur->Cmd_Retour);
+  EXPECT_TRUE(editeur->Visible());
+  EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::DateDebut), jour("01/03/2026"));
+}
+
+TEST_F(Fiche, UneCreationPrendSaDateDEffetDuDebut) {
+  nouveau("02", "001");
+  taper(o().Txt_EmplEtabContrat, "00007");
+  debuter("5/1/27");
+  EXPECT_EQ(editeur->caracteristiques.Txt_DatEffetContrat.Text() + " " +
+                editeur->caracteristiques.Txt_AvenantContrat.Text(),
+            "05/01/2027 0");
+  debuter("32/1/27");  // stays in the box until it is a date
+  EXPECT_EQ(o().Txt_DatDebContrat.Text() + " " + actif(), "32/1/27 Txt_DatDebContrat");
+  debuter("05/01/2027");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(), "");
+  const data::CItem ecrit = session.F_CONTRAT.Read("00001002");
+  EXPECT_EQ(ecrit(C::Employeur) + " " + ecrit(C::DateEffet) + " " + ecrit(C::EssaiRenouvelable) +
+                ecrit(C::Type) + ecrit(C::Salaire) + ecrit(C::Statut),
+            "00007 " + jour("05/01/2027") + " 0IHP");
+}
+
+TEST_F(Fiche, LesOptionsMontrentCeQuiLesConcerne) {
+  contrat("00001001");
+  ouvrir("00001001");
+  auto& carac = editeur->caracteristiques;
+  const auto terme = [&] {
+    return std::string{o().Txt_DatFinContrat.Visible() ? '1' : '0',
+                       o().Txt_DureeMinContrat.Visible() ? '1' : '0',
+                       editeur->fin.Cac_PrecaLibContrat.Enabled() ? '1' : '0',
+                       editeur->fin.Cac_PrecaLibContrat.Value() != 0 ? '1' : '0'};
+  };
+  EXPECT_EQ(terme(), "0000");
+  cliquer(o().Opt_Determine);
+  EXPECT_EQ(terme(), "1111");
+  cliquer(o().Opt_Indetermine);
+  EXPECT_EQ(terme(), "0000");
+  cliquer(o().Opt_Mensuel);
+  EXPECT_TRUE(carac.Cdr_Lissage.Visible());
+  carac.Cac_Lissage.SetValue(1);
+  cliquer(o().Opt_Horaire);
+  EXPECT_FALSE(carac.Cdr_Lissage.Visible());
+  EXPECT_EQ(carac.Cac_Lissage.Value(), 0);
+  cliquer(o().Opt_Administratif);
+  EXPECT_TRUE(editeur->paie.Lst_RepartActContrat.Visible());
+  cliquer(o().Opt_Mensuel);  // administrative staff have no modulation
+  EXPECT_FALSE(carac.Cdr_Lissage.Visible());
+}
+
+// Every field of the tab, in both modes: nothing is stored, the contract in hand stays as it is,
+// and the user can always clear the box and go on.
+TEST_F(Fiche, NImporteQuoiDansChaqueChampNeCasseRien) {
+  const std::string insultes[] = {"abcdef",
+                                  std::string(10000, '9'),
+                                  std::string("\x01\x1c\x1d\x1e\x7f\0x", 7),
+                                  "\"",
+                                  "]\"[",
+                                  "0\" OR AVEC 0 = \"",
+                                  "99/99/9999",
+                                  "\xc3",
+                                  "é€𝄞"};
+  contrat("00001001");
+  for (const char* cle : {"", "00001001"}) {
+    *cle == '\0' ? creer() : ouvrir(cle);
+    if (*cle == '\0') taper(o().Txt_ConvColContrat, "02");
+    if (*cle == '\0') taper(o().Txt_AssocContrat, "001");
+    cliquer(o().Opt_Determine);
+    const std::string avant = c().Text();
+    stockage->EchouerEcriture(0);
+    for (screen::Field* champ : editeur->Fields()) {
+      const bool saisie =
+          champ->Genre() == screen::Kind::Texte || champ->Genre() == screen::Kind::Deroulante;
+      if (champ->Cadre() != &o().Page || !saisie || !champ->Accessible()) continue;
+      for (const std::string& texte : insultes) {
+        User user(*editeur);
+        user.Taper(*champ, texte);
+        user.Touche(*champ, screen::ToucheEntree);
+        user.Quitter();
+        user.Coller(*champ, texte);
+        user.Quitter();
+        if (!champ->Accessible()) break;
+        user.Taper(*champ, "");
+        EXPECT_EQ(user.Quitter(), Acte::Fait) << champ->Nom();
+      }
+    }
+    EXPECT_EQ(c().Text(), avant);
+    EXPECT_EQ(stockage->Ecritures(), 0);
+    editeur.reset();
+    session.CombosRemplis = false;
+  }
+}
+
+TEST_F(Fiche, UneErreurDeLectureNeLaissePasDeCodeNonVerifie) {
+  nouveau("02", "001");
+  for (int appel = 1; appel <= 3; ++appel) {
+    stockage->EchouerAppel(appel);
+    EXPECT_THROW(taper(o().Txt_EmplEtabContrat, "00007"), data::StoreError) << appel;
+    EXPECT_EQ(o().Txt_EmplEtabContrat.Text() + o().Cbo_LibEmplEtabContrat.Text() +
+                  editeur->paie.Txt_PrevContrat.Text(),
+              "");
+  }
+  stockage->EchouerAppel(0);
+  taper(o().Txt_EmplEtabContrat, "00007");
+  EXPECT_EQ(o().Cbo_LibEmplEtabContrat.Text(), "Rose MARTIN");
+  stockage->EchouerAppel(1);
+  taper(o().Cbo_LibEmplEtabContrat, "mar");
+  EXPECT_THROW(User(*editeur).Touche(o().Cbo_LibEmplEtabContrat, screen::ToucheEntree),
+               data::StoreError);
+  EXPECT_TRUE(editeur->Enabled());
+  EXPECT_FALSE(hote.curseur.EnAttente());
+}
+
+}  // namespace
