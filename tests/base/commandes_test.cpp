@@ -48,8 +48,8 @@ class CommandesTest : public testing::Test {
 TEST_F(CommandesTest, ExporterEstLInverseDImporter) {
   EXPECT_EQ(Sortie({"exporter"}), Articles);
   const std::string texte = Articles;
-  const std::size_t finAidants = texte.find("\n") + 1;
-  const std::size_t debutPcs = texte.rfind("{");
+  const std::size_t finAidants = texte.find('\n') + 1;
+  const std::size_t debutPcs = texte.rfind('{');
   EXPECT_EQ(Sortie({"exporter", "--fichier", "PCS", "--fichier", "CIVILAIDANT"}),
             texte.substr(0, finAidants) + texte.substr(debutPcs));
 
