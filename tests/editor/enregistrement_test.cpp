@@ -1,0 +1,503 @@
+// What a confirmed editor stores, in what order, and what it leaves when a write fails.
+
+#include <functional>
+
+#include "dialogs/frm_reprise.h"
+#include "editor/editeur_essai.h"
+
+namespace {
+
+using essai::Acte, essai::jour;
+using screen::Reponse;
+namespace C = data::Contrat;
+
+class Enregistre : public essai::Editeur {
+ protected:
+  // A new open-ended contract of entity 001, filled in as far as its OK needs.
+  void saisir(const std::string& debut, const char* convention = "01",
+              const char* employeur = "001") {
+    creer();
+    taper(o().Txt_ConvColContrat, convention);
+    taper(o().Txt_AssocContrat, "001");
+    taper(o().Txt_EmplEtabContrat, employeur);
+    remplir(o().Txt_DatDebContrat, debut);
+  }
+  // The record's text with visible separators, "-" for none.
+  std::string lu(const std::string& fichier, const std::string& cle) {
+    std::string texte;
+    if (!memoire.Get(fichier, cle, texte)) return "-";
+    for (char& c : texte) {
+      if (c == data::SepAttribut) c = '^';
+      if (c == data::SepValeur) c = '|';
+    }
+    return texte;
+  }
+  std::string attribut(const std::string& fichier, const std::string& cle, int a) {
+    return db.OpenFile(fichier).Read(cle)(a);
+  }
+  // Every record, one a line.
+  std::string tout() {
+    std::string lignes;
+    for (const auto& [nom, nombre] : memoire.Fichiers()) {
+      memoire.Scan(nom, data::KeyRange::Tout(), [&](auto cle, auto) {
+        lignes += nom + " " + std::string(cle) + " " + lu(nom, std::string(cle)) + "\n";
+        return true;
+      });
+    }
+    return lignes;
+  }
+  // The fixed-term contract 001, over before the new one, whose leave can be taken over.
+  void precedent(const std::string& fin, Attributs autres = {}) {
+    autres.merge(Attributs{{C::Type, "D"},
+                           {C::DateDebut, jour("01/01/2025")},
+                           {C::DateFin, jour(fin)},
+                           {C::DernierBulletin, "202605"},
+                           {C::PrimePrecarite, "1"}});
+    contrat("00001001", autres);
+    article("DETAILCALCUL", "00001001202605", {{1, "F"}});
+  }
+  // The user of the restart dialog.
+  void repondreReprise(const std::function<void(dialogs::Frm_Reprise&)>& utilisateur) {
+    hote.modales.Prevoir([utilisateur](screen::Form& form) {
+      utilisateur(dynamic_cast<dialogs::Frm_Reprise&>(form));
+    });
+  }
+  void accepterReprise(bool conges) {
+    repondreReprise([conges](dialogs::Frm_Reprise& f) {
+      screen::User user(f);
+      if (conges) user.Cliquer(f.Cac_CpPerenne);
+      user.Cliquer(f.Cmd_Ok);
+    });
+  }
+};
+
+TEST_F(Enregistre, ContratDEntite) {
+  saisir("01/12/2026");
+  EXPECT_EQ(cliquer(editeur->Cmd_OK), Acte::Fait);
+  EXPECT_EQ(messages(), "");
+  EXPECT_FALSE(editeur->Visible());
+  EXPECT_EQ(session.CleContratCourant, "00001002");
+  // 21520 is 01/12/2026.
+  EXPECT_EQ(lu("CONTRAT", "00001002").substr(0, 30), "01^001^001001^I^H^P^21520^^^^^");
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DelaiPrevAcquis), "0");
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DelaiPrevRestants), "0");
+  EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41), "002");
+  for (const auto& [fichier, cle] : {std::pair{"ACTUSUIVICONTRAT", "00001"},
+                                     {"LIENCONTRAT", "CONTRAT00101"},
+                                     {"LIENAVENANT", "AVENANT00101"},
+                                     {"CONTRAT00101", "00001002"}}) {
+    EXPECT_EQ(lu(fichier, cle), "") << fichier;
+  }
+  EXPECT_EQ(lu("CONTRATINV", "00001001"), "-");
+  EXPECT_EQ(lu("DSNEVENEMENT", "00001002"), "-");
+}
+
+TEST_F(Enregistre, ContratDeParticulierEmployeur) {
+  saisir("01/12/2026", "02", "00007");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(lu("CONTRAT", "00001002").substr(0, 14), "02^001^00007^I");
+  EXPECT_EQ(lu("CONTRATINV", "0000100007"), "002");
+  EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), "21520");
+  EXPECT_EQ(lu("ACTUSUIVICONTRAT", "00001"), "-");
+  EXPECT_TRUE(hote.modales.Montrees().empty());  // never looks for a contract before
+}
+
+TEST_F(Enregistre, ChoisitLeNumero) {
+  const struct {
+    const char* dernier;
+    const char* libres;
+    std::vector<const char*> presents;
+    const char* numero;
+    const char* apres;
+    const char* message;
+  } cas[] = {
+      {"", "", {}, "001", "001^", ""},
+      {"009", "", {}, "010", "010^", ""},
+      {"009", "005|007", {}, "005", "009^007", ""},
+      // Numbers given again by an interrupted save.
+      {"009",
+       "",
+       {"010"},
+       "011",
+       "011^",
+       "Un contrat de cet aidant porte déjà le numéro 010 : le nouveau contrat prend le numéro "
+       "011."},
+      {"009",
+       "005",
+       {"005", "010"},
+       "011",
+       "011^",
+       "Un contrat de cet aidant porte déjà le numéro 005, 010 : le nouveau contrat prend le "
+       "numéro "
+       "011."},
+      {"999",
+       "",
+       {},
+       "",
+       "999^",
+       "Cet aidant n'a plus de numéro de contrat libre : 999 ont été donnés."},
+  };
+  for (const auto& [dernier, libres, presents, numero, apres, message] : cas) {
+    for (int n = 1; n < 20; ++n) {
+      db.OpenFile("CONTRAT").DeleteItem("00001" + std::string(n < 10 ? "00" : "0") +
+                                        std::to_string(n));
+    }
+    std::string valeurs = libres;
+    std::replace(valeurs.begin(), valeurs.end(), '|', data::SepValeur);
+    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, dernier}, {42, valeurs}});
+    for (const char* present : presents) {
+      contrat("00001" + std::string(present), {{C::Annule, "O"}, {C::Employeur, "001009"}});
+    }
+    saisir("01/12/2026");
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(messages(), message) << dernier << libres;
+    const std::string compteur = lu("CIVILAIDANT", "00001");
+    const auto place = std::string(apres).find('^');
+    EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41), std::string(apres).substr(0, place));
+    EXPECT_EQ(attribut("CIVILAIDANT", "00001", 42), std::string(apres).substr(place + 1));
+    if (*numero != '\0') {
+      EXPECT_EQ(session.CleContratCourant, "00001" + std::string(numero));
+      EXPECT_EQ(attribut("CONTRAT", session.CleContratCourant, C::DateDebut), "21520");
+      EXPECT_EQ(attribut("CONTRAT", session.CleContratCourant, C::Annule), "");
+    }
+    for (const char* present : presents) {
+      EXPECT_EQ(attribut("CONTRAT", "00001" + std::string(present), C::Employeur), "001009");
+    }
+    editeur.reset();
+  }
+}
+
+TEST_F(Enregistre, ProposeCeQuiVientDuContratPrecedent) {
+  const struct {
+    const char* fin;
+    const char* anciennete;  // proposed
+    const char* prime;       // of the previous contract, afterwards
+  } cas[] = {
+      // Seniority from 01/06/2024, 2,5 suspended days (2 whole ones) and the gap.
+      {"30/11/2026", "03/06/2024", "0"},
+      {"28/11/2026", "05/06/2024", "0"},
+      {"27/11/2026", "", "1"},
+  };
+  for (const auto& [fin, anciennete, prime] : cas) {
+    precedent(fin,
+              {{C::DateAnciennete, jour("01/06/2024")}, {C::JoursSuspensionAnciennete, "250"}});
+    article("CIVILAIDANT", "00001", {{41, "001"}});
+    db.OpenFile("CONTRAT").DeleteItem("00001002");
+    saisir("01/12/2026");
+    std::string montre;
+    repondreReprise([&](dialogs::Frm_Reprise& f) {
+      montre = f.Txt_DateDeb.Text() + " " + f.Txt_DateFin.Text() + " " + f.Txt_DebAnc.Text() + " " +
+               f.Txt_JoursSuspAnc.Text() + " " + f.Txt_DateRefAnc.Text();
+      EXPECT_EQ(f.Txt_DebAncRecalc.Text(), anciennete) << fin;
+      EXPECT_TRUE(f.Opt_Cdd.Value());
+      screen::User user(f);
+      EXPECT_EQ(user.Cliquer(f.Cac_CpPerenne), Acte::Fait);
+      user.Cliquer(f.Cmd_Ok);
+    });
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(messages(), "");
+    EXPECT_EQ(montre, "01/01/2025 " + std::string(fin) + " 01/06/2024 2,5 03/06/2024");
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), jour(anciennete));
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "00001001");
+    EXPECT_EQ(attribut("CONTRAT", "00001001", C::CongesReportesSur), "00001002");
+    EXPECT_EQ(attribut("CONTRAT", "00001001", C::PrimePrecarite), prime) << fin;
+  }
+}
+
+TEST_F(Enregistre, LaRepriseSeRefuseOuSeLimiteAuxDates) {
+  precedent("30/11/2026");
+  saisir("01/12/2026");
+  repondreReprise([](dialogs::Frm_Reprise& f) { screen::User(f).Cliquer(f.Cmd_Annuler); });
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), "");
+  EXPECT_EQ(attribut("CONTRAT", "00001001", C::CongesReportesSur), "");
+
+  db.OpenFile("CONTRAT").DeleteItem("00001002");
+  article("CIVILAIDANT", "00001", {{41, "001"}});
+  saisir("01/12/2026");
+  accepterReprise(false);
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), jour("01/01/2025"));
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");
+  EXPECT_EQ(attribut("CONTRAT", "00001001", C::PrimePrecarite), "1");
+}
+
+TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
+  // The event of contract 001 before and after: "-" none, else attributes 1 and 2.
+  const struct {
+    const char* nom;
+    Attributs contrat;
+    bool finChangee;
+    Attributs lie;  // contract 002
+    std::string avant;
+    std::string apres;
+  } cas[] = {
+      {"nothing changed", {}, false, {}, "-", "-"},
+      {"an end", {}, true, {}, "-", "^1"},
+      {"an end, event known", {}, true, {}, "E", "E^1"},
+      {"private employers declare elsewhere",
+       {{C::Convention, "02"}, {C::Employeur, "00007"}},
+       true,
+       {},
+       "-",
+       "-"},
+      {"cancelled, none", {{C::Annule, "O"}}, false, {}, "-", "-"},
+      {"cancelled, not sent", {{C::Annule, "O"}}, false, {}, "^1", "-"},
+      {"cancelled, sent", {{C::Annule, "O"}}, false, {}, "E", "E^1"},
+      {"fixed term carried over",
+       {{C::Type, "D"}, {C::CongesReportesSur, "00001002"}},
+       true,
+       {{C::CongesReprisDe, "00001001"}},
+       "-",
+       "-"},
+      {"the same, sent",
+       {{C::Type, "D"}, {C::CongesReportesSur, "00001002"}},
+       true,
+       {{C::CongesReprisDe, "00001001"}},
+       "E^1",
+       "E"},
+      {"to a contract that does not link back",
+       {{C::Type, "D"}, {C::CongesReportesSur, "00001002"}},
+       true,
+       {},
+       "-",
+       "^1"},
+      {"to another fixed term",
+       {{C::Type, "D"}, {C::CongesReportesSur, "00001002"}},
+       true,
+       {{C::CongesReprisDe, "00001001"}, {C::Type, "D"}},
+       "-",
+       "^1"},
+  };
+  for (const auto& [nom, attributs, finChangee, lie, avant, apres] : cas) {
+    Attributs complet = attributs;
+    complet.merge(Attributs{{C::DateFin, jour("30/06/2026")},
+                            {C::DernierBulletin, "202606"},
+                            {C::MotifEmbauche, "01"},
+                            {C::DateFinPresumee, jour("30/06/2026")}});
+    contrat("00001001", complet);
+    Attributs suivant = lie;
+    suivant.merge(Attributs{{C::DateDebut, jour("01/07/2026")}});
+    contrat("00001002", suivant);
+    db.OpenFile("DSNEVENEMENT").DeleteItem("00001001");
+    if (avant != "-") {
+      const auto place = avant.find('^');
+      article("DSNEVENEMENT", "00001001",
+              {{1, avant.substr(0, place)},
+               {2, place == std::string::npos ? "" : avant.substr(place + 1)}});
+    }
+    ouvrir("00001001");
+    if (finChangee) session.DateFinInitiale = "";
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(messages(), "") << nom;
+    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << nom;
+    editeur.reset();
+  }
+}
+
+TEST_F(Enregistre, LaRepriseRetireLEvenementDuPrecedent) {
+  const struct {
+    const char* avant;  // attribute 1 of the event of the fixed term, "-" for no event
+    const char* apres;
+  } cas[] = {{"-", "-"}, {"", "-"}, {"E", "E^1"}};
+  for (const auto& [avant, apres] : cas) {
+    precedent("30/11/2026");
+    db.OpenFile("CONTRAT").DeleteItem("00001002");
+    article("CIVILAIDANT", "00001", {{41, "001"}});
+    if (*avant != '-') article("DSNEVENEMENT", "00001001", {{1, avant}, {2, "1"}});
+    saisir("01/12/2026");
+    accepterReprise(true);
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << avant;
+    db.OpenFile("DSNEVENEMENT").DeleteItem("00001001");
+  }
+}
+
+TEST_F(Enregistre, UneFinSansDernierBulletinSeDit) {
+  contrat("00001001", {{C::DateFin, jour("30/06/2026")}});
+  ouvrir("00001001");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(),
+            "Une date de fin de contrat a été créée, veuillez arrêter de travailler sur cet "
+            "ordinateur et merci d'appeler KORVALDIS.");
+  EXPECT_EQ(hote.messages.Tous().back().titre, "");
+}
+
+TEST_F(Enregistre, LesMissionsFinissentAvecLeContrat) {
+  contrat("00001001", {{C::DateFin, jour("30/06/2026")}, {C::DernierBulletin, "202606"}});
+  const std::string fin = jour("30/06/2026");
+  // No end, an earlier one, a later one, and one of another entity.
+  article("MISSIONSAIDANT", "00001",
+          {{3, std::string("\x1d") + "21000\x1d"
+                                     "22000\x1d"
+                                     "22000"},
+           {13,
+            "001\x1d"
+            "001\x1d"
+            "001\x1d"
+            "002"}});
+  ouvrir("00001001");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(lu("MISSIONSAIDANT", "00001").substr(2),
+            fin + "|21000|" + fin + "|22000^^^^^^^^^^001|001|001|002");
+}
+
+TEST_F(Enregistre, UnChevauchementSeCorrigeOuAbandonne) {
+  contrat("00001001", {{C::DateFin, jour("31/12/2026")}, {C::DernierBulletin, "202612"}});
+  const std::string avant = tout();
+  saisir("01/12/2026");
+  hote.messages.Repondre(Reponse::Oui);
+  cliquer(editeur->Cmd_OK);
+  EXPECT_TRUE(editeur->Visible() && editeur->Enabled());
+  EXPECT_FALSE(hote.curseur.EnAttente());
+  EXPECT_EQ(screen::User(*editeur).Fermer(), Acte::Avale);  // the frame's box stays shut
+  EXPECT_EQ(tout(), avant);
+  EXPECT_TRUE(messages().starts_with("Création impossible car 2 contrats"));
+  remplir(o().Txt_DatDebContrat, "01/01/2027");
+  repondreReprise([](dialogs::Frm_Reprise& f) { screen::User(f).Cliquer(f.Cmd_Annuler); });
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateDebut), jour("01/01/2027"));
+
+  // Over against the open-ended contract just made there is no date to choose.
+  saisir("01/06/2027");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_FALSE(editeur->Visible());
+  EXPECT_TRUE(session.ConflitContrat);
+  EXPECT_EQ(lu("CONTRAT", "00001003"), "-");
+
+  // A contract on file just stays in the editor.
+  ouvrir("00001002");
+  remplir(o().Txt_DatDebContrat, "31/12/2026");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_TRUE(editeur->Visible());
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateDebut), jour("01/01/2027"));
+}
+
+TEST_F(Enregistre, QuitterDemandeSeulementApresUnChangement) {
+  contrat("00001001");
+  const std::string avant = tout();
+  const struct {
+    const char* nom;
+    int niveau;
+    const char* duree;  // typed; "" for no change
+    std::vector<Reponse> reponses;
+    bool ferme;
+    bool ecrit;
+  } cas[] = {
+      {"no change", 2, "", {}, true, false},
+      {"consultation", 1, "3 mois", {}, true, false},
+      {"no", 2, "3 mois", {Reponse::Non}, true, false},
+      {"cancel", 2, "3 mois", {Reponse::Annuler}, false, false},
+      {"yes", 2, "3 mois", {Reponse::Oui}, true, true},
+  };
+  for (const auto& [nom, niveau, duree, reponses, ferme, ecrit] : cas) {
+    droits = session::DroitsUniformes(niveau);
+    ouvrir("00001001");
+    EXPECT_EQ(editeur->Cmd_OK.Visible(), niveau == 2) << nom;
+    o().Opt_Determine.SetValue(true);  // shows the minimum duration
+    o().Opt_Indetermine.SetValue(true);
+    if (*duree != '\0') taper(o().Txt_PerEssaiContrat, "9");
+    for (const Reponse reponse : reponses) hote.messages.Repondre(reponse);
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(editeur->Visible(), !ferme) << nom;
+    EXPECT_EQ(tout() != avant, ecrit) << nom;
+    EXPECT_TRUE(hote.messages.ReponsesRestantes().empty()) << nom;
+    editeur.reset();
+  }
+  EXPECT_EQ(attribut("CONTRAT", "00001001", C::PeriodeEssai), "9");
+  EXPECT_EQ(lu("ACTUSUIVICONTRAT", "00001"), "");
+}
+
+TEST_F(Enregistre, QuitterUneCreation) {
+  saisir("01/12/2026");
+  const std::string avant = tout();
+  hote.messages.Repondre(Reponse::Non);
+  cliquer(editeur->Cmd_Retour);
+  EXPECT_TRUE(editeur->Visible());
+  EXPECT_EQ(o().Txt_DatDebContrat.Text(), "01/12/2026");
+  hote.messages.Repondre(Reponse::Oui);
+  cliquer(editeur->Cmd_Retour);
+  EXPECT_FALSE(editeur->Visible());
+  EXPECT_TRUE(session.CreationAbandonnee);
+  EXPECT_EQ(tout(), avant);
+  EXPECT_EQ(o().Txt_ConvColContrat.Text() + o().Txt_DatDebContrat.Text(), "");
+}
+
+// The writes of a road, each failed in turn: the error names file and key, nothing later is there,
+// the screen is the user's again, and saving again ends as if nothing had happened.
+class Panne : public Enregistre {
+ protected:
+  void eprouver(const std::function<void()>& preparer, const std::function<void()>& dialogues) {
+    preparer();
+    dialogues();
+    stockage->EchouerEcriture(0);
+    cliquer(editeur->Cmd_OK);
+    const int ecritures = stockage->Ecritures();
+    const std::string attendu = tout();
+    ASSERT_GT(ecritures, 3);
+    for (int n = 1; n <= ecritures; ++n) {
+      editeur.reset();
+      session.CombosRemplis = false;
+      preparer();
+      const std::string saisie = o().Txt_DatDebContrat.Text();
+      const std::string avant = tout();
+      dialogues();
+      stockage->EchouerEcriture(n);
+      try {
+        cliquer(editeur->Cmd_OK);
+        FAIL() << "write " << n << " did not fail";
+      } catch (const data::StoreError& e) {
+        EXPECT_FALSE(e.Fichier().empty() || e.Cle().empty()) << n;
+      }
+      EXPECT_EQ(stockage->Ecritures(), n) << "written after the failure";
+      EXPECT_EQ(tout() == avant, n == 1);
+      EXPECT_TRUE(editeur->Visible() && editeur->Enabled()) << n;
+      EXPECT_FALSE(hote.curseur.EnAttente()) << n;
+      EXPECT_EQ(o().Txt_DatDebContrat.Text(), saisie) << n;
+      stockage->EchouerEcriture(0);
+      dialogues();
+      cliquer(editeur->Cmd_OK);
+      EXPECT_EQ(messages(), "") << n;
+      EXPECT_FALSE(editeur->Visible()) << n;
+      EXPECT_EQ(tout(), attendu) << n;
+    }
+  }
+  void vider() {
+    for (const char* fichier : {"CONTRAT", "CONTRATINV", "ACTUSUIVICONTRAT", "LIENCONTRAT",
+                                "LIENAVENANT", "CONTRAT00101", "CONTRAT00102", "DSNEVENEMENT"}) {
+      std::vector<std::string> cles;
+      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto) {
+        cles.emplace_back(cle);
+        return true;
+      });
+      for (const auto& cle : cles) memoire.Erase(fichier, cle);
+    }
+    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, "001"}});
+  }
+};
+
+TEST_F(Panne, CreationPourUneEntiteApresUnContrat) {
+  eprouver(
+      [&] {
+        stockage->EchouerEcriture(0);
+        vider();
+        precedent("30/11/2026");
+        article("DSNEVENEMENT", "00001001", {{2, "1"}});
+        saisir("01/12/2026");
+      },
+      [&] { accepterReprise(true); });
+}
+
+TEST_F(Panne, CreationPourUnParticulier) {
+  eprouver(
+      [&] {
+        stockage->EchouerEcriture(0);
+        vider();
+        saisir("01/12/2026", "02", "00007");
+      },
+      [] {});
+}
+
+}  // namespace
