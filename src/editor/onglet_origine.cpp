@@ -8,7 +8,7 @@
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/voisins.h"
-#include "data/texte.h"
+#include "data/nombre.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_stage.h"
 #include "editor/editeur.h"

@@ -171,9 +171,6 @@ void OngletOrigine::Remplir_Prevoyance() {
       "SSELECT CONTRATSPREV AVEC ConvColPrev = " + data::citer(Txt_ConvColContrat.Text()) +
           " AND AVEC 0 <> \"99\"   PAR 1",
       data::fichier::CONTRATSPREV, "0 1");
-  for (int i = ListePrev.DCount(); i >= 1; --i) {
-    if (ListePrev.Vue(i, Liste::Code) == data::ContratsPrev::CleSans) ListePrev.Delete(i);
-  }
   Liste::remplir(editeur_.paie.Cbo_LibPrevContrat, ListePrev);
 }
 

@@ -76,7 +76,7 @@ void OngletOrigine::LirePrevoyanceEmployeur() {
   PrevContratPrecedent = code;
 }
 
-// A contract that payroll has processed was never a new one: its dates stay off until then.
+// The dates of a contract on file are always open; those of a new one until payroll processes it.
 void OngletOrigine::RafraichirEmployeur() {
   const bool libre =
       !Session().ModeCreation || Session().ItemContrat.Vue(data::Contrat::PeriodeTraitee).empty();

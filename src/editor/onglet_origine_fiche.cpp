@@ -244,12 +244,13 @@ void OngletOrigine::EcrireNature() {
   for (const int a : C::GroupeStage) contrat.Set(a, "");
 }
 
-// The code of the nature shown. Where several have that label, the one on file goes first.
+// The code of the nature shown; the one on file while the box shows just that, also where its label
+// is not alone or not known any more.
 std::string OngletOrigine::CodeNature() const {
   const std::string& libelle = Cbo_NatureContrat.Text();
   const std::string actuelle = Session().ItemContrat(C::Nature);
-  if (libelle.empty() || LibelleNature(actuelle) == libelle) return libelle.empty() ? "" : actuelle;
-  for (int v = 1; v <= ListeNatures.DCount(data::Tables::Codes); ++v) {
+  if (LibelleNature(actuelle) == libelle) return actuelle;
+  for (int v = 1; !libelle.empty() && v <= ListeNatures.DCount(data::Tables::Codes); ++v) {
     if (ListeNatures.Vue(data::Tables::Libelles, v) == libelle) {
       return ListeNatures(data::Tables::Codes, v);
     }

@@ -47,7 +47,8 @@ TEST_F(Codes, UnCodeConnuMontreSonLibelleEtUnAutreEstRefuse) {
       {"cé", "[][][]", convention, "Txt_ConvColContrat"},
       {"c01 e001", "[01 Branche][001 Aide du Val][001 Siège]", "", "Cbo_LibAssocContrat"},
       {"c01 e2", "[01 Branche][002 Bien Chez Soi][]", "", "Cbo_LibAssocContrat"},
-      {"c01 e0\"1", "[01 Branche][][]", "Cette entité juridique n'existe pas.", "Txt_AssocContrat"},
+      {"c01 e001 e0\"1", "[01 Branche][][]", "Cette entité juridique n'existe pas.",
+       "Txt_AssocContrat"},
       {"c01 e002 p2", "[01 Branche][002 Bien Chez Soi][002 Est]", "", "Cbo_LibEmplEtabContrat"},
       {"c01 e002 p0021", "[01 Branche][002 Bien Chez Soi][]", "Cet établissement n'existe pas.",
        "Txt_EmplEtabContrat"},
@@ -58,7 +59,7 @@ TEST_F(Codes, UnCodeConnuMontreSonLibelleEtUnAutreEstRefuse) {
        "Cbo_LibEmplEtabContrat"},
       {"c02 e001 p00009", "[02 Particuliers][001 Aide du Val][]", "Cet employeur n'existe pas.",
        "Txt_EmplEtabContrat"},
-      {"c02 e002", "[02 Particuliers][][]", sansMandat, "Txt_AssocContrat"},
+      {"c02 e001 p7 e002", "[02 Particuliers][][]", sansMandat, "Txt_AssocContrat"},
   };
   for (const auto& [actes, attendus, message, focus] : cas) {
     editeur.reset();

@@ -89,6 +89,9 @@ TEST_F(Fiche, VerifieDansLOrdre) {
        "La date de fin présumée est obligatoire pour un CDD.", "Txt_DatFinContrat"},
       {"12", Attributs{{C::DepartGrille, valeurs("", jour("01/06/2026"))}},
        [&] { debuter("02/06/2026"); }, avantAvenant, "Txt_DatDebContrat"},
+      {"12 same day",
+       Attributs{{C::DepartGrille, valeurs("", jour("01/06/2026"))}, {C::PeriodeTraitee, "202602"}},
+       [&] { debuter("01/06/2026"); }, "", ""},
       {"13", futur, [&] { debuter("31/10/2026"); },
        "La date de début de contrat ne peut être antérieure au 01/11/2026.", "Txt_DatDebContrat"},
       {"13 first day", futur, [&] { debuter("01/11/2026"); }, "", ""},
@@ -176,7 +179,8 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
   const Attributs perdus{{C::Convention, "55"},
                          {C::Association, "999"},
                          {C::Employeur, "999888"},
-                         {C::DateDebut, "abc"}};
+                         {C::DateDebut, "abc"},
+                         {C::Nature, "XXX"}};
   for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec}) {
     contrat("00001001", autres);
     ouvrir("00001001");  // the same editor, over what the contract before has left
@@ -184,6 +188,9 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
     EXPECT_FALSE(o().Txt_ConvColContrat.Enabled() || o().Txt_AssocContrat.Enabled() ||
                  o().Cbo_LibEmplEtabContrat.Enabled());
     EXPECT_TRUE(o().Txt_DatDebContrat.Enabled());
+    User(*editeur).Derouler(o().Cbo_NatureContrat);
+    EXPECT_EQ(lignes(o().Cbo_NatureContrat),
+              autres == avec ? "Normal|Stagiaire|Ancien" : "Normal|Stagiaire");
     const bool rose = autres == particulier;
     EXPECT_EQ(editeur->paie.Cac_PaieSalContrat.Visible(), rose);
     EXPECT_EQ(o().Cbo_LibEmplEtabContrat.Text(), rose               ? "MARTIN Rose"
@@ -195,6 +202,25 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
   }
 }
 
+TEST_F(Fiche, UnNouveauContratNeGardeRienDuPrecedent) {
+  contrat("00001001", {{C::EssaiRenouvelable, "1"}, {C::DateConventionAidee, "20000"}});
+  ouvrir("00001001");
+  cliquer(editeur->Cmd_Retour);
+  nouveau("02", "001");
+  taper(o().Txt_EmplEtabContrat, "00007");
+  hote.messages.Repondre(screen::Reponse::Oui);
+  cliquer(editeur->Cmd_Retour);
+  creer();
+  EXPECT_EQ(actif(), "Txt_ConvColContrat");
+  EXPECT_FALSE(o().Txt_AssocContrat.Enabled() || o().Txt_NumRef.Enabled() ||
+               o().Cmd_DetailEmpl.Visible() || editeur->paie.Cac_PaieSalContrat.Visible());
+  EXPECT_TRUE(editeur->paie.Cdr_RegimePrev.Enabled());
+  EXPECT_EQ(o().PrevContratPrecedent + lignes(editeur->paie.Cbo_LibPrevContrat) +
+                lignes(editeur->fin.Cbo_OrgRetraite),
+            "");
+  EXPECT_EQ(o().Cac_RenouvEssaiContrat.Value(), 0);
+}
+
 TEST_F(Fiche, EcritChaqueChampASaPlace) {
   contrat("00001001");
   ouvrir("00001001");
@@ -203,6 +229,8 @@ TEST_F(Fiche, EcritChaqueChampASaPlace) {
   determine("31122027");
   cliquer(o().Opt_Mensuel);
   cliquer(o().Opt_Administratif);
+  User(*editeur).Coller(o().Txt_PerEssaiContrat, "2x");
+  EXPECT_EQ(User(*editeur).Quitter(), Acte::Avale);
   remplir(o().Txt_PerEssaiContrat, "2x1");
   cliquer(o().Cac_RenouvEssaiContrat);
   remplir(o().Txt_DureeMinContrat, "6 mois");
