@@ -81,7 +81,8 @@ class Curseur {
   const char** lu_;
 };
 
-// Takes the parser's tokens and knows, for each, where it begins. Every handler that refuses throws.
+// Takes the parser's tokens and knows, for each, where it begins. Every handler that refuses
+// throws.
 class Lecture : public nlohmann::json_sax<Json> {
  public:
   Lecture(std::string_view json, Membre racine)

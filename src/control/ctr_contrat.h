@@ -60,8 +60,8 @@ class Ctr_Contrat : public screen::Form {
   void Effacer_Donnees();
   // Fills the list from the carer's contracts by the filters and the sort chosen.
   void Recherche_Contrat();
-  // Opens W_CodeContrat, or else the contract of the selected row, in the editor, and brings its row
-  // up to date when the editor has closed.
+  // Opens W_CodeContrat, or else the contract of the selected row, in the editor, and brings its
+  // row up to date when the editor has closed.
   void Appel_Contrat();
 
   // The contract key of each row: attribute = row + 1.

@@ -34,9 +34,10 @@ int jourDeSemaine(long jour);
 std::string dateAffichee(long jour);
 // That form exactly; nothing for any other text.
 std::optional<long> lireDateAffichee(std::string_view texte);
-// What a clerk types: day, month and year parted by "/", "-", "." or blanks ("1/5/26", "01-05-2026",
-// "1 5 26"), or digits alone, JJMMAA or JJMMAAAA. Two digits of a year mean 2000 to 2049, then 1950
-// to 1999. Nothing for another form, a date that does not exist, or a year outside 1900 to 2199.
+// What a clerk types: day, month and year parted by "/", "-", "." or blanks ("1/5/26",
+// "01-05-2026", "1 5 26"), or digits alone, JJMMAA or JJMMAAAA. Two digits of a year mean 2000 to
+// 2049, then 1950 to 1999. Nothing for another form, a date that does not exist, or a year outside
+// 1900 to 2199.
 std::optional<long> lireDateSaisie(std::string_view texte);
 
 // First and last day of a period, a period moved by months (negative: back), the period of a day.

@@ -3,7 +3,7 @@
 //
 //   Monnaie::DeCentiemes("15167").Texte(2)                   "151,67"
 //   (Monnaie::DeTexte("10") / Monnaie::Entier(3)).Texte(4)   "3,3333"
-//   Monnaie::DeTexte("3 428,5").Centiemes()                  342850, the integer that a record holds
+//   Monnaie::DeTexte("3 428,5").Centiemes()                  342850, as a record holds it
 //
 // Values go up to about 922 thousand billion either side of 0. Every result that four decimals
 // cannot hold is rounded half away from zero: 0,00005 is 0,0001 and -0,00005 is -0,0001. A result

@@ -1,5 +1,8 @@
 #include "data/poste.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -41,11 +44,15 @@ std::string PosteSysteme::Horodatage() const {
   return std::string(texte, std::strftime(texte, sizeof texte, "%Y-%m-%d %H:%M:%S", &local));
 }
 
+// The account that the program runs under; the environment only where the system has no name for
+// it.
 std::string PosteSysteme::NomUtilisateur() const {
-  for (const char* variable : {"USER", "LOGNAME", "USERNAME"}) {
-    const char* valeur = std::getenv(variable);
-    if (valeur == nullptr || !utf8Valide(valeur)) continue;
-    const std::string nom = gauche(sansBlancs(sansControles(valeur)), longueurNom);
+  const passwd* const compte = getpwuid(geteuid());
+  const char* const candidats[] = {compte != nullptr ? compte->pw_name : nullptr,
+                                   std::getenv("USER"), std::getenv("LOGNAME")};
+  for (const char* candidat : candidats) {
+    if (candidat == nullptr || !utf8Valide(candidat)) continue;
+    const std::string nom = gauche(sansBlancs(sansControles(candidat)), longueurNom);
     if (!nom.empty()) return nom;
   }
   return {};

@@ -12,10 +12,10 @@
 //   motif.init();
 //   motif.ShowModal();
 //
-// The frame of the replaced carers is idle or edits one entry. Idle: the list, Cmd_AjouterAidant and
-// the dialog's buttons are on, the entry's fields are off and empty. Editing: the other way round.
-// A code that stands in Txt_CodeAidant with five characters has passed the checks of a carer to be
-// replaced, unless the store failed meanwhile; then they are made again before it is taken.
+// The frame of the replaced carers is idle or edits one entry. Idle: the list, Cmd_AjouterAidant
+// and the dialog's buttons are on, the entry's fields are off and empty. Editing: the other way
+// round. A code that stands in Txt_CodeAidant with five characters has passed the checks of a carer
+// to be replaced, unless the store failed meanwhile; then they are made again before it is taken.
 
 #include <string>
 

@@ -19,8 +19,8 @@ struct ContexteMotif {
 
 std::string NomAidant(const data::CItem& civilAidant);
 
-// The carer counts as deleted for a contract that starts on `jour`: a day of deletion is on file and
-// `jour` lies before it. False when either is not known.
+// The carer counts as deleted for a contract that starts on `jour`: a day of deletion is on file
+// and `jour` lies before it. False when either is not known.
 bool EstSupprime(const data::CItem& civilAidant, std::string_view jour);
 
 // Whether something is left of a typed name once what would act as a mark in a query is left out.

@@ -187,7 +187,8 @@ void Enregistrement::Ecrire_Tte() {
   s.ItemAidantTte = data::CItem();
 }
 
-// What was stored is what counts: an end date without the period of the last payslip is never sound.
+// What was stored is what counts: an end date without the period of the last payslip is never
+// sound.
 bool Enregistrement::Relire(const std::string& cle) {
   session::Session& s = editeur_.Session();
   s.ItemContrat = s.F_CONTRAT.Read(cle);

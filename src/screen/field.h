@@ -9,9 +9,9 @@
 //
 // A drop-down's text follows its row without Change, and setting or typing another text leaves no
 // row selected. Rows can be added, inserted and removed silently; the selected row stays on its
-// text, or is lost with it, silently too. Clearing the rows of a drop-down empties its text as well,
-// silently: a handler that refills it and wants the text kept sets it again. What the user does
-// comes through screen::User alone.
+// text, or is lost with it, silently too. Clearing the rows of a drop-down empties its text as
+// well, silently: a handler that refills it and wants the text kept sets it again. What the user
+// does comes through screen::User alone.
 
 #include <string>
 #include <string_view>
@@ -249,7 +249,8 @@ class TabStrip : public Field {
   // From 0.
   int Tab() const { return tab_; }
   void SetTab(int onglet);
-  // Ties a frame to a tab: it is visible while its tab is shown, and so takes no user act otherwise.
+  // Ties a frame to a tab: it is visible while its tab is shown, and so takes no user act
+  // otherwise.
   void Lier(int onglet, Frame& page);
   TabHandler Click;
 

@@ -67,8 +67,8 @@ class Form {
                      Icone icone = Icone::Aucune, const std::string& titre = TitreMessage);
 
   // Moves the focus to `champ`, with LostFocus and GotFocus. False when the move did not happen: a
-  // handler kept or redirected the focus or hid the form, or `champ` is or became unable to take it;
-  // the field that had the focus then keeps it. During LostFocus it redirects, as SetFocus.
+  // handler kept or redirected the focus or hid the form, or `champ` is or became unable to take
+  // it; the field that had the focus then keeps it. During LostFocus it redirects, as SetFocus.
   bool MoveFocus(Field& champ);
   // Tab: to the next field that can take the focus in tab order, round the end. False as MoveFocus,
   // and when no field can.

@@ -43,8 +43,8 @@ class User {
   // Cut at the field's length; control characters are left out.
   Acte Coller(Field& champ, std::string_view texte);
 
-  // Button, option, check box, menu entry; on a list or drop-down, its selected row again; on a text
-  // the focus alone.
+  // Button, option, check box, menu entry; on a list or drop-down, its selected row again; on a
+  // text the focus alone.
   Acte Cliquer(Field& champ);
   // A row of a list or drop-down. Clicking the row that is already selected fires Click too.
   Acte Choisir(Field& champ, int ligne);

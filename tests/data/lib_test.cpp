@@ -1,6 +1,8 @@
 #include "data/lib.h"
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <climits>
 #include <cstdlib>
@@ -232,11 +234,11 @@ TEST(LibNumber, ZoneNumCarac) {
 TEST(Poste, NameAndClock) {
   EXPECT_EQ(poste.Horodatage(), "2026-11-22 00:00:00");
   const PosteSysteme systeme;
-  setenv("USER", "", 1);
-  setenv("LOGNAME", " Marie-Hélène\tde La Tour d'Auvergne", 1);
-  EXPECT_EQ(systeme.NomUtilisateur(), "Marie-Hélènede La To");
-  setenv("USER", "rose", 1);
-  EXPECT_EQ(systeme.NomUtilisateur(), "rose");
+  // The account counts, whatever the environment pretends.
+  setenv("USER", "quelqu'un d'autre", 1);
+  const passwd* const compte = getpwuid(geteuid());
+  ASSERT_NE(compte, nullptr);
+  EXPECT_EQ(systeme.NomUtilisateur(), std::string(compte->pw_name).substr(0, 20));
   const std::string jour = dateAffichee(systeme.Aujourdhui());
   EXPECT_EQ(systeme.Horodatage().substr(0, 4), jour.substr(6));
   EXPECT_EQ(systeme.Horodatage().size(), 19u);

@@ -21,7 +21,8 @@ struct BaseAidant {
   int convention = 0;  // rank in Conventions, never private employers
   Parcours parcours = Parcours::Stable;
   long embauche = 0;
-  // Stable carers only: a first fixed term, then an open-ended contract, and in it one long absence.
+  // Stable carers only: a first fixed term, then an open-ended contract, and in it one long
+  // absence.
   long cddFin = 0;
   long cdiDebut = 0;
   long cdiFin = 0;
