@@ -47,9 +47,10 @@ std::string nomAidant(data::Db& db, const std::string& code) {
   return aidant(data::CivilAidant::Nom) + " " + aidant(data::CivilAidant::Prenom);
 }
 
-std::optional<Echec> jouer(const Options& options, const Scenario& scenario, std::ostream& sortie) {
+std::optional<Echec> jouer(const Options& options, const Scenario& scenario, std::ostream& sortie,
+                           const Ouverture& ouvrir) {
   const data::PosteSysteme poste;
-  data::Db db(storage::SqliteStorage::Ouvrir(options.base, poste));
+  data::Db db(ouvrir(options.base, poste));
   const std::string nom = nomAidant(db, options.aidant);
   // The screens see the day that was asked for; the history of the records tells the true time.
   screen::headless::Hote hote(options.jour.value_or(poste.Aujourdhui()), poste.NomUtilisateur());
@@ -71,13 +72,13 @@ std::optional<Echec> jouer(const Options& options, const Scenario& scenario, std
 }
 
 int executerOptions(const Options& options, std::istream& entree, std::ostream& sortie,
-                    std::ostream& erreurs) {
+                    std::ostream& erreurs, const Ouverture& ouvrir) {
   const Scenario scenario = lire(options, entree);
   if (!scenario.fautes.empty()) {
     ecrireFautes(scenario, nomAffiche(options), erreurs);
     return MalDemande;
   }
-  const auto echec = jouer(options, scenario, sortie);
+  const auto echec = jouer(options, scenario, sortie, ouvrir);
   if (!echec) return Tenu;
   ecrireEchec(*echec, nomAffiche(options), erreurs);
   return Manque;
@@ -85,15 +86,19 @@ int executerOptions(const Options& options, std::istream& entree, std::ostream& 
 
 }  // namespace
 
+std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste) {
+  return storage::SqliteStorage::Ouvrir(chemin, poste);
+}
+
 int executer(const std::vector<std::string>& arguments, std::istream& entree, std::ostream& sortie,
-             std::ostream& erreurs) {
+             std::ostream& erreurs, const Ouverture& ouvrir) {
   try {
     const Options options = lireOptions(arguments);
     if (options.aide) {
       sortie << texteAide();
       return Tenu;
     }
-    return executerOptions(options, entree, sortie, erreurs);
+    return executerOptions(options, entree, sortie, erreurs, ouvrir);
   } catch (const OptionFausse& faute) {
     erreurs << faute.what() << "\nL'aide est donnée par contrat-pilote --aide.\n";
     return MalDemande;

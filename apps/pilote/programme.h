@@ -2,10 +2,15 @@
 // The program whole, with its streams: options, reading of the scenario, opening of the data file
 // and of the carer's contracts, play. What main and the tests call.
 
+#include <functional>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include "data/poste.h"
+#include "data/storage.h"
 
 namespace pilote {
 
@@ -17,8 +22,14 @@ enum Code : int {
                    // nothing was played
 };
 
-// `arguments` without the program's name.
+// Opens the data file of --base; what it throws is told as a file that does not open. The
+// workstation outlives the store.
+using Ouverture = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
+                                                               const data::Poste& poste)>;
+std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste);
+
+// `arguments` without the program's name. `ouvrir` lets a test stand between screens and file.
 int executer(const std::vector<std::string>& arguments, std::istream& entree, std::ostream& sortie,
-             std::ostream& erreurs);
+             std::ostream& erreurs, const Ouverture& ouvrir = ouvrirBase);
 
 }  // namespace pilote

@@ -1,0 +1,251 @@
+// The pilot's process is killed next to every write of a save, on a real file. What was acknowledged
+// stands, nothing else does; the data tool accepts the file or names the interruption; and the next
+// process brings the work to its end.
+
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <set>
+#include <sstream>
+
+#include "base/verification.h"
+#include "base_demo.h"
+#include "pilote/programme.h"
+#include "storage/sqlite.h"
+#include "support/killing_storage.h"
+#include "support/temp_dir.h"
+
+namespace pilote {
+namespace {
+
+using Quand = support::KillingStorage::Quand;
+// Text by "FICHIER CLE".
+using Etat = std::map<std::string, std::string>;
+
+// The creation of a contract, and another one that no contract stands in the way of.
+struct Route {
+  std::string aidant;
+  std::string creation;  // up to Cmd_OK
+  std::string dialogue;  // what Cmd_OK opens when no contract is in the way
+  std::string ailleurs;
+  std::string precedent;  // number of the contract whose leave is taken over, "" for none
+  std::string numero;
+  std::string suivant;
+  std::string compteur;  // attribute 41 before, as the data tool words it
+
+  std::string Contrat() const { return "CONTRAT " + aidant + numero; }
+  std::string Precedent() const { return "CONTRAT " + aidant + precedent; }
+};
+
+const Route Reprise = {"00003",
+                       "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
+                       "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 001\n"
+                       "taper Txt_DatDebContrat 03/12/2026\ncliquer Cmd_OK\n",
+                       "forme Frm_Reprise\ncliquer Cac_CpPerenne\ncliquer Cmd_Ok\n",
+                       "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
+                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n"
+                       "cliquer Cmd_OK\n",
+                       "001",
+                       "002",
+                       "003",
+                       "« 001 »"};
+const Route Particulier = {"00002",
+                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
+                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
+                           "",
+                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
+                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
+                           "",
+                           "001",
+                           "002",
+                           "vide"};
+
+class Arret : public testing::Test {
+ protected:
+  Arret() {
+    creerBaseDemo(base);
+    initial = Lire(base);
+  }
+
+  static Etat Lire(const std::string& chemin) {
+    Etat etat;
+    const data::PosteSysteme poste;
+    const auto stockage = storage::SqliteStorage::OuvrirEnLecture(chemin, poste);
+    for (const auto& fichier : stockage->Fichiers()) {
+      stockage->Scan(fichier.nom, data::KeyRange::Tout(), [&](auto cle, auto texte) {
+        etat[fichier.nom + " " + std::string(cle)] = texte;
+        return true;
+      });
+    }
+    return etat;
+  }
+  static std::string Constats(const std::string& chemin) {
+    std::string lignes;
+    const data::PosteSysteme poste;
+    const auto stockage = storage::SqliteStorage::OuvrirEnLecture(chemin, poste);
+    base::verifier(
+        *stockage,
+        [&](const base::Constat& c) {
+          lignes += c.fichier + " " + c.cle + " " + c.anomalie + "\n";
+        },
+        [](long, long) {});
+    return lignes;
+  }
+
+  // Plays in a process of its own, on the file `essai`. Nothing comes back when it was killed.
+  std::optional<int> Jouer(const Route& route, const std::string& scenario, int ecriture = 0,
+                           Quand quand = Quand::Avant) const {
+    const pid_t enfant = fork();
+    if (enfant == 0) _exit(JouerIci(route, scenario, ecriture, quand));
+    int fin = 0;
+    EXPECT_EQ(waitpid(enfant, &fin, 0), enfant);
+    if (WIFSIGNALED(fin)) {
+      EXPECT_EQ(WTERMSIG(fin), SIGKILL);
+      return std::nullopt;
+    }
+    return WEXITSTATUS(fin);
+  }
+
+  // What `journal` acknowledges, done to the records as they were; `ecrits` are those it names.
+  Etat Acquitte(std::set<std::string>& ecrits) const {
+    Etat etat = initial;
+    std::istringstream lignes(lireTout(journal));
+    std::string ligne;
+    while (std::getline(lignes, ligne)) {
+      const auto finCle = ligne.find(' ', ligne.find(' ') + 1);
+      const std::string article = ligne.substr(0, finCle);
+      ecrits.insert(article);
+      if (finCle == std::string::npos) {
+        etat.erase(article);
+      } else {
+        etat[article] = ligne.substr(finCle + 1);
+      }
+    }
+    return etat;
+  }
+
+  // A file that no process has open, with the writes that a killed one left beside it.
+  static void Copier(const std::string& source, const std::string& copie) {
+    using std::filesystem::copy_options;
+    for (const char* suite : {"-wal", "-shm"}) std::filesystem::remove(copie + suite);
+    std::filesystem::copy_file(source, copie, copy_options::overwrite_existing);
+    if (std::filesystem::exists(source + "-wal")) {
+      std::filesystem::copy_file(source + "-wal", copie + "-wal");
+    }
+  }
+  void Remettre() const {
+    Copier(base, essai);
+    std::filesystem::remove(journal);
+  }
+
+  void EprouverArrets(const Route& route);
+  void ControlerArret(const Route& route, const Etat& entier);
+  void RevenirEnArriere(const Route& route, const std::set<std::string>& ecrits);
+  void Recommencer(const Route& route, const Etat& entier);
+  void Continuer(const Route& route, const std::set<std::string>& ecrits);
+
+  support::TempDir dossier;
+  std::string base = dossier.Chemin("base.contrats");
+  std::string essai = dossier.Chemin("essai.contrats");
+  std::string journal = dossier.Chemin("journal");
+  Etat initial;
+
+ private:
+  int JouerIci(const Route& route, const std::string& scenario, int ecriture, Quand quand) const {
+    std::istringstream entree(scenario);
+    std::ostringstream sortie;
+    const auto ouvrir = [&](const std::string& chemin, const data::Poste& poste) {
+      return std::make_unique<support::KillingStorage>(ouvrirBase(chemin, poste), ecriture, quand,
+                                                       journal);
+    };
+    return executer({"--base", essai, "--aidant", route.aidant, "--date", "22/11/2026"}, entree,
+                    sortie, std::cerr, ouvrir);
+  }
+};
+
+void Arret::EprouverArrets(const Route& route) {
+  Remettre();
+  ASSERT_EQ(Jouer(route, route.creation + route.dialogue), Tenu);
+  const Etat entier = Lire(essai);
+  const std::string fait = lireTout(journal);
+  const auto ecritures = std::count(fait.begin(), fait.end(), '\n');
+  ASSERT_GT(ecritures, 6);
+  for (int n = 1; n <= ecritures; ++n) {
+    for (const Quand quand : {Quand::Avant, Quand::Apres}) {
+      SCOPED_TRACE((quand == Quand::Avant ? "before write " : "after write ") + std::to_string(n));
+      Remettre();
+      ASSERT_EQ(Jouer(route, route.creation + route.dialogue, n, quand), std::nullopt);
+      ControlerArret(route, entier);
+    }
+  }
+}
+
+void Arret::ControlerArret(const Route& route, const Etat& entier) {
+  std::set<std::string> ecrits;
+  EXPECT_EQ(Lire(essai), Acquitte(ecrits));
+  const bool contrat = ecrits.contains(route.Contrat());
+  std::string attendu;
+  if (contrat && !ecrits.contains("CIVILAIDANT " + route.aidant)) {
+    attendu = "CIVILAIDANT " + route.aidant + " attribut 41 : le compteur est " + route.compteur +
+              ", et le plus haut contrat " + route.numero + "\n";
+  }
+  const bool lienSeul = !contrat && ecrits.contains(route.Precedent());
+  if (lienSeul) {
+    attendu = route.Precedent() + " attribut 116 : le contrat lié « " + route.aidant +
+              route.numero + " » n'existe pas\n";
+  }
+  EXPECT_EQ(Constats(essai), attendu);
+  if (lienSeul) RevenirEnArriere(route, ecrits);
+  contrat ? Continuer(route, ecrits) : Recommencer(route, entier);
+}
+
+// The previous contract alone was written: its former text, and that of its event, mend the file.
+void Arret::RevenirEnArriere(const Route& route, const std::set<std::string>& ecrits) {
+  const std::string copie = dossier.Chemin("copie.contrats");
+  Copier(essai, copie);
+  const std::string precedent = route.aidant + route.precedent;
+  outilBase({"retablir", copie, "CONTRAT", precedent, "1"});
+  if (ecrits.contains("DSNEVENEMENT " + precedent)) {
+    outilBase({"retablir", copie, "DSNEVENEMENT", precedent, "1"});
+  }
+  EXPECT_EQ(Lire(copie), initial);
+}
+
+// The contract does not stand: entered again, it takes the number that it would have had.
+void Arret::Recommencer(const Route& route, const Etat& entier) {
+  EXPECT_EQ(Jouer(route, route.creation + route.dialogue + "aucun-message\n"), Tenu);
+  EXPECT_EQ(Lire(essai), entier);
+}
+
+// The contract stands: it cannot be entered twice, and a later one never takes its place.
+void Arret::Continuer(const Route& route, const std::set<std::string>& ecrits) {
+  const std::string texte = Lire(essai)[route.Contrat()];
+  const bool compte = ecrits.contains("CIVILAIDANT " + route.aidant);
+  const std::string avis = "message \"Un contrat de cet aidant porte déjà le numéro " +
+                           route.numero + " : le nouveau contrat prend le numéro " + route.suivant +
+                           ".\"\n";
+  EXPECT_EQ(Jouer(route, route.creation + "message \"Création impossible car 2 contrats\"\n" +
+                             "absent CONTRAT " + route.aidant + route.suivant + "\n" +
+                             route.ailleurs + (compte ? "" : avis) + "aucun-message\n"),
+            Tenu);
+  Etat apres = Lire(essai);
+  EXPECT_EQ(apres[route.Contrat()], texte);
+  EXPECT_NE(apres["CONTRAT " + route.aidant + route.suivant], "");
+  EXPECT_EQ(Constats(essai), "");
+}
+
+TEST_F(Arret, PendantLaRepriseDUnContrat) {
+  EprouverArrets(Reprise);
+}
+
+TEST_F(Arret, PendantLaCreationPourUnParticulier) {
+  EprouverArrets(Particulier);
+}
+
+}  // namespace
+}  // namespace pilote

@@ -1,0 +1,72 @@
+#pragma once
+// A store that kills its process, as a cut of the current would, next to the n-th write. Every write
+// that came back is noted in a file first, so that whoever outlives the process knows what was
+// acknowledged.
+
+#include <unistd.h>
+
+#include <csignal>
+#include <fstream>
+#include <memory>
+
+#include "data/storage.h"
+
+namespace support {
+
+class KillingStorage : public data::Storage {
+ public:
+  enum class Quand { Avant, Apres };
+
+  // Counted from 1; 0 never kills. `journal` gets one line a write: "FICHIER CLE TEXTE", or for a
+  // removal "FICHIER CLE".
+  KillingStorage(std::unique_ptr<data::Storage> dessous, int ecriture, Quand quand,
+                 const std::string& journal)
+      : dessous_(std::move(dessous)), fatale_(ecriture), quand_(quand), journal_(journal) {}
+
+  bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
+    return dessous_->Get(fichier, cle, texte);
+  }
+  void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
+    Debuter();
+    dessous_->Put(fichier, cle, texte);
+    journal_ << fichier << ' ' << cle << ' ' << texte << std::endl;
+    Finir();
+  }
+  bool Erase(std::string_view fichier, std::string_view cle) override {
+    Debuter();
+    const bool present = dessous_->Erase(fichier, cle);
+    journal_ << fichier << ' ' << cle << std::endl;
+    Finir();
+    return present;
+  }
+  void Scan(std::string_view fichier, const data::KeyRange& cles,
+            const Visiteur& visiteur) override {
+    dessous_->Scan(fichier, cles, visiteur);
+  }
+  std::vector<data::FichierCompte> Fichiers() override { return dessous_->Fichiers(); }
+  std::vector<data::AncienTexte> Historique(std::string_view fichier,
+                                            std::string_view cle) override {
+    return dessous_->Historique(fichier, cle);
+  }
+  void EnUnBloc(const std::function<void()>& travail) override { dessous_->EnUnBloc(travail); }
+
+ private:
+  void Debuter() {
+    ++ecritures_;
+    if (quand_ == Quand::Avant) Tuer();
+  }
+  void Finir() const {
+    if (quand_ == Quand::Apres) Tuer();
+  }
+  void Tuer() const {
+    if (ecritures_ == fatale_) kill(getpid(), SIGKILL);
+  }
+
+  std::unique_ptr<data::Storage> dessous_;
+  int fatale_;
+  Quand quand_;
+  std::ofstream journal_;
+  int ecritures_ = 0;
+};
+
+}  // namespace support
