@@ -48,6 +48,24 @@ void ajouterAidantCharge(data::Storage& stockage) {
   });
 }
 
+// The first carer from `debut` on with as many contracts as in every other file.
+void choisirAidant(Base& b, const std::string& debut) {
+  constexpr int contratsVoulus = 5;
+  int suite = 0;
+  b.stockage->Scan(data::fichier::CONTRAT, data::KeyRange::Tout(), [&](std::string_view cle, auto) {
+    ++b.contrats;
+    if (!b.aidant.empty() || cle < debut) return true;
+    suite = cle.ends_with("001") ? 1 : suite + 1;
+    std::string texte;
+    const std::string aidant(cle.substr(0, data::LongueurCodeAidant));
+    if (suite == contratsVoulus &&
+        !b.stockage->Get(data::fichier::CONTRAT, aidant + "006", texte)) {
+      b.aidant = aidant;
+    }
+    return true;
+  });
+}
+
 Base ouvrir(const std::string& nom, long contrats, bool charge) {
   Base b;
   std::filesystem::create_directories(dossier());
@@ -66,11 +84,7 @@ Base ouvrir(const std::string& nom, long contrats, bool charge) {
   }
   b.stockage = storage::SqliteStorage::Ouvrir(b.chemin, poste());
   b.db = std::make_unique<data::Db>(b.stockage);
-  b.aidant = demo::codePersonne(static_cast<int>(contrats / ContratsParAidant / 2));
-  b.stockage->Scan(data::fichier::CONTRAT, data::KeyRange::Tout(), [&](auto, auto) {
-    ++b.contrats;
-    return true;
-  });
+  choisirAidant(b, demo::codePersonne(static_cast<int>(contrats / ContratsParAidant / 2)));
   return b;
 }
 
@@ -112,6 +126,34 @@ Brut::~Brut() {
   sqlite3_finalize(lecture_);
   sqlite3_finalize(parcours_);
   sqlite3_close(db_);
+}
+
+// Beside the data file, so that its seals stay whole: another file of the same shape.
+EcritureBrute::EcritureBrute(const std::string& chemin) {
+  verifier(sqlite3_open((chemin + ".brut").c_str(), &db_));
+  verifier(sqlite3_exec(db_,
+                        "PRAGMA page_size=8192; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL;"
+                        "CREATE TABLE IF NOT EXISTS article(fichier TEXT, cle TEXT, texte TEXT,"
+                        " PRIMARY KEY(fichier, cle)) WITHOUT ROWID",
+                        nullptr, nullptr, nullptr));
+  verifier(sqlite3_prepare_v2(db_, "INSERT OR REPLACE INTO article VALUES(?,?,?)", -1, &ecriture_,
+                              nullptr));
+}
+
+EcritureBrute::~EcritureBrute() {
+  sqlite3_finalize(ecriture_);
+  sqlite3_close(db_);
+}
+
+void EcritureBrute::ecrire(const std::string& fichier, const std::string& cle,
+                           const std::string& texte) {
+  const std::string* const valeurs[] = {&fichier, &cle, &texte};
+  for (int i = 0; i < 3; ++i) {
+    sqlite3_bind_text(ecriture_, i + 1, valeurs[i]->data(), static_cast<int>(valeurs[i]->size()),
+                      SQLITE_STATIC);
+  }
+  if (sqlite3_step(ecriture_) != SQLITE_DONE) verifier(sqlite3_errcode(db_));
+  sqlite3_reset(ecriture_);
 }
 
 int Brut::lire(const std::string& fichier, const std::string& cle) {

@@ -52,4 +52,19 @@ class Brut {
   sqlite3_stmt* parcours_ = nullptr;
 };
 
+// Durable writes without anything of ours in between: a transaction for each record.
+class EcritureBrute {
+ public:
+  explicit EcritureBrute(const std::string& chemin);
+  ~EcritureBrute();
+  EcritureBrute(const EcritureBrute&) = delete;
+  EcritureBrute& operator=(const EcritureBrute&) = delete;
+
+  void ecrire(const std::string& fichier, const std::string& cle, const std::string& texte);
+
+ private:
+  sqlite3* db_ = nullptr;
+  sqlite3_stmt* ecriture_ = nullptr;
+};
+
 }  // namespace bench

@@ -185,9 +185,12 @@ const std::vector<bench::Rapport> Rapports{
     {"open one contract / raw SELECT", "lireUnContrat", "brutLireUnContrat", 1.5},
     {"a carer's contracts in 1,000,000 / raw key range", "selectAidantGrande", "brutAidantGrande",
      2},
-    {"the same / in 10,000", "selectAidantGrande", "selectAidantPetite", 1.1},
+    {"the same / in 10,000", "selectAidantGrande", "selectAidantPetite", 1.15},
     {"links to a contract in 200,000 / raw scan", "selectLiens", "brutTout", 2},
     {"list of 999 contracts / its raw reads", "rechercheContrat", "brutRecherche", 2},
+    {"open a contract to its first tab / reads and selects", "ouvrirContrat", "brutOuvrirContrat",
+     2},
+    {"save a new contract / durable writes", "enregistrerContrat", "brutEnregistrerContrat", 1.3},
     {"50,000 rows walked and filtered / ten times 5,000", "resultat50000", "resultat5000", 15},
 };
 
