@@ -35,9 +35,9 @@ class Pilote {
   Pilote(const Pilote&) = delete;
   Pilote& operator=(const Pilote&) = delete;
 
-  // `ouvrir` shows `racine`; modal forms that it shows take the first commands, and questions that it
-  // asks the answers that stand first of all. Nothing comes back when all held. An error that rises
-  // from `ouvrir` before any other command goes on to the caller.
+  // `ouvrir` shows `racine`; modal forms that it shows take the first commands, and questions that
+  // it asks the answers that stand first of all. Nothing comes back when all held. An error that
+  // rises from `ouvrir` before any other command goes on to the caller.
   std::optional<Echec> Jouer(const Scenario& scenario, screen::Form& racine,
                              const std::function<void()>& ouvrir);
 

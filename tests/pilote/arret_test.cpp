@@ -1,6 +1,6 @@
-// The pilot's process is killed next to every write of a save, on a real file. What was acknowledged
-// stands, nothing else does; the data tool accepts the file or names the interruption; and the next
-// process brings the work to its end.
+// The pilot's process is killed next to every write of a save, on a real file. What was
+// acknowledged stands, nothing else does; the data tool accepts the file or names the interruption;
+// and the next process brings the work to its end.
 
 #include <gmock/gmock.h>
 #include <sys/wait.h>

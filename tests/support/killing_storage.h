@@ -1,7 +1,7 @@
 #pragma once
-// A store that kills its process, as a cut of the current would, next to the n-th write. Every write
-// that came back is noted in a file first, so that whoever outlives the process knows what was
-// acknowledged.
+// A store that kills its process, as a cut of the current would, next to the n-th write. Every
+// write that came back is noted in a file first, so that whoever outlives the process knows what
+// was acknowledged.
 
 #include <unistd.h>
 
