@@ -1,5 +1,7 @@
 #include "control/ctr_contrat.h"
 
+#include <algorithm>
+
 #include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
@@ -11,7 +13,7 @@
 namespace control {
 
 Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
-    : Form(platform, "Ctr_Contrat"), session_(platform.poste), aide_(platform.aide, "") {
+    : Form(platform, "Ctr_Contrat"), session_(platform.poste), aide_(platform.aide) {
   Cbo_Association.Click = [this] { Cbo_Association_Click(); };
   Cbo_Association.Change = [this] { Cbo_Association_Change(); };
   Cmd_Recherche.Click = [this] { Cmd_Recherche_Click(); };
@@ -26,6 +28,7 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
   Bdv_Detail.Change = [this] { Bdv_Detail_Change(); };
   Mnu_Sommaire.Click = [this] { Mnu_Sommaire_Click(); };
 
+  aide_.Preparer(session::JeuAide::Trois);
   PrendreFiltresParDefaut();
   ActiverListes(false);
   Cmd_OK.SetEnabled(false);
@@ -129,7 +132,9 @@ void Ctr_Contrat::Recherche_Contrat() {
       data::premierJour(session_.ItemPeriodesPaie1.Vue(data::PeriodesPaie::Courante)).value_or(0);
   ViderListes();
   session_.F_CIVILAIDANT.Lire(W_Code, session_.ItemCivilAidant);
-  const long dernier = data::entier(session_.ItemCivilAidant.Vue(data::CivilAidant::DernierNumero));
+  const long long dernier =
+      std::min(data::entier(session_.ItemCivilAidant.Vue(data::CivilAidant::DernierNumero)),
+               data::DernierNumeroPossible);
 
   std::vector<LigneContrat> lignes;
   std::string employeur;
@@ -177,8 +182,7 @@ void Ctr_Contrat::Cmd_Ok_Click() {
 }
 
 void Ctr_Contrat::Cmd_Retour_Click() {
-  editeur_.reset();
-  session_.CombosRemplis = false;
+  DechargerEditeur();
   W_Sortir = 1;
   Hide();
   if (Sortie) Sortie();

@@ -148,13 +148,16 @@ class Ctr_Contrat : public screen::Form {
   editor::Frm_ElementsContrat& ChargerEditeur();
   editor::Frm_ElementsContrat& OuvrirEditeur();
   editor::Frm_ElementsContrat& OuvrirEditeurVide();
+  void PreparerOuverture(editor::Frm_ElementsContrat& editeur);
+  void PreparerCreation(editor::Frm_ElementsContrat& editeur);
+  void DechargerEditeur();
   void PreparerEditeur(editor::Frm_ElementsContrat& editeur);
   void ActualiserLigne();
   void AjouterLigneEnTete();
 
   session::Session session_;
   session::AideEnLigne aide_;
-  const session::Droits* droits_ = nullptr;
+  const session::Droits* droits_ = &session::SansDroits;
   session::Droit droit_;
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;

@@ -24,20 +24,35 @@ void Ctr_Contrat::Appel_Contrat() {
   retour.Finir();
 }
 
+// An editor that could not be filled is let go of: the next one must not show half of this
+// contract.
+void Ctr_Contrat::DechargerEditeur() {
+  editeur_.reset();
+  session_.CombosRemplis = false;
+}
+
 editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeur() {
   screen::Attente chargement(*this);
+  try {
+    PreparerOuverture(ChargerEditeur());
+  } catch (...) {
+    DechargerEditeur();
+    throw;
+  }
+  chargement.Finir();
+  return *editeur_;
+}
+
+void Ctr_Contrat::PreparerOuverture(editor::Frm_ElementsContrat& editeur) {
   const session::Pendant enChargement(session_.ChargementContrat);
-  editor::Frm_ElementsContrat& editeur = ChargerEditeur();
   editeur.DroitsUtilisateur(*droits_);
   if (editeur.origine.Txt_DatDebContrat.Text().empty()) editeur.origine.Afficher_Ong1();
   PreparerEditeur(editeur);
-  chargement.Finir();
   editeur.caracteristiques.Cmd_AjoutAvenant.SetVisible(true);
   editeur.caracteristiques.Cmd_AjoutAvenant.SetEnabled(true);
   editeur.DroitsUtilisateur(*droits_);
   editeur.InitElementContrat();
   editeur.init();
-  return editeur;
 }
 
 void Ctr_Contrat::Cmd_Ajouter_Click() {
@@ -56,7 +71,17 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
 
 editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeurVide() {
   screen::Attente chargement(*this);
-  editor::Frm_ElementsContrat& editeur = ChargerEditeur();
+  try {
+    PreparerCreation(ChargerEditeur());
+  } catch (...) {
+    DechargerEditeur();
+    throw;
+  }
+  chargement.Finir();
+  return *editeur_;
+}
+
+void Ctr_Contrat::PreparerCreation(editor::Frm_ElementsContrat& editeur) {
   editeur.caracteristiques.Cmd_SuiviAnnuel.SetEnabled(false);
   editeur.origine.Cbo_LibEmplEtabContrat.Clear();
   PreparerEditeur(editeur);
@@ -64,8 +89,6 @@ editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeurVide() {
   if (!session_.CombosRemplis) editeur.Remplir_CombosElement();
   editeur.DroitsUtilisateur(*droits_);
   editeur.init();
-  chargement.Finir();
-  return editeur;
 }
 
 editor::Frm_ElementsContrat& Ctr_Contrat::ChargerEditeur() {
@@ -88,7 +111,11 @@ void Ctr_Contrat::ActualiserLigne() {
   session::Session& s = session_;
   const int ligne = Lst_DatFinContrat.ListIndex();
   s.ItemContrat = data::CItem();
-  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat) || ligne < 0) return;
+  // An opening through W_CodeContrat has no row of its own.
+  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat) ||
+      clesContrats_.Vue(ligne + 1) != s.CleContratCourant) {
+    return;
+  }
   if (s.ItemContrat.Vue(data::Contrat::Annule) == "O") {
     for (const auto& colonne : Colonnes) (this->*colonne.liste).RemoveItem(ligne);
     clesContrats_.Delete(ligne + 1);

@@ -13,6 +13,8 @@ inline constexpr int LongueurCodeAidant = 5;
 // The agreement of private employers: the person helped is the employer.
 // Digits of a contract number.
 inline constexpr std::size_t LongueurNumero = 3;
+// The highest number that a carer's contracts can bear.
+inline constexpr long long DernierNumeroPossible = 999;
 inline constexpr std::string_view ConventionParticuliers = "02";
 
 // A contract number as it stands in keys and fields: 3 digits with leading zeros.

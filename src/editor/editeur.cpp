@@ -14,9 +14,10 @@ namespace editor {
 
 namespace {
 
-// Buttons that only full rights show.
-constexpr std::string_view BoutonsDeModification[] = {
-    "Cmd_AjoutAvenant", "Cmd_OK", "Cmd_OKActivite", "Cmd_OKAvenant", "Cmd_SupprimerContrat"};
+// Buttons that only full rights show; the last two also hang on the contract.
+constexpr std::string_view BoutonsDeModification[] = {"Cmd_OK", "Cmd_OKActivite", "Cmd_OKAvenant",
+                                                      "Cmd_AjoutAvenant", "Cmd_SupprimerContrat"};
+constexpr std::size_t BoutonsDesDroitsSeuls = 3;
 
 // Values of attribute 38 of an entity that uses remote time-tracking.
 constexpr std::string_view ServicesTelegestion[] = {"06", "VESPARIO"};
@@ -35,11 +36,10 @@ bool utiliseTelegestion(const data::CItem& association) {
 Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Session& session)
     : Form(platform, "Frm_ElementsContrat", "Contrat de travail"),
       session_(session),
-      aide_(platform.aide, "") {
+      aide_(platform.aide) {
   LierChamps();
   OuvrirFichiers();
   if (session_.ModeCreation) {
-    caracteristiques.Cmd_AjoutAvenant.SetVisible(false);
     origine.Griser_ComboOng1();
   } else {
     InitElementContrat();
@@ -59,6 +59,7 @@ void Frm_ElementsContrat::LierChamps() {
   Mnu_Aide.SetEnabled(false);
   Mnu_Sommaire.SetEnabled(false);
   Cmd_ImpContrat.SetEnabled(false);
+  Cmd_DPAE.SetEnabled(false);
 }
 
 void Frm_ElementsContrat::OuvrirFichiers() {
@@ -115,6 +116,7 @@ void Frm_ElementsContrat::Afficher_Donnees() {
   FermetureAutorisee = 0;
   if (session_.EtatSuppAidant) fin.Txt_DateFinContrat.SetEnabled(false);
   ClesAvenants = data::CItem();
+  if (session_.ModeCreation) caracteristiques.Cmd_AjoutAvenant.SetVisible(false);
   origine.Afficher_Ong1();
   // A new contract counts as loaded everywhere.
   Ong2Charge = Ong3Charge = Ong4Charge = session_.ModeCreation;
@@ -127,12 +129,15 @@ void Frm_ElementsContrat::Afficher_Donnees() {
 }
 
 void Frm_ElementsContrat::init() {
-  for (const auto nom : BoutonsDeModification) {
-    if (!DroitComplet()) Find(nom)->SetVisible(false);
+  for (std::size_t i = 0; i < std::size(BoutonsDeModification); ++i) {
+    if (!DroitComplet() || i < BoutonsDesDroitsSeuls) {
+      Find(BoutonsDeModification[i])->SetVisible(DroitComplet());
+    }
   }
   ValidationEnCours = false;
   EcritureVerifiee = false;
   SuiviModifie = false;
+  LiensDejaCrees = false;
   enregistrement_.Commencer();
   if (session_.ItemAssociation.Vide()) {
     const std::string cle = session_.ModeCreation
@@ -145,12 +150,8 @@ void Frm_ElementsContrat::init() {
   if (telegestion) paie.Cmd_Telegestion.SetEnabled(true);
   session_.ItemAidantTte = data::CItem();
   PeriodeBulletinInitiale = session_.ItemContrat(data::Contrat::DernierBulletin);
-  if (session_.ModeCreation) {
-    Cmd_DPAE.SetVisible(false);
-  } else if (data::estParticulierEmployeur(session_.ItemContrat)) {
-    Cmd_DPAE.SetVisible(true);
-    Cmd_DPAE.SetLibelle("D.E.F.");
-  }
+  Cmd_DPAE.SetVisible(!session_.ModeCreation);
+  Cmd_DPAE.SetLibelle(data::estParticulierEmployeur(session_.ItemContrat) ? "D.E.F." : "DPAE");
 }
 
 rules::Portee Frm_ElementsContrat::Portee() const {

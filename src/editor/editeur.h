@@ -126,11 +126,13 @@ class Frm_ElementsContrat : public screen::Form {
   void Cmd_Ok_Click();
   bool Verifier();
   // The overlap check: true when the confirmation goes on.
-  bool AccepterDates(screen::Attente& attente);
+  bool AccepterDates();
   void Mnu_Sommaire_Click();
 
   void Cmd_Retour_Click();
   void QuitterCreation();
+  // Gives the new contract up: what an interrupted save has stored of it is cancelled.
+  void AbandonnerCreation();
   bool ProposerEnregistrement();
   bool ModePaiementChange() const;
   bool RibManquant(const char* modePaiement);
@@ -140,7 +142,7 @@ class Frm_ElementsContrat : public screen::Form {
   void Refermer();
 
   session::Session& session_;
-  const session::Droits* droits_ = nullptr;
+  const session::Droits* droits_ = &session::SansDroits;
   session::Droit droit_;
   session::AideEnLigne aide_;
   // The nomenclature of professions, held open by the editor.

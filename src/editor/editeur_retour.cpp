@@ -56,8 +56,8 @@ void Frm_ElementsContrat::QuitterCreation() {
                                    Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
     return;
   }
+  AbandonnerCreation();
   session_.CreationAbandonnee = true;
-  Refermer();
 }
 
 // True when the editor may close.

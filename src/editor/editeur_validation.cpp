@@ -20,11 +20,10 @@ constexpr const char* QuestionChevauchement =
 
 void Frm_ElementsContrat::Cmd_Ok_Click() {
   ValidationEnCours = true;
-  if (!Verifier()) return;
-  screen::Attente attente(*this);
-  if (!AccepterDates(attente)) return;
+  if (!Verifier() || !AccepterDates()) return;
   EcritureVerifiee = false;
   if (!enregistrement_.Ecrire_Donnees()) return;
+  const screen::Attente attente(*this);
   enregistrement_.Maj_Missions();
   if (session_.ModeCreation) {
     enregistrement_.Maj_IndexCreation();
@@ -53,19 +52,27 @@ bool Frm_ElementsContrat::Verifier() {
   return true;
 }
 
-bool Frm_ElementsContrat::AccepterDates(screen::Attente& attente) {
-  Voisins = rules::VerifContratExist(*session_.Db, Portee(), Dates());
+bool Frm_ElementsContrat::AccepterDates() {
+  {
+    screen::Attente attente(*this);
+    Voisins = rules::VerifContratExist(*session_.Db, Portee(), Dates());
+    attente.Finir();
+  }
   session_.ConflitContrat = Voisins.conflit.has_value();
   if (!Voisins.conflit) return true;
   MessageBox(Voisins.conflit->texte, screen::Boutons::Ok, Voisins.conflit->icone);
-  attente.Finir();
   if (!session_.ModeCreation) return false;
   // Another contract without an end leaves no date to choose: the creation is given up at once.
   const bool changerLesDates = !Voisins.finContratConflit.empty() &&
                                MessageBox(QuestionChevauchement, screen::Boutons::OuiNon,
                                           screen::Icone::Information) == screen::Reponse::Oui;
-  if (!changerLesDates) Refermer();
+  if (!changerLesDates) AbandonnerCreation();
   return false;
+}
+
+void Frm_ElementsContrat::AbandonnerCreation() {
+  enregistrement_.Abandonner();
+  Refermer();
 }
 
 void Frm_ElementsContrat::Refermer() {

@@ -18,14 +18,17 @@ constexpr const char* FinSansBulletin =
     "merci d'appeler KORVALDIS.";
 
 // Takes the next contract number of a carer: one given back before, else the one after the highest.
+// What stands among those given back and is no number is passed over.
 std::string prendreNumero(data::CItem& aidant) {
   using namespace data::CivilAidant;
-  const std::string libre = aidant(NumerosLibres, 1);
-  if (!libre.empty()) {
+  while (!aidant.Vue(NumerosLibres, 1).empty()) {
+    const long long libre = data::entier(aidant.Vue(NumerosLibres, 1));
     aidant.Delete(NumerosLibres, 1);
-    return libre;
+    if (libre >= 1 && libre <= data::DernierNumeroPossible) {
+      return data::numeroContrat(static_cast<long>(libre));
+    }
   }
-  const std::string numero =
+  std::string numero =
       data::numeroContrat(static_cast<long>(data::entier(aidant.Vue(DernierNumero))) + 1);
   aidant.Set(DernierNumero, numero);
   return numero;
@@ -58,7 +61,7 @@ bool lireOuObtenir(const data::DbFile& fichier, const std::string& cle, data::CI
 }  // namespace
 
 void Enregistrement::Commencer() {
-  repriseConges_ = false;
+  reprise_.reset();
   numeroEcrit_.clear();
   numeroTente_.clear();
   texteTente_.clear();
@@ -73,7 +76,6 @@ bool Enregistrement::Ecrire_Donnees() {
     return false;
   }
   if (!editeur_.origine.Ecrire_Ong1()) return false;
-  repriseConges_ = false;
   if (s.ModeCreation) return Ecrire_Nouveau();
   // What is on file stays as written when it does not read back soundly: the user has been told.
   Ecrire_Existant();
@@ -83,15 +85,13 @@ bool Enregistrement::Ecrire_Donnees() {
 
 bool Enregistrement::Ecrire_Nouveau() {
   session::Session& s = editeur_.Session();
-  const std::string code = editeur_.Etq_CodeAidant.Libelle();
+  const std::string clePrecedent = Proposer_Reprise();
+  // Chosen after the dialog, which may stand for long: other stations give numbers meanwhile.
   const std::string numero = Choisir_Numero();
   if (numero.empty()) return false;
-  const std::string cle = code + numero;
-  if (!data::estParticulierEmployeur(s.ItemContrat)) {
-    if (const auto precedent = Chercher_ContratPrecedent()) {
-      Reprendre_ContratPrecedent(*precedent, cle);
-    }
-  }
+  const std::string cle = editeur_.Etq_CodeAidant.Libelle() + numero;
+  if (reprise_ && reprise_->cle != clePrecedent) Defaire_Reprise();
+  if (!clePrecedent.empty()) Reporter_Conges(clePrecedent, cle);
   Maj_EvenementDSN(cle);
   Ecrire_Contrat(cle);
   numeroEcrit_ = numero;
@@ -100,7 +100,7 @@ bool Enregistrement::Ecrire_Nouveau() {
   s.ItemCivilAidant.DBWriteU();
   Ecrire_Tte();
   if (!Relire(cle)) return true;
-  if (data::estParticulierEmployeur(s.ItemContrat) && !repriseConges_ &&
+  if (data::estParticulierEmployeur(s.ItemContrat) &&
       s.ItemCivilAidant.Vue(data::CivilAidant::PremiereEmbauche02).empty()) {
     s.ItemCivilAidant.Set(data::CivilAidant::PremiereEmbauche02,
                           s.ItemContrat.Vue(data::Contrat::DateDebut));
@@ -122,12 +122,14 @@ bool Enregistrement::Ecrire_Existant() {
   return Relire(cle);
 }
 
-// The number of the new contract, counted in ItemCivilAidant, which is written after the contract.
-// "" when the carer has no number left: the user has been told.
 std::string Enregistrement::Choisir_Numero() {
   session::Session& s = editeur_.Session();
   data::CItem& aidant = s.ItemCivilAidant;
-  aidant = s.F_CIVILAIDANT.Read(editeur_.Etq_CodeAidant.Libelle());
+  if (!s.F_CIVILAIDANT.Lire(editeur_.Etq_CodeAidant.Libelle(), aidant)) {
+    editeur_.MessageBox("Cet aidant n'existe pas.", screen::Boutons::Ok,
+                        screen::Icone::Exclamation);
+    return {};
+  }
   if (!numeroEcrit_.empty()) {
     compterNumero(aidant, numeroEcrit_);
     return numeroEcrit_;
@@ -160,11 +162,39 @@ bool Enregistrement::NumeroLibre(const std::string& numero) const {
 
 void Enregistrement::Ecrire_Contrat(const std::string& cle) {
   session::Session& s = editeur_.Session();
+  const std::string numero = cle.substr(data::LongueurCodeAidant);
   data::CItem ecriture = s.F_CONTRAT.NewItem(cle);
   ecriture.SetText(s.ItemContrat.Text());
-  numeroTente_ = cle.substr(data::LongueurCodeAidant);
-  texteTente_ = ecriture.Text();
-  ecriture.DBWriteU();
+  // Test and write in one block: a contract that another station has just stored stays.
+  s.Db->Stockage().EnUnBloc([&] {
+    if (numero != numeroEcrit_ && !NumeroLibre(numero)) {
+      throw data::StoreError(data::NumeroErreur::Occupe,
+                             "Un autre poste vient de donner le numéro " + numero +
+                                 " à un contrat de cet aidant. Validez de nouveau.",
+                             s.F_CONTRAT.Nom(), cle);
+    }
+    numeroTente_ = numero;
+    texteTente_ = ecriture.Text();
+    ecriture.DBWriteU();
+  });
+}
+
+void Enregistrement::Abandonner() {
+  session::Session& s = editeur_.Session();
+  if (reprise_) Defaire_Reprise();
+  const std::string code = editeur_.Etq_CodeAidant.Libelle();
+  data::CItem contrat;
+  if (numeroTente_.empty() || !s.F_CONTRAT.Lire(code + numeroTente_, contrat)) return;
+  if (numeroTente_ != numeroEcrit_ && contrat.Text() != texteTente_) return;
+  contrat.Set(data::Contrat::Annule, "O");
+  contrat.Set(data::Contrat::CongesReprisDe, "");
+  s.ItemContrat = contrat;
+  Maj_EvenementDSN(contrat(0));
+  contrat.DBWriteU();
+  if (s.F_CIVILAIDANT.Lire(code, s.ItemCivilAidant)) {
+    compterNumero(s.ItemCivilAidant, numeroTente_);
+    s.ItemCivilAidant.DBWriteU();
+  }
 }
 
 // That the carer stands in the file is the whole information: the follow-up must be refreshed.

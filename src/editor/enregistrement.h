@@ -6,7 +6,7 @@
 //
 // The counter of the carer is written after the contract. An interruption between the two leaves a
 // contract whose number the counter gives out again; such a number is passed over with a notice,
-// never written over.
+// never written over. A new contract that is given up after a part of it was stored is cancelled.
 
 #include <optional>
 #include <string>
@@ -27,6 +27,9 @@ class Enregistrement {
 
   // Forgets what an earlier editing has written.
   void Commencer();
+  // The new contract is given up. What an interrupted save has stored of it is cancelled: its
+  // record bears the mark, its number counts as given, and the previous contract is as it was.
+  void Abandonner();
 
   // Brings the tabs into ItemContrat and stores it with its side records. False when a check
   // refused or the stored record is not sound: the refusal has been shown.
@@ -45,13 +48,18 @@ class Enregistrement {
 
  private:
   bool Ecrire_Nouveau();
+  // The number of the new contract, counted in the carer's item; "" when none can be given: the
+  // user has been told.
   std::string Choisir_Numero();
   bool NumeroLibre(const std::string& numero) const;
 
   std::optional<data::CItem> Chercher_ContratPrecedent() const;
-  void Reprendre_ContratPrecedent(const data::CItem& precedent, const std::string& cle);
+  // Shows the previous contract, if any, and takes over its dates as far as the user accepts. The
+  // key of the contract whose leave is taken over, "" for none.
+  std::string Proposer_Reprise();
   void Remplir_Reprise(dialogs::Frm_Reprise& reprise, const data::CItem& precedent) const;
   void Reporter_Conges(const std::string& clePrecedent, const std::string& cle);
+  void Defaire_Reprise();
 
   void Ecrire_Contrat(const std::string& cle);
   void Marquer_Suivi();
@@ -64,8 +72,13 @@ class Enregistrement {
   void CreationLien(std::string_view fichier, const std::string& nomIndex);
 
   Frm_ElementsContrat& editeur_;
-  // The answer of the restart dialog: leave is taken over from the previous contract.
-  bool repriseConges_ = false;
+  // A previous contract that an attempt of this creation has linked, and how it stood before.
+  struct Reprise {
+    std::string cle;
+    std::string contrat;
+    std::optional<std::string> evenement;
+  };
+  std::optional<Reprise> reprise_;
   std::string numeroEcrit_;
   // What the last attempt of this creation tried to store, and under which number: a record that
   // holds just this is ours although its write was reported as failed.

@@ -1,5 +1,6 @@
 // The contract that the carer had before with the same employer: what the new one takes over.
 
+#include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
@@ -67,20 +68,23 @@ std::optional<data::CItem> Enregistrement::Chercher_ContratPrecedent() const {
   return precedent;
 }
 
-// Shows the previous contract and takes over what the user accepts.
-void Enregistrement::Reprendre_ContratPrecedent(const data::CItem& precedent,
-                                                const std::string& cle) {
+std::string Enregistrement::Proposer_Reprise() {
   session::Session& s = editeur_.Session();
+  using namespace data::Contrat;
+  // An earlier attempt of this creation may have been answered otherwise.
+  s.ItemContrat.Set(DepartGrille, 1, "");
+  s.ItemContrat.Set(DateAnciennete, "");
+  s.ItemContrat.Set(CongesReprisDe, "");
+  if (data::estParticulierEmployeur(s.ItemContrat)) return {};
+  const auto precedent = Chercher_ContratPrecedent();
+  if (!precedent) return {};
   dialogs::Frm_Reprise reprise(editeur_.Services(), s);
-  Remplir_Reprise(reprise, precedent);
+  Remplir_Reprise(reprise, *precedent);
   reprise.ShowModal();
-  if (reprise.RepriseRefusee) return;
-  s.ItemContrat.Set(data::Contrat::DepartGrille, 1,
-                    s.Lib.DateToInternal(reprise.NouvelleDateGrille));
-  s.ItemContrat.Set(data::Contrat::DateAnciennete,
-                    s.Lib.DateToInternal(reprise.NouvelleDateAnciennete));
-  repriseConges_ = reprise.RepriseCalcul == "O";
-  if (repriseConges_) Reporter_Conges(precedent(0), cle);
+  if (reprise.RepriseRefusee) return {};
+  s.ItemContrat.Set(DepartGrille, 1, s.Lib.DateToInternal(reprise.NouvelleDateGrille));
+  s.ItemContrat.Set(DateAnciennete, s.Lib.DateToInternal(reprise.NouvelleDateAnciennete));
+  return reprise.RepriseCalcul == "O" ? (*precedent)(0) : std::string();
 }
 
 void Enregistrement::Remplir_Reprise(dialogs::Frm_Reprise& reprise,
@@ -120,6 +124,11 @@ void Enregistrement::Reporter_Conges(const std::string& clePrecedent, const std:
   using namespace data::Contrat;
   s.ItemContrat.Set(CongesReprisDe, clePrecedent);
   data::CItem precedent = s.F_CONTRAT.Read(clePrecedent);
+  if (!reprise_) {
+    reprise_ = Reprise{clePrecedent, precedent.Text(), std::nullopt};
+    data::CItem evenement;
+    if (s.F_DSNEVENEMENT.Lire(clePrecedent, evenement)) reprise_->evenement = evenement.Text();
+  }
   if (data::entier(precedent.Vue(PrimePrecarite)) == 1 &&
       data::entier(precedent.Vue(DateFin)) + EcartPrime >=
           data::entier(s.ItemContrat.Vue(DateDebut)) &&
@@ -128,6 +137,26 @@ void Enregistrement::Reporter_Conges(const std::string& clePrecedent, const std:
   }
   precedent.Set(CongesReportesSur, cle);
   precedent.DBWriteU();
+}
+
+// Puts the previous contract back as it stood before this creation linked it, its event included.
+// What others have changed of it meanwhile stays.
+void Enregistrement::Defaire_Reprise() {
+  session::Session& s = editeur_.Session();
+  using namespace data::Contrat;
+  const data::CItem avant(reprise_->contrat);
+  data::CItem precedent;
+  if (s.F_CONTRAT.Lire(reprise_->cle, precedent)) {
+    precedent.Set(CongesReportesSur, avant.Vue(CongesReportesSur));
+    precedent.Set(PrimePrecarite, avant.Vue(PrimePrecarite));
+    precedent.DBWriteU();
+  }
+  if (reprise_->evenement) {
+    data::CItem evenement = s.F_DSNEVENEMENT.NewItem(reprise_->cle);
+    evenement.SetText(*reprise_->evenement);
+    evenement.DBWrite();
+  }
+  reprise_.reset();
 }
 
 }  // namespace editor

@@ -76,12 +76,25 @@ class Reglages {
                       const std::string& valeur) = 0;
 };
 
+// A window in which help is shown, with its place and size on the screen.
+struct FenetreAide {
+  std::string nom;
+  int x = 0;
+  int y = 0;
+  int largeur = 0;
+  int hauteur = 0;
+};
+
 // The help system. Commands are those of the platform's help call.
 class Aide {
  public:
   virtual ~Aide() = default;
   static constexpr int Sommaire = 11;
   static constexpr int Quitter = 2;
+  // The folder of the application, where the help file stands.
+  virtual std::string Dossier() const = 0;
+  // Describes the window in which later calls for `fichier` show.
+  virtual void Preparer(const std::string& fichier, const FenetreAide& fenetre) = 0;
   virtual void Appeler(const std::string& fichier, int commande) = 0;
 };
 

@@ -11,14 +11,18 @@ namespace session {
 // The mouse button that opens the help menu of a form.
 inline constexpr int BoutonDroit = 2;
 
+// The sets of help windows of the suite.
+enum class JeuAide { Deux, Trois };
+
 class AideEnLigne {
  public:
   static constexpr const char* NomFichier = "Brivalon.HLP";
-  // `dossier` is where the application stands; a separator is put before the file's name when it
-  // lacks one.
-  AideEnLigne(screen::Aide& aide, std::string dossier);
+  // The help file stands in the application's folder, which `aide` knows.
+  explicit AideEnLigne(screen::Aide& aide);
 
   const std::string& Fichier() const { return fichier_; }
+  // Describes the help window of a set, once, before the first call.
+  void Preparer(JeuAide jeu);
   void Sommaire() { aide_.Appeler(fichier_, screen::Aide::Sommaire); }
   void Fermer() { aide_.Appeler(fichier_, screen::Aide::Quitter); }
 

@@ -32,4 +32,7 @@ class DroitsUniformes : public Droits {
   int niveau_;
 };
 
+// What holds until the host has given its rights.
+inline const DroitsUniformes SansDroits{0};
+
 }  // namespace session

@@ -199,7 +199,7 @@ TEST_F(ListeContrats, MontreCinqColonnes) {
 }
 
 TEST_F(ListeContrats, RienAMontrerNEstPasUneErreur) {
-  for (const char* dernier : {"", "000", "004"}) {
+  for (const char* dernier : {"", "000", "004", "999999999"}) {
     compteur(dernier);
     auto& c = ouvrir();
     cliquer(c.Cmd_Recherche);
@@ -346,8 +346,10 @@ TEST_F(ListeContrats, AideEtSortie) {
   EXPECT_EQ(sorties, 1);
   EXPECT_FALSE(c.Visible());
   controle.reset();
-  const std::vector<std::pair<std::string, int>> appels{{"Brivalon.HLP", 11}, {"Brivalon.HLP", 2}};
+  const std::vector<std::pair<std::string, int>> appels{{"aide/Brivalon.HLP", 11},
+                                                        {"aide/Brivalon.HLP", 2}};
   EXPECT_EQ(hote.aide.Appels(), appels);
+  EXPECT_EQ(hote.aide.Preparees().front().second, ">HlpWnd03");
 }
 
 }  // namespace

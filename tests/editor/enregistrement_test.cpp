@@ -131,6 +131,8 @@ TEST_F(Enregistre, ChoisitLeNumero) {
        "Un contrat de cet aidant porte déjà le numéro 005, 010 : le nouveau contrat prend le "
        "numéro "
        "011."},
+      // What was given back is a number, however it was written.
+      {"009", "x|5", {}, "005", "009^", ""},
       {"999",
        "",
        {},
@@ -488,6 +490,56 @@ TEST_F(Panne, CreationPourUneEntiteApresUnContrat) {
         saisir("01/12/2026");
       },
       [&] { accepterReprise(true); });
+}
+
+// What an interrupted save has stored is cancelled when the user gives the contract up, and a
+// takeover that is refused on the second try is undone.
+TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
+  enum Suite { Abandonner, Refuser };
+  for (const Suite suite : {Abandonner, Refuser}) {
+    stockage->EchouerEcriture(0);
+    vider();
+    editeur.reset();
+    session.CombosRemplis = false;
+    precedent("30/11/2026");
+    article("DSNEVENEMENT", "00001001", {{2, "1"}});
+    const std::string avant = lu("CONTRAT", "00001001");
+    saisir("01/12/2026");
+    accepterReprise(true);
+    // Previous contract, its event, the contract, then the mark of the follow-up.
+    stockage->EchouerEcriture(4);
+    EXPECT_THROW(cliquer(editeur->Cmd_OK), data::StoreError);
+    EXPECT_NE(lu("CONTRAT", "00001001"), avant);
+    stockage->EchouerEcriture(0);
+    if (suite == Abandonner) {
+      hote.messages.Repondre(Reponse::Oui);
+      cliquer(editeur->Cmd_Retour);
+    } else {
+      repondreReprise([](dialogs::Frm_Reprise& f) { screen::User(f).Cliquer(f.Cmd_Annuler); });
+      cliquer(editeur->Cmd_OK);
+    }
+    EXPECT_FALSE(editeur->Visible());
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::Annule), suite == Abandonner ? "O" : "");
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");
+    EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41), "002");
+    EXPECT_EQ(lu("CONTRAT", "00001001"), avant);
+    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), "^1");
+  }
+}
+
+TEST_F(Enregistre, UnAutrePostePrendLeNumeroPendantLaReprise) {
+  precedent("30/11/2026");
+  saisir("01/12/2026");
+  repondreReprise([&](dialogs::Frm_Reprise& f) {
+    contrat("00001002", {{C::Association, "002"}, {C::Employeur, "002001"}});
+    article("CIVILAIDANT", "00001", {{2, "DURAND-PETIT"}, {41, "002"}});
+    EXPECT_FALSE(hote.curseur.EnAttente());
+    screen::User(f).Cliquer(f.Cmd_Annuler);
+  });
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(session.CleContratCourant, "00001003");
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::Association), "002");
+  EXPECT_EQ(attribut("CIVILAIDANT", "00001", 2), "DURAND-PETIT");
 }
 
 TEST_F(Panne, CreationPourUnParticulier) {

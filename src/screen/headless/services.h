@@ -89,12 +89,21 @@ class ReglagesEnMemoire : public Reglages {
 
 class AideEnregistree : public Aide {
  public:
+  std::string dossier = "aide";
+
+  std::string Dossier() const override { return dossier; }
+  void Preparer(const std::string& fichier, const FenetreAide& fenetre) override {
+    preparees_.emplace_back(fichier, fenetre.nom);
+  }
   void Appeler(const std::string& fichier, int commande) override {
     appels_.emplace_back(fichier, commande);
   }
   const std::vector<std::pair<std::string, int>>& Appels() const { return appels_; }
+  // File and window name of each preparation.
+  const std::vector<std::pair<std::string, std::string>>& Preparees() const { return preparees_; }
 
  private:
+  std::vector<std::pair<std::string, std::string>> preparees_;
   std::vector<std::pair<std::string, int>> appels_;
 };
 
