@@ -119,7 +119,9 @@ void ecrireOrganismes(Sortie& sortie) {
   }
   for (const Entite& entite : Entites) {
     CItem item;
-    item.Set(data::CentreMedical::Libelle, std::string("Santé au travail de ") + entite.ville);
+    const bool voyelle = std::string_view("AEIOUY").find(*entite.ville) != std::string_view::npos;
+    item.Set(data::CentreMedical::Libelle,
+             std::string("Santé au travail ") + (voyelle ? "d'" : "de ") + entite.ville);
     item.Set(data::CentreMedical::Adresse, "8 boulevard Pasteur");
     item.Set(data::CentreMedical::CodePostal, entite.codePostal);
     item.Set(data::CentreMedical::Ville, entite.ville);

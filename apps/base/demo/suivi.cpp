@@ -70,7 +70,7 @@ void ecrireAnnee(Sortie& sortie, Contrat& contrat, int an) {
     const long conges = contrat.alea.surCent(30) ? contrat.alea.entre(1, 10) * 50 : 0;
     const long maladie = contrat.alea.surCent(8) ? contrat.alea.entre(1, 4) * 100 : 0;
     const long potentiel =
-        (jours.total - jours.samediDimanche - jours.feries) * 100 - conges - maladie;
+        (jours.total - jours.samediDimanche - jours.feries) * 100L - conges - maladie;
     const long ecart = contrat.alea.entre(-20, 30) * 50;
     const long potentielHeures = parJour * potentiel / 100;
     const long effectif = std::max(0L, potentielHeures + ecart);
