@@ -4,6 +4,7 @@
 #include <map>
 
 #include "demo/alea.h"
+#include "demo/calendrier.h"
 
 namespace demo {
 namespace {
@@ -35,12 +36,17 @@ const MotifFin& tirerMotif(Alea& alea, char type) {
   return MotifsFin[0];
 }
 
+bool finDEssai(const PlanContrat& plan) {
+  return plan.motifFin == &motif("34") || plan.motifFin == &motif("35");
+}
+
 class Planificateur {
  public:
   Planificateur(const Parametres& parametres, const BaseAidant& base)
       : parametres_(parametres),
         base_(base),
-        alea_(parametres.graine, Domaine::Carriere, static_cast<std::uint64_t>(base.numero)) {}
+        alea_(parametres.graine, Domaine::Carriere, static_cast<std::uint64_t>(base.numero)),
+        derniereEmbauche_(parametres.aujourdhui) {}
 
   Carriere construire() {
     switch (base_.parcours) {
@@ -60,6 +66,7 @@ class Planificateur {
         planifierStage();
         break;
     }
+    conclure();
     annulerUn();
     numeroter();
     return std::move(carriere_);
@@ -77,7 +84,14 @@ class Planificateur {
     }
     plan.metier = metier_;
     plan.debut = debut;
+    tirerEssai(plan);
     return plan;
+  }
+
+  void tirerEssai(PlanContrat& plan) {
+    const bool cdi = plan.type == 'I';
+    plan.essai = cdi ? alea_.entre(1, 2) * 30 : alea_.entre(2, 14);
+    plan.essaiRenouvelable = cdi && alea_.surCent(30);
   }
 
   // A fixed term runs to its day, or is broken off before. What is still running on the current
@@ -87,17 +101,19 @@ class Planificateur {
     if (fin >= parametres_.aujourdhui && alea_.surCent(50)) return false;
     plan.motifFin = fin < parametres_.aujourdhui ? &tirerMotif(alea_, 'D') : &motif("31");
     plan.fin = fin;
-    if (plan.motifFin != &motif("31")) {
+    if (finDEssai(plan)) {
+      plan.fin = alea_.entre(plan.debut, std::min(plan.finEssai(), fin - 1));
+    } else if (plan.motifFin != &motif("31")) {
       plan.fin = alea_.entre(plan.debut + (fin - plan.debut) / 3, fin - 1);
     }
     return true;
   }
 
+  // A failed trial ends before `fin`.
   void finirCDI(PlanContrat& plan, long fin) {
     plan.fin = fin;
     plan.motifFin = &tirerMotif(alea_, 'I');
-    const bool essai = plan.motifFin == &motif("34") || plan.motifFin == &motif("35");
-    if (essai && fin - plan.debut > 60) plan.motifFin = &motif("59");
+    if (finDEssai(plan)) plan.fin = alea_.entre(plan.debut + 2, std::min(plan.finEssai(), fin));
   }
 
   int ajouter(PlanContrat plan) {
@@ -125,6 +141,11 @@ class Planificateur {
     }
     PlanContrat cdi = contratEntite('I', Emploi::Production, base_.cdiDebut);
     if (base_.cdiFin != 0) finirCDI(cdi, base_.cdiFin);
+    // Colleagues count on that end, long after the trial.
+    if (finDEssai(cdi)) {
+      cdi.fin = base_.cdiFin;
+      cdi.motifFin = &motif("59");
+    }
     const int rang = ajouter(cdi);
     if (cdd >= 0 && base_.cdiDebut <= base_.cddFin + 3) lier(cdd, rang);
     if (base_.cdiFin != 0 && alea_.surCent(45)) {
@@ -194,8 +215,9 @@ class Planificateur {
     }
   }
 
-  // The first day that this employer leaves free, 0 when none.
+  // The first day that this employer leaves free, 0 when none. The employer's death ends all.
   long ajouterParticulier(const BaseAide& aide, long debut) {
+    if (aide.depart != 0 && debut >= aide.depart) return 0;
     PlanContrat plan;
     plan.particulier = true;
     plan.entite = aide.entite;
@@ -204,11 +226,15 @@ class Planificateur {
     plan.metier = &tirerMetier(alea_, Emploi::Mandataire);
     plan.type = alea_.surCent(18) ? 'D' : 'I';
     plan.debut = debut;
+    tirerEssai(plan);
     if (plan.type == 'D') {
       finirCDD(plan, debut + alea_.entre(15, 200));
     } else if (alea_.surCent(55) && debut < parametres_.aujourdhui - 40) {
       finirCDI(plan, alea_.entre(debut + 15, parametres_.aujourdhui - 5));
-      if (alea_.surCent(14)) plan.motifFin = &motif("65");
+    }
+    if (aide.depart != 0 && (plan.fin == 0 || plan.fin > aide.depart)) {
+      plan.fin = aide.depart;
+      plan.motifFin = &motif("65");
     }
     const long libre = plan.fin == 0 ? 0 : plan.fin + 1;
     ajouter(std::move(plan));
@@ -247,11 +273,47 @@ class Planificateur {
     if (close) planifierRemplacements(libre, static_cast<int>(alea_.entre(0, 4)));
   }
 
+  // The contract that began last, when nothing goes on after it; nullptr when there is none.
+  PlanContrat* dernierContrat() {
+    PlanContrat* dernier = nullptr;
+    long fin = 0;
+    for (PlanContrat& plan : carriere_.contrats) {
+      if (plan.fin == 0 || plan.fin >= parametres_.aujourdhui) return nullptr;
+      if (dernier == nullptr || plan.debut >= dernier->debut) dernier = &plan;
+      fin = std::max(fin, plan.fin);
+    }
+    return dernier != nullptr && dernier->fin == fin ? dernier : nullptr;
+  }
+
+  // Retirement or death may have ended the last contract, and with it the whole career. A term that
+  // was reached, a failed trial and an employer's death have their reason already.
+  void conclure() {
+    PlanContrat* dernier = dernierContrat();
+    if (dernier == nullptr || finDEssai(*dernier) || dernier->motifFin == &motif("31") ||
+        dernier->motifFin == &motif("65")) {
+      return;
+    }
+    const auto aAns = [&](int ans) {
+      return dernier->type == 'I' && moisPlusTard(base_.naissance, 12 * ans) <= dernier->fin;
+    };
+    if (aAns(67) && alea_.surCent(50)) {
+      dernier->motifFin = &motif("38");
+    } else if (aAns(62) && alea_.surCent(70)) {
+      dernier->motifFin = &motif("39");
+    } else if (base_.absenceDebut == 0 && alea_.surCent(12)) {
+      dernier->motifFin = &motif("66");
+      carriere_.numeros.deces = dernier->fin;
+    } else {
+      return;
+    }
+    derniereEmbauche_ = dernier->debut;
+  }
+
   // A creation that was given up once it had its number: it may share days with anything.
   void annulerUn() {
     if (!alea_.surCent(9)) return;
     PlanContrat abandon =
-        contratEntite('I', Emploi::Production, alea_.entre(base_.embauche, parametres_.aujourdhui));
+        contratEntite('I', Emploi::Production, alea_.entre(base_.embauche, derniereEmbauche_));
     abandon.annule = true;
     ajouter(std::move(abandon));
   }
@@ -298,6 +360,7 @@ class Planificateur {
   const Parametres& parametres_;
   const BaseAidant& base_;
   Alea alea_;
+  long derniereEmbauche_;           // the last day on which the carer may be hired
   const Metier* metier_ = nullptr;  // of the last contract with the entity
   Carriere carriere_;
 };

@@ -22,6 +22,8 @@ struct PlanContrat {
   int employeur = 0;  // number of the person helped, private employers only
   const Metier* metier = nullptr;
   long debut = 0;
+  long essai = 0;  // trial period in days
+  bool essaiRenouvelable = false;
   long anciennete = 0;   // seniority counts from here; before `debut` when leave is taken over
   long fin = 0;          // 0: the contract is not closed
   long finPresumee = 0;  // fixed term; the day at which it was to end
@@ -34,6 +36,8 @@ struct PlanContrat {
   std::string cleAbsence;
 
   std::string cle(const BaseAidant& base) const;
+  // The last day on which the trial may be broken off, renewed if it can be.
+  long finEssai() const { return debut + essai * (essaiRenouvelable ? 2 : 1) - 1; }
 };
 
 struct Carriere {

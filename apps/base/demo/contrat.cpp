@@ -134,9 +134,8 @@ void setOrigine(Contrat& contrat) {
   item.Set(C::Salaire, contrat.mensuel ? "M" : "H");
   item.Set(C::Statut, contrat.administratif ? "A" : "P");
   item.Set(C::DateDebut, texte(plan.debut));
-  const bool cdi = plan.type == 'I';
-  item.Set(C::PeriodeEssai, texte(cdi ? contrat.alea.entre(1, 2) * 30 : contrat.alea.entre(2, 14)));
-  item.Set(C::EssaiRenouvelable, cdi && contrat.alea.surCent(30) ? "1" : "0");
+  item.Set(C::PeriodeEssai, texte(plan.essai));
+  item.Set(C::EssaiRenouvelable, plan.essaiRenouvelable ? "1" : "0");
   const std::string nature = tirerNature(contrat);
   item.Set(C::Nature, nature);
   if (nature == "CUI") {

@@ -69,8 +69,10 @@ bool parmiCodes(std::string_view codes, std::string_view code) {
 }
 
 // The day at which the notice was given: a notice of two months from two years of service on, of
-// one month from six months on, of a week before.
-long notification(const PlanContrat& plan) {
+// one month from six months on, of a week before. Nobody gives notice of a death.
+long notification(const PlanContrat& plan, std::string_view motif) {
+  if (parmiCodes("65 66", motif)) return plan.fin;
+  if (plan.type == 'D') return plan.debut;
   const long duree = plan.fin - plan.debut;
   const long jour = duree >= 730   ? moisPlusTard(plan.fin + 1, -2)
                     : duree >= 182 ? moisPlusTard(plan.fin + 1, -1)
@@ -80,7 +82,7 @@ long notification(const PlanContrat& plan) {
 
 void setPreavis(Contrat& contrat, std::string_view motif, long notifie) {
   data::CItem& item = contrat.item;
-  if (parmiCodes("11 12 14 15 20 25 26 38 65 92", motif)) {
+  if (parmiCodes("11 12 14 15 20 25 26 38 92", motif)) {
     item.Set(C::PreavisPayeDu, texte(notifie));
     item.Set(C::PreavisPayeAu, texte(contrat.plan.fin));
   } else if (parmiCodes("39 59", motif)) {
@@ -166,7 +168,7 @@ void setFin(Contrat& contrat) {
   if (plan.fin == 0) return;
   data::CItem& item = contrat.item;
   const std::string_view motif = plan.motifFin->code;
-  const long notifie = plan.type == 'I' ? notification(plan) : plan.debut;
+  const long notifie = notification(plan, motif);
   item.Set(C::DateFin, texte(plan.fin));
   item.Set(C::MotifFin, motif);
   item.Set(C::DateNotification, texte(notifie));

@@ -73,7 +73,7 @@ void ecrireTout(Sortie& sortie, const Parametres& parametres, int numero) {
   const BaseAidant base = baseAidant(parametres, numero);
   const Carriere carriere = construireCarriere(parametres, base);
   ecrireAidant(sortie, parametres, base, carriere.numeros);
-  Planning planning(parametres, base);
+  Planning planning(parametres, base, carriere.numeros);
   for (const PlanContrat& plan : carriere.contrats) {
     Contrat contrat(parametres, base, plan);
     ecrireContrat(sortie, contrat);

@@ -175,7 +175,8 @@ inline constexpr Nature Natures[] = {
 };
 
 // Why a contract ends, in the words of the social declaration. The weights are those of an
-// open-ended and of a fixed-term contract; `obsolete`: no longer offered on new ends.
+// open-ended and of a fixed-term contract; without either, the reason is not drawn: retirement and
+// death come from the persons. `obsolete`: no longer offered on new ends.
 struct MotifFin {
   const char* code;
   const char* libelle;
@@ -203,13 +204,13 @@ inline constexpr MotifFin MotifsFin[] = {
     {"35", "Fin de période d'essai à l'initiative du salarié", 5, 4},
     {"36", "Rupture anticipée d'un contrat à durée déterminée à l'initiative de l'employeur", 0, 4},
     {"37", "Rupture anticipée d'un contrat à durée déterminée à l'initiative du salarié", 0, 5},
-    {"38", "Mise à la retraite par l'employeur", 1, 0},
-    {"39", "Départ à la retraite à l'initiative du salarié", 10, 0},
+    {"38", "Mise à la retraite par l'employeur", 0, 0},
+    {"39", "Départ à la retraite à l'initiative du salarié", 0, 0},
     {"43", "Rupture conventionnelle", 12, 0},
     {"58", "Prise d'acte de la rupture du contrat de travail", 1, 0},
     {"59", "Démission", 32, 0},
     {"65", "Décès de l'employeur ou internement conduisant à un licenciement autre motif", 0, 0},
-    {"66", "Décès du salarié ou rupture pour force majeure", 2, 1},
+    {"66", "Décès du salarié ou rupture pour force majeure", 0, 0},
     {"87", "Licenciement pour faute grave", 3, 0},
     {"88", "Licenciement pour faute lourde", 1, 0},
     {"91", "Licenciement pour inaptitude physique d'origine non professionnelle", 6, 0},

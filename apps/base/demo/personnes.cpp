@@ -100,10 +100,9 @@ void setNaissance(Sortie& sortie, CItem& item, Alea& alea, const BaseAidant& bas
   const PaysConnu& pays = alea.parmiPoids(ListePays);
   const bool francais = &pays == &ListePays[0];
   const Commune& commune = alea.parmi(Communes);
-  const long naissance = base.embauche - alea.entre(19 * 365, 58 * 365);
   item.Set(A::Nationalite, pays.nom);
   item.Set(A::PaysNationalite, pays.code);
-  item.Set(A::DateNaissance, texte(naissance));
+  item.Set(A::DateNaissance, texte(base.naissance));
   item.Set(A::LieuNaissance, francais ? commune.nom : pays.nom);
   const std::string departement = std::string(commune.codePostal).substr(0, 2);
   item.Set(A::DepartementNaissance, francais ? departement : "99");
@@ -113,7 +112,7 @@ void setNaissance(Sortie& sortie, CItem& item, Alea& alea, const BaseAidant& bas
   if (!alea.surCent(francais ? 2 : 25)) {
     const std::string lieu =
         francais ? departement + chiffres(alea.entre(1, 360), 3) : std::string(pays.code);
-    setNumeroSecu(item, alea, base.femme, naissance, lieu);
+    setNumeroSecu(item, alea, base.femme, base.naissance, lieu);
   }
   if (*pays.zone == '\0') ecrireTitreSejour(sortie, alea, base.code);
 }
@@ -152,16 +151,21 @@ void ecrireEmployeur(Sortie& sortie, Alea& alea, const BaseAide& base) {
   sortie.ecrire(fichier::ELTSPARTEMP, base.code, item);
 }
 
-void ecrireActivitesAide(Sortie& sortie, Alea& alea, const BaseAide& base) {
+// Employers have all that they may employ for; others the first service and some of the rest.
+void tirerActivites(Alea& alea, BaseAide& base) {
+  for (std::size_t i = 0; i < std::size(Activites); ++i) {
+    const bool mandataire = i >= PremiereMandataire;
+    base.activites[i] = mandataire == base.employeur && (mandataire || i == 0 || alea.surCent(40));
+  }
+}
+
+void ecrireActivitesAide(Sortie& sortie, const BaseAide& base) {
   CItem item;
-  int rang = 0;
-  const int premiere = base.employeur ? PremiereMandataire : 0;
-  const int fin = base.employeur ? static_cast<int>(std::size(Activites)) : PremiereMandataire;
-  for (int i = premiere; i < fin; ++i) {
-    if (!base.employeur && i != premiere && !alea.surCent(40)) continue;
-    item.Set(data::ActivitesAide::Codes, ++rang,
-             std::string(Entites[base.entite].code) + Activites[i].suffixe);
+  for (int rang = 1; const std::string& code : base.codesActivites()) {
+    item.Set(data::ActivitesAide::Codes, rang, code);
     item.Set(data::ActivitesAide::Debuts, rang, texte(base.debut));
+    if (base.depart != 0) item.Set(data::ActivitesAide::Fins, rang, texte(base.depart));
+    ++rang;
   }
   sortie.ecrire(fichier::ACTIVITESAIDE, base.code, item);
 }
@@ -185,7 +189,16 @@ BaseAidant baseAidant(const Parametres& parametres, int numero) {
   base.parcours = alea.parmiPoids(LesParcours).parcours;
   base.embauche = parametres.aujourdhui - alea.entre(40, AncienneteMax);
   if (base.parcours == Parcours::Stable) tirerContratStable(parametres, alea, base);
+  base.naissance = base.embauche - alea.entre(19 * 365L, 62 * 365L);
   return base;
+}
+
+std::vector<std::string> BaseAide::codesActivites() const {
+  std::vector<std::string> codes;
+  for (std::size_t i = 0; i < activites.size(); ++i) {
+    if (activites[i]) codes.push_back(std::string(Entites[entite].code) + Activites[i].suffixe);
+  }
+  return codes;
 }
 
 BaseAide baseAide(const Parametres& parametres, int numero) {
@@ -195,13 +208,18 @@ BaseAide baseAide(const Parametres& parametres, int numero) {
   base.code = codePersonne(numero);
   base.entite = static_cast<int>(&alea.parmiPoids(Entites) - Entites);
   base.employeur = numero % 2 == 1;
-  base.parti = numero % 16 == 8;
   base.debut = parametres.aujourdhui - AncienneteMax - alea.entre(30, 900);
   if (base.employeur && alea.surCent(70)) base.prevoyance = "03";
   // One employer in eight has not been billed for the last month that was paid.
   const bool enRetard = alea.surCent(12);
   base.derniereFacture =
       enRetard ? data::decalePeriode(parametres.derniereTraitee, -1) : parametres.derniereTraitee;
+  tirerActivites(alea, base);
+  if (numero % 16 == 8) base.depart = parametres.aujourdhui - alea.entre(20, 700);
+  if (base.employeur && numero % 16 == 11) {
+    base.depart = parametres.aujourdhui - alea.entre(90, 1500);
+    base.derniereFacture = std::min(base.derniereFacture, data::periodeDe(base.depart));
+  }
   return base;
 }
 
@@ -211,10 +229,10 @@ void ecrireAide(Sortie& sortie, const Parametres& parametres, const BaseAide& ba
   CItem item;
   setNom(item, alea, alea.surCent(68));
   setAdresse(item, alea);
-  item.Set(A::DateNaissance, texte(parametres.aujourdhui - alea.entre(62 * 365, 99 * 365)));
-  if (base.parti) item.Set(A::DateFin, texte(parametres.aujourdhui - alea.entre(20, 700)));
+  item.Set(A::DateNaissance, texte(parametres.aujourdhui - alea.entre(62 * 365L, 99 * 365L)));
+  if (base.depart != 0) item.Set(A::DateFin, texte(base.depart));
   sortie.ecrire(fichier::CIVILAIDE, base.code, item);
-  ecrireActivitesAide(sortie, alea, base);
+  ecrireActivitesAide(sortie, base);
   if (base.employeur) ecrireEmployeur(sortie, alea, base);
 }
 
@@ -229,7 +247,9 @@ void ecrireAidant(Sortie& sortie, const Parametres& parametres, const BaseAidant
   setAdresse(item, alea);
   item.Set(A::Sexe, base.femme ? "F" : "M");
   setNaissance(sortie, item, alea, base);
-  if (numeros.tousFinis && alea.surCent(40)) {
+  if (numeros.deces != 0) {
+    item.Set(A::DateFin, texte(numeros.deces));
+  } else if (numeros.tousFinis && alea.surCent(40)) {
     item.Set(A::DateFin, texte(numeros.derniereFin + alea.entre(1, 20)));
   }
   if (numeros.premiereEmbauche02 != 0) {

@@ -2,9 +2,11 @@
 // Carers and people helped. What others must know of a person without making all of that person's
 // records is their "base": cheap to draw again, and the same each time.
 
+#include <bitset>
 #include <string>
 #include <vector>
 
+#include "demo/listes.h"
 #include "demo/sortie.h"
 
 namespace demo {
@@ -21,6 +23,7 @@ struct BaseAidant {
   int convention = 0;  // rank in Conventions, never private employers
   Parcours parcours = Parcours::Stable;
   long embauche = 0;
+  long naissance = 0;
   // Stable carers only: a first fixed term, then an open-ended contract, and in it one long
   // absence.
   long cddFin = 0;
@@ -39,10 +42,13 @@ struct BaseAide {
   std::string code;
   int entite = 0;
   bool employeur = false;       // has the elements of a private employer
-  bool parti = false;           // no longer helped
   long debut = 0;               // first day of help, long before any contract
+  long depart = 0;              // last day of help, an employer's death; 0 = still helped
   const char* prevoyance = "";  // provident contract that the employer has signed
   std::string derniereFacture;  // period
+  std::bitset<std::size(Activites)> activites;
+
+  std::vector<std::string> codesActivites() const;  // ACTIVITES keys
 };
 BaseAide baseAide(const Parametres& parametres, int numero);
 
@@ -56,6 +62,7 @@ struct NumerosAidant {
   long premiereEmbauche02 = 0;
   bool tousFinis = false;  // no contract is open or ends later than yesterday
   long derniereFin = 0;
+  long deces = 0;  // the day of the carer's death, 0 = alive
 };
 
 void ecrireAide(Sortie& sortie, const Parametres& parametres, const BaseAide& base);

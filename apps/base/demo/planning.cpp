@@ -30,17 +30,28 @@ long prochain(long debut, int jourSemaine) {
   return debut + (jourSemaine - data::jourDeSemaine(debut) + 7) % 7;
 }
 
+std::vector<std::string> activitesCommunes(const Contrat& contrat, const BaseAide& aide) {
+  std::vector<std::string> communes;
+  for (std::string& code : aide.codesActivites()) {
+    const auto& activites = contrat.activites;
+    if (std::find(activites.begin(), activites.end(), code) != activites.end()) {
+      communes.push_back(std::move(code));
+    }
+  }
+  return communes;
+}
+
 }  // namespace
 
-Planning::Planning(const Parametres& parametres, const BaseAidant& base)
+Planning::Planning(const Parametres& parametres, const BaseAidant& base,
+                   const NumerosAidant& numeros)
     : parametres_(parametres),
       base_(base),
       alea_(parametres.graine, Domaine::Planning, static_cast<std::uint64_t>(base.numero)) {
   if (base.absenceDebut != 0) {
-    articles_[std::string(fichier::ABSENCESAIDANT)][base.cleAbsence()].Set(
-        data::AbsencesAidant::DateFin, texte(base.absenceFin));
+    ajouterAbsence(base.absenceType, base.absenceDebut, base.absenceFin);
   }
-  ajouterIndisponibilites();
+  if (numeros.deces == 0) ajouterIndisponibilites();
 }
 
 void Planning::ajouterIndisponibilites() {
@@ -58,23 +69,31 @@ void Planning::ajouterIndisponibilites() {
   }
 }
 
-void Planning::ajouterAbsence(const Contrat& contrat) {
+// Nobody is absent twice on a day: what would overlap is left out.
+void Planning::ajouterAbsence(const std::string& type, long debut, long fin) {
+  for (const auto& [premier, dernier] : absences_) {
+    if (debut <= dernier && premier <= fin) return;
+  }
+  absences_.emplace_back(debut, fin);
+  articles_[std::string(fichier::ABSENCESAIDANT)][base_.code + type + chiffres(debut, 5)].Set(
+      data::AbsencesAidant::DateFin, texte(fin));
+}
+
+void Planning::tirerAbsence(const Contrat& contrat) {
   const PlanContrat& plan = contrat.plan;
   const long fin = plan.fin != 0 ? plan.fin : parametres_.aujourdhui + 60;
   if (fin - plan.debut < 120 || !alea_.surCent(35)) return;
   constexpr const char* Courtes[] = {"05", "05", "06", "18", "19", "21"};
   const long debut = alea_.entre(plan.debut + 60, fin - 30);
-  CItem item;
-  item.Set(data::AbsencesAidant::DateFin, texte(debut + alea_.entre(0, 25)));
-  articles_[std::string(fichier::ABSENCESAIDANT)]
-           [base_.code + alea_.parmi(Courtes) + chiffres(debut, 5)] = item;
+  const long duree = alea_.entre(0, 25);
+  ajouterAbsence(alea_.parmi(Courtes), debut, debut + duree);
 }
 
 void Planning::ajouter(const Contrat& contrat) {
   namespace C = data::Contrat;
   const PlanContrat& plan = contrat.plan;
   if (plan.annule) return;
-  ajouterAbsence(contrat);
+  tirerAbsence(contrat);
   if (alea_.surCent(2)) {
     articles_[std::string(fichier::OPPOSITION)][contrat.cle + "01"].Set(data::Opposition::Libelle,
                                                                         "Avis à tiers détenteur");
@@ -97,6 +116,18 @@ void Planning::ajouter(const Contrat& contrat) {
   }
 }
 
+// The employer; else a person still helped to whom an activity of the contract is open, a person
+// without any when there is none nearby.
+BaseAide Planning::choisirAide(const Contrat& contrat) {
+  if (contrat.plan.particulier) return baseAide(parametres_, contrat.plan.employeur);
+  const int depart = static_cast<int>(alea_.entre(0, VoisinageAides - 1));
+  for (int i = 0; i < VoisinageAides; ++i) {
+    BaseAide aide = baseAide(parametres_, base_.numero + (depart + i) % VoisinageAides);
+    if (aide.depart == 0 && !activitesCommunes(contrat, aide).empty()) return aide;
+  }
+  return {};
+}
+
 // `dernierJour`: last day worked of a closed contract, else 0.
 void Planning::ajouterIntervention(const Contrat& contrat, long dernierJour) {
   namespace T = data::TpsDetailsInterv;
@@ -104,20 +135,17 @@ void Planning::ajouterIntervention(const Contrat& contrat, long dernierJour) {
   const long jour = alea_.surCent(85) ? alea_.entre(0, 4) : alea_.entre(5, 6);
   const long plage = alea_.entre(0, NombrePlages - 1);
   if (!plages_.insert(jour * 10 + plage).second) return;
-  int aide = plan.employeur;
-  if (!plan.particulier) {
-    aide = base_.numero + static_cast<int>(alea_.entre(0, VoisinageAides - 2));
-    if (baseAide(parametres_, aide).parti) ++aide;
-  }
+  const BaseAide aide = choisirAide(contrat);
+  const std::vector<std::string> activites = activitesCommunes(contrat, aide);
+  if (activites.empty()) return;
   const long limite = std::max(plan.debut, parametres_.aujourdhui - 5);
   const long debut =
       alea_.entre(plan.debut, dernierJour != 0 ? std::min(dernierJour, limite) : limite);
-  const long nombre = static_cast<long>(contrat.activites.size());
-  const std::string& activite =
-      contrat.activites[static_cast<std::size_t>(alea_.entre(0, nombre - 1))];
+  const long nombre = static_cast<long>(activites.size());
+  const std::string& activite = activites[static_cast<std::size_t>(alea_.entre(0, nombre - 1))];
   const Plage& heures = Plages[plage];
   const std::string cle =
-      base_.code + codePersonne(aide) + chiffres(debut, 5) + activite + texte(jour) + heures.debut;
+      base_.code + aide.code + chiffres(debut, 5) + activite + texte(jour) + heures.debut;
   CItem item;
   long fin = dernierJour;
   if (fin == 0 && plan.type == 'D') fin = std::max(debut, plan.finPresumee);
