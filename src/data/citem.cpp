@@ -191,6 +191,7 @@ void CItem::Couper() {
 
 void CItem::Set(int a, std::string_view texte) {
   refuse(texte, {surAttribut, sizeof surAttribut});
+  if (a == -1) a = DCount() + 1;
   if (a < 1 || (texte.empty() && a > DCount())) return;
   std::string nouveau = canonical(texte);
   Place(a) = std::move(nouveau);

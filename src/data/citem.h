@@ -5,14 +5,14 @@
 //   X.Set(3, 2, "b");      attribute 3 has the values "a" and "b"
 //   X(3, 2)                "b"; any place that does not exist reads ""
 //   X.Insert(1, "k");      what stood at 1 and after moves one place up
-//   X.Append("z");         a new attribute after the last
+//   X.Append("z");         a new attribute after the last; X.Set(-1, "z") is the same
 //   X.Text()               the whole item as one text, empty for an empty item
 //
 // Attributes, values and subvalues are numbered from 1; attribute 0 is the record's key. Content is
 // UTF-8 text. The text form is canonical: empty ends are cut at every level, so two items with the
 // same content have the same text whatever the order of the sets, and setting a place to what it
 // already reads changes nothing. No operation fails for an index that does not exist: reads give
-// "", counts 0, deletes do nothing, and places below 1 cannot be set.
+// "", counts 0, deletes do nothing, and places below 1 cannot be set, but for the attribute -1.
 //
 // An item read from a file, or made by DbFile::NewItem, is attached and can be written. A copy
 // keeps the attachment.
@@ -59,11 +59,13 @@ class CItem {
 
   // Each replaces exactly its level. `texte` may hold the separators of lower levels; one of its
   // own level or above would move what stands beside it, and is a programmer's error
-  // (std::invalid_argument).
+  // (std::invalid_argument). The attribute -1 is the one after the last, as for Append; other
+  // indexes below 1 do nothing.
   void Set(int a, std::string_view texte);
   void Set(int a, int v, std::string_view texte);
   void Set(int a, int v, int s, std::string_view texte);
-  // A new attribute after the last one.
+  // A new attribute after the last one. Appending "" adds nothing, an empty end being cut: a list
+  // whose rows may be empty needs a place of its own for each row, or a column always filled.
   void Append(std::string_view texte) { Set(DCount() + 1, texte); }
 
   void Insert(int a, std::string_view texte);

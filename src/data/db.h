@@ -10,6 +10,10 @@
 // The query language is described in data/query.h. A value of a result row that is itself
 // multi-valued comes with its value separators lowered to subvalue separators, so that column j of
 // a row is always value j.
+//
+// A result is an item, whose empty ends are cut: rows without any text at its end are lost, and
+// DCount() can be below the number of records found. A field list with the key ("0"), or with an
+// attribute that is always set, keeps every row.
 
 #include <memory>
 #include <string>
