@@ -33,8 +33,7 @@ constexpr long daysBefore(int annee) {
 constexpr long origine = daysBefore(1968) - 1;
 
 bool onlyDigits(std::string_view texte) {
-  return !texte.empty() &&
-         std::all_of(texte.begin(), texte.end(), [](char c) { return c >= '0' && c <= '9'; });
+  return !texte.empty() && std::all_of(texte.begin(), texte.end(), estChiffre);
 }
 
 // The number of a text of at most four digits; -1 for any other text.

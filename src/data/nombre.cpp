@@ -9,9 +9,6 @@ namespace data {
 
 namespace {
 
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 bool isSeparator(char c) {
   return c == ',' || c == '.';
 }
@@ -31,7 +28,7 @@ bool joinGroups(std::string_view partie, std::string& chiffres) {
   for (;;) {
     const auto blanc = partie.find(' ');
     const std::string_view groupe = partie.substr(0, blanc);
-    if (!std::all_of(groupe.begin(), groupe.end(), isDigit)) return false;
+    if (!std::all_of(groupe.begin(), groupe.end(), estChiffre)) return false;
     const bool seul = premier && blanc == std::string_view::npos;
     if (!seul && (premier ? groupe.empty() || groupe.size() > 3 : groupe.size() != 3)) return false;
     chiffres += groupe;
@@ -84,7 +81,7 @@ std::optional<NombreEcrit> lireNombre(std::string_view texte) {
     d.separateur = *coupe;
     d.decimales.assign(coupe + 1, reste.end());
   }
-  if (!std::all_of(d.decimales.begin(), d.decimales.end(), isDigit)) return std::nullopt;
+  if (!std::all_of(d.decimales.begin(), d.decimales.end(), estChiffre)) return std::nullopt;
   if (d.entiers.empty() && d.decimales.empty()) return std::nullopt;
   cutLeadingZeros(d.entiers);
   return d;
@@ -99,7 +96,7 @@ long long entier(std::string_view texte) {
   const bool negatif = !serre.empty() && serre[0] == '-';
   const std::size_t debut = negatif || (!serre.empty() && serre[0] == '+') ? 1 : 0;
   const auto premier = serre.begin() + static_cast<std::ptrdiff_t>(debut);
-  const std::string_view chiffres(premier, std::find_if_not(premier, serre.end(), isDigit));
+  const std::string_view chiffres(premier, std::find_if_not(premier, serre.end(), estChiffre));
   using Bornes = std::numeric_limits<long long>;
   return toInteger(negatif, chiffres).value_or(negatif ? Bornes::min() : Bornes::max());
 }

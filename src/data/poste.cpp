@@ -52,7 +52,7 @@ std::string PosteSysteme::NomUtilisateur() const {
                                    std::getenv("USER"), std::getenv("LOGNAME")};
   for (const char* candidat : candidats) {
     if (candidat == nullptr || !utf8Valide(candidat)) continue;
-    const std::string nom = gauche(sansBlancs(sansControles(candidat)), longueurNom);
+    std::string nom = gauche(sansBlancs(sansControles(candidat)), longueurNom);
     if (!nom.empty()) return nom;
   }
   return {};

@@ -51,7 +51,7 @@ Number readNumber(std::string_view text) {
   if (point != std::string_view::npos) number.decimals = text.substr(point + 1);
 
   const auto allDigits = [](std::string_view digits) {
-    return std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(digits.begin(), digits.end(), estChiffre);
   };
   number.valid = !(number.whole.empty() && number.decimals.empty()) && allDigits(number.whole) &&
                  allDigits(number.decimals);

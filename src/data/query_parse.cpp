@@ -18,10 +18,6 @@ constexpr bool isOperator(char c) {
   return c == '=' || c == '<' || c == '>' || c == '#';
 }
 
-constexpr bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 // `what` is the thing refused, with its article; `at` the byte where it stops making sense. In the
 // quote, blanks stand for control characters, so that the places stay.
 [[noreturn]] void refuseAt(std::string_view what, std::string_view text, std::size_t at,
@@ -39,14 +35,15 @@ constexpr bool isDigit(char c) {
 }
 
 bool isFileName(std::string_view name) {
-  return !name.empty() && std::all_of(name.begin(), name.end(),
-                                      [](char c) { return isDigit(c) || (c >= 'A' && c <= 'Z'); });
+  return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return estChiffre(c) || (c >= 'A' && c <= 'Z');
+  });
 }
 
 // False when `name` is no field of `file`.
 bool findField(std::string_view file, std::string_view name, Field& field) {
   if (name == "@ID") return true;
-  if (std::all_of(name.begin(), name.end(), isDigit)) {
+  if (std::all_of(name.begin(), name.end(), estChiffre)) {
     if (name.empty() || name.size() > largestAttributeDigits) return false;
     for (const char digit : name) field.attribute = field.attribute * 10 + (digit - '0');
     return true;

@@ -26,22 +26,9 @@ Sequence sequenceOf(unsigned premier) {
   return {4, premier == 0xF0 ? 0x90u : 0x80u, premier == 0xF4 ? 0x8Fu : 0xBFu};
 }
 
-// Bytes of the well-formed character at i; 0 when there is none.
-std::size_t wellFormedAt(std::string_view texte, std::size_t i) {
-  const Sequence s = sequenceOf(byteAt(texte, i));
-  if (s.taille < 2) return s.taille;
-  if (i + s.taille > texte.size()) return 0;
-  const unsigned second = byteAt(texte, i + 1);
-  if (second < s.secondMin || second > s.secondMax) return 0;
-  for (std::size_t k = 2; k < s.taille; ++k) {
-    if ((byteAt(texte, i + k) & 0xC0u) != 0x80u) return 0;
-  }
-  return s.taille;
-}
-
 // Bytes of the character at i, a stray byte counting as one.
 std::size_t stepAt(std::string_view texte, std::size_t i) {
-  return std::max<std::size_t>(1, wellFormedAt(texte, i));
+  return std::max<std::size_t>(1, octetsCaractere(texte, i));
 }
 
 // Byte offset after n characters counted from `depart`, at most the end of the text.
@@ -85,9 +72,21 @@ unsigned upper(unsigned point) {
 
 }  // namespace
 
+std::size_t octetsCaractere(std::string_view texte, std::size_t i) {
+  const Sequence s = sequenceOf(byteAt(texte, i));
+  if (s.taille < 2) return s.taille;
+  if (i + s.taille > texte.size()) return 0;
+  const unsigned second = byteAt(texte, i + 1);
+  if (second < s.secondMin || second > s.secondMax) return 0;
+  for (std::size_t k = 2; k < s.taille; ++k) {
+    if ((byteAt(texte, i + k) & 0xC0u) != 0x80u) return 0;
+  }
+  return s.taille;
+}
+
 bool utf8Valide(std::string_view texte) {
   for (std::size_t i = 0; i < texte.size();) {
-    const std::size_t taille = wellFormedAt(texte, i);
+    const std::size_t taille = octetsCaractere(texte, i);
     if (taille == 0) return false;
     i += taille;
   }

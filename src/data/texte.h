@@ -12,14 +12,23 @@
 // that belongs to no well-formed character counts as one character and is kept as it is: no text,
 // however damaged, is refused here or read beyond its end.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace data {
 
-// Whether the whole text is well-formed UTF-8: no overlong form, no surrogate, nothing above
-// U+10FFFF. The empty text is.
+constexpr bool estChiffre(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// The bytes of the well-formed UTF-8 character that begins at byte `i`, which lies inside the text:
+// 1 to 4, or 0 where none begins (a stray or cut sequence, an overlong form, a surrogate, or above
+// U+10FFFF).
+std::size_t octetsCaractere(std::string_view texte, std::size_t i);
+
+// Whether the whole text is well-formed UTF-8. The empty text is.
 bool utf8Valide(std::string_view texte);
 
 int longueur(std::string_view texte);

@@ -6,42 +6,11 @@
 
 #include "data/storage.h"
 #include "data/store_error.h"
+#include "data/texte.h"
 
 namespace data {
 
 namespace {
-
-bool estSuite(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
-
-// One multi-byte character of UTF-8: the lead bytes of one row stand between `premier` and
-// `dernier`; the byte after the lead one stands between `min` and `max`, which shuts out overlong
-// forms, surrogates and what lies above U+10FFFF.
-struct Forme {
-  unsigned char premier, dernier;
-  unsigned char octets;
-  unsigned char min, max;
-};
-constexpr Forme kFormes[] = {
-    {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF}, {0xE1, 0xEC, 3, 0x80, 0xBF},
-    {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF}, {0xF0, 0xF0, 4, 0x90, 0xBF},
-    {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
-};
-
-// Bytes of the multi-byte character at the start of `reste`, 0 when there is none.
-std::size_t longueurMultiple(std::string_view reste) {
-  const auto tete = static_cast<unsigned char>(reste[0]);
-  for (const Forme& forme : kFormes) {
-    if (tete < forme.premier || tete > forme.dernier) continue;
-    if (reste.size() < forme.octets) return 0;
-    const auto second = static_cast<unsigned char>(reste[1]);
-    if (second < forme.min || second > forme.max) return 0;
-    const auto suite = reste.substr(2, std::size_t{forme.octets} - 2);
-    return std::all_of(suite.begin(), suite.end(), estSuite) ? forme.octets : 0;
-  }
-  return 0;
-}
 
 // Eight bytes at once: all ASCII and none of them zero. Bit 7 of a byte is clear in both terms only
 // then.
@@ -62,8 +31,7 @@ std::size_t premierDefaut(std::string_view texte) {
       i += 8;
       continue;
     }
-    const auto c = static_cast<unsigned char>(texte[i]);
-    const std::size_t pas = c == 0 ? 0 : c < 0x80 ? 1 : longueurMultiple(texte.substr(i));
+    const std::size_t pas = texte[i] == '\0' ? 0 : octetsCaractere(texte, i);
     if (pas == 0) return i;
     i += pas;
   }
@@ -82,7 +50,7 @@ bool tientControle(std::string_view texte) {
 
 bool estNomDeFichier(std::string_view nom) {
   return !nom.empty() && std::all_of(nom.begin(), nom.end(), [](char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    return (c >= 'A' && c <= 'Z') || estChiffre(c);
   });
 }
 

@@ -7,12 +7,12 @@ namespace screen {
 std::u32string touchesDe(std::string_view texte) {
   std::u32string touches;
   for (std::size_t i = 0; i < texte.size();) {
-    const auto tete = static_cast<unsigned char>(texte[i]);
-    const std::size_t longueur = tete < 0x80 ? 1 : tete < 0xE0 ? 2 : tete < 0xF0 ? 3 : 4;
-    if (!data::utf8Valide(texte.substr(i, longueur))) {
+    const std::size_t longueur = data::octetsCaractere(texte, i);
+    if (longueur == 0) {
       ++i;
       continue;
     }
+    const auto tete = static_cast<unsigned char>(texte[i]);
     char32_t touche = longueur == 1 ? tete : tete & (0x7Fu >> longueur);
     for (std::size_t j = 1; j < longueur; ++j) {
       touche = touche << 6 | (static_cast<unsigned char>(texte[i + j]) & 0x3Fu);

@@ -48,16 +48,14 @@ bool pressable(Kind genre) {
   return genre == Kind::Bouton || genre == Kind::Case || genre == Kind::Option;
 }
 
-// Line ends become one "\n" where the field takes them; every other control character goes.
+// What a paste leaves of a text: characters, and line ends where the field takes them. Control
+// characters and bytes that belong to no character go, which no store would take.
 std::string pastable(std::string_view texte, bool multiligne) {
   std::string resultat;
-  while (true) {
-    const auto fin = texte.find('\n');
-    resultat += data::sansControles(texte.substr(0, fin));
-    if (fin == std::string_view::npos) return resultat;
-    if (multiligne) resultat += '\n';
-    texte.remove_prefix(fin + 1);
+  for (const char32_t touche : touchesDe(texte)) {
+    if (estCaractere(touche) || (multiligne && touche == U'\n')) resultat += texteDe(touche);
   }
+  return resultat;
 }
 
 }  // namespace

@@ -58,7 +58,10 @@ TEST_F(Saisie, ToucheParTouche) {
 
 TEST_F(Saisie, ColleEnUneFois) {
   Poser("x");
-  EXPECT_EQ(user.Coller(essai.Txt_A, "é,x\x1e\r\nabcdef"), Acte::Fait);
+  EXPECT_EQ(user.Coller(essai.Txt_A,
+                        "é\xC3,x\x1e\r\n\x82"
+                        "abcdef"),
+            Acte::Fait);
   EXPECT_EQ(essai.Txt_A.Text(), "é,xab");
   EXPECT_EQ(essai.Journal(), "Txt_A.Change");
   user.Coller(essai.Txt_Note, "un\r\ndeux\ntrois");

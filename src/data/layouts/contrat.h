@@ -39,7 +39,7 @@ inline constexpr int FonctionPCS = 19;    // (m) label of the PCS function
 inline constexpr int Grille = 20;         // (m) GRILLESCC key, empty = no grid
 inline constexpr int DepartGrille = 21;   // (m) date, start of the grid calculation
 inline constexpr int Coefficient = 22;    // (m) x1000
-inline constexpr int TauxHoraire = 23;    // (m) x1000 euros; "0" when a grid gives the rate
+inline constexpr int TauxHoraire = 23;    // (m) x1000 euros; "0" when the field is empty
 inline constexpr int DureeTravail = 24;   // (m) x100 hours in the frequency of 25
 inline constexpr int Frequence = 25;      // (m) 1 weekly, 2 fortnightly, 3 monthly, 4 yearly
 

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 
+#include "data/texte.h"
+
 namespace data {
 namespace {
 
-bool estChiffre(char c) {
-  return c >= '0' && c <= '9';
-}
 bool estVisible(char c) {
   return c > ' ' && c <= '~';
 }
