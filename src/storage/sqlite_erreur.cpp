@@ -3,6 +3,8 @@
 #include <sqlite3.h>
 
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #include "storage/sqlite_pages.h"
 
@@ -13,9 +15,8 @@ namespace {
 using data::NumeroErreur;
 using data::StoreError;
 
-constexpr std::string_view kRestaurer =
-    "Arrêtez la saisie et restaurez la dernière sauvegarde ; la commande verifier de "
-    "contrat-base dit ce qui se lit encore.";
+// Says nothing of the command verifier, which shows this text too.
+constexpr std::string_view kRestaurer = "Arrêtez la saisie et restaurez la dernière sauvegarde.";
 
 // Result codes by their low byte, unless the whole code has a row of its own.
 struct Traduction {
@@ -85,7 +86,7 @@ std::string ou(const Acte& acte) {
   return texte;
 }
 
-std::string suiteDe(sqlite3* db, int code) {
+std::string suiteDe(sqlite3* db, int code, const std::string& chemin) {
   const Traduction* ligne = traduction(code);
   if (ligne == nullptr) {
     const char* detail = db == nullptr ? sqlite3_errstr(code) : sqlite3_errmsg(db);
@@ -94,18 +95,30 @@ std::string suiteDe(sqlite3* db, int code) {
   }
   if (ligne->numero != NumeroErreur::Endommage) return std::string(ligne->suite);
   const std::int64_t page = db == nullptr ? 0 : derniereMauvaisePage(db);
+  const std::string manque = finManquante(db, chemin);
   std::string suite(ligne->suite);
   if (page > 0) suite = "la page " + std::to_string(page) + " du fichier est endommagée. ";
+  if (!manque.empty()) suite = manque + ". ";
   return suite.append(kRestaurer);
 }
 
 }  // namespace
 
+std::string finManquante(sqlite3* db, const std::string& chemin) {
+  std::error_code code;
+  const auto journal = std::filesystem::file_size(chemin + "-wal", code);
+  if (db == nullptr || (!code && journal > 0)) return {};
+  const Tailles tailles = taillesFichier(db);
+  if (tailles.trouvee >= tailles.attendue) return {};
+  return "la fin du fichier manque : il a " + std::to_string(tailles.trouvee) +
+         " octets au lieu de " + std::to_string(tailles.attendue);
+}
+
 StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const Acte& acte) {
   const int precise = codePrecise(db, code);
   const Traduction* ligne = traduction(precise);
   return erreur(ligne == nullptr ? NumeroErreur::EntreeSortie : ligne->numero, chemin, acte,
-                suiteDe(db, precise));
+                suiteDe(db, precise, chemin));
 }
 
 StoreError erreur(NumeroErreur numero, const std::string& chemin, const Acte& acte,

@@ -20,6 +20,10 @@ struct Acte {
   bool apres = false;  // at some place after that key, not at its record
 };
 
+// For a file shorter than its header says, the two sizes, as a piece of a sentence; "" otherwise.
+// While a log stands beside the file nothing can be said: the end may be in it still.
+std::string finManquante(sqlite3* db, const std::string& chemin);
+
 // The error for a result code of `db`, right after the call that gave it; `db` may be null.
 // `chemin` is the data file as the user named it.
 data::StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const Acte& acte);

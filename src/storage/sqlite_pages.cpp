@@ -196,6 +196,23 @@ std::int64_t derniereMauvaisePage(sqlite3* db) {
   return numero;
 }
 
+Tailles taillesFichier(sqlite3* db) {
+  constexpr sqlite3_int64 kLieuPages = 28;  // of the header: number of pages, big-endian
+  sqlite3_file* fichier = nullptr;
+  sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &fichier);
+  Tailles tailles;
+  sqlite3_int64 octets = 0;
+  std::array<unsigned char, 4> pages{};
+  if (fichier == nullptr || fichier->pMethods == nullptr || taille(fichier, &octets) != SQLITE_OK ||
+      lire(fichier, pages.data(), static_cast<int>(pages.size()), kLieuPages) != SQLITE_OK) {
+    return tailles;
+  }
+  for (const unsigned char octet : pages) tailles.attendue = tailles.attendue * 256 + octet;
+  tailles.attendue *= kOctetsPage;
+  tailles.trouvee = octets;
+  return tailles;
+}
+
 bool pageSaine(sqlite3_file* fichier, std::int64_t numero) {
   std::array<char, kOctetsPage> page;
   const int code =

@@ -23,6 +23,14 @@ inline constexpr int kOctetsSceau = 8;  // the end of each page that SQLite leav
 // could not be started.
 const char* nomVfsPages();
 
+// Bytes of the file that the header of `db` announces, and those that are there; both 0 when they
+// cannot be read.
+struct Tailles {
+  std::int64_t attendue = 0;
+  std::int64_t trouvee = 0;
+};
+Tailles taillesFichier(sqlite3* db);
+
 // The number from 1 of the last page of `db` whose seal was found broken since the last call, 0
 // when there was none.
 std::int64_t derniereMauvaisePage(sqlite3* db);

@@ -1,10 +1,15 @@
 #include "storage/sqlite_verifier.h"
 
+#include <algorithm>
+#include <charconv>
 #include <chrono>
+#include <set>
+#include <string_view>
 #include <thread>
 #include <utility>
 
 #include "storage/controle.h"
+#include "storage/sqlite_erreur.h"
 #include "storage/sqlite_pages.h"
 
 namespace storage {
@@ -32,6 +37,19 @@ constexpr Table kTables[] = {
      "ORDER BY fichier DESC, cle DESC, numero DESC"},
 };
 
+// The number after the first "page " or "Page " of `ligne` that a number follows, 0 without one.
+std::int64_t pageNommee(std::string_view ligne) {
+  constexpr std::string_view kPage = "age ";
+  for (auto i = ligne.find(kPage); i != std::string_view::npos; i = ligne.find(kPage, i + 1)) {
+    const std::string_view suite = ligne.substr(i + kPage.size());
+    std::int64_t numero = 0;
+    if (std::from_chars(suite.data(), suite.data() + suite.size(), numero).ec == std::errc{}) {
+      return numero;
+    }
+  }
+  return 0;
+}
+
 class Controleur {
  public:
   Controleur(Connexion& connexion, const std::function<void(const Dommage&)>& signaler,
@@ -43,6 +61,9 @@ class Controleur {
   void Lignes(const Table& table);
 
  private:
+  void Signaler(std::string message) { signaler_({{}, {}, std::move(message)}); }
+  void Page(std::int64_t numero);
+  bool Constat(std::string_view constat);
   bool PageTient(sqlite3_file* fichier, std::int64_t numero) const;
   bool Parcourir(const Table& table, bool montant, const Lieu* jusque, Lieu& dernier);
   void Ligne(const Table& table, const Requete& requete);
@@ -50,6 +71,7 @@ class Controleur {
   Connexion& connexion_;
   const std::function<void(const Dommage&)>& signaler_;
   const std::function<void(long)>& avance_;
+  std::set<std::int64_t> pages_;  // told as damaged
   long lues_ = 0;
 };
 
@@ -70,21 +92,49 @@ void Controleur::Pages() {
   if (code != SQLITE_OK) connexion_.Echouer(code, kControle);
   const std::int64_t pages = (octets + kOctetsPage - 1) / kOctetsPage;
   for (std::int64_t numero = 1; numero <= pages; ++numero) {
-    if (PageTient(fichier, numero)) continue;
-    signaler_({{}, {}, "La page " + std::to_string(numero) + " du fichier est endommagée."});
+    if (!PageTient(fichier, numero)) Page(numero);
   }
+  // A damaged first page says nothing of the file's size that could be believed.
+  if (pages_.contains(1)) return;
+  std::string manque = finManquante(connexion_.Db(), connexion_.Chemin());
+  if (manque.empty()) return;
+  manque.replace(0, 1, "L");
+  Signaler(manque + '.');
+}
+
+void Controleur::Page(std::int64_t numero) {
+  if (!pages_.insert(numero).second) return;
+  Signaler("La page " + std::to_string(numero) + " du fichier est endommagée.");
 }
 
 void Controleur::Structure() {
+  bool sansPage = false;
   try {
     Requete requete(connexion_, "PRAGMA integrity_check(100)", kControle);
     while (requete.Avancer(kControle)) {
-      const std::string constat(requete.Texte(0));
-      if (constat != "ok") signaler_({{}, {}, "La structure est endommagée (" + constat + ")."});
+      if (requete.Texte(0) == "ok") return;
+      sansPage = !Constat(requete.Texte(0)) || sansPage;
     }
   } catch (const data::StoreError& refus) {
-    signaler_({{}, {}, refus.what()});
+    if (refus.Numero() != data::NumeroErreur::Endommage) throw;
+    sansPage = sansPage || pages_.empty();
   }
+  if (sansPage) Signaler("La structure du fichier est endommagée : des articles peuvent manquer.");
+}
+
+// SQLite's own findings are English lines, of which the page numbers are kept. False when a line
+// names no page.
+bool Controleur::Constat(std::string_view constat) {
+  bool toutes = true;
+  while (!constat.empty()) {
+    const std::string_view ligne = constat.substr(0, constat.find('\n'));
+    constat.remove_prefix(std::min(constat.size(), ligne.size() + 1));
+    if (ligne.starts_with("***")) continue;  // the heading of the lines that follow
+    const std::int64_t page = pageNommee(ligne);
+    if (page > 0) Page(page);
+    toutes = toutes && page > 0;
+  }
+  return toutes;
 }
 
 void Controleur::Ligne(const Table& table, const Requete& requete) {
@@ -134,11 +184,9 @@ void Controleur::Lignes(const Table& table) {
   const auto nommer = [](const Lieu& lieu, const char* sinon) {
     return lieu.first.empty() ? std::string(sinon) : lieu.first + " « " + lieu.second + " »";
   };
-  signaler_({{},
-             {},
-             std::string(table.anciens ? "Les anciens textes" : "Les articles") + " entre " +
-                 nommer(avant, "le début") + " et " + nommer(apres, "la fin") +
-                 " ne peuvent pas être tous lus."});
+  Signaler(std::string(table.anciens ? "Les anciens textes" : "Les articles") + " entre " +
+           nommer(avant, "le début") + " et " + nommer(apres, "la fin") +
+           " ne peuvent pas être tous lus.");
 }
 
 }  // namespace
