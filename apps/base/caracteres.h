@@ -1,6 +1,7 @@
 #pragma once
-// What no text of a record may hold: bytes that are not UTF-8, and control characters. Used on
-// JSON before it is parsed, and on stored texts by the check of a data file.
+// What no text of a record may hold, on the way in from JSON: bytes that are not UTF-8, the
+// character U+0000, and the three separators of an item. Every other control character is content,
+// as for the store: a note may have line ends.
 
 #include <cstddef>
 #include <optional>
@@ -14,11 +15,8 @@ struct Interdit {
   std::string raison;
 };
 
-// The first forbidden place of a JSON text. Inside its strings a control character is forbidden
-// raw as well as escaped (backslash and n, backslash and u001E); outside, tabs and line ends are
-// ordinary blanks.
+// The first forbidden place of a JSON text; inside its strings escapes count as what they stand
+// for. JSON has no raw control character below U+0020 but its blanks, and none inside a string.
 std::optional<Interdit> interditDansJson(std::string_view json);
-// The first forbidden place of the text form of an item, whose separators are in their place.
-std::optional<Interdit> interditDansTexte(std::string_view texte);
 
 }  // namespace base

@@ -1,10 +1,11 @@
 // `importer` and `exporter`: a data file from and to JSON Lines.
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <set>
+#include <system_error>
 
-#include "base/caracteres.h"
 #include "base/cles_vues.h"
 #include "base/commandes.h"
 #include "base/jsonl.h"
@@ -121,8 +122,7 @@ std::vector<data::FichierCompte> fichiersVoulus(data::Storage& stockage,
     if (voulus.erase(fichier.nom) > 0) gardes.push_back(std::move(fichier));
   }
   if (!voulus.empty()) {
-    throw Echec(Refuse, "Le fichier " + *voulus.begin() +
-                            " n'a pas d'article ; « fichiers » donne la liste de ceux qui en ont.");
+    throw Echec(Refuse, fichierSansArticle(*voulus.begin()));
   }
   return gardes;
 }
@@ -135,7 +135,6 @@ class Export {
         total_(total) {}
 
   void Article(const std::string& fichier, std::string_view cle, std::string_view texte) {
-    if (const auto interdit = interditDansTexte(texte)) Signale(fichier, cle, interdit->raison);
     ecrireEnregistrement(envoi_, fichier, cle, texte);
     envoi_ += '\n';
     if (envoi_.size() >= TailleEnvoi) Envoie();
@@ -145,22 +144,12 @@ class Export {
     contexte_.Ecrit(envoi_);
     envoi_.clear();
   }
-  bool Complet() const { return complet_; }
 
  private:
-  // The line is written all the same: an export that leaves a record out would lose it.
-  void Signale(const std::string& fichier, std::string_view cle, const std::string& raison) {
-    complet_ = false;
-    progres_.Efface();
-    contexte_.erreurs << fichier << ' ' << cle << " : " << raison
-                      << ". L'importation refusera cette ligne : corrigez l'article.\n";
-  }
-
   Contexte& contexte_;
   Progres progres_;
   long total_;
   long articles_ = 0;
-  bool complet_ = true;
   std::string envoi_;
 };
 
@@ -168,6 +157,9 @@ class Export {
 
 int importer(Contexte& contexte, const Arguments& arguments) {
   const std::string source = arguments.Texte("SOURCE");
+  if (std::error_code ignoree; source != "-" && std::filesystem::is_directory(source, ignoree)) {
+    throw Echec(Panne, source + " est un dossier. Donnez un fichier JSON Lines.");
+  }
   Base base(arguments, Acces::Ecriture);
   if (source == "-") {
     return importerDepuis(contexte, base.Stockage(), "entrée standard", contexte.entree);
@@ -194,7 +186,7 @@ int exporter(Contexte& contexte, const Arguments& arguments) {
                          });
   }
   sortie.Envoie();
-  return sortie.Complet() ? Fait : Refuse;
+  return Fait;
 }
 
 }  // namespace base

@@ -28,6 +28,13 @@ void ecrireRangee(std::string& sortie, const data::CItem& rangees, int rangee, i
   sortie += json ? "]\n" : "\n";
 }
 
+bool vide(data::Storage& stockage, const std::string& fichier) {
+  bool vide = true;
+  stockage.Scan(fichier, data::KeyRange::Tout(),
+                [&](std::string_view, std::string_view) { return vide = false; });
+  return vide;
+}
+
 }  // namespace
 
 int select(Contexte& contexte, const Arguments& arguments) {
@@ -48,6 +55,10 @@ int select(Contexte& contexte, const Arguments& arguments) {
     sortie.clear();
   }
   contexte.Ecrit(sortie);
+  // A mistyped name would otherwise look like a question without an answer.
+  if (rangees.Vide() && vide(base.Stockage(), fichier)) {
+    contexte.erreurs << fichierSansArticle(fichier) << '\n';
+  }
   return Fait;
 }
 

@@ -11,6 +11,11 @@ void Contexte::Ecrit(std::string_view texte) {
   }
 }
 
+std::string fichierSansArticle(std::string_view nom) {
+  return "Le fichier " + std::string(nom) +
+         " n'a pas d'article ; « fichiers » donne la liste de ceux qui en ont.";
+}
+
 const std::vector<std::string>& Arguments::Tous(std::string_view nom) const {
   static const std::vector<std::string> Aucun;
   const auto place = valeurs_.find(nom);

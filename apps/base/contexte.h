@@ -30,6 +30,9 @@ class Echec : public std::runtime_error {
   Code code_;
 };
 
+// What a file asked for by a name under which nothing stands is told with, whichever the command.
+std::string fichierSansArticle(std::string_view nom);
+
 struct Contexte {
   std::istream& entree;
   std::ostream& sortie;

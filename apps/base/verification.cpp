@@ -4,13 +4,13 @@
 #include <set>
 #include <string_view>
 
-#include "base/caracteres.h"
 #include "data/citem.h"
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/store_error.h"
+#include "data/texte.h"
 
 namespace base {
 namespace {
@@ -28,7 +28,7 @@ constexpr Lien Liens[] = {{Contrat::CongesReportesSur, Contrat::CongesReprisDe},
                           {Contrat::CongesReprisDe, Contrat::CongesReportesSur}};
 
 bool estNumeroContrat(std::string_view texte) {
-  return texte.size() == 3 && texte.find_first_not_of("0123456789") == std::string_view::npos;
+  return texte.size() == 3 && std::all_of(texte.begin(), texte.end(), data::estChiffre);
 }
 
 std::string guillemets(std::string_view texte) {
@@ -88,7 +88,6 @@ class Verification {
     if (!data::cleBienFormee(fichier, cle)) {
       Constate(fichier, cle, "la clé n'a pas la forme des clés de ce fichier");
     }
-    if (const auto interdit = interditDansTexte(texte)) Constate(fichier, cle, interdit->raison);
     const bool contrat = fichier == data::fichier::CONTRAT;
     const bool aidant = fichier == data::fichier::CIVILAIDANT;
     const CItem item(texte);

@@ -85,12 +85,11 @@ TEST(ArticleJson, RefuseAvecPlaceEtRaison) {
       {R"({"cle" : ^"","fichier":"PCS","item":[]})", "Un article du fichier PCS"},
       // Characters that no text may hold.
       {avecItem("[\"é^\x1e\"]"), "séparateur U+001E"},
-      {avecItem("[\"é^\tb\"]"), "caractère de contrôle U+0009"},
-      {avecItem("[\"a^\xC2\x85\"]"), "caractère de contrôle U+0085"},
+      {avecItem("[\"é^\tb\"]"), "caractère de contrôle U+0009 ; dans un texte il s'écrit \\u0009"},
       {avecItem(R"(["é^\u001Db"])"), "séparateur U+001D"},
-      {avecItem(R"(["a\\^\n"])"), "caractère de contrôle U+000A"},
-      {avecItem(R"(["^\u007f"])"), "caractère de contrôle U+007F"},
-      {R"({"fichier":"PCS","cle":"1^\u0000","item":[]})", "caractère de contrôle U+0000"},
+      {avecItem(R"(["a\\^\u0000"])"), "caractère U+0000"},
+      {avecItem("[]") + "^" + std::string(1, '\0') + "x", "caractère U+0000"},
+      {R"({"fichier":"PCS","cle":^"1\n","item":[]})", "La clé « 1? »"},
       {avecItem("[\"é^\xFF\"]"), "octet qui n'est pas de l'UTF-8"},
       {avecItem("[\"^\xC0\x80\"]"), "octet qui n'est pas de l'UTF-8"},
       {avecItem("[\"^\xED\xA0\x80\"]"), "octet qui n'est pas de l'UTF-8"},
@@ -113,6 +112,7 @@ TEST(ArticleJson, EcritLaFormeLaPlusCourte) {
       {R"([[["a","b"]]])", R"([[["a","b"]]])"},
       {R"([["",["","a"]],[["b"],"c"]])", R"([["",["","a"]],["b","c"]])"},
       {R"([ "a\/\u00e9\ud83d\ude00" , "\\u001e\"" ])", R"(["a/é😀","\\u001e\""])"},
+      {R"(["a\n\t\b\u007F\u0085"])", "[\"a\\u000a\\u0009\\u0008\x7F\xC2\x85\"]"},
   };
   for (const auto& c : cas) EXPECT_EQ(lecture(avecItem(c.item)), avecItem(c.ecrit)) << c.item;
   EXPECT_EQ(lecture(R"( {"item":["a"],"cle":"1", "fichier":"PCS"} )"), avecItem(R"(["a"])"));

@@ -71,7 +71,6 @@ TEST_F(VerificationTest, TrouveChaqueDefautPlante) {
   } cas[] = {
       {"CONTRAT", "0000100", 1, "", "CONTRAT 0000100 | la clé n'a pas la forme"},
       {"DETAILCALCUL", "00001001202613", 1, "P", "DETAILCALCUL 00001001202613 | la clé n'a pas"},
-      {"PCS", "11", 1, "a\tb", "PCS 11 | caractère de contrôle U+0009"},
       {"CONTRAT", "00003001", 1, "", "CONTRAT 00003001 | l'aidant « 00003 » n'existe pas"},
       {"CONTRAT", "00002001", Contrat::CongesReportesSur, "00002009",
        "CONTRAT 00002001 | attribut 116 : le contrat lié « 00002009 » n'existe pas"},
