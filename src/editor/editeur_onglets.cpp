@@ -1,5 +1,7 @@
 // Changing tabs: what the frame shows, enables and refuses on the way.
 
+#include <algorithm>
+
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
@@ -8,6 +10,20 @@
 
 namespace editor {
 
+namespace {
+
+// Rows that the list of activities shows at a time.
+constexpr int LignesActivites = 6;
+
+// The bar beside a list that shows `lignes` rows at a time.
+void Maj_Bdv(screen::ScrollBar& barre, const screen::ListBox& liste, int lignes) {
+  barre.SetMax(std::max(liste.ListCount() - 1, 0));
+  barre.SetVisible(liste.ListCount() > lignes);
+  barre.SetValue(0);
+}
+
+}  // namespace
+
 void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
   if (!origine.Txt_DatDebContrat.Text().empty()) origine.Txt_DatDebContrat_LostFocus();
   if (Ong_Contrat.Tab() == ElementsPaie) ActiverActivites();
@@ -15,35 +31,32 @@ void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
   MontrerParts();
 }
 
-// The activity group of the third tab, by agreement, status and mode.
+// The activity group of the third tab, by agreement, status and mode. Private employers' staff have
+// none; administrative staff split their time from the start of the contract on, so that without
+// one there is nothing to split yet.
 void Frm_ElementsContrat::ActiverActivites() {
+  const bool particuliers = ConventionParticuliers();
   const bool administratif = origine.Opt_Administratif.Value();
-  if (ConventionParticuliers()) {
-    for (screen::Field* champ : std::initializer_list<screen::Field*>{
-             &paie.Cbo_PeriodeEffetAffichage, &paie.Etq_PeriodeEffet, &paie.Cmd_AjoutePeriodeEffet,
-             &paie.Cmd_OKActivite, &paie.Cmd_AnnulerActivite, &paie.Lst_RepartActContrat,
-             &paie.Txt_RepartActContrat, &paie.Txt_ActiviteContrat}) {
-      champ->SetVisible(false);
-    }
-    return;
-  }
-  if (origine.Txt_DatDebContrat.Text().empty()) {
-    for (screen::Field* champ : std::initializer_list<screen::Field*>{
-             &paie.Cbo_PeriodeEffetAffichage, &paie.Etq_PeriodeEffet, &paie.Cmd_AjoutePeriodeEffet,
-             &paie.Cbo_Activite, &paie.Etq_ListeActivite, &paie.Cmd_OKActivite,
-             &paie.Cmd_AnnulerActivite, &paie.Cdr_AffectActiv}) {
-      if (administratif) champ->SetEnabled(false);
-    }
-    return;
-  }
-  paie.Cbo_Activite.SetEnabled(true);
+  const bool actif = !administratif || !origine.Txt_DatDebContrat.Text().empty();
   for (screen::Field* champ : std::initializer_list<screen::Field*>{
            &paie.Cbo_PeriodeEffetAffichage, &paie.Etq_PeriodeEffet, &paie.Cmd_AjoutePeriodeEffet}) {
-    champ->SetVisible(administratif);
-    champ->SetEnabled(true);
+    champ->SetVisible(administratif && !particuliers);
+    champ->SetEnabled(actif);
   }
-  paie.Cmd_OKActivite.SetEnabled(!session_.ModeCreation);
-  paie.Cmd_AnnulerActivite.SetEnabled(!session_.ModeCreation);
+  for (screen::Field* champ : std::initializer_list<screen::Field*>{
+           &paie.Cbo_Activite, &paie.Etq_ListeActivite, &paie.Cdr_AffectActiv}) {
+    champ->SetVisible(!particuliers);
+    champ->SetEnabled(actif);
+  }
+  for (screen::Button* bouton : {&paie.Cmd_OKActivite, &paie.Cmd_AnnulerActivite}) {
+    bouton->SetVisible(!particuliers && (bouton != &paie.Cmd_OKActivite || DroitComplet()));
+    bouton->SetEnabled(actif && !session_.ModeCreation);
+  }
+  if (!particuliers) return;
+  for (screen::Field* champ : std::initializer_list<screen::Field*>{
+           &paie.Lst_RepartActContrat, &paie.Txt_RepartActContrat, &paie.Txt_ActiviteContrat}) {
+    champ->SetVisible(false);
+  }
 }
 
 // A private employer whose leave is provisioned is billed before the contract may end: refuses the
@@ -81,10 +94,12 @@ void Frm_ElementsContrat::MontrerParts() {
   }
   for (screen::Field* champ : std::initializer_list<screen::Field*>{
            &paie.Lst_RepartActContrat, &paie.Txt_RepartActContrat, &paie.Txt_ActiviteContrat,
-           &paie.Cmd_OKActivite, &paie.Cmd_AnnulerActivite}) {
+           &paie.Cmd_AnnulerActivite}) {
     champ->SetVisible(true);
   }
+  paie.Cmd_OKActivite.SetVisible(DroitComplet());
   caracteristiques.Cdr_Lissage.SetVisible(false);
+  Maj_Bdv(paie.VS_Bdv, paie.Lst_ActiviteContrat, LignesActivites);
 }
 
 }  // namespace editor

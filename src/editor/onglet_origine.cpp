@@ -4,6 +4,7 @@
 #include "editor/onglet_origine.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
@@ -21,7 +22,6 @@ namespace {
 
 // Most characters that can be typed.
 constexpr int LongueurDate = 10;
-constexpr int LongueurJours = 3;
 constexpr int LongueurTexte = 30;
 constexpr int LongueurLibelle = 60;
 
@@ -63,7 +63,7 @@ OngletOrigine::OngletOrigine(Frm_ElementsContrat& editeur)
       Etq_DatFinContrat(editeur, "Etq_DatFinContrat", "Date fin présumée", &Page),
       Txt_DatFinContrat(editeur, "Txt_DatFinContrat", LongueurDate, &Page),
       Etq_PerEssaiContrat(editeur, "Etq_PerEssaiContrat", "Période Essai", &Page),
-      Txt_PerEssaiContrat(editeur, "Txt_PerEssaiContrat", LongueurJours, &Page),
+      Txt_PerEssaiContrat(editeur, "Txt_PerEssaiContrat", LongueurTexte, &Page),
       Etq_JoursEssai(editeur, "Etq_JoursEssai", "jours", &Page),
       Cac_RenouvEssaiContrat(editeur, "Cac_RenouvEssaiContrat", "Renouvelable", &Page),
       Etq_DureeMinContrat(editeur, "Etq_DureeMinContrat", "Durée minimale", &Page),
@@ -116,12 +116,12 @@ void OngletOrigine::LierListe(screen::ComboBox& liste, PaireCode& paire) {
 }
 
 void OngletOrigine::LierOptions() {
-  Opt_Determine.Click = [this] { MontrerTerme(true); };
+  Opt_Determine.Click = [this] { Opt_Determine_Click(); };
   Opt_Indetermine.Click = [this] { MontrerTerme(false); };
   Opt_Horaire.Click = [this] { Opt_Horaire_Click(); };
-  Opt_Mensuel.Click = [this] { Opt_Mensuel_Click(); };
-  Opt_Production.Click = [this] { MontrerRepartition(); };
-  Opt_Administratif.Click = [this] { MontrerRepartition(); };
+  Opt_Mensuel.Click = [this] { MontrerLissage(); };
+  Opt_Production.Click = [this] { Opt_Fonction_Click(); };
+  Opt_Administratif.Click = [this] { Opt_Fonction_Click(); };
 }
 
 void OngletOrigine::LierSaisies() {
@@ -132,10 +132,10 @@ void OngletOrigine::LierSaisies() {
   Txt_DateSignConvEmplAide.Change = [this] {
     if (editeur_.EvenementsActifs) AdapterReference();
   };
+  // Whole days by the keys; a text that stands there, or is pasted, is kept as it is.
   Txt_PerEssaiContrat.KeyPress = [](char32_t& touche) {
     if (touche >= U' ' && !estChiffre(touche)) touche = 0;
   };
-  Txt_PerEssaiContrat.LostFocus = [this] { Txt_PerEssaiContrat_LostFocus(); };
   Cbo_NatureContrat.DropDown = [this] { Cbo_NatureContrat_DropDown(); };
   Cbo_NatureContrat.LostFocus = [this] { Cbo_NatureContrat_LostFocus(); };
   Cbo_NatureContrat.Click = [this] { MontrerStage(); };
@@ -148,7 +148,7 @@ bool OngletOrigine::Particuliers() const {
   return Txt_ConvColContrat.Text() == data::ConventionParticuliers;
 }
 
-// Opt_Determine_Click and Opt_Indetermine_Click: what only a fixed term has.
+// What only a fixed term has.
 void OngletOrigine::MontrerTerme(bool determine) {
   for (screen::Field* champ : std::initializer_list<screen::Field*>{
            &Etq_DatFinContrat, &Txt_DatFinContrat, &Etq_DureeMinContrat, &Txt_DureeMinContrat}) {
@@ -163,20 +163,32 @@ void OngletOrigine::MontrerTerme(bool determine) {
   fin.Cac_PrecaLibContrat.SetValue(determine ? 1 : 0);
 }
 
-// Hours that are paid as they are worked are not evened out.
+// Back to a fixed term after a copy made it open-ended: the end that was emptied then comes back.
+void OngletOrigine::Opt_Determine_Click() {
+  MontrerTerme(true);
+  const std::string fin = std::exchange(finAvant_, {});
+  if (Txt_DatFinContrat.Text().empty()) Txt_DatFinContrat.SetText(fin);
+}
+
 void OngletOrigine::Opt_Horaire_Click() {
   editeur_.caracteristiques.Cac_Lissage.SetValue(0);
-  editeur_.caracteristiques.Cdr_Lissage.SetVisible(false);
+  MontrerLissage();
 }
 
-void OngletOrigine::Opt_Mensuel_Click() {
-  if (!Opt_Production.Value()) return;
-  editeur_.caracteristiques.Cdr_Lissage.SetVisible(true);
-  editeur_.caracteristiques.Cmd_SuiviAnnuel.SetVisible(true);
+// Hours that are paid as they are worked are not evened out, nor are those of administrative staff.
+void OngletOrigine::MontrerLissage() {
+  const bool lissage = Opt_Mensuel.Value() && Opt_Production.Value();
+  editeur_.caracteristiques.Cdr_Lissage.SetVisible(lissage);
+  editeur_.caracteristiques.Cmd_SuiviAnnuel.SetVisible(lissage);
 }
 
-// Opt_Production_Click and Opt_Administratif_Click: administrative staff alone split their time
-// over activities by share and period.
+// Opt_Production_Click and Opt_Administratif_Click.
+void OngletOrigine::Opt_Fonction_Click() {
+  MontrerRepartition();
+  MontrerLissage();
+}
+
+// Administrative staff alone split their time over activities by share and period.
 void OngletOrigine::MontrerRepartition() {
   const bool parts = Opt_Administratif.Value() && !Particuliers();
   OngletPaie& paie = editeur_.paie;
@@ -220,13 +232,6 @@ void OngletOrigine::Cbo_NatureContrat_LostFocus() {
 
 void OngletOrigine::MontrerStage() {
   Cmd_Stage.SetVisible(Cbo_NatureContrat.Text() == NatureStagiaire);
-}
-
-// Whole days: a paste can bring in what the keys cannot.
-void OngletOrigine::Txt_PerEssaiContrat_LostFocus() {
-  const std::string& jours = Txt_PerEssaiContrat.Text();
-  const auto chiffre = [](char c) { return c >= '0' && c <= '9'; };
-  if (!std::all_of(jours.begin(), jours.end(), chiffre)) Txt_PerEssaiContrat.SetFocus();
 }
 
 // A subsidised employment has a reference; without its date there is nothing to refer to.
@@ -273,6 +278,7 @@ void OngletOrigine::Cmd_MotifCDD_Click() {
 }
 
 void OngletOrigine::Cmd_Stage_Click() {
+  RendreStage();
   dialogs::Frm_Stage stage(editeur_.Services(), Session());
   stage.DroitsUtilisateur(editeur_.Droits());
   stage.Etq_Aidant.SetLibelle(editeur_.Etq_CodeAidant.Libelle() + " " +

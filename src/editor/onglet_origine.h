@@ -21,13 +21,15 @@ class OngletOrigine : public Onglet {
  public:
   explicit OngletOrigine(Frm_ElementsContrat& editeur);
 
-  // Fills the fixed drop-downs: entities, agreements.
+  // Fills the fixed drop-downs, entities and agreements, and reads the lists that stay the same
+  // from contract to contract.
   void Remplir_Combos();
   // From ItemContrat to the fields, change handlers being off meanwhile. For a new contract, only
   // the enabling, and what an earlier contract may have left in the boxes that are not emptied.
   void Afficher_Ong1();
   // From the fields to ItemContrat. With EcritureVerifiee it checks first; false when it refused.
-  // Run again on other fields, it leaves what a single run on them would.
+  // Run again on other fields, it leaves what a single run on them would; what shows just what it
+  // showed at first keeps the form that it has on file.
   bool Ecrire_Ong1();
   // The checks in their order; the first failure is shown and focused. True when all hold.
   bool Verif_Ong1();
@@ -45,6 +47,8 @@ class OngletOrigine : public Onglet {
   data::CItem ListeConvCol;
   // Item NATURECONTRAT of TABLES.
   data::CItem ListeNatures;
+  // Keys of the charge headings of home help, which the pay tab treats apart: one row each.
+  data::CItem RubriquesAideDomicile;
   // What stands in the drop-downs of other tabs that follow agreement, entity and employer: rows of
   // code and label, in the order of Cbo_LibPrevContrat and Cbo_OrgRetraite.
   data::CItem ListePrev;
@@ -146,14 +150,15 @@ class OngletOrigine : public Onglet {
 
   // Options, nature and the other fields.
   void MontrerTerme(bool determine);
+  void Opt_Determine_Click();
   void Opt_Horaire_Click();
-  void Opt_Mensuel_Click();
+  void MontrerLissage();
+  void Opt_Fonction_Click();
   void MontrerRepartition();
   void ChargerNatures();
   void Cbo_NatureContrat_DropDown();
   void Cbo_NatureContrat_LostFocus();
   void MontrerStage();
-  void Txt_PerEssaiContrat_LostFocus();
   void AdapterReference();
   void Cmd_DetailEmpl_Click();
   void Cmd_MotifCDD_Click();
@@ -169,24 +174,33 @@ class OngletOrigine : public Onglet {
 
   // Checks and writing.
   SaisieOrigine Saisie() const;
-  void EcrireIdentite();
+  // The attributes that the fields stand for, dates as they are typed.
+  data::CItem Champs() const;
+  void EcrireChamps();
   void EcrireDebut();
-  void EcrireNature();
   void EcrireTerme();
+  void ViderStage();
+  void RendreStage();
   std::string LibelleNature(std::string_view code) const;
   std::string CodeNature() const;
-  // The internal date of a box, "" when it holds none; but what the record holds where the box
-  // still shows just that.
-  std::string Interne(const screen::TextField& champ, int attribut) const;
 
   PaireCode convention_{Txt_ConvColContrat, Cbo_LibConvColContrat};
   PaireCode entite_{Txt_AssocContrat, Cbo_LibAssocContrat};
   PaireCode employeur_{Txt_EmplEtabContrat, Cbo_LibEmplEtabContrat};
 
-  // The first values of effect date and grid start before a moved start date changed them.
+  // The contract and the Champs() of its untouched fields when the tab was shown; both empty for a
+  // new one.
+  data::CItem surFichier_;
+  data::CItem montres_;
+
+  // What a copy of the screen took away, to be put back when the fields are set back: the first
+  // values of effect date and grid start before a moved start date changed them, the presumed end
+  // of a contract made open-ended, the traineeship of a nature changed.
   bool debutDeplace_ = false;
   std::string effetAvant_;
   std::string departGrilleAvant_;
+  std::string finAvant_;
+  data::CItem stageAvant_;
 };
 
 }  // namespace editor

@@ -1,5 +1,7 @@
 // The first tab and the contract in hand: from the record to the fields, the checks, and back.
 
+#include <algorithm>
+
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
@@ -18,6 +20,31 @@ namespace C = data::Contrat;
 // Where the entity ends and the establishment begins in attribute 3.
 constexpr int PosEtablissement = 4;
 
+// The attributes that the tab copies from its fields.
+constexpr int Copies[] = {C::Convention,
+                          C::Association,
+                          C::Employeur,
+                          C::Type,
+                          C::Salaire,
+                          C::Statut,
+                          C::DateDebut,
+                          C::PeriodeEssai,
+                          C::EssaiRenouvelable,
+                          C::Nature,
+                          C::DateFinPresumee,
+                          C::DureeMinimale,
+                          C::DateConventionAidee,
+                          C::ReferenceConventionAidee,
+                          C::ContrepartieInterruption};
+constexpr int Dates[] = {C::DateDebut, C::DateFinPresumee, C::DateConventionAidee};
+
+// What the record takes for the text of a field: of a date its day, "" when it is none.
+std::string stocke(const data::Lib& lib, int attribut, const std::string& texte) {
+  if (std::find(std::begin(Dates), std::end(Dates), attribut) == std::end(Dates)) return texte;
+  const auto jour = lib.LireDate(texte);
+  return jour ? lib.DateToInternal(*jour) : "";
+}
+
 }  // namespace
 
 void OngletOrigine::Remplir_Combos() {
@@ -26,6 +53,8 @@ void OngletOrigine::Remplir_Combos() {
       db.Selectionner("SSELECT ASSOCIATION PAR 1", data::fichier::ASSOCIATION, "0 1");
   ListeConvCol =
       db.Selectionner("SSELECT CONVENTIONCOL PAR 1", data::fichier::CONVENTIONCOL, "0 1 2 12 44");
+  RubriquesAideDomicile = db.Selectionner("SSELECT RUBCHARGE AVEC 28 = \"1\" AND AVEC 30 = \"\"",
+                                          data::fichier::RUBCHARGE, "0");
   entite_.Remplir(Liste::lignes(ListeAssociations));
   convention_.Remplir(Liste::lignes(ListeConvCol));
 }
@@ -35,6 +64,8 @@ void OngletOrigine::Afficher_Ong1() {
   // A new editor in a session whose lists are filled already has none of them.
   if (ListeConvCol.Vide()) Remplir_Combos();
   debutDeplace_ = false;
+  finAvant_.clear();
+  stageAvant_ = surFichier_ = montres_ = data::CItem();
   Cbo_NatureContrat.Clear();
   if (Session().ModeCreation) {
     AfficherNouveau();
@@ -42,7 +73,11 @@ void OngletOrigine::Afficher_Ong1() {
     AfficherExistant();
   }
   MontrerStage();
+  MontrerLissage();
   AdapterReference();
+  if (Session().ModeCreation) return;
+  surFichier_ = Session().ItemContrat;
+  montres_ = Champs();
 }
 
 void OngletOrigine::AfficherNouveau() {
@@ -120,8 +155,9 @@ void OngletOrigine::AfficherOptions() {
   const bool determine = contrat.Vue(C::Type) == "D";
   (determine ? Opt_Determine : Opt_Indetermine).SetValue(true);
   MontrerTerme(determine);
-  (contrat.Vue(C::Salaire) == "M" ? Opt_Mensuel : Opt_Horaire).SetValue(true);
+  // The status first: the pay basis means nothing to administrative staff.
   (contrat.Vue(C::Statut) == "A" ? Opt_Administratif : Opt_Production).SetValue(true);
+  (contrat.Vue(C::Salaire) == "M" ? Opt_Mensuel : Opt_Horaire).SetValue(true);
 }
 
 void OngletOrigine::AfficherSaisies() {
@@ -175,6 +211,7 @@ SaisieOrigine OngletOrigine::Saisie() const {
 }
 
 bool OngletOrigine::Verif_Ong1() {
+  RendreStage();
   const SaisieOrigine saisie = Saisie();
   for (const VerificationOrigine& verification : verificationsOrigine()) {
     if (!verification.echoue(saisie)) continue;
@@ -190,37 +227,53 @@ bool OngletOrigine::Verif_Ong1() {
 
 bool OngletOrigine::Ecrire_Ong1() {
   if (editeur_.EcritureVerifiee && !Verif_Ong1()) return false;
-  EcrireIdentite();
+  EcrireChamps();
   EcrireDebut();
-  EcrireNature();
   EcrireTerme();
-  data::CItem& contrat = Session().ItemContrat;
-  contrat.Set(C::DateConventionAidee, Interne(Txt_DateSignConvEmplAide, C::DateConventionAidee));
-  contrat.Set(C::ReferenceConventionAidee, Txt_NumRef.Text());
-  contrat.Set(C::DureeMinimale, Txt_DureeMinContrat.Text());
-  contrat.Set(C::ContrepartieInterruption, Cbo_Contrepartie.Text().empty()
-                                               ? ""
-                                               : std::to_string(Cbo_Contrepartie.ListIndex() + 1));
+  RendreStage();
+  if (Session().ItemContrat.Vue(C::Nature) != C::NatureStage) ViderStage();
   return true;
 }
 
-void OngletOrigine::EcrireIdentite() {
+data::CItem OngletOrigine::Champs() const {
+  data::CItem champs;
+  champs.Set(C::Convention, Txt_ConvColContrat.Text());
+  champs.Set(C::Association, Txt_AssocContrat.Text());
+  champs.Set(C::Employeur,
+             (Particuliers() ? "" : Txt_AssocContrat.Text()) + Txt_EmplEtabContrat.Text());
+  champs.Set(C::Type, Opt_Determine.Value() ? "D" : "I");
+  champs.Set(C::Salaire, Opt_Horaire.Value() ? "H" : "M");
+  champs.Set(C::Statut, Opt_Production.Value() ? "P" : "A");
+  champs.Set(C::DateDebut, Txt_DatDebContrat.Text());
+  champs.Set(C::PeriodeEssai, Txt_PerEssaiContrat.Text());
+  champs.Set(C::EssaiRenouvelable, Cac_RenouvEssaiContrat.Value() != 0 ? "1" : "0");
+  champs.Set(C::Nature, CodeNature());
+  champs.Set(C::DateFinPresumee, Txt_DatFinContrat.Text());
+  champs.Set(C::DureeMinimale, Txt_DureeMinContrat.Text());
+  champs.Set(C::DateConventionAidee, Txt_DateSignConvEmplAide.Text());
+  champs.Set(C::ReferenceConventionAidee, Txt_NumRef.Text());
+  if (!Cbo_Contrepartie.Text().empty()) {
+    champs.Set(C::ContrepartieInterruption, std::to_string(Cbo_Contrepartie.ListIndex() + 1));
+  }
+  return champs;
+}
+
+// A field that shows what it showed at first leaves its attribute as it is on file, also where that
+// is a code without label, a wrong date or an empty flag: opening a contract does not change it.
+void OngletOrigine::EcrireChamps() {
   data::CItem& contrat = Session().ItemContrat;
-  contrat.Set(C::Convention, Txt_ConvColContrat.Text());
-  contrat.Set(C::Association, Txt_AssocContrat.Text());
-  contrat.Set(C::Employeur,
-              (Particuliers() ? "" : Txt_AssocContrat.Text()) + Txt_EmplEtabContrat.Text());
-  contrat.Set(C::Type, Opt_Determine.Value() ? "D" : "I");
-  contrat.Set(C::Salaire, Opt_Horaire.Value() ? "H" : "M");
-  contrat.Set(C::Statut, Opt_Production.Value() ? "P" : "A");
+  const data::CItem champs = Champs();
+  for (const int a : Copies) {
+    const bool touche = champs.Vue(a) != montres_.Vue(a);
+    contrat.Set(a, touche ? stocke(Session().Lib, a, champs(a)) : surFichier_(a));
+  }
 }
 
 // A moved start takes along the effect date of the contract as signed, and its grid start where
 // that was the same day. What an earlier copy of the screen moved is put back first.
 void OngletOrigine::EcrireDebut() {
   data::CItem& contrat = Session().ItemContrat;
-  const std::string debut = Interne(Txt_DatDebContrat, C::DateDebut);
-  contrat.Set(C::DateDebut, debut);
+  const std::string debut = contrat(C::DateDebut);
   if (debutDeplace_) {
     contrat.Set(C::DateEffet, 1, effetAvant_);
     contrat.Set(C::DepartGrille, 1, departGrilleAvant_);
@@ -235,42 +288,39 @@ void OngletOrigine::EcrireDebut() {
   }
 }
 
-void OngletOrigine::EcrireNature() {
-  data::CItem& contrat = Session().ItemContrat;
-  contrat.Set(C::PeriodeEssai, Txt_PerEssaiContrat.Text());
-  contrat.Set(C::EssaiRenouvelable, Cac_RenouvEssaiContrat.Value() != 0 ? "1" : "0");
-  contrat.Set(C::Nature, CodeNature());
-  if (contrat.Vue(C::StageEcole).empty() || contrat.Vue(C::Nature) == C::NatureStage) return;
-  for (const int a : C::GroupeStage) contrat.Set(a, "");
+// An open-ended contract has no presumed end, not even one typed before its type was changed.
+void OngletOrigine::EcrireTerme() {
+  if (!Opt_Indetermine.Value()) return;
+  if (!Txt_DatFinContrat.Text().empty()) finAvant_ = Txt_DatFinContrat.Text();
+  Txt_DatFinContrat.SetText("");
+  Session().ItemContrat.Set(C::DateFinPresumee, "");
 }
 
-// The code of the nature shown; the one on file while the box shows just that, also where its label
-// is not alone or not known any more.
+// Only a trainee has a traineeship.
+void OngletOrigine::ViderStage() {
+  data::CItem& contrat = Session().ItemContrat;
+  if (contrat.Vue(C::StageEcole).empty()) return;
+  for (const int a : C::GroupeStage) {
+    stageAvant_.Set(a, contrat.Vue(a));
+    contrat.Set(a, "");
+  }
+}
+
+void OngletOrigine::RendreStage() {
+  if (stageAvant_.Vide()) return;
+  for (const int a : C::GroupeStage) Session().ItemContrat.Set(a, stageAvant_.Vue(a));
+  stageAvant_ = data::CItem();
+}
+
+// The code of the label shown, the first one where several have it; "" without one.
 std::string OngletOrigine::CodeNature() const {
   const std::string& libelle = Cbo_NatureContrat.Text();
-  const std::string actuelle = Session().ItemContrat(C::Nature);
-  if (LibelleNature(actuelle) == libelle) return actuelle;
   for (int v = 1; !libelle.empty() && v <= ListeNatures.DCount(data::Tables::Codes); ++v) {
     if (ListeNatures.Vue(data::Tables::Libelles, v) == libelle) {
       return ListeNatures(data::Tables::Codes, v);
     }
   }
   return {};
-}
-
-// An open-ended contract has no presumed end, not even one typed before its type was changed.
-void OngletOrigine::EcrireTerme() {
-  data::CItem& contrat = Session().ItemContrat;
-  if (Opt_Indetermine.Value()) Txt_DatFinContrat.SetText("");
-  contrat.Set(C::DateFinPresumee, Interne(Txt_DatFinContrat, C::DateFinPresumee));
-}
-
-std::string OngletOrigine::Interne(const screen::TextField& champ, int attribut) const {
-  const data::Lib& lib = Session().Lib;
-  const std::string stocke = Session().ItemContrat(attribut);
-  if (champ.Text() == lib.DateFromInternal(stocke)) return stocke;
-  const auto jour = lib.LireDate(champ.Text());
-  return jour ? lib.DateToInternal(*jour) : "";
 }
 
 }  // namespace editor

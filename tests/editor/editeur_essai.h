@@ -72,6 +72,8 @@ class Editeur : public ::testing::Test {
     article("CIVILAIDE", "00009", {{3, "Sans nom"}});
     article("ELTSPARTEMP", "00007", {{13, "20"}});
     article("ELTSPARTEMP", "00008", {{2, "R"}});
+    article("RUBCHARGE", "AD1", {{28, "1"}});
+    article("RUBCHARGE", "AD2", {{28, "1"}, {30, "x"}});
     article("PCS", "56", {{1, "Services"}});
     article("PCS", "563b", {{1, "Aide à domicile"}});
     article("PCS", "563c", {{1, "Employé de maison"}});

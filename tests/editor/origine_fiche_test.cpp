@@ -181,7 +181,14 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
                          {C::Employeur, "999888"},
                          {C::DateDebut, "abc"},
                          {C::Nature, "XXX"}};
-  for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec}) {
+  const Attributs vides{{C::Type, ""},
+                        {C::Salaire, ""},
+                        {C::Statut, ""},
+                        {C::PeriodeEssai, "2 mois"},
+                        {C::EssaiRenouvelable, ""},
+                        {C::ReferenceConventionAidee, "sans date"},
+                        {C::ContrepartieInterruption, "9"}};
+  for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec, vides}) {
     contrat("00001001", autres);
     ouvrir("00001001");  // the same editor, over what the contract before has left
     EXPECT_EQ(o().Txt_NumContrat.Text(), "001");
@@ -191,6 +198,7 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
     User(*editeur).Derouler(o().Cbo_NatureContrat);
     EXPECT_EQ(lignes(o().Cbo_NatureContrat),
               autres == avec ? "Normal|Stagiaire|Ancien" : "Normal|Stagiaire");
+    EXPECT_FALSE(editeur->caracteristiques.Cdr_Lissage.Visible());  // hourly or administrative
     const bool rose = autres == particulier;
     EXPECT_EQ(editeur->paie.Cac_PaieSalContrat.Visible(), rose);
     EXPECT_EQ(o().Cbo_LibEmplEtabContrat.Text(), rose               ? "MARTIN Rose"
@@ -229,9 +237,9 @@ TEST_F(Fiche, EcritChaqueChampASaPlace) {
   determine("31122027");
   cliquer(o().Opt_Mensuel);
   cliquer(o().Opt_Administratif);
-  User(*editeur).Coller(o().Txt_PerEssaiContrat, "2x");
-  EXPECT_EQ(User(*editeur).Quitter(), Acte::Avale);
   remplir(o().Txt_PerEssaiContrat, "2x1");
+  EXPECT_EQ(o().Txt_PerEssaiContrat.Text(), "21");
+  User(*editeur).Coller(o().Txt_PerEssaiContrat, "2 mois");
   cliquer(o().Cac_RenouvEssaiContrat);
   remplir(o().Txt_DureeMinContrat, "6 mois");
   choisir(o().Cbo_NatureContrat, 1);
@@ -243,7 +251,7 @@ TEST_F(Fiche, EcritChaqueChampASaPlace) {
                            {C::Salaire, "M"},
                            {C::Statut, "A"},
                            {C::DateFinPresumee, jour("31/12/2027")},
-                           {C::PeriodeEssai, "21"},
+                           {C::PeriodeEssai, "2 mois"},
                            {C::EssaiRenouvelable, "1"},
                            {C::DureeMinimale, "6 mois"},
                            {C::Nature, "STG"},
@@ -260,17 +268,35 @@ TEST_F(Fiche, EcritChaqueChampASaPlace) {
   EXPECT_EQ(o().Txt_DatFinContrat.Text(), "");
 }
 
-TEST_F(Fiche, UneNatureQuiNEstPlusStagiairePerdLaConvention) {
-  contrat("00001001", {{C::Nature, "STG"}, {C::StageEcole, "Lycée"}, {C::StageSeuil, "375"}});
+TEST_F(Fiche, CeQuUneCopieARetireRevientAvecLesChamps) {
+  contrat("00001001", {{C::Type, "D"},
+                       {C::DateFinPresumee, jour("31/12/2026")},
+                       {C::Nature, "STG"},
+                       {C::StageEcole, "Lycée"},
+                       {C::StageSeuil, "375"}});
   ouvrir("00001001");
   EXPECT_TRUE(o().Cmd_Stage.Visible());
   remplir(o().Cbo_NatureContrat, "Ancien");  // on file, but no longer offered
-  EXPECT_EQ(messages(), "La nature saisie n'existe pas, veuillez la ressaisir.");
-  EXPECT_EQ(actif(), "Cbo_NatureContrat");
+  EXPECT_EQ(messages() + actif(),
+            "La nature saisie n'existe pas, veuillez la ressaisir.Cbo_NatureContrat");
   remplir(o().Cbo_NatureContrat, "Normal");
   EXPECT_FALSE(o().Cmd_Stage.Visible());
-  copier();
-  EXPECT_EQ(c()(C::Nature) + c()(C::StageEcole) + c()(C::StageSeuil), "CDI");
+  cliquer(o().Opt_Indetermine);
+  for (int copie = 1; copie <= 2; ++copie) {
+    copier();
+    EXPECT_EQ(c()(C::Nature) + c()(C::StageEcole) + c()(C::StageSeuil) + c()(C::DateFinPresumee) +
+                  o().Txt_DatFinContrat.Text(),
+              "CDI");
+  }
+  messages();
+  remplir(o().Cbo_NatureContrat, "Stagiaire");
+  hote.modales.Prevoir([](screen::Form& f) { User(f).Cliquer(*f.Find("Cmd_Retour")); });
+  cliquer(o().Cmd_Stage);
+  EXPECT_EQ(c()(C::StageEcole), "Lycée");
+  cliquer(o().Opt_Determine);
+  cliquer(editeur->Cmd_Retour);
+  EXPECT_EQ(messages(), "");
+  EXPECT_FALSE(editeur->Visible());
 }
 
 TEST_F(Fiche, UnDebutDeplaceEntraineLeContratSigne) {
@@ -348,10 +374,55 @@ TEST_F(Fiche, LesOptionsMontrentCeQuiLesConcerne) {
   cliquer(o().Opt_Horaire);
   EXPECT_FALSE(carac.Cdr_Lissage.Visible());
   EXPECT_EQ(carac.Cac_Lissage.Value(), 0);
-  cliquer(o().Opt_Administratif);
+  cliquer(o().Opt_Mensuel);
+  cliquer(o().Opt_Administratif);  // administrative staff have no modulation
   EXPECT_TRUE(editeur->paie.Lst_RepartActContrat.Visible());
-  cliquer(o().Opt_Mensuel);  // administrative staff have no modulation
   EXPECT_FALSE(carac.Cdr_Lissage.Visible());
+  EXPECT_EQ(o().RubriquesAideDomicile.Text(), "AD1");
+}
+
+TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
+  // Period, activities, group, OK, Annuler, shares: "o" open, "x" disabled, "-" hidden.
+  const auto groupe = [&] {
+    User(*editeur).Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
+    auto& p = editeur->paie;
+    std::string etats;
+    for (const screen::Field* champ : std::initializer_list<const screen::Field*>{
+             &p.Cbo_PeriodeEffetAffichage, &p.Cbo_Activite, &p.Cdr_AffectActiv, &p.Cmd_OKActivite,
+             &p.Cmd_AnnulerActivite, &p.Lst_RepartActContrat}) {
+      etats += !champ->Visible() ? '-' : champ->Enabled() ? 'o' : 'x';
+    }
+    User(*editeur).Onglet(editeur->Ong_Contrat, editor::Origine);
+    return etats;
+  };
+  nouveau("01", "001");
+  cliquer(o().Opt_Administratif);
+  EXPECT_EQ(groupe(), "xxxxxo");
+  debuter("05/01/2027");
+  EXPECT_EQ(groupe(), "oooxxo");
+  const Attributs administratif{{C::Statut, "A"}};
+  const struct {
+    Attributs contrat;
+    int droit;
+    const char* attendu;
+  } cas[] = {{{{C::Convention, "02"}, {C::Employeur, "00007"}}, 2, "------"},
+             {{}, 2, "-oooo-"},
+             {administratif, 1, "ooo-oo"},
+             {administratif, 2, "oooooo"}};
+  for (const auto& [autres, droit, attendu] : cas) {
+    if (droit == 1) editeur.reset();
+    droits = session::DroitsUniformes(droit);
+    contrat("00001001", autres);
+    ouvrir("00001001");
+    EXPECT_EQ(groupe(), attendu);
+  }
+  auto& paie = editeur->paie;
+  for (const int n : {6, 7}) {
+    while (paie.Lst_ActiviteContrat.ListCount() < n) paie.Lst_ActiviteContrat.AddItem("Domicile");
+    groupe();
+    EXPECT_EQ(paie.VS_Bdv.Visible(), n > 6);
+    EXPECT_EQ(paie.VS_Bdv.Max(), n - 1);
+  }
 }
 
 // Every field of the tab, in both modes: nothing is stored, the contract in hand stays as it is,
