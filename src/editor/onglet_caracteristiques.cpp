@@ -4,6 +4,13 @@
 
 namespace editor {
 
+namespace {
+
+// Row n is stored as n + 1.
+constexpr const char* Frequences[] = {"Hebdo", "Quatorzaine", "Mensuelle", "Annuelle"};
+
+}  // namespace
+
 OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
     : Onglet(editeur, Caracteristiques, "Cdr_Ong2"),
       Etq_AvenantContrat(editeur, "Etq_AvenantContrat", "Numéro Avenant", &Page),
@@ -71,6 +78,7 @@ OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
       Etq_CodePop(editeur, "Etq_CodePop", "Code population rattachement prévoyance", &Page),
       Txt_CodePop(editeur, "Txt_CodePop", 0, &Page),
       Cmd_ElemDrtPub(editeur, "Cmd_ElemDrtPub", "Eléments droit public", &Page) {
+  for (const char* frequence : Frequences) Cbo_FreqWContrat.AddItem(frequence);
   Page.SetEnabled(false);
 }
 

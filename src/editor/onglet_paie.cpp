@@ -4,6 +4,13 @@
 
 namespace editor {
 
+namespace {
+
+// Row n is stored as n + 1.
+constexpr const char* ModesPaiement[] = {"Virement bancaire", "Chèque", "Espèces"};
+
+}  // namespace
+
 OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
     : Onglet(editeur, ElementsPaie, "Cdr_Ong3"),
       Etq_ProfilContrat(editeur, "Etq_ProfilContrat", "Profil n° 1", &Page),
@@ -56,6 +63,7 @@ OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
       Cmd_Comment(editeur, "Cmd_Comment", "Commentaires sur bulletin", &Page),
       Cmd_Telegestion(editeur, "Cmd_Telegestion", "Droits télégestion", &Page),
       Cmd_TpsIndem(editeur, "Cmd_TpsIndem", "Temps d'indemnisation", &Page) {
+  for (const char* mode : ModesPaiement) Cbo_ModPaieContrat.AddItem(mode);
   Page.SetEnabled(false);
 }
 
