@@ -1,3 +1,4 @@
+#include "data/texte.h"
 #include "editeur_essai.h"
 
 namespace {
@@ -33,99 +34,82 @@ class Fiche : public essai::Editeur {
   void debuter(const char* debut) { remplir(o().Txt_DatDebContrat, debut); }
 };
 
+// Acts: agreement "c", entity "e", fixed term to "t", start "d", signature "s", trial "p", payslip of
+// a period computed "k" or not any more "K"; "+" for a new contract.
 TEST_F(Fiche, VerifieDansLOrdre) {
-  const std::string calcule =
+  const char* const calcule =
       "Impossible de modifier la date de début : un bulletin a déjà été calculé pour ce contrat.";
-  const std::string incorrecte = "La date saisie est incorrecte, veuillez la ressaisir.";
-  const std::string avantAvenant =
-      "La date de début de contrat ne peut être supérieure à la date d'effet du second avenant, "
-      "veuillez supprimer le contrat et le recréer pour effectuer votre modification.";
-  const Attributs cdd{
-      {C::Type, "D"}, {C::DateFinPresumee, jour("31/03/2026")}, {C::MotifEmbauche, "1"}};
-  const Attributs futur{{C::DateDebut, jour("01/12/2026")}};
+  const char* const incorrecte = "La date saisie est incorrecte, veuillez la ressaisir.";
+  const char *const debut = "Txt_DatDebContrat", *const fin = "Txt_DatFinContrat";
+  const Attributs cdd{{C::MotifEmbauche, "1"}}, futur{{C::DateDebut, jour("01/12/2026")}};
+  const Attributs avenant{{C::DepartGrille, valeurs("", jour("01/06/2026"))},
+                          {C::PeriodeTraitee, "202602"}};
+  const Attributs traite{{C::PeriodeTraitee, "202603"}};
   const struct {
     const char* nom;
-    std::optional<Attributs> contrat;  // nothing: a new one
-    std::function<void()> actes;
-    std::string message;  // "" when the contract is saved
+    Attributs contrat;
+    std::string actes;
+    const char* message;  // "" when the contract is saved
     const char* actif;
   } cas[] = {
-      {"1",
+      {"1", {}, "+", "La convention collective est obligatoire.", "Txt_ConvColContrat"},
+      {"2", {}, "+ c01", "L'entité juridique est obligatoire.", "Txt_AssocContrat"},
+      {"3", {}, "+ c01 e002", "L'employeur est obligatoire.", "Cbo_LibEmplEtabContrat"},
+      {"4", {}, "+ c01 e001", "La date de début de contrat est obligatoire.", debut},
+      {"5", {{C::DateDebut, "abc"}}, "", incorrecte, debut},
+      {"6",
        {},
-       [&] { creer(); },
-       "La convention collective est obligatoire.",
-       "Txt_ConvColContrat"},
-      {"2",
-       {},
-       [&] { nouveau("01", ""); },
-       "L'entité juridique est obligatoire.",
-       "Txt_AssocContrat"},
-      {"3",
-       {},
-       [&] { nouveau("01", "002"); },
-       "L'employeur est obligatoire.",
-       "Cbo_LibEmplEtabContrat"},
-      {"4",
-       {},
-       [&] { nouveau("01", "001"); },
-       "La date de début de contrat est obligatoire.",
-       "Txt_DatDebContrat"},
-      {"5", Attributs{{C::DateDebut, "abc"}}, {}, incorrecte, "Txt_DatDebContrat"},
-      {"6", Attributs{}, [&] { remplir(o().Txt_DateSignConvEmplAide, "1/1/26"); },
+       "s1/1/26",
        "Le numéro de référence est obligatoire si la date de signature convention emploi aidé est "
        "renseignée.",
        "Txt_NumRef"},
-      {"7",
-       Attributs{{C::Type, "D"}, {C::DateFinPresumee, "abc"}},
+      {"7", {{C::Type, "D"}, {C::DateFinPresumee, "abc"}}, "", incorrecte, fin},
+      {"8",
        {},
-       incorrecte,
-       "Txt_DatFinContrat"},
-      {"8", Attributs{}, [&] { determine("28/02/2026"); },
+       "t28/02/2026",
        "La date de fin de contrat présumée doit être supérieure ou égale à la date de début de "
        "contrat.",
-       "Txt_DatFinContrat"},
-      {"8 same day", cdd, [&] { determine("01/03/2026"); }, "", ""},
-      {"9", Attributs{}, [&] { determine(""); },
-       "La date de fin présumée est obligatoire pour un CDD.", "Txt_DatFinContrat"},
-      {"12", Attributs{{C::DepartGrille, valeurs("", jour("01/06/2026"))}},
-       [&] { debuter("02/06/2026"); }, avantAvenant, "Txt_DatDebContrat"},
-      {"12 same day",
-       Attributs{{C::DepartGrille, valeurs("", jour("01/06/2026"))}, {C::PeriodeTraitee, "202602"}},
-       [&] { debuter("01/06/2026"); }, "", ""},
-      {"13", futur, [&] { debuter("31/10/2026"); },
-       "La date de début de contrat ne peut être antérieure au 01/11/2026.", "Txt_DatDebContrat"},
-      {"13 first day", futur, [&] { debuter("01/11/2026"); }, "", ""},
-      {"14", futur,
-       [&] {
-         article("DETAILCALCUL", "00001001202611", {{1, "x"}});
-         debuter("02/12/2026");
-       },
-       calcule, "Txt_DatDebContrat"},
-      {"14 next month", futur,
-       [&] {
-         db.OpenFile("DETAILCALCUL").DeleteItem("00001001202611");
-         article("DETAILCALCUL", "00001001202612", {{1, "x"}});
-         debuter("02/12/2026");
-       },
-       calcule, "Txt_DatDebContrat"},
-      {"14 unmoved", futur, [&] { remplir(o().Txt_PerEssaiContrat, "30"); }, "", ""},
-      {"15", Attributs{{C::PeriodeTraitee, "202603"}}, [&] { debuter("01/04/2026"); }, calcule,
-       "Txt_DatDebContrat"},
-      {"15 before", Attributs{{C::PeriodeTraitee, "202602"}}, [&] { debuter("01/04/2026"); }, "",
-       ""},
+       fin},
+      {"8 same day", cdd, "t01/03/2026", "", ""},
+      {"9", {}, "t", "La date de fin présumée est obligatoire pour un CDD.", fin},
+      {"12", avenant, "d02/06/2026",
+       "La date de début de contrat ne peut être supérieure à la date d'effet du second avenant, "
+       "veuillez supprimer le contrat et le recréer pour effectuer votre modification.",
+       debut},
+      {"12 same day", avenant, "d01/06/2026", "", ""},
+      {"13", futur, "d31/10/2026",
+       "La date de début de contrat ne peut être antérieure au 01/11/2026.", debut},
+      {"13 first day", futur, "d01/11/2026", "", ""},
+      {"14", futur, "k202611 d02/12/2026", calcule, debut},
+      {"14 next month", futur, "K202611 k202612 d02/12/2026", calcule, debut},
+      {"14 unmoved", futur, "p30", "", ""},
+      {"15", traite, "d01/04/2026", calcule, debut},
+      {"15 before", avenant, "d01/04/2026", "", ""},
   };
-  for (const auto& [nom, attributs, actes, message, focus] : cas) {
+  const std::map<char, std::function<void(const std::string&)>> actes{
+      {'c', [&](auto& texte) { taper(o().Txt_ConvColContrat, texte); }},
+      {'e', [&](auto& texte) { taper(o().Txt_AssocContrat, texte); }},
+      {'t', [&](auto& texte) { determine(texte.c_str()); }},
+      {'d', [&](auto& texte) { debuter(texte.c_str()); }},
+      {'s', [&](auto& texte) { remplir(o().Txt_DateSignConvEmplAide, texte); }},
+      {'p', [&](auto& texte) { remplir(o().Txt_PerEssaiContrat, texte); }},
+      {'k',
+       [&](auto& mois) {
+         article("DETAILCALCUL", "00001001" + mois, {{1, "x"}});
+       }},
+      {'K', [&](auto& mois) { db.OpenFile("DETAILCALCUL").DeleteItem("00001001" + mois); }},
+      {'+', [&](auto&) { creer(); }},
+  };
+  for (const auto& [nom, attributs, suite, message, focus] : cas) {
     editeur.reset();
-    if (attributs) {
-      contrat("00001001", *attributs);
-      ouvrir("00001001");
-    }
-    if (actes) actes();
+    if (suite[0] != '+') contrat("00001001", attributs);
+    if (suite[0] != '+') ouvrir("00001001");
+    for (const std::string& acte : data::mots(suite)) actes.at(acte[0])(acte.substr(1));
     messages();
     cliquer(editeur->Cmd_OK);
     EXPECT_EQ(messages(), message) << nom;
     EXPECT_EQ(actif(), focus) << nom;
-    EXPECT_EQ(editeur->Visible(), !message.empty()) << nom;
+    EXPECT_EQ(editeur->Visible(), *message != '\0') << nom;
   }
 }
 
