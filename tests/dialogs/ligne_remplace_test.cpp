@@ -14,45 +14,32 @@ std::string repete(const char* texte, int n) {
 }
 
 TEST(LigneRemplace, VaEtVientDansSesColonnes) {
-  const std::string nom35 = repete("é", 35);
-  const std::string absence60 = repete("à", 60);
+  const std::string nom = repete("é", 35), absence = repete("à", 60);
   const struct {
     LigneRemplace faite, lue;
+    std::string comparee;  // columns 38 to 97, where the label begins with its column 46
   } cas[] = {
-      {{"00002", "MARTIN Hélène", "Maladie", "K1"}, {"00002", "MARTIN Hélène", "Maladie", "K1"}},
-      {{"7", "", "", "K"}, {"7", "", "", "K"}},
-      // Cut by characters, one too many on each side.
-      {{"00002", nom35 + "X", absence60 + "X", "K"}, {"00002", nom35, absence60, "K"}},
+      {{"00002", "MARTIN Hélène", "Maladie", "K1"},
+       {"00002", "MARTIN Hélène", "Maladie", "K1"},
+       "Maladie"},
+      {{"7", "", "", "K"}, {"7", "", "", "K"}, ""},
+      // Cut by characters, one too many on each side; the compared columns hold a name's end.
+      {{"00002", nom + "X", absence + "X", "K"},
+       {"00002", nom, absence, "K"},
+       repete("é", 5) + "   " + repete("à", 52)},
   };
-  for (const auto& [faite, lue] : cas) {
+  for (const auto& [faite, lue, comparee] : cas) {
     const std::string ligne = FaireLigne(faite);
     EXPECT_EQ(LireLigne(ligne), lue) << ligne;
     EXPECT_EQ(data::milieu(ligne, 126), faite.cleAbsence);
-    EXPECT_EQ(data::milieu(ligne, 8, 35), data::colonne(lue.nom, 35));
+    EXPECT_EQ(AbsenceComparee(ligne), comparee);
   }
 }
 
-TEST(LigneRemplace, UnTexteLibreEstCoupeAuxColonnes7A41) {
-  // The text stands from column 8: 34 of its characters are kept.
-  const std::string ligne = FaireLigneLibre(repete("è", 34) + "X");
-  EXPECT_EQ(LireLigne(ligne), (LigneRemplace{"", repete("è", 34) + "X", "", ""}));
-  EXPECT_EQ(TexteLibre(ligne), repete("è", 34));
+// The text stands from column 8 and ends with column 41.
+TEST(LigneRemplace, UnTexteLibreGarde34Caracteres) {
+  EXPECT_EQ(TexteLibre(FaireLigneLibre(repete("è", 34) + "X")), repete("è", 34));
   EXPECT_EQ(TexteLibre(FaireLigneLibre("  Mme X ")), "Mme X");
-}
-
-TEST(LigneRemplace, LAbsenceSeCompareDeLaColonne38) {
-  const struct {
-    std::string nom, absence, comparee;
-  } cas[] = {
-      {repete("n", 30), "Maladie", "Maladie"},
-      {repete("n", 30), "", ""},
-      // Columns 38 to 97 hold 52 characters of the label, and the end of a long name.
-      {"n", repete("b", 53), repete("b", 52)},
-      {repete("n", 30) + "M", "Maladie", "M       Maladie"},
-  };
-  for (const auto& [nom, absence, comparee] : cas) {
-    EXPECT_EQ(AbsenceComparee(FaireLigne({"00002", nom, absence, ""})), comparee);
-  }
 }
 
 }  // namespace

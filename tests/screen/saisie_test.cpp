@@ -1,6 +1,6 @@
 // Typing, pasting, clicking and choosing through the user's one door.
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "essai.h"
 
