@@ -68,6 +68,12 @@ class MotifCDD : public EssaiDialogue {
     }
     return texte;
   }
+  // Gives up the row being added.
+  std::string abandonner(screen::User& user, Frm_MotifCDD& f, Reponse reponse = Reponse::Oui) {
+    hote.messages.Repondre(reponse);
+    user.Cliquer(f.Cmd_AnnulerAidant);
+    return message();
+  }
   // Adds a carer with the absence of that row, -1 for none.
   void ajouter(screen::User& user, Frm_MotifCDD& f, const char* code, int absence) {
     user.Cliquer(f.Cmd_AjouterAidant);
@@ -116,9 +122,7 @@ TEST_F(MotifCDD, UnCodeNEstPrisQuAvecUnContratAuDebut) {
       EXPECT_EQ(message(), m) << c;
       EXPECT_EQ(saisie(*f), a) << c;
       EXPECT_EQ(actif(*f), "Txt_CodeAidant") << c;
-      hote.messages.Repondre(Reponse::Oui);
-      user.Cliquer(f->Cmd_AnnulerAidant);
-      message();
+      abandonner(user, *f);
       user.Cliquer(f->Cmd_Retour);
     });
   }
@@ -160,8 +164,7 @@ TEST_F(MotifCDD, UnNomSeChercheParSonDebut) {
     EXPECT_EQ(saisie(*f), "00002|MARTIN Hélène||");
     user.Taper(f->Cbo_AidantRemplace, "");
     EXPECT_EQ(saisie(*f), "|||");
-    hote.messages.Repondre(Reponse::Oui);
-    user.Cliquer(f->Cmd_AnnulerAidant);
+    abandonner(user, *f);
     user.Cliquer(f->Cmd_Retour);
   });
 }
@@ -211,9 +214,7 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
       ajouter(user, *f, "00002", absence);
       EXPECT_EQ(message(), refus);
       EXPECT_EQ(mode(*f), "0000/111011");
-      hote.messages.Repondre(Reponse::Oui);
-      user.Cliquer(f->Cmd_AnnulerAidant);
-      message();
+      abandonner(user, *f);
     }
     ajouter(user, *f, "00002", 1);
     EXPECT_EQ(lignes(*f), "[" + Martin + "][" + MartinConges + "]");
@@ -237,9 +238,7 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
     EXPECT_EQ(message(), "I Aucune absence en cours ou à venir pour l'aidant DURAND ANNE.");
     user.Cliquer(f->Cmd_OkAidant);
     EXPECT_EQ(message(), "I L'aidant ne peut pas se remplacer lui-même.");
-    hote.messages.Repondre(Reponse::Non);
-    user.Cliquer(f->Cmd_AnnulerAidant);
-    EXPECT_EQ(message() + saisie(*f),
+    EXPECT_EQ(abandonner(user, *f, Reponse::Non) + saisie(*f),
               "QON Etes-vous sûr de vouloir quitter cette création ?00001|DURAND Anne||");
     // Past 30 characters of a name the same absence is not recognised.
     user.Taper(f->Txt_CodeAidant, "00006");
@@ -251,9 +250,7 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
     user.Taper(f->Txt_CodeAidant, "9");
     EXPECT_EQ(user.Cliquer(f->Cmd_OkAidant), Acte::Avale);  // completed, refused: stays on the code
     EXPECT_EQ(message() + actif(*f), "E Cet aidant n'existe pas.Txt_CodeAidant");
-    hote.messages.Repondre(Reponse::Oui);
-    user.Cliquer(f->Cmd_AnnulerAidant);
-    message();
+    abandonner(user, *f);
     user.Taper(f->Cbo_MotifEmbauche, "Inconnu");
     user.Cliquer(f->Cmd_OK);
     EXPECT_EQ(message(), "E La saisie d'un motif d'embauche est obligatoire.");
@@ -267,34 +264,30 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
 }
 
 TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
-  const std::string question =
-      "EONA Voulez-vous enregistrer les modifications apportées à cet article ?";
   const struct {
     const session::Droits& droits;
     const char* tape;
     Reponse reponse;  // Ok: nothing is asked
-    const char* attendu;
-  } cas[] = {
-      {droits, "", Reponse::Ok, "9=Motif 10=Mme Avant 137=03"},
-      {droits, "et plus", Reponse::Oui, "9=Motif^et plus 10=Mme Avant 137=03"},
-      {droits, "et plus", Reponse::Non, "9=Motif 10=Mme Avant 137=03"},
-      {droits, "et plus", Reponse::Annuler, "9=Motif 10=Mme Avant 137=03"},
-      {lecture, "et plus", Reponse::Ok, "9=Motif 10=Mme Avant 137=03"},
-  };
+  } cas[] = {{droits, "", Reponse::Ok},
+             {droits, "et plus", Reponse::Oui},
+             {droits, "et plus", Reponse::Non},
+             {droits, "et plus", Reponse::Annuler},
+             {lecture, "et plus", Reponse::Ok}};
   for (const auto& c : cas) {
     contrat({{9, "Motif"}, {10, "Mme Avant"}, {137, "03"}});
     const auto f = creer(c.droits);
     EXPECT_EQ(f->Cmd_OK.Visible(), &c.droits == &droits);
     montrer(*f, [&](screen::User& user) {
       user.Taper(f->Txt_MotifEmbContrat_1, c.tape);
-      const int bips = hote.curseur.Bips();
       const bool demande = c.reponse != Reponse::Ok;
       if (demande) hote.messages.Repondre(c.reponse);
       user.Cliquer(f->Cmd_Retour);
-      EXPECT_EQ(message(), demande ? question : "");
-      EXPECT_EQ(hote.curseur.Bips() - bips, demande ? 1 : 0);
+      EXPECT_EQ(message(), demande ? "EONA Voulez-vous enregistrer les modifications apportées à "
+                                     "cet article ?"
+                                   : "");
       EXPECT_EQ(f->Visible(), c.reponse == Reponse::Annuler);
-      EXPECT_EQ(lu(Motif), c.attendu);
+      EXPECT_EQ(lu(Motif), c.reponse == Reponse::Oui ? "9=Motif^et plus 10=Mme Avant 137=03"
+                                                     : "9=Motif 10=Mme Avant 137=03");
       if (!f->Visible()) return;
       // What the refused leaving had gathered is forgotten.
       user.DoubleCliquer(f->Lst_AidantRemplace, 0);
@@ -305,6 +298,7 @@ TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
       EXPECT_EQ(lu(Motif), "9=Motif^et plus 137=03");
     });
   }
+  EXPECT_EQ(hote.curseur.Bips(), 3);  // with each question
 }
 
 // The three reads behind a code: the carer, the contracts, the absences.
@@ -317,16 +311,9 @@ TEST_F(MotifCDD, UnePanneRendLEcranEtNeLaisseRienDeNonVerifie) {
       EXPECT_THROW(user.DoubleCliquer(f->Lst_AidantRemplace, 0), data::StoreError);
       EXPECT_EQ(mode(*f), "1111/000000") << appel;
       user.Cliquer(f->Cmd_AjouterAidant);
-      if (appel == 2) {  // by name, which takes one read more
-        user.Taper(f->Cbo_AidantRemplace, "martin");
-        store->EchouerAppel(1 + appel);
-        EXPECT_THROW(user.Touche(f->Cbo_AidantRemplace, screen::ToucheEntree), data::StoreError);
-      } else {
-        store->EchouerAppel(appel);
-        EXPECT_THROW(user.Taper(f->Txt_CodeAidant, "00002"), data::StoreError);
-      }
+      store->EchouerAppel(appel);
+      EXPECT_THROW(user.Taper(f->Txt_CodeAidant, "00002"), data::StoreError);
       EXPECT_TRUE(f->Enabled() && !hote.curseur.EnAttente());
-      EXPECT_EQ(f->Txt_CodeAidant.Text(), "00002");
       store->EchouerAppel(0);
       user.Cliquer(f->Cmd_OkAidant);
       EXPECT_EQ(lignes(*f), "[00001|DURAND Anne||][" + Martin + "]") << appel;
