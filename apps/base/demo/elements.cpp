@@ -103,7 +103,7 @@ void setElementsPaie(Contrat& contrat) {
   Alea& alea = contrat.alea;
   const bool particulier = contrat.plan.particulier;
   item.Set(C::Profil, profilDe(contrat));
-  if (contrat.administratif && !contrat.plan.stage && alea.surCent(10)) item.Set(C::Profil2, "120");
+  if (contrat.administratif && !contrat.plan.stage && alea.surCent(25)) item.Set(C::Profil2, "120");
   item.Set(C::ModePaiement, contrat.base.compteBancaire && alea.surCent(95) ? "1" : "2");
   const bool auMois = particulier && alea.surCent(60);
   item.Set(C::PaiementParEntite, !particulier || alea.surCent(75) ? "1" : "0");
