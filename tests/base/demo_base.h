@@ -1,8 +1,8 @@
 #pragma once
-// A small generated base, whole in memory, and short words for what tests ask of it. The seed never
-// changes, so that a fault stays found.
+// The demonstration data as they are made by default, whole in memory, and short words for what
+// tests ask of them. The seed never changes, so that a fault stays found.
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <functional>
@@ -20,11 +20,27 @@ namespace essai_demo {
 
 using data::CItem;
 namespace C = data::Contrat;
+namespace fichier = data::fichier;
 
 inline constexpr long Aujourdhui = 21511;  // 22/11/2026
 inline constexpr long SansFin = 99999;
 
-using Fichier = std::map<std::string, CItem>;
+// Any record; the words about contracts are for contracts.
+class Item : public CItem {
+ public:
+  using CItem::CItem;
+  long nombre(int a, int v = 1) const { return std::stol((*this)(a, v)); }
+  std::vector<std::string> valeurs(int a) const {
+    std::vector<std::string> liste;
+    for (int v = 1; v <= DCount(a); ++v) liste.push_back((*this)(a, v));
+    return liste;
+  }
+  bool annule() const { return (*this)(C::Annule) == "O"; }
+  bool particulier() const { return (*this)(C::Convention) == "02"; }
+  long debut() const { return nombre(C::DateDebut); }
+  long fin(int a = C::DateFin) const { return (*this)(a).empty() ? SansFin : nombre(a); }
+};
+using Fichier = std::map<std::string, Item>;
 
 class Base {
  public:
@@ -34,23 +50,25 @@ class Base {
     demo::genererDemo(storage, {.aidants = aidants, .graine = graine, .aujourdhui = Aujourdhui});
     for (const data::FichierCompte& compte : storage.Fichiers()) {
       storage.Scan(compte.nom, data::KeyRange::Tout(), [&](auto cle, auto texte) {
-        const CItem item(texte);
+        const Item item(texte);
         EXPECT_EQ(item.Text(), texte) << compte.nom << " " << cle << " is not canonical";
-        fichiers_[compte.nom].emplace(cle, item);
+        fichiers[compte.nom].emplace(cle, item);
         return true;
       });
     }
   }
   const Fichier& operator[](std::string_view nom) const {
     static const Fichier vide;
-    const auto place = fichiers_.find(std::string(nom));
-    return place == fichiers_.end() ? vide : place->second;
+    const auto place = fichiers.find(std::string(nom));
+    return place == fichiers.end() ? vide : place->second;
   }
   bool contient(std::string_view nom, const std::string& cle) const {
     return (*this)[nom].contains(cle);
   }
-  const std::map<std::string, Fichier>& fichiers() const { return fichiers_; }
-  // Everything as one text.
+  const Item& lire(std::string_view nom, const std::string& cle) const {
+    return (*this)[nom].at(cle);
+  }
+  // A file as one text, up to a key.
   std::string empreinte(std::string_view nom, std::string_view avant = "~") const {
     std::string texte;
     for (const auto& [cle, item] : (*this)[nom]) {
@@ -59,50 +77,24 @@ class Base {
     return texte;
   }
 
- private:
-  std::map<std::string, Fichier> fichiers_;
+  std::map<std::string, Fichier> fichiers;
 };
 
 inline const Base& base() {
-  static const Base laBase(60);
+  static const Base laBase(200);
   return laBase;
 }
 
-inline long nombre(const CItem& item, int a, int v = 1) {
-  return std::stol(item(a, v));
-}
 inline std::string aidantDe(const std::string& cle) {
   return cle.substr(0, 5);
 }
-inline bool annule(const CItem& contrat) {
-  return contrat(C::Annule) == "O";
-}
-inline bool particulier(const CItem& contrat) {
-  return contrat(C::Convention) == "02";
-}
-inline long finDe(const CItem& contrat) {
-  return contrat(C::DateFin).empty() ? SansFin : nombre(contrat, C::DateFin);
-}
-inline std::vector<std::string> valeurs(const CItem& item, int attribut) {
-  std::vector<std::string> liste;
-  for (int v = 1; v <= item.DCount(attribut); ++v) liste.push_back(item(attribut, v));
-  return liste;
-}
-inline bool contient(const std::vector<std::string>& liste, const std::string& valeur) {
-  return std::find(liste.begin(), liste.end(), valeur) != liste.end();
-}
 
-// Runs over all contracts, cancelled ones only if wanted; the key traces a failure.
-inline void chaqueContrat(const std::function<void(const std::string&, const CItem&)>& visite,
-                          bool aussiAnnules = false) {
-  int vus = 0;
-  for (const auto& [cle, contrat] : base()[data::fichier::CONTRAT]) {
+// Runs over all contracts but the cancelled ones; the key traces a failure.
+inline void chaqueContrat(const std::function<void(const std::string&, const Item&)>& visite) {
+  for (const auto& [cle, contrat] : base()[fichier::CONTRAT]) {
     SCOPED_TRACE("CONTRAT " + cle);
-    if (annule(contrat) && !aussiAnnules) continue;
-    visite(cle, contrat);
-    ++vus;
+    if (!contrat.annule()) visite(cle, contrat);
   }
-  EXPECT_GT(vus, 100);
 }
 
 }  // namespace essai_demo
