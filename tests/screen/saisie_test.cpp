@@ -104,7 +104,6 @@ TEST_F(Saisie, LesTouchesSuiventLeFocus) {
 
 TEST_F(Saisie, ArreteeParUnEvenement) {
   Essai dialogue(hote.platform);
-  std::unique_ptr<Essai> ephemere;
   const struct {
     const char* nom;
     Handler surChange;
