@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
-#include "base/outil.h"
+#include "base/executer.h"
 #include "base/progres.h"
 #include "data/poste.h"
 #include "storage/sqlite.h"
+#include "support/temp_dir.h"
 
 namespace {
 
@@ -24,115 +25,106 @@ constexpr const char* Articles =
     R"({"fichier":"PCS","cle":"11","item":["Cadres"]})"
     "\n";
 
+// The tool, run in this process in a scratch folder. The sessions of docs/donnees.md, which another
+// test runs, show the happy roads; here stands what they do not reach.
 class CommandesTest : public testing::Test {
  protected:
   CommandesTest() {
-    EXPECT_EQ(outil_.Lance({"creer", outil_.base}), 0);
-    EXPECT_EQ(outil_.Lance({"importer", outil_.base, "-"}, Articles), 0) << outil_.erreurs;
-    EXPECT_EQ(outil_.sortie, "4 articles importés.\n");
+    EXPECT_EQ(Outil({"creer", base_}), 0);
+    EXPECT_EQ(Lance({"importer", "-"}, Articles), 0) << erreurs_;
   }
 
-  // Puts the data file after the command's name.
+  // Runs one command; the exit code comes back.
+  int Outil(const std::vector<std::string>& args, const std::string& entree = {}) {
+    std::istringstream in(entree);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = base::executer(args, in, out, err);
+    sortie_ = out.str();
+    erreurs_ = err.str();
+    return code;
+  }
+  // The same with the data file after the command's name.
   int Lance(std::vector<std::string> args, const std::string& entree = {}) {
-    args.insert(args.begin() + 1, outil_.base);
-    return outil_.Lance(args, entree);
+    args.insert(args.begin() + 1, base_);
+    return Outil(args, entree);
   }
   std::string Sortie(std::vector<std::string> args) {
-    EXPECT_EQ(Lance(std::move(args)), 0) << outil_.erreurs;
-    return outil_.sortie;
+    EXPECT_EQ(Lance(std::move(args)), 0) << erreurs_;
+    return sortie_;
   }
 
-  Outil outil_;
+  support::TempDir dossier_;
+  std::string base_ = dossier_.Chemin("essai.contrats");
+  std::string sortie_;   // of the last run
+  std::string erreurs_;  // likewise
 };
 
 TEST_F(CommandesTest, ExporterEstLInverseDImporter) {
   EXPECT_EQ(Sortie({"exporter"}), Articles);
   const std::string texte = Articles;
   const std::size_t finAidants = texte.find('\n') + 1;
-  const std::size_t debutPcs = texte.rfind('{');
+  const std::string pcs = texte.substr(texte.rfind('{'));
   EXPECT_EQ(Sortie({"exporter", "--fichier", "PCS", "--fichier", "CIVILAIDANT"}),
-            texte.substr(0, finAidants) + texte.substr(debutPcs));
+            texte.substr(0, finAidants) + pcs);
 
-  // The same records the other way round, from a file with Windows line ends.
-  std::string lignes;
-  for (std::size_t fin = texte.size() - 1; fin != std::string::npos;) {
-    const std::size_t debut = fin == 0 ? std::string::npos : texte.rfind('\n', fin - 1);
-    lignes += texte.substr(debut + 1, fin - debut - 1) + "\r\n";
-    fin = debut;
-  }
-  const std::string fichier = outil_.dossier.Chemin("articles.jsonl");
-  std::ofstream(fichier, std::ios::binary) << lignes;
-  const std::string autre = outil_.dossier.Chemin("autre.contrats");
-  EXPECT_EQ(outil_.Lance({"creer", autre}), 0);
-  EXPECT_EQ(outil_.Lance({"importer", autre, fichier}), 0) << outil_.erreurs;
-  EXPECT_EQ(outil_.Lance({"exporter", autre}), 0);
-  EXPECT_EQ(outil_.sortie, Articles);
+  // The same records in another order, from a file whose first line ends as in Windows.
+  const std::string fichier = dossier_.Chemin("articles.jsonl");
+  std::ofstream(fichier, std::ios::binary) << pcs.substr(0, pcs.size() - 1) << "\r\n"
+                                           << texte.substr(0, texte.size() - pcs.size());
+  const std::string autre = dossier_.Chemin("autre.contrats");
+  EXPECT_EQ(Outil({"creer", autre}), 0);
+  EXPECT_EQ(Outil({"importer", autre, fichier}), 0) << erreurs_;
+  EXPECT_EQ(Outil({"exporter", autre}), 0);
+  EXPECT_EQ(sortie_, Articles);
 }
 
 TEST_F(CommandesTest, ImporterEstToutOuRien) {
-  const std::string bonne = R"({"fichier":"PCS","cle":"11","item":["Autre"]})";
-  const std::string fichier = outil_.dossier.Chemin("faux.jsonl");
-  std::ofstream(fichier) << bonne << "\n\n"
-                         << R"({"fichier":"PCS","cle":"12","item":["é",3]})"
-                         << "\n"
-                         << bonne << "\n"
-                         << R"({"fichier":"PAYS","cle":"11","item":["Autre fichier"]})";
-  EXPECT_EQ(Lance({"importer", fichier}), 1);
-  EXPECT_EQ(outil_.sortie, "");
-  EXPECT_EQ(outil_.erreurs,
-            fichier +
-                ", ligne 3, colonne 41 : nombre au lieu d'un texte : mettez-le entre guillemets\n" +
-                fichier +
-                ", ligne 4, colonne 1 : PCS 11 est déjà donné à la ligne 1\n"
-                "Importation refusée : 2 lignes à corriger. Rien n'a été écrit.\n");
+  std::string lignes = R"({"fichier":"PCS","cle":"11","item":["Autre"]})";
+  for (int i = 0; i < 21; ++i) lignes += "\n[]";
+  EXPECT_EQ(Lance({"importer", "-"}, lignes), 1);
+  EXPECT_NE(erreurs_.find("entrée standard, ligne 21, colonne 1 : "), std::string::npos);
+  EXPECT_EQ(erreurs_.find("ligne 22, "), std::string::npos);
+  EXPECT_NE(erreurs_.find("21 lignes à corriger, les 20 premières ci-dessus"), std::string::npos);
   EXPECT_EQ(Sortie({"exporter"}), Articles);
   EXPECT_EQ(Sortie({"historique", "PCS", "11"}), "");
-
-  std::string vingtEtUne;
-  for (int i = 0; i < 21; ++i) vingtEtUne += "[]\n";
-  EXPECT_EQ(Lance({"importer", "-"}, vingtEtUne), 1);
-  EXPECT_EQ(std::count(outil_.erreurs.begin(), outil_.erreurs.end(), '\n'), 21);
-  EXPECT_NE(outil_.erreurs.find("21 lignes à corriger, les 20 premières ci-dessus"),
-            std::string::npos);
 }
 
 TEST_F(CommandesTest, CodesDeRetourEtMessages) {
-  const std::string absente = outil_.dossier.Chemin("absente");
+  const std::string absente = dossier_.Chemin("absente");
   const struct {
     std::vector<std::string> args;
     int code;
     const char* message;
   } cas[] = {
       {{}, 2, "Il manque la commande."},
-      {{"effacer", outil_.base}, 2, "Commande inconnue : effacer."},
-      {{"lire", outil_.base, "PCS"}, 2, "contrat-base lire : il manque CLE."},
-      {{"lire", outil_.base, "PCS", "11", "12"}, 2, "argument ou option inattendus : 12"},
-      {{"lire", outil_.base, "PCS", "11", "--tout"}, 2, "argument ou option inattendus : --tout"},
-      {{"lire", outil_.base, "PCS", "11", "--ancien"}, 2, "--ancien"},
-      {{"lire", outil_.base, "PCS", "11", "--ancien", "0"}, 2, "« 0 » n'est pas un nombre entier"},
-      {{"lire", outil_.base, "PCS", "99"}, 1, "PCS 99 : cet article n'existe pas."},
-      {{"lire", outil_.base, "PCS", "11", "--ancien", "1"}, 1, "pas de texte antérieur n° 1"},
+      {{"effacer", base_}, 2, "Commande inconnue : effacer."},
+      {{"lire", base_, "PCS"}, 2, "contrat-base lire : il manque CLE."},
+      {{"lire", base_, "PCS", "11", "12"}, 2, "argument ou option inattendus : 12"},
+      {{"lire", base_, "PCS", "11", "--tout"}, 2, "argument ou option inattendus : --tout"},
+      {{"lire", base_, "PCS", "11", "--ancien"}, 2, "--ancien"},
+      {{"lire", base_, "PCS", "11", "--ancien", "0"}, 2, "« 0 » n'est pas un nombre entier"},
+      {{"lire", base_, "PCS", "99"}, 1, "PCS 99 : cet article n'existe pas."},
+      {{"lire", base_, "PCS", "11", "--ancien", "1"}, 1, "pas de texte antérieur n° 1"},
       {{"lire", absente, "PCS", "11"}, 3, "absente"},
-      {{"creer", outil_.base}, 3, "essai.contrats"},
-      {{"demo", outil_.base, "--aidants", "1"}, 3, "essai.contrats"},
-      {{"demo", absente, "--aidants", "dix"}, 2, "--aidants : « dix »"},
+      {{"creer", base_}, 3, "essai.contrats"},
+      {{"demo", base_, "--aidants", "1"}, 3, "essai.contrats"},
       {{"demo", absente, "--aidants", "99999999"}, 2, "--aidants : au plus"},
-      {{"importer", outil_.base, absente}, 3, "ne peut pas être lu"},
-      {{"importer", outil_.base, outil_.dossier.Chemin("")}, 3, "est un dossier"},
-      {{"exporter", outil_.base, "--fichier", "PCT"}, 1, "Le fichier PCT n'a pas d'article"},
-      {{"ecrire", outil_.base, "pcs", "1", "--item", "[]"}, 2, "Le nom de fichier « pcs »"},
-      {{"ecrire", outil_.base, "PCS", "", "--item", "[]"}, 2, "sans clé"},
-      {{"ecrire", outil_.base, "PCS", "1", "--item", "[1]"}, 1, "--item, ligne 1, colonne 2"},
-      {{"select", outil_.base, "SSELECT PCS AVEC", "0"}, 2, "SSELECT PCS AVEC"},
-      {{"select", outil_.base, "SSELECT PCS", "0 x"}, 2, "x"},
-      {{"historique", outil_.base, "PCS", "99"}, 1, "PCS 99 : cet article n'existe pas."},
-      {{"retablir", outil_.base, "PCS", "11", "1"}, 1, "pas de texte antérieur n° 1"},
-      {{"retablir", outil_.base, "PCS", "11", "un"}, 2, "N : « un »"},
+      {{"importer", base_, absente}, 3, "ne peut pas être lu"},
+      {{"importer", base_, dossier_.Chemin("")}, 3, "est un dossier"},
+      {{"exporter", base_, "--fichier", "PCT"}, 1, "Le fichier PCT n'a pas d'article"},
+      {{"ecrire", base_, "pcs", "1", "--item", "[]"}, 2, "Le nom de fichier « pcs »"},
+      {{"ecrire", base_, "PCS", "", "--item", "[]"}, 2, "sans clé"},
+      {{"ecrire", base_, "PCS", "1", "--item", "[1]"}, 1, "--item, ligne 1, colonne 2"},
+      {{"select", base_, "SSELECT PCS", "0 x"}, 2, "x"},
+      {{"historique", base_, "PCS", "99"}, 1, "PCS 99 : cet article n'existe pas."},
+      {{"retablir", base_, "PCS", "11", "1"}, 1, "pas de texte antérieur n° 1"},
+      {{"retablir", base_, "PCS", "11", "un"}, 2, "N : « un »"},
   };
   for (const auto& c : cas) {
-    EXPECT_EQ(outil_.Lance(c.args), c.code) << c.message;
-    EXPECT_EQ(outil_.sortie, "") << c.message;
-    EXPECT_NE(outil_.erreurs.find(c.message), std::string::npos) << outil_.erreurs;
+    EXPECT_EQ(Outil(c.args), c.code) << c.message;
+    EXPECT_EQ(sortie_, "") << c.message;
+    EXPECT_NE(erreurs_.find(c.message), std::string::npos) << erreurs_;
   }
   EXPECT_FALSE(std::filesystem::exists(absente));
   EXPECT_EQ(Sortie({"exporter"}), Articles);
@@ -148,7 +140,7 @@ TEST_F(CommandesTest, LireMontreChaqueTexteASaPlace) {
 }
 
 TEST_F(CommandesTest, SelectDonneUneRangeeParLigne) {
-  storage::SqliteStorage::Ouvrir(outil_.base, data::PosteFixe(0))
+  storage::SqliteStorage::Ouvrir(base_, data::PosteFixe(0))
       ->Put("PCS", "12", "a\tb\nc\r\x01\x7F\xC2\x85");
   const struct {
     std::vector<std::string> args;
@@ -168,78 +160,53 @@ TEST_F(CommandesTest, SelectDonneUneRangeeParLigne) {
     args.insert(args.begin(), "select");
     EXPECT_EQ(Sortie(args), c.rangees) << c.args[0];
   }
-  EXPECT_EQ(outil_.erreurs, "");
+  EXPECT_EQ(erreurs_, "");
   // A name that no record bears is told from a question without an answer.
   EXPECT_EQ(Sortie({"select", "SSELECT PCT"}), "");
-  EXPECT_NE(outil_.erreurs.find("Le fichier PCT n'a pas d'article"), std::string::npos);
+  EXPECT_NE(erreurs_.find("Le fichier PCT n'a pas d'article"), std::string::npos);
   // What `select` shows with a backslash goes through an export and back.
   const std::string exportes = Sortie({"exporter", "--fichier", "PCS"});
-  EXPECT_EQ(outil_.erreurs, "");
-  EXPECT_EQ(Lance({"importer", "-"}, exportes), 0) << outil_.erreurs;
+  EXPECT_EQ(erreurs_, "");
+  EXPECT_EQ(Lance({"importer", "-"}, exportes), 0) << erreurs_;
   EXPECT_EQ(Sortie({"historique", "PCS", "12"}), "");  // the same text: nothing was replaced
 }
 
-TEST_F(CommandesTest, UnTexteAnterieurSeReliEtSeRetablit) {
-  EXPECT_EQ(Lance({"ecrire", "PCS", "11"}, "[\n\"Employés\"]\n"), 0) << outil_.erreurs;
-  EXPECT_EQ(Sortie({"ecrire", "PCS", "11", "--item", "[\"Ouvriers\"]"}), "PCS 11 est écrit.\n");
-  EXPECT_EQ(Sortie({"lire", "PCS", "11"}), "1\tOuvriers\n");
-  EXPECT_EQ(Sortie({"lire", "PCS", "11", "--ancien", "1"}), "1\tCadres\n");
-  EXPECT_EQ(Sortie({"lire", "PCS", "11", "--ancien", "2", "--json"}), "[\"Employés\"]\n");
-
+TEST_F(CommandesTest, UnTexteSupprimeSeRetablit) {
+  EXPECT_EQ(Lance({"ecrire", "PCS", "11"}, "[\n\"Employés\"]\n"), 0) << erreurs_;
+  EXPECT_EQ(Sortie({"lire", "PCS", "11", "--ancien", "1", "--json"}), "[\"Cadres\"]\n");
   const data::PosteFixe poste(21511, "ZOE");
-  storage::SqliteStorage::Ouvrir(outil_.base, poste)->Erase("PCS", "11");
+  storage::SqliteStorage::Ouvrir(base_, poste)->Erase("PCS", "11");
   EXPECT_EQ(Lance({"lire", "PCS", "11"}), 1);
   Sortie({"historique", "PCS", "11"});
-  EXPECT_EQ(outil_.sortie.substr(outil_.sortie.find("3\t")),
-            "3\t2026-11-22 00:00:00\tZOE\tsupprimé\n");
+  EXPECT_EQ(sortie_.substr(sortie_.find("\n2\t") + 1), "2\t2026-11-22 00:00:00\tZOE\tsupprimé\n");
   Sortie({"historique", "PCS", "11", "--json"});
-  EXPECT_NE(outil_.sortie.find("{\"numero\":3,\"date\":\"2026-11-22 00:00:00\",\"utilisateur\":"
-                               "\"ZOE\",\"supprime\":true,\"item\":[\"Ouvriers\"]}\n"),
+  EXPECT_NE(sortie_.find("{\"numero\":2,\"date\":\"2026-11-22 00:00:00\",\"utilisateur\":\"ZOE\","
+                         "\"supprime\":true,\"item\":[\"Employés\"]}\n"),
             std::string::npos);
-
   Sortie({"retablir", "PCS", "11", "1"});
   EXPECT_EQ(Sortie({"exporter"}), Articles);
   // What stood there when a text is brought back goes to the history in its turn.
   Sortie({"retablir", "PCS", "11", "2"});
-  EXPECT_EQ(Sortie({"lire", "PCS", "11", "--ancien", "4"}), "1\tCadres\n");
+  EXPECT_EQ(Sortie({"lire", "PCS", "11", "--ancien", "3"}), "1\tCadres\n");
 }
 
-TEST_F(CommandesTest, FichiersEtVerifier) {
+TEST_F(CommandesTest, FichierInconnuEtAnomalieSeule) {
   Lance({"ecrire", "XYZ", "1", "--item", "[]"});
-  EXPECT_EQ(Sortie({"fichiers"}),
-            "CIVILAIDANT\t1\taidants\nCONTRAT\t2\tcontrats de travail\n"
-            "PCS\t1\tnomenclature P.C.S.\nXYZ\t1\tfichier inconnu de la suite\n");
+  EXPECT_NE(Sortie({"fichiers"}).find("XYZ\t1\tfichier inconnu de la suite\n"), std::string::npos);
   EXPECT_EQ(Lance({"verifier"}), 1);
-  EXPECT_EQ(outil_.sortie,
-            "CIVILAIDANT\t00001\tattribut 41 : le compteur est vide, et le plus haut contrat "
-            "002\n");
-  EXPECT_EQ(outil_.erreurs, "5 articles lus, 1 anomalie.\n");
-
-  std::string aidant(40, ',');
-  for (std::size_t i = aidant.size(); i-- > 0;) aidant.insert(i, "\"\"");
-  Lance({"ecrire", "CIVILAIDANT", "00001"}, "[" + aidant + "\"002\"]");
-  EXPECT_EQ(Sortie({"verifier"}), "");
-  EXPECT_EQ(outil_.erreurs, "5 articles lus, aucune anomalie.\n");
-}
-
-TEST_F(CommandesTest, DemoCreeUneBaseSansAnomalie) {
-  const std::string chemin = outil_.dossier.Chemin("demo.contrats");
-  EXPECT_EQ(outil_.Lance({"demo", chemin, "--aidants", "3", "--graine", "7"}), 0);
-  EXPECT_EQ(outil_.Lance({"verifier", chemin}), 0) << outil_.sortie;
-  EXPECT_EQ(outil_.Lance({"select", chemin, "SSELECT CIVILAIDANT"}), 0);
-  EXPECT_EQ(outil_.sortie, "00001\n00002\n00003\n");
+  EXPECT_EQ(erreurs_, "5 articles lus, 1 anomalie.\n");
 }
 
 TEST_F(CommandesTest, LAideEstEnFrancais) {
-  EXPECT_EQ(outil_.Lance({"--help"}), 0);
-  EXPECT_NE(outil_.sortie.find("\n  retablir      Rend"), std::string::npos);
+  EXPECT_EQ(Outil({"--help"}), 0);
+  EXPECT_NE(sortie_.find("\n  retablir      Rend"), std::string::npos);
   for (const char* commande : {"creer", "importer", "exporter", "lire", "ecrire", "select",
                                "fichiers", "verifier", "historique", "retablir", "demo"}) {
-    ASSERT_EQ(outil_.Lance({commande, "--help"}), 0);
+    ASSERT_EQ(Outil({commande, "--help"}), 0);
     const std::string debut = "Usage : contrat-base " + std::string(commande) + " BASE";
-    EXPECT_NE(outil_.sortie.find(debut), std::string::npos) << outil_.sortie;
+    EXPECT_NE(sortie_.find(debut), std::string::npos) << sortie_;
     for (const char* anglais : {"Usage:", "OPTIONS", "REQUIRED", "TEXT", "Print", "Positionals"}) {
-      EXPECT_EQ(outil_.sortie.find(anglais), std::string::npos) << outil_.sortie;
+      EXPECT_EQ(sortie_.find(anglais), std::string::npos) << sortie_;
     }
   }
 }
@@ -251,7 +218,7 @@ TEST_F(CommandesTest, UneSortiePleineEstUnePanne) {
   std::istringstream entree;
   std::ostream sortie(&plein);
   std::ostringstream erreurs;
-  EXPECT_EQ(base::executer({"exporter", outil_.base}, entree, sortie, erreurs), 3);
+  EXPECT_EQ(base::executer({"exporter", base_}, entree, sortie, erreurs), 3);
   EXPECT_EQ(erreurs.str(), "La sortie ne peut pas être écrite : disque plein ou tube fermé.\n");
 }
 

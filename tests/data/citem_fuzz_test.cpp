@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <random>
 
 #include "data/citem.h"
@@ -75,57 +77,36 @@ class CItemFuzz : public testing::Test {
 };
 
 TEST_F(CItemFuzz, RandomEditsInStepWithAModel) {
-  for (int tour = 0; tour < 300; ++tour) {
-    CItem item;
-    Modele modele;
-    for (int pas = 0; pas < 120; ++pas) {
-      const int a = 1 + Tire(7), v = 1 + Tire(4), s = 1 + Tire(3);
-      const int acte = Tire(11);
-      const std::string t = Texte(acte == 10 ? 4 : 3 - acte % 3);
-      switch (acte) {
-        case 0:
-          item.Set(a, t), modele.Piece(a).Lire(t);
-          break;
-        case 1:
-          item.Set(a, v, t), modele.Piece(a).Piece(v).Lire(t);
-          break;
-        case 2:
-          item.Set(a, v, s, t), modele.Piece(a).Piece(v).Piece(s).Lire(t);
-          break;
-        case 3:
-          item.Insert(a, t), modele.Inserer(a, t);
-          break;
-        case 4:
-          item.Insert(a, v, t), modele.Piece(a).Inserer(v, t);
-          break;
-        case 5:
-          item.Insert(a, v, s, t), modele.Piece(a).Piece(v).Inserer(s, t);
-          break;
-        case 6:
-          item.Delete(a), modele.Supprimer(a);
-          break;
-        case 7:
-          item.Delete(a, v), modele.Piece(a).Supprimer(v);
-          break;
-        case 8:
-          item.Delete(a, v, s), modele.Piece(a).Piece(v).Supprimer(s);
-          break;
-        case 9:
-          item.Append(t), modele.Piece(modele.Nombre() + 1).Lire(t);
-          break;
-        default:
-          if (Tire(10) == 0) item.SetText(t), modele.Lire(t);
-      }
-      ASSERT_EQ(item.Text(), modele.Texte())
-          << "turn " << tour << " step " << pas << " act " << acte;
-      // What the model keeps at its ends beyond the canonical text would count as present.
-      modele.Lire(modele.Texte());
-      ASSERT_EQ(item.DCount(), modele.Nombre());
-      ASSERT_EQ(item.DCount(a), modele.Piece(a).Nombre());
-      ASSERT_EQ(item(a), modele.Piece(a).Texte());
-      ASSERT_EQ(item(a, v), modele.Piece(a).Piece(v).Texte());
-      ASSERT_EQ(item(a, v, s), modele.Piece(a).Piece(v).Piece(s).Texte());
-    }
+  CItem item;
+  Modele m;
+  int a = 0, v = 0, s = 0;
+  std::string t;
+  // Three levels of each edit, the deepest last; then what only attributes have.
+  const std::function<void()> actes[] = {
+      [&] { item.Set(a, t), m.Piece(a).Lire(t); },
+      [&] { item.Set(a, v, t), m.Piece(a).Piece(v).Lire(t); },
+      [&] { item.Set(a, v, s, t), m.Piece(a).Piece(v).Piece(s).Lire(t); },
+      [&] { item.Insert(a, t), m.Inserer(a, t); },
+      [&] { item.Insert(a, v, t), m.Piece(a).Inserer(v, t); },
+      [&] { item.Insert(a, v, s, t), m.Piece(a).Piece(v).Inserer(s, t); },
+      [&] { item.Delete(a), m.Supprimer(a); },
+      [&] { item.Delete(a, v), m.Piece(a).Supprimer(v); },
+      [&] { item.Delete(a, v, s), m.Piece(a).Piece(v).Supprimer(s); },
+      [&] { item.Append(t), m.Piece(m.Nombre() + 1).Lire(t); }};
+  for (int pas = 0; pas < 36000; ++pas) {
+    if (Tire(120) == 0) t = Texte(4), item.SetText(t), m.Lire(t);
+    a = 1 + Tire(7), v = 1 + Tire(4), s = 1 + Tire(3);
+    const int acte = Tire(static_cast<int>(std::size(actes)));
+    t = Texte(3 - acte % 3);
+    actes[acte]();
+    ASSERT_EQ(item.Text(), m.Texte()) << "step " << pas << " act " << acte;
+    // What the model keeps at its ends beyond the canonical text would count as present.
+    m.Lire(m.Texte());
+    ASSERT_EQ(item.DCount(), m.Nombre());
+    ASSERT_EQ(item.DCount(a), m.Piece(a).Nombre());
+    ASSERT_EQ(item(a), m.Piece(a).Texte());
+    ASSERT_EQ(item(a, v), m.Piece(a).Piece(v).Texte());
+    ASSERT_EQ(item(a, v, s), m.Piece(a).Piece(v).Piece(s).Texte());
   }
 }
 

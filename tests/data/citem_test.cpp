@@ -28,6 +28,7 @@ std::string lisible(const CItem& item) {
   return traduit(item.Text(), separateurs, "|;.");
 }
 
+// What the random edits, in step with their model, cannot show as well or never draw.
 TEST(CItem, EveryEditLeavesTheExactText) {
   struct Cas {
     const char* nom;
@@ -37,26 +38,19 @@ TEST(CItem, EveryEditLeavesTheExactText) {
   };
   const Cas cas[] = {
       {"set creates what lies before", "", [](CItem& x) { x.Set(3, "a"); }, "||a"},
-      {"value creates what lies before", "a", [](CItem& x) { x.Set(2, 3, "b"); }, "a|;;b"},
       {"subvalue beyond in a middle value", "a;b;c", [](CItem& x) { x.Set(1, 2, 3, "d"); },
        "a;b..d;c"},
       {"lower separators come along", "x", [](CItem& x) { x.Set(1, brut("a;b.c;")); }, "a;b.c"},
-      {"emptying the last cuts the end", "a||b", [](CItem& x) { x.Set(3, ""); }, "a"},
       {"emptying the last subvalue cuts up", "a|;.b", [](CItem& x) { x.Set(2, 2, 2, ""); }, "a"},
-      {"an inner empty value stays", "a;b;c", [](CItem& x) { x.Set(1, 2, ""); }, "a;;c"},
-      {"absent place set empty", "a", [](CItem& x) { x.Set(9, 9, 9, ""); }, "a"},
-      {"only separators are nothing", "a", [](CItem& x) { x.Set(9, brut(";.;")); }, "a"},
+      {"absent place set empty", "a", [](CItem& x) { x.Set(9, 9, 9, ""), x.Set(9, brut(";.;")); },
+       "a"},
       {"no place below 1", "a",
        [](CItem& x) { x.Set(0, "k"), x.Set(-2, "k"), x.Set(1, 0, "k"), x.Set(-1, 1, "k"); }, "a"},
       {"append", "a;b", [](CItem& x) { x.Append("c"), x.Set(-1, "d"), x.Set(-1, ""); }, "a;b|c|d"},
-      {"insert attribute", "a|b", [](CItem& x) { x.Insert(1, "k"); }, "k|a|b"},
-      {"insert beyond the end", "a", [](CItem& x) { x.Insert(3, "k"); }, "a||k"},
-      {"insert value", "a;b|c", [](CItem& x) { x.Insert(1, 2, "k"); }, "a;k;b|c"},
+      {"insert beyond the end", "a", [](CItem& x) { x.Insert(3, "k"), x.Insert(1, "l"); },
+       "l|a||k"},
       {"insert below 1", "a", [](CItem& x) { x.Insert(0, "k"), x.Insert(1, 0, "k"); }, "a"},
-      {"delete row", "a|b|c", [](CItem& x) { x.Delete(2); }, "a|c"},
       {"delete the last cuts the end", "a||c", [](CItem& x) { x.Delete(3); }, "a"},
-      {"pop a value", "a;b;c", [](CItem& x) { x.Delete(1, 1); }, "b;c"},
-      {"pop the only value", "|a", [](CItem& x) { x.Delete(2, 1); }, ""},
       {"delete only subvalue keeps places", "a;b;c", [](CItem& x) { x.Delete(1, 2, 1); }, "a;;c"},
       {"delete what is absent", "a;b",
        [](CItem& x) { x.Delete(2), x.Delete(1, 3), x.Delete(1, 1, 2), x.Delete(0), x.Delete(-1); },
@@ -92,14 +86,6 @@ TEST(CItem, ReadsNothingWhereNothingIs) {
   EXPECT_EQ(item.GetText(-1, -1, -1), item.Text());
   EXPECT_EQ(item.GetText(1, 0, 0), item(1));
   EXPECT_EQ(item.GetText(1, 2, 0) + item.GetText(1, 2, 1), brut("b.cb"));
-}
-
-TEST(CItem, OrderOfSetsDoesNotShow) {
-  CItem x, y;
-  x.Set(3, 2, "c"), x.Set(1, "a"), x.Set(3, 1, 2, "b"), x.Set(5, "e"), x.Set(5, "");
-  y.Append("a"), y.Set(3, 1, 2, "z"), y.Set(3, 1, 2, "b"), y.Insert(3, 2, "c"), y.Set(1, 2, "");
-  EXPECT_EQ(lisible(x), "a||.b;c");
-  EXPECT_EQ(x.Text(), y.Text());
 }
 
 TEST(CItem, RefusesASeparatorThatWouldMoveNeighbours) {

@@ -14,25 +14,34 @@ namespace {
 
 const PosteFixe poste(21511);
 
+// Every day of the years that can be typed follows the one before it, in the week too.
+TEST(Jour, CalendarWithoutGap) {
+  Date attendue{1900, 1, 1};  // a Monday
+  int semaine = 0;
+  for (long jour = *jourDe(attendue); attendue.annee < 2200; ++jour) {
+    ASSERT_EQ(dateDe(jour), attendue);
+    ASSERT_EQ(jourDe(attendue), jour);
+    ASSERT_EQ(lireDateAffichee(dateAffichee(jour)), jour);
+    ASSERT_EQ(jourDeSemaine(jour), semaine);
+    semaine = (semaine + 1) % 7;
+    if (++attendue.jour > joursDuMois(attendue.annee, attendue.mois)) {
+      attendue = attendue.mois == 12 ? Date{attendue.annee + 1, 1, 1}
+                                     : Date{attendue.annee, attendue.mois + 1, 1};
+    }
+  }
+}
+
 TEST(Jour, NumbersOfDays) {
   const struct {
     Date date;
     long jour;
     const char* affichee;
-    int semaine;  // 0 Monday
-  } cas[] = {{{1967, 12, 31}, 0, "31/12/1967", 6},     {{1968, 1, 1}, 1, "01/01/1968", 0},
-             {{1968, 2, 29}, 60, "29/02/1968", 3},     {{1968, 12, 31}, 366, "31/12/1968", 1},
-             {{1967, 12, 30}, -1, "30/12/1967", 5},    {{1899, 12, 31}, -24836, "31/12/1899", 6},
-             {{2000, 1, 1}, 11689, "01/01/2000", 5},   {{2000, 2, 29}, 11748, "29/02/2000", 1},
-             {{2026, 11, 22}, 21511, "22/11/2026", 6}, {{2100, 2, 28}, 48272, "28/02/2100", 6},
-             {{2100, 3, 1}, 48273, "01/03/2100", 0},   {{2241, 10, 14}, 99999, "14/10/2241", 3}};
+  } cas[] = {{{1967, 12, 31}, 0, "31/12/1967"},    {{1899, 12, 31}, -24836, "31/12/1899"},
+             {{2000, 2, 29}, 11748, "29/02/2000"}, {{2026, 11, 22}, 21511, "22/11/2026"},
+             {{2100, 3, 1}, 48273, "01/03/2100"},  {{2241, 10, 14}, 99999, "14/10/2241"}};
   for (const auto& c : cas) {
-    SCOPED_TRACE(c.affichee);
-    EXPECT_EQ(jourDe(c.date), c.jour);
-    EXPECT_EQ(dateDe(c.jour), c.date);
-    EXPECT_EQ(jourDeSemaine(c.jour), c.semaine);
+    EXPECT_EQ(jourDe(c.date), c.jour) << c.affichee;
     EXPECT_EQ(dateAffichee(c.jour), c.affichee);
-    EXPECT_EQ(lireDateAffichee(c.affichee), c.jour);
   }
   const Date absentes[] = {{2100, 2, 29}, {2026, 2, 29}, {2026, 4, 31}, {2026, 13, 1},
                            {2026, 0, 1},  {2026, 1, 0},  {0, 1, 1},     {10000, 1, 1}};
@@ -40,19 +49,6 @@ TEST(Jour, NumbersOfDays) {
   EXPECT_EQ(dateAffichee(LONG_MIN) + dateAffichee(LONG_MAX), "");
   EXPECT_EQ(dateDe(LONG_MAX), (Date{9999, 12, 31}));
   EXPECT_EQ(dateDe(LONG_MIN), (Date{1, 1, 1}));
-}
-
-// Every day of the years that can be typed follows the one before it.
-TEST(Jour, CalendarWithoutGap) {
-  Date attendue{1900, 1, 1};
-  for (long jour = *jourDe(attendue); attendue.annee < 2200; ++jour) {
-    ASSERT_EQ(dateDe(jour), attendue);
-    ASSERT_EQ(jourDe(attendue), jour);
-    if (++attendue.jour > joursDuMois(attendue.annee, attendue.mois)) {
-      attendue = attendue.mois == 12 ? Date{attendue.annee + 1, 1, 1}
-                                     : Date{attendue.annee, attendue.mois + 1, 1};
-    }
-  }
 }
 
 TEST(Jour, Periods) {
@@ -200,34 +196,32 @@ TEST(LibNumber, Routines) {
 }
 
 TEST(LibNumber, ZoneNumCarac) {
-  constexpr const char* longue = "Zone numerique trop longue";
+  constexpr const char* longue = "erreur: Zone numerique trop longue";
+  constexpr const char* avantVirgule = "Trop de chiffres avant la virgule";
   const struct {
     const char* texte;
     int avant, apres, avantApres;
-    const char* message;
-    bool information, erreur;
+    const char* dit;  // after the kind, where it has one
   } cas[] = {
-      {"", 3, 2, 3, "", false, false},
-      {"-1,5", 1, 1, 2, "", false, false},
-      {",5", 0, 1, 0, "", false, false},
-      {"123", 3, 2, 3, "", false, false},
-      {"-", 3, 2, 4, "Vous ne pouvez pas saisir seulement un moins.", true, false},
-      {",", 3, 2, 3, "Vous ne pouvez pas saisir une virgule seule.", true, false},
-      {"-,", 3, 2, 4, "Vous ne pouvez pas saisir un moins et une virgule seuls.", true, false},
-      {"1234,5", 3, 2, 3, "Trop de chiffres avant la virgule", false, false},
-      {"1234,567", 3, 2, 3, "Trop de chiffres avant la virgule", false, false},
-      {"1234", 3, 2, 3, longue, false, true},
-      {"-1234", 3, 2, 4, longue, false, true},
-      {"12,345", 3, 2, 3, "Trop de chiffres après la virgule", false, true}};
+      {"", 3, 2, 3, ""},
+      {"-1,5", 1, 1, 2, ""},
+      {",5", 0, 1, 0, ""},
+      {"123", 3, 2, 3, ""},
+      {"-", 3, 2, 4, "information: Vous ne pouvez pas saisir seulement un moins."},
+      {",", 3, 2, 3, "information: Vous ne pouvez pas saisir une virgule seule."},
+      {"-,", 3, 2, 4, "information: Vous ne pouvez pas saisir un moins et une virgule seuls."},
+      {"1234,5", 3, 2, 3, avantVirgule},
+      {"1234,567", 3, 2, 3, avantVirgule},
+      {"1234", 3, 2, 3, longue},
+      {"-1234", 3, 2, 4, longue},
+      {"12,345", 3, 2, 3, "erreur: Trop de chiffres après la virgule"}};
   for (const auto& c : cas) {
-    SCOPED_TRACE(c.texte);
     int avant = c.avant;
     const ControleZoneNum r = ZoneNumCarac(c.texte, avant, c.apres, ",");
-    EXPECT_EQ(r.message, c.message);
-    EXPECT_EQ(r.information, c.information);
-    EXPECT_EQ(r.erreur, c.erreur);
-    EXPECT_EQ(r.Focus(), !r.Passe());
-    EXPECT_EQ(avant, c.avantApres);
+    const char* genre = r.erreur ? "erreur: " : r.information ? "information: " : "";
+    EXPECT_EQ(genre + r.message, c.dit) << c.texte;
+    EXPECT_EQ(r.Focus(), !r.Passe()) << c.texte;
+    EXPECT_EQ(avant, c.avantApres) << c.texte;
   }
 }
 

@@ -70,30 +70,15 @@ TEST(Texte, UpperCaseKeepsAccents) {
 }
 
 TEST(Texte, ValidityAndControls) {
-  const char* bons[] = {"",
-                        "az",
-                        "é",
-                        "\xE0\xA0\x80",
-                        "\xED\x9F\xBF",
-                        "\xEE\x80\x80",
-                        "\xF0\x90\x80\x80",
-                        "\xF4\x8F\xBF\xBF"};
-  for (const char* t : bons) EXPECT_TRUE(utf8Valide(t)) << t;
+  const char* bons =
+      "az é \xE0\xA0\x80 \xED\x9F\xBF \xEE\x80\x80 \xF0\x90\x80\x80 \xF4\x8F\xBF\xBF";
+  for (const auto& t : mots(bons)) EXPECT_TRUE(utf8Valide(t)) << t;
+  EXPECT_TRUE(utf8Valide(""));
   // Overlong forms, surrogates, above the last code point, cut short, stray bytes.
-  const char* mauvais[] = {"\xC0\x80",
-                           "\xC1\xBF",
-                           "\xE0\x9F\xBF",
-                           "\xED\xA0\x80",
-                           "\xF0\x8F\xBF\xBF",
-                           "\xF4\x90\x80\x80",
-                           "\xF5\x80\x80\x80",
-                           "a\xC3",
-                           "\xE2\x82",
-                           "\xF0\x9F\x98",
-                           "\x80",
-                           "\xFF",
-                           "\xC3\x41"};
-  for (const char* t : mauvais) EXPECT_FALSE(utf8Valide(t)) << t;
+  const char* mauvais =
+      "\xC0\x80 \xC1\xBF \xE0\x9F\xBF \xED\xA0\x80 \xF0\x8F\xBF\xBF \xF4\x90\x80\x80 "
+      "\xF5\x80\x80\x80 a\xC3 \xE2\x82 \xF0\x9F\x98 \x80 \xFF \xC3\x41 \xE2\x28\xA1";
+  for (const auto& t : mots(mauvais)) EXPECT_FALSE(utf8Valide(t)) << t;
   EXPECT_EQ(sansControles("a\tb\r\nc\x7F\xC2\x80"
                           "d\xC2\x9F\xC2\xA0é\x1E"),
             "abcd\xC2\xA0é");

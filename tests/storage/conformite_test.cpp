@@ -9,7 +9,6 @@
 #include "essai.h"
 #include "storage/memory.h"
 #include "storage/sqlite.h"
-#include "support/faulty_storage.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -51,36 +50,24 @@ class Conformite : public testing::TestWithParam<std::string> {
 INSTANTIATE_TEST_SUITE_P(Magasins, Conformite, testing::Values("memoire", "sqlite"),
                          [](const auto& essai) { return essai.param; });
 
+// Beside the random work below: what it never draws.
 TEST_P(Conformite, PutGetErase) {
   EXPECT_EQ(Lire("CONTRAT", "1"), "absent, intact");
-  Store().Put("CONTRAT", "1",
-              "a\x1e"
-              "b");
-  Store().Put("CONTRAT", "2", "");
+  Store().Put("CONTRAT", "1", "a\x1e_");
   Store().Put("TABLES", "1", std::string(100000, 'x'));
-  EXPECT_EQ(Lire("CONTRAT", "1"),
-            "a\x1e"
-            "b");
-  EXPECT_EQ(Lire("CONTRAT", "2"), "");
   EXPECT_EQ(Lire("TABLES", "1"), std::string(100000, 'x'));
   EXPECT_EQ(Lire("TABLES", "2"), "absent, intact");
   EXPECT_TRUE(Store().Erase("TABLES", "1"));
-  EXPECT_FALSE(Store().Erase("TABLES", "1"));
   EXPECT_FALSE(Store().Erase("TABLES", ""));
-  EXPECT_EQ(Lire("TABLES", "1"), "absent, intact");
-  EXPECT_EQ(etat(Store()),
-            "CONTRAT[1=a\x1e"
-            "b 2=]");
+  EXPECT_EQ(etat(Store()), "CONTRAT[1=a\x1e_]");
 }
 
 TEST_P(Conformite, ScanRangesInByteOrder) {
   for (const char* cle : {"é", "z", "1", "01", "001", "00", "0", "~"}) Store().Put("B", cle, "t");
   Store().Put("A", "0", "t");
   Store().Put("B0", "5", "t");
-  KeyRange milieu;
-  milieu.debut = "001";
+  KeyRange milieu = KeyRange::Une("001");
   milieu.fin = "1";
-  milieu.sansFin = false;
   KeyRange vide = milieu;
   vide.fin = "001";
   const struct {
@@ -103,51 +90,39 @@ TEST_P(Conformite, ScanRangesInByteOrder) {
   EXPECT_EQ(Cles("C", KeyRange::Tout()), "");
 }
 
-TEST_P(Conformite, HistoryKeepsEveryFormerText) {
+// When and by whom; the texts themselves are followed by the random work below.
+TEST_P(Conformite, HistoryTellsWhenAndByWhom) {
   Store().Put("CONTRAT", "1", "a");
-  Store().Put("CONTRAT", "1", "a");
-  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "");
   Store().Put("CONTRAT", "1", "b");
   poste_.SetAujourdhui(21512);
   poste_.SetUtilisateur("PETIT");
   Store().Erase("CONTRAT", "1");
-  Store().Put("CONTRAT", "1", "c");
-  Store().Put("CONTRAT", "1", "");
-  Store().Put("CONTRAT", "10", "autre");
-  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "1:a 2:b- 3:c");
-  EXPECT_EQ(anciens(Store(), "CONTRAT", "10"), "");
   const auto lus = Store().Historique("CONTRAT", "1");
   EXPECT_EQ(lus[0].horodatage + lus[0].utilisateur, "2026-11-22 00:00:00MARTIN");
   EXPECT_EQ(lus[1].horodatage + lus[1].utilisateur, "2026-11-23 00:00:00PETIT");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "10"), "");
 }
 
 TEST_P(Conformite, BlockStandsWholeOrNotAtAll) {
   Store().Put("CONTRAT", "1", "a");
   Store().Put("TABLES", "x", "seul");
-  const auto travail = [&] {
-    Store().Put("CONTRAT", "1", "b");
-    Store().Put("CONTRAT", "1", "c");
-    Store().Put("CONTRAT", "2", "d");
-    Store().Erase("TABLES", "x");
-    Store().Put("ROLES", "r", "e");
-    EXPECT_EQ(etat(Store()), "CONTRAT[1=c 2=d] ROLES[r=e]");
+  const auto bloc = [&](bool panne) {
+    Store().EnUnBloc([&] {
+      // A refused text that the block passes over takes nothing else with it.
+      EXPECT_EQ(refus([&] { Store().Put("CONTRAT", "", "z"); }), "TexteRefuse CONTRAT");
+      for (const char* texte : {"b", "c"}) Store().Put("CONTRAT", "1", texte);
+      Store().Erase("TABLES", "x");
+      EXPECT_THROW(Store().EnUnBloc([] {}), std::logic_error);
+      EXPECT_EQ(etat(Store()), "CONTRAT[1=c]");
+      if (panne) throw std::runtime_error("panne");
+    });
   };
-  EXPECT_THROW(Store().EnUnBloc([&] {
-    travail();
-    throw std::runtime_error("panne");
-  }),
-               std::runtime_error);
+  EXPECT_THROW(bloc(true), std::runtime_error);
   EXPECT_EQ(etat(Store()), "CONTRAT[1=a] TABLES[x=seul]");
   EXPECT_EQ(anciens(Store(), "CONTRAT", "1") + anciens(Store(), "TABLES", "x"), "");
-  // A refused text that the block passes over takes nothing else with it.
-  Store().EnUnBloc([&] {
-    EXPECT_EQ(refus([&] { Store().Put("CONTRAT", "", "z"); }), "TexteRefuse CONTRAT");
-    travail();
-    EXPECT_THROW(Store().EnUnBloc([] {}), std::logic_error);
-  });
-  EXPECT_EQ(etat(Store()), "CONTRAT[1=c 2=d] ROLES[r=e]");
-  EXPECT_EQ(anciens(Store(), "CONTRAT", "1"), "1:a 2:b");
-  EXPECT_EQ(anciens(Store(), "TABLES", "x"), "1:seul-");
+  bloc(false);
+  EXPECT_EQ(etat(Store()), "CONTRAT[1=c]");
+  EXPECT_EQ(anciens(Store(), "CONTRAT", "1") + anciens(Store(), "TABLES", "x"), "1:a 2:b1:seul-");
 }
 
 TEST_P(Conformite, WhatCannotBeHeldIsRefused) {
@@ -171,25 +146,18 @@ TEST_P(Conformite, WhatCannotBeHeldIsRefused) {
     essayer("CONTRAT", cle, "t", false);
   }
   essayer("F2", " é€ ", "", true);
-  // One character each, at every place of the eight bytes that are looked at together.
-  const auto partout = [&](const string& caractere, bool admis) {
-    Store().EnUnBloc([&] {
+  // At every place of the eight bytes that are looked at together; which characters are well
+  // formed is the matter of the texts' own test.
+  Store().EnUnBloc([&] {
+    for (const string& c : {"\0"s, "\x80"s, "\xE2\x82"s, "\xFF"s, "\x01\x1c\x7F"s, "\xC2\x80"s,
+                            "\xF4\x8F\xBF\xBF"s}) {
+      const bool admis = c.size() > 1 && c != "\xE2\x82";
       for (std::size_t avant = 0; avant < 9; ++avant) {
-        essayer("CONTRAT", "1", string(avant, 'a') + caractere, admis);
-        essayer("CONTRAT", "1", string(avant, 'a') + caractere + "abcdefgh", admis);
+        essayer("CONTRAT", "1", string(avant, 'a') + c, admis);
+        essayer("CONTRAT", "1", string(avant, 'a') + c + "abcdefgh", admis);
       }
-    });
-  };
-  for (const string& c : {"\0"s, "\x80"s, "\xBF"s, "\xC0\x80"s, "\xC1\xBF"s, "\xE0\x9F\xBF"s,
-                          "\xED\xA0\x80"s, "\xE2\x82"s, "\xE2\x28\xA1"s, "\xF0\x8F\xBF\xBF"s,
-                          "\xF4\x90\x80\x80"s, "\xF5\x80\x80\x80"s, "\xFF"s}) {
-    partout(c, false);
-  }
-  for (const string& c :
-       {"\x01\x1c\x1d\x1e\x7F"s, "\xC2\x80"s, "\xDF\xBF"s, "\xE0\xA0\x80"s, "\xED\x9F\xBF"s,
-        "\xEF\xBF\xBF"s, "\xF0\x90\x80\x80"s, "\xF4\x8F\xBF\xBF"s}) {
-    partout(c, true);
-  }
+    }
+  });
 }
 
 TEST_P(Conformite, ScansNestAndLetGo) {
@@ -212,21 +180,6 @@ TEST_P(Conformite, ScansNestAndLetGo) {
                std::logic_error);
   Store().Put("CONTRAT", "3", "u");
   EXPECT_EQ(etat(Store()), "CONTRAT[1=t 2=t 3=u]");
-}
-
-TEST_P(Conformite, FaultyStoreFailsAtTheCallItWasToldTo) {
-  support::FaultyStorage panne(Store());
-  panne.EchouerEcriture(2);
-  panne.Put("CONTRAT", "1", "a");
-  EXPECT_EQ(Lire("CONTRAT", "1"), "a");
-  EXPECT_EQ(refus([&] { panne.EnUnBloc([&] { panne.Put("CONTRAT", "2", "b"); }); }),
-            "EntreeSortie CONTRAT 2");
-  EXPECT_TRUE(panne.Erase("CONTRAT", "1"));
-  EXPECT_EQ(panne.Ecritures(), 3);
-  EXPECT_EQ(panne.Appels(), 4);
-  panne.EchouerAppel(1);
-  EXPECT_EQ(refus([&] { panne.Historique("CONTRAT", "1"); }), "EntreeSortie CONTRAT 1");
-  EXPECT_EQ(etat(panne), "");
 }
 
 // The plainest possible store, to compare with; its words are those of the verbs in essai.h.

@@ -160,23 +160,17 @@ TEST_F(Dommages, ADamagedTextNamesItsPageAndTheCheckGoesOn) {
 }
 
 TEST_F(Dommages, TheCheckWordsWhatSqliteFinds) {
-  const auto messages = [&] {
-    std::string tout;
-    for (const auto& d : Verifier()) tout += d.message + "\n";
-    return tout;
-  };
   const std::size_t taille = Octets().size();
-  Remplacer(Octets() + std::string(storage::kOctetsPage, '\0'));
-  EXPECT_EQ(messages(), "");  // beyond what the header announces
   // Pages that nothing leads to any more, two findings in one answer of SQLite.
-  Remplacer(Octets().substr(0, taille));
   Sql("CREATE TABLE perdue(x); INSERT INTO perdue VALUES(zeroblob(8190)); "
       "PRAGMA writable_schema = ON; DELETE FROM sqlite_schema WHERE name = 'perdue';");
   const auto page = [](std::size_t n) {
     return "La page " + std::to_string(n) + " du fichier est endommagée.\n";
   };
   const std::size_t pages = taille / storage::kOctetsPage;
-  EXPECT_EQ(messages(), page(pages + 1) + page(pages + 2));
+  std::string tout;
+  for (const auto& d : Verifier()) tout += d.message + "\n";
+  EXPECT_EQ(tout, page(pages + 1) + page(pages + 2));
   std::string message;
   Remplacer(Octets().substr(0, taille));
   EXPECT_EQ(refus([&] { SqliteStorage::Ouvrir(chemin_, poste_); }, &message), "Endommage");

@@ -40,47 +40,37 @@ class Ouverture : public testing::Test {
 };
 
 TEST_F(Ouverture, RefusesWhatIsNoDataFileOfThisVersion) {
+  constexpr long kTout = -1;  // the whole file; other places are written over in a sound one
+  constexpr long kPret = -2;  // as it stands
   // Places of SQLite's header: application 68, version 60, page size 16, all big-endian.
-  const std::string version2{"\0\0\0\x02", 4};
-  const std::string version0{"\0\0\0\0", 4};
   const struct {
     const char* nom;
-    std::function<void(const std::string&)> faire;
+    long lieu;
+    std::string octets;
     const char* attendu;
     const char* dit;
-  } cas[] = {
-      {"absent", [](const auto&) {}, "EntreeSortie", "pas de fichier à cet endroit"},
-      {"dossier", [](const auto& c) { fs::create_directory(c); }, "PasUneBase", "un dossier"},
-      {"tube", [](const auto& c) { mkfifo(c.c_str(), 0600); }, "PasUneBase", "pas un fichier"},
-      {"vide", [](const auto& c) { Ecrire(c, ""); }, "PasUneBase", "est vide"},
-      {"court", [](const auto& c) { Ecrire(c, "SQLite format 3"); }, "PasUneBase",
-       "pas un fichier"},
-      {"texte", [](const auto& c) { Ecrire(c, std::string(9000, 'x')); }, "PasUneBase",
-       "pas un fichier"},
-      {"autre", [&](const auto&) { Ecraser(Creer("autre"), 68, "ABCD"); }, "PasUneBase",
-       "autre programme"},
-      {"neuf", [&](const auto&) { Ecraser(Creer("neuf"), 60, version2); }, "VersionInconnue",
-       "Installez la dernière version"},
-      {"vieux", [&](const auto&) { Ecraser(Creer("vieux"), 60, version0); }, "VersionInconnue",
-       "Exportez"},
-      {"pages", [&](const auto&) { Ecraser(Creer("pages"), 16, "\x10"); }, "Endommage",
-       "endommagé"},
-      {"sous/un/fichier", [](const auto&) {}, "EntreeSortie", "pas de fichier à cet endroit"},
-  };
+  } cas[] = {{"absent", kPret, "", "EntreeSortie", "pas de fichier à cet endroit"},
+             {"sous/un/fichier", kPret, "", "EntreeSortie", "pas de fichier à cet endroit"},
+             {"dossier", kPret, "", "PasUneBase", "un dossier"},
+             {"tube", kPret, "", "PasUneBase", "pas un fichier"},
+             {"vide", kTout, "", "PasUneBase", "est vide"},
+             {"court", kTout, "SQLite format 3", "PasUneBase", "pas un fichier"},
+             {"texte", kTout, std::string(9000, 'x'), "PasUneBase", "pas un fichier"},
+             {"autre", 68, "ABCD", "PasUneBase", "autre programme"},
+             {"neuf", 60, {"\0\0\0\x02", 4}, "VersionInconnue", "Installez la dernière version"},
+             {"vieux", 60, {"\0\0\0\0", 4}, "VersionInconnue", "Exportez"},
+             {"pages", 16, "\x10", "Endommage", "endommagé"}};
   Ecrire(dossier_.Chemin("sous"), "x");
+  fs::create_directory(dossier_.Chemin("dossier"));
+  mkfifo(dossier_.Chemin("tube").c_str(), 0600);
   for (const auto& c : cas) {
     SCOPED_TRACE(c.nom);
     const std::string chemin = dossier_.Chemin(c.nom);
-    c.faire(chemin);
-    for (const bool lecture : {false, true}) {
+    if (c.lieu == kTout) Ecrire(chemin, c.octets);
+    if (c.lieu >= 0) Ecraser(Creer(c.nom), c.lieu, c.octets);
+    for (const auto ouvrir : {SqliteStorage::Ouvrir, SqliteStorage::OuvrirEnLecture}) {
       std::string message;
-      EXPECT_EQ(refus(
-                    [&] {
-                      lecture ? SqliteStorage::OuvrirEnLecture(chemin, poste_)
-                              : SqliteStorage::Ouvrir(chemin, poste_);
-                    },
-                    &message),
-                c.attendu);
+      EXPECT_EQ(refus([&] { ouvrir(chemin, poste_, {}); }, &message), c.attendu);
       EXPECT_NE(message.find("Ouverture de « " + chemin + " » impossible"), std::string::npos)
           << message;
       EXPECT_NE(message.find(c.dit), std::string::npos) << message;
@@ -92,13 +82,10 @@ TEST_F(Ouverture, CreatesOnlyWhereNothingStands) {
   const std::string present = Creer("present");
   const std::string vide = dossier_.Chemin("vide");
   Ecrire(vide, "");
-  const auto creer = [&](const std::string& chemin) {
-    return refus([&] { SqliteStorage::Creer(chemin, poste_); });
-  };
-  EXPECT_EQ(creer(present), "EntreeSortie");
-  EXPECT_EQ(creer(vide), "EntreeSortie");
-  EXPECT_EQ(creer(dossier_.Dossier().string()), "EntreeSortie");
-  EXPECT_EQ(creer(dossier_.Chemin("nulle/part")), "EntreeSortie");
+  for (const std::string& chemin :
+       {present, vide, dossier_.Dossier().string(), dossier_.Chemin("nulle/part")}) {
+    EXPECT_EQ(refus([&] { SqliteStorage::Creer(chemin, poste_); }), "EntreeSortie") << chemin;
+  }
   EXPECT_EQ(fs::file_size(vide), 0U);
   EXPECT_EQ(etat(*SqliteStorage::Ouvrir(present, poste_)), "CONTRAT[1=a]");
 }
