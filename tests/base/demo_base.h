@@ -89,6 +89,14 @@ inline std::string aidantDe(const std::string& cle) {
   return cle.substr(0, 5);
 }
 
+// Whether one of the carer's contracts, cancelled ones apart, is so.
+inline bool unContrat(const std::string& aidant, const std::function<bool(const Item&)>& est) {
+  const Fichier& contrats = base()[fichier::CONTRAT];
+  return std::any_of(contrats.begin(), contrats.end(), [&](const auto& article) {
+    return aidantDe(article.first) == aidant && !article.second.annule() && est(article.second);
+  });
+}
+
 // Runs over all contracts but the cancelled ones; the key traces a failure.
 inline void chaqueContrat(const std::function<void(const std::string&, const Item&)>& visite) {
   for (const auto& [cle, contrat] : base()[fichier::CONTRAT]) {

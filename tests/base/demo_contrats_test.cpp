@@ -14,11 +14,12 @@ namespace T = data::Tables;
 TEST(Demo, NumerosEtCompteurs) {
   std::map<std::string, std::set<std::string>> numeros;
   std::set<std::string> enCours;
+  int libres = 0, annules = 0;
   for (const auto& [cle, contrat] : base()[fichier::CONTRAT]) {
     numeros[aidantDe(cle)].insert(cle.substr(5));
+    annules += contrat.annule();
     if (!contrat.annule() && contrat.fin() >= Aujourdhui) enCours.insert(aidantDe(cle));
   }
-  int libres = 0;
   for (const auto& [code, aidant] : base()[fichier::CIVILAIDANT]) {
     std::set<std::string>& tous = numeros[code];
     EXPECT_EQ(aidant(data::CivilAidant::DernierNumero), *tous.rbegin()) << code;
@@ -31,7 +32,7 @@ TEST(Demo, NumerosEtCompteurs) {
     EXPECT_EQ(static_cast<int>(tous.size()), std::stoi(*tous.rbegin())) << code;
     EXPECT_FALSE(!aidant(data::CivilAidant::DateFin).empty() && enCours.contains(code)) << code;
   }
-  EXPECT_GT(libres, 0);
+  EXPECT_GT(std::min(libres, annules), 0);
 }
 
 TEST(Demo, AucunChevauchement) {
@@ -61,7 +62,7 @@ TEST(Demo, AucunChevauchement) {
                                              "IHP02 fini", "DHP02 fini"}));
 }
 
-// An attribute of a contract, all values, and the file whose keys it holds; or the item of TABLES
+// An attribute of a contract that is read nowhere below, all values, and the file whose keys it holds; or the item of TABLES
 // and the place of its codes or labels there.
 struct Reference {
   int attribut;
@@ -70,19 +71,14 @@ struct Reference {
   int place = T::Codes;
 };
 constexpr Reference References[] = {
-    {C::Convention, fichier::CONVENTIONCOL},
     {C::Association, fichier::ASSOCIATION},
     {C::CodePCS, fichier::PCS},
     {C::Grille, fichier::GRILLESCC},
-    {C::Profil, fichier::PROFIL},
     {C::Profil2, fichier::PROFIL},
     {C::ContratPrevoyance, fichier::CONTRATSPREV},
-    {C::Activites, fichier::ACTIVITES},
     {C::ActivitesAnterieures, fichier::ACTIVITES},
     {C::ChargeMutuelle, fichier::RUBCHARGE},
     {C::RubriqueCode, fichier::RUBSAISIE},
-    {C::AidantsRemplaces, fichier::CIVILAIDANT},
-    {C::AbsencesRemplacees, fichier::ABSENCESAIDANT},
     {C::Nature, fichier::TABLES, T::NatureContrat},
     {C::MotifFin, fichier::TABLES, T::FinContrat},
     {C::ZoneTransport, fichier::TABLES, T::CarteOrange},
@@ -90,12 +86,10 @@ constexpr Reference References[] = {
     {C::Qualification, fichier::TABLES, T::Qualif, T::QualifLibelles}};
 
 TEST(Demo, CodesDesContratsExistent) {
-  int annules = 0;
   for (const auto& [attribut, nom, table, place] : References) {
     SCOPED_TRACE(attribut);
     int trouves = 0;
     for (const auto& [cle, contrat] : base()[fichier::CONTRAT]) {
-      annules += contrat.annule();
       for (const std::string& code : contrat.valeurs(attribut)) {
         if (code.empty()) continue;
         if (table == nullptr) {
@@ -108,7 +102,6 @@ TEST(Demo, CodesDesContratsExistent) {
     }
     EXPECT_GT(trouves, 0);
   }
-  EXPECT_GT(annules, 0);
 }
 
 TEST(Demo, EmployeurProfilEtActivitesSuiventLaConvention) {
@@ -116,7 +109,6 @@ TEST(Demo, EmployeurProfilEtActivitesSuiventLaConvention) {
     const std::string employeur = contrat(C::Employeur), entite = contrat(C::Association);
     const bool mandat = contrat.particulier();
     if (mandat) {
-      EXPECT_TRUE(base().contient(fichier::CIVILAIDE, employeur)) << employeur;
       EXPECT_TRUE(base().contient(fichier::ELTSPARTEMP, employeur)) << employeur;
       const Item& inverse = base().lire(fichier::CONTRATINV, aidantDe(cle) + employeur);
       EXPECT_THAT(inverse.valeurs(data::ContratInv::Numeros), testing::Contains(cle.substr(5)));
@@ -188,19 +180,9 @@ TEST(Demo, GroupesParalleles) {
   EXPECT_GT(std::min({modules, avenants, partages}), 5);
 }
 
-// Whether the carer is under contract with that entity on that day.
-bool enService(const std::string& aidant, const std::string& entite, long jour) {
-  const Fichier& contrats = base()[fichier::CONTRAT];
-  return std::any_of(contrats.begin(), contrats.end(), [&](const auto& article) {
-    const auto& [cle, contrat] = article;
-    return aidantDe(cle) == aidant && !contrat.annule() && contrat(C::Association) == entite &&
-           contrat.debut() <= jour && contrat.fin() >= jour;
-  });
-}
-
 TEST(Demo, DatesLiensEtRemplacements) {
   constexpr std::string_view Indemnite = "11 12 14 15 20 25 26 33 38 65 91 92 93";
-  int liens = 0;
+  int liens = 0, remplaces = 0;
   chaqueContrat([&](const std::string& cle, const Item& contrat) {
     const long debut = contrat.debut(), fin = contrat.fin();
     const bool cdd = contrat(C::Type) == "D";
@@ -212,9 +194,13 @@ TEST(Demo, DatesLiensEtRemplacements) {
                             .empty());
     if (const std::string remplace = contrat(C::AidantsRemplaces); !remplace.empty()) {
       EXPECT_NE(remplace, aidantDe(cle));
-      EXPECT_TRUE(enService(remplace, contrat(C::Association), debut)) << remplace;
+      EXPECT_TRUE(unContrat(remplace, [&](const Item& sien) {
+        return sien(C::Association) == contrat(C::Association) && sien.debut() <= debut &&
+               sien.fin() >= debut;
+      })) << remplace;
       const Item& absence = base().lire(fichier::ABSENCESAIDANT, contrat(C::AbsencesRemplacees));
       EXPECT_GE(absence.nombre(data::AbsencesAidant::DateFin), debut);
+      ++remplaces;
     }
     if (const std::string avant = contrat(C::CongesReprisDe); !avant.empty()) {
       EXPECT_EQ(base().lire(fichier::CONTRAT, avant)(C::CongesReportesSur), cle);
@@ -242,7 +228,7 @@ TEST(Demo, DatesLiensEtRemplacements) {
               Indemnite.find(contrat(C::MotifFin)) == std::string_view::npos);
     EXPECT_EQ(contrat(C::DateSignatureRupture).empty(), contrat(C::MotifFin) != "43");
   });
-  EXPECT_GT(liens, 3);
+  EXPECT_GT(std::min(liens, remplaces), 3);
 }
 
 TEST(Demo, DecesRetraitesEtEssais) {
@@ -263,17 +249,14 @@ TEST(Demo, DecesRetraitesEtEssais) {
         EXPECT_TRUE(sien.annule() || autre <= cle) << autre;
       }
     }
-    if (motif == "34" || motif == "35") {
-      const long essai = contrat.nombre(C::PeriodeEssai);
-      EXPECT_LT(fin, contrat.debut() + essai * (contrat(C::EssaiRenouvelable) == "1" ? 2 : 1));
-    }
-    if (contrat.particulier()) {
-      const Item& employeur = base().lire(fichier::CIVILAIDE, contrat(C::Employeur));
-      const long deces = employeur.fin(data::CivilAide::DateFin);
-      EXPECT_TRUE(motif == "65" ? fin == deces : deces == SansFin || fin <= deces) << deces;
-    } else {
-      EXPECT_NE(motif, "65");
-    }
+    const long essai = contrat.nombre(C::PeriodeEssai);
+    const long finEssai = contrat.debut() + essai * (contrat(C::EssaiRenouvelable) == "1" ? 2 : 1);
+    EXPECT_FALSE((motif == "34" || motif == "35") && fin >= finEssai) << finEssai;
+    const long deces =
+        !contrat.particulier()
+            ? SansFin
+            : base().lire(fichier::CIVILAIDE, contrat(C::Employeur)).fin(data::CivilAide::DateFin);
+    EXPECT_TRUE(motif == "65" ? fin == deces : deces == SansFin || fin <= deces) << deces;
   });
   for (const char* motif : {"34", "35", "39", "65", "66"}) EXPECT_GT(vus[motif], 0) << motif;
 }

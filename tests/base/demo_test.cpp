@@ -84,7 +84,6 @@ TEST(Demo, BulletinsDansLaVieDuContrat) {
 
 TEST(Demo, PlanningDansLesContrats) {
   namespace T = data::TpsDetailsInterv;
-  const Fichier& contrats = base()[fichier::CONTRAT];
   for (const auto& [cle, intervention] : base()[fichier::TPSDETAILSINTERV]) {
     SCOPED_TRACE("TPSDETAILSINTERV " + cle);
     const std::string aide = cle.substr(5, 5), activite = cle.substr(15, 6);
@@ -96,11 +95,9 @@ TEST(Demo, PlanningDansLesContrats) {
     EXPECT_EQ(base().lire(fichier::CIVILAIDE, aide)(data::CivilAide::DateFin), "");
     const Item& ouvertes = base().lire(fichier::ACTIVITESAIDE, aide);
     EXPECT_THAT(ouvertes.valeurs(data::ActivitesAide::Codes), testing::Contains(activite));
-    EXPECT_TRUE(std::any_of(contrats.begin(), contrats.end(), [&](const auto& article) {
-      const Item& contrat = article.second;
+    EXPECT_TRUE(unContrat(aidantDe(cle), [&](const Item& contrat) {
       const std::vector<std::string> activites = contrat.valeurs(C::Activites);
-      return aidantDe(article.first) == aidantDe(cle) && !contrat.annule() &&
-             std::count(activites.begin(), activites.end(), activite) == 1 &&
+      return std::count(activites.begin(), activites.end(), activite) == 1 &&
              (!contrat.particulier() || contrat(C::Employeur) == aide) &&
              contrat.debut() <= debut && contrat.fin(C::DernierJourTravaille) >= fin;
     }));
@@ -125,13 +122,11 @@ TEST(Demo, TempsEffectifSolde) {
     SCOPED_TRACE("AIDANTTTE " + cle);
     long solde = 0;
     for (int n = 1; n <= item.DCount(T::Mois); ++n) {
+      const auto de = [&, n](int attribut) { return item.nombre(attribut, n); };
+      const long jours = 100 * (de(T::JoursMois) - de(T::JoursSamDim) - de(T::JoursFeries)) -
+                         de(T::JoursConges) - de(T::JoursMaladie) - de(T::JoursAutres);
+      solde += de(T::TempsEffectif) - de(T::HeuresParJour) * jours / 100 - de(T::Regularisation);
       EXPECT_EQ(item(T::Mois, n).substr(0, 4), cle.substr(8));
-      const long jours = 100 * (item.nombre(T::JoursMois, n) - item.nombre(T::JoursSamDim, n) -
-                                item.nombre(T::JoursFeries, n)) -
-                         item.nombre(T::JoursConges, n) - item.nombre(T::JoursMaladie, n) -
-                         item.nombre(T::JoursAutres, n);
-      solde += item.nombre(T::TempsEffectif, n) - item.nombre(T::HeuresParJour, n) * jours / 100 -
-               item.nombre(T::Regularisation, n);
       EXPECT_EQ(item.nombre(T::Solde, n), solde);
     }
   }
