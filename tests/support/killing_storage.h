@@ -1,7 +1,7 @@
 #pragma once
 // A store that kills its process, as a cut of the current would, next to the n-th write. Every
 // write that came back is noted in a file first, so that whoever outlives the process knows what
-// was acknowledged.
+// was acknowledged. A write inside a block is acknowledged when the block comes back.
 
 #include <unistd.h>
 
@@ -29,14 +29,12 @@ class KillingStorage : public data::Storage {
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
     Debuter();
     dessous_->Put(fichier, cle, texte);
-    journal_ << fichier << ' ' << cle << ' ' << texte << std::endl;
-    Finir();
+    Finir(std::string(fichier) + ' ' + std::string(cle) + ' ' + std::string(texte));
   }
   bool Erase(std::string_view fichier, std::string_view cle) override {
     Debuter();
     const bool present = dessous_->Erase(fichier, cle);
-    journal_ << fichier << ' ' << cle << std::endl;
-    Finir();
+    Finir(std::string(fichier) + ' ' + std::string(cle));
     return present;
   }
   void Scan(std::string_view fichier, const data::KeyRange& cles,
@@ -48,14 +46,25 @@ class KillingStorage : public data::Storage {
                                             std::string_view cle) override {
     return dessous_->Historique(fichier, cle);
   }
-  void EnUnBloc(const std::function<void()>& travail) override { dessous_->EnUnBloc(travail); }
+  void EnUnBloc(const std::function<void()>& travail) override {
+    enBloc_ = true;
+    dessous_->EnUnBloc(travail);
+    enBloc_ = false;
+    Acquitter();
+  }
 
  private:
   void Debuter() {
     ++ecritures_;
     if (quand_ == Quand::Avant) Tuer();
   }
-  void Finir() const {
+  void Finir(const std::string& ligne) {
+    enAttente_ += ligne + '\n';
+    if (!enBloc_) Acquitter();
+  }
+  void Acquitter() {
+    journal_ << enAttente_ << std::flush;
+    enAttente_.clear();
     if (quand_ == Quand::Apres) Tuer();
   }
   void Tuer() const {
@@ -67,6 +76,8 @@ class KillingStorage : public data::Storage {
   Quand quand_;
   std::ofstream journal_;
   int ecritures_ = 0;
+  bool enBloc_ = false;
+  std::string enAttente_;
 };
 
 }  // namespace support
