@@ -9,9 +9,9 @@
 // would lose its zero as a number. The writer gives one form for one content (the shortest, without
 // empty ends), so that writing what was read from the writer gives the same bytes.
 //
-// What the reader refuses, it refuses with the place: invalid JSON, invalid UTF-8, a separator of an
-// item or U+0000 inside a text, a member that is unknown, missing or given twice, and anything else
-// than texts in the item. Other control characters come as JSON escapes and are content.
+// What the reader refuses, it refuses with the place: invalid JSON, invalid UTF-8, a separator of
+// an item or U+0000 inside a text, a member that is unknown, missing or given twice, and anything
+// else than texts in the item. Other control characters come as JSON escapes and are content.
 
 #include <stdexcept>
 #include <string>

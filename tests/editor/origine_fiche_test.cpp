@@ -40,8 +40,8 @@ class Fiche : public essai::Editeur {
   void debuter(const char* debut) { remplir(o().Txt_DatDebContrat, debut); }
 };
 
-// Acts: agreement "c", entity "e", fixed term to "t", start "d", signature "s", trial "p", payslip of
-// a period computed "k" or not any more "K"; "+" for a new contract.
+// Acts: agreement "c", entity "e", fixed term to "t", start "d", signature "s", trial "p", payslip
+// of a period computed "k" or not any more "K"; "+" for a new contract.
 TEST_F(Fiche, VerifieDansLOrdre) {
   const char* const calcule =
       "Impossible de modifier la date de début : un bulletin a déjà été calculé pour ce contrat.";
