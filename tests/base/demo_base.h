@@ -24,7 +24,6 @@ namespace fichier = data::fichier;
 
 inline constexpr long Aujourdhui = 21511;  // 22/11/2026
 inline constexpr long SansFin = 99999;
-
 // Any record; the words about contracts are for contracts.
 class Item : public CItem {
  public:
@@ -62,12 +61,9 @@ class Base {
     const auto place = fichiers.find(std::string(nom));
     return place == fichiers.end() ? vide : place->second;
   }
-  bool contient(std::string_view nom, const std::string& cle) const {
-    return (*this)[nom].contains(cle);
-  }
-  const Item& lire(std::string_view nom, const std::string& cle) const {
-    return (*this)[nom].at(cle);
-  }
+  using Cle = std::string;
+  bool contient(std::string_view nom, const Cle& c) const { return (*this)[nom].contains(c); }
+  const Item& lire(std::string_view nom, const Cle& c) const { return (*this)[nom].at(c); }
   // A file as one text, up to a key.
   std::string empreinte(std::string_view nom, std::string_view avant = "~") const {
     std::string texte;
