@@ -143,23 +143,18 @@ TEST_F(CommandesTest, SelectDonneUneRangeeParLigne) {
   storage::SqliteStorage::Ouvrir(base_, data::PosteFixe(0))
       ->Put("PCS", "12", "a\tb\nc\r\x01\x7F\xC2\x85");
   const struct {
-    std::vector<std::string> args;
-    const char* rangees;
-  } cas[] = {
-      {{"SSELECT CONTRAT PAR-DECR 0"}, "00001002\n00001001\n"},
-      {{"SSELECT CONTRAT", "0 3 4 9"}, "00001001\tv1¦s1¦s2\tx¦y\t\n00001002\t\t\t\n"},
-      {{"SSELECT CONTRAT", "9"}, "\n\n"},
-      {{"SSELECT CIVILAIDANT AVEC 2 = \"Lef]\"", "4"}, "a\\\\b\\¦c\n"},
-      {{"SSELECT PCS AVEC 0 = \"12\"", "1"}, "a\\tb\\nc\\r\\u0001\\u007F\\u0085\n"},
-      {{"SSELECT PCS AVEC 0 = \"13\"", "1"}, ""},
-      {{"SSELECT CONTRAT", "0 4 9", "--json"},
-       "[\"00001001\",[\"x\",\"y\"],\"\"]\n[\"00001002\",\"\",\"\"]\n"},
-  };
+    const char *question, *champs, *rangees;
+  } cas[] = {{"SSELECT CONTRAT", "0 3 4 9", "00001001\tv1¦s1¦s2\tx¦y\t\n00001002\t\t\t\n"},
+             {"SSELECT CONTRAT", "9", "\n\n"},
+             {"SSELECT CIVILAIDANT AVEC 2 = \"Lef]\"", "4", "a\\\\b\\¦c\n"},
+             {"SSELECT PCS AVEC 0 = \"12\"", "1", "a\\tb\\nc\\r\\u0001\\u007F\\u0085\n"},
+             {"SSELECT PCS AVEC 0 = \"13\"", "1", ""}};
   for (const auto& c : cas) {
-    std::vector<std::string> args = c.args;
-    args.insert(args.begin(), "select");
-    EXPECT_EQ(Sortie(args), c.rangees) << c.args[0];
+    EXPECT_EQ(Sortie({"select", c.question, c.champs}), c.rangees) << c.question;
   }
+  EXPECT_EQ(Sortie({"select", "SSELECT CONTRAT PAR-DECR 0"}), "00001002\n00001001\n");
+  EXPECT_EQ(Sortie({"select", "SSELECT CONTRAT", "0 4 9", "--json"}),
+            "[\"00001001\",[\"x\",\"y\"],\"\"]\n[\"00001002\",\"\",\"\"]\n");
   EXPECT_EQ(erreurs_, "");
   // A name that no record bears is told from a question without an answer.
   EXPECT_EQ(Sortie({"select", "SSELECT PCT"}), "");

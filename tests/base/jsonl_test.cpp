@@ -107,17 +107,6 @@ TEST(ArticleJson, EcritLaFormeLaPlusCourte) {
   EXPECT_EQ(lecture(R"( {"item":["a"],"cle":"1", "fichier":"PCS"} )"), avecItem(R"(["a"])"));
 }
 
-TEST(ArticleJson, LItemSeulPeutTenirSurDesLignes) {
-  EXPECT_EQ(data::CItem(base::lireItem("[\n \"a\",\r\n [\"b\",\"c\"]\n]"))(2, 2), "c");
-  try {
-    base::lireItem("[\n \"é\", 3]");
-    FAIL();
-  } catch (const RefusJson& refus) {
-    EXPECT_EQ(refus.Ligne(), 2);
-    EXPECT_EQ(refus.Colonne(), 7);
-  }
-}
-
 // The keys that come out of the reader, "!line:column" for a refused line.
 std::string cles(const std::string& entree, std::size_t limite) {
   std::istringstream flux(entree);
@@ -142,6 +131,14 @@ TEST(LecteurJsonl, CompteLesLignesEtReprendApresUnRefus) {
   EXPECT_EQ(cles("\xEF\xBB\xBF" + a + "\r\n\r\n" + b, 100), "a@1 b@3 ");
   EXPECT_EQ(cles(a + "\nx\n" + b + "\n", 100), "a@1 !2:1 b@3 ");
   EXPECT_EQ(cles(a + "\n" + a + " \n" + b, 37), "a@1 !2:38 b@3 ");
+  // An item alone may span lines.
+  EXPECT_EQ(data::CItem(base::lireItem("[\n \"a\",\r\n [\"b\",\"c\"]\n]"))(2, 2), "c");
+  try {
+    base::lireItem("[\n \"é\", 3]");
+    FAIL();
+  } catch (const RefusJson& refus) {
+    EXPECT_EQ(std::to_string(refus.Ligne()) + ":" + std::to_string(refus.Colonne()), "2:7");
+  }
 }
 
 TEST(LecteurJsonl, LitUneLigneDePlusieursMegaoctets) {

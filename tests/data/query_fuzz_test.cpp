@@ -79,9 +79,6 @@ TEST_F(QueryFuzzTest, MutatedQueriesRunOrAreRefused) {
     } catch (const StoreError& error) {
       ++refused;
       ASSERT_EQ(error.Numero(), NumeroErreur::Question) << seed << ' ' << text;
-      std::string quoted = text;
-      for (char& c : quoted) c = static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
-      ASSERT_NE(std::string_view(error.what()).find(quoted), std::string_view::npos) << text;
     }
   }
   EXPECT_GT(refused, runs / 10);

@@ -71,8 +71,7 @@ TEST_F(RoutinesTest, ReplacementsOfASeries) {
   EXPECT_EQ(call({intervention, "21252", "21260", "REMPL1"}), "");
   EXPECT_EQ(call({"00001", "21252", "21260", "AFAIRE"}), "REMPL2");
 
-  put("TPSPARAM", "1", {});
-  CItem parameters = db_.OpenFile("TPSPARAM").Read("1");
+  CItem parameters = db_.OpenFile("TPSPARAM").NewItem("1");
   parameters.Set(20, "2");
   parameters.DBWrite();
   EXPECT_EQ(call({intervention, "21247", "21247", "REMPL2"}),
@@ -129,6 +128,20 @@ TEST_F(RoutinesTest, FilesReadAndWrite) {
   EXPECT_EQ(file.Read("FR")(1), "France");
   fresh.DBWrite();
   EXPECT_TRUE(file.Lire("FR", item) && item.Vide());
+  // A copy writes under the same key, a changed text too; an item of no file cannot.
+  fresh.SetText("Gaule");
+  const CItem copy = fresh;
+  fresh.Set(1, "Francie");
+  fresh.DBWriteU();
+  EXPECT_EQ(file.Read("FR")(1) + copy(0, 1) + copy(0, 2), "FrancieFR");
+  copy.DBWrite();
+  EXPECT_EQ(file.Read("FR")(1), "Gaule");
+  try {
+    CItem("a").DBWrite();
+    ADD_FAILURE() << "an unattached item was written";
+  } catch (const StoreError& error) {
+    EXPECT_EQ(error.Numero(), NumeroErreur::NonAttache);
+  }
   file.DeleteItem("FR");
   EXPECT_FALSE(file.Lire("FR", item));
 
