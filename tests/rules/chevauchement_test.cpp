@@ -36,11 +36,6 @@ class Chevauchement : public ::testing::Test {
     item.Set(data::Contrat::Annule, annule);
     item.DBWrite();
   }
-  void effacer() {
-    for (const char* numero : {"001", "002", "003", "004"}) {
-      db.OpenFile("CONTRAT").DeleteItem(std::string("00001") + numero);
-    }
-  }
   static Portee portee(const Cas& cas, const char* numero = "") {
     return {"00001", numero, cas.convention, cas.association, cas.employeur};
   }
@@ -54,7 +49,13 @@ class Chevauchement : public ::testing::Test {
   data::Db db{std::make_shared<storage::MemoryStorage>(poste)};
 };
 
-constexpr Cas Ouvert{"01", "001", "001001", "01/01/2026", ""};
+constexpr Cas entite(const char* debut, const char* fin = "") {
+  return {"01", "001", "001001", debut, fin};
+}
+constexpr Cas particulier(const char* employeur, const char* debut) {
+  return {"02", "001", employeur, debut, ""};
+}
+constexpr Cas Ouvert = entite("01/01/2026"), Trimestre = entite("01/01/2026", "31/03/2026");
 
 TEST_F(Chevauchement, DeuxContratsNeCouvrentJamaisLeMemeJour) {
   const struct {
@@ -63,47 +64,25 @@ TEST_F(Chevauchement, DeuxContratsNeCouvrentJamaisLeMemeJour) {
     Cas nouveau;
     bool conflit;
   } cas[] = {
-      {"same last and first day",
-       {"01", "001", "001001", "01/01/2026", "31/03/2026"},
-       {"01", "001", "001001", "31/03/2026", ""},
-       true},
-      {"the same pair entered the other way round",
-       {"01", "001", "001001", "31/03/2026", ""},
-       {"01", "001", "001001", "01/01/2026", "31/03/2026"},
-       true},
-      {"next day",
-       {"01", "001", "001001", "01/01/2026", "31/03/2026"},
-       {"01", "001", "001001", "01/04/2026", ""},
-       false},
-      {"day before",
-       {"01", "001", "001001", "01/04/2026", ""},
-       {"01", "001", "001001", "01/01/2026", "31/03/2026"},
-       false},
-      {"two open-ended", Ouvert, {"01", "001", "001001", "01/06/2026", ""}, true},
+      {"same last and first day", Trimestre, entite("31/03/2026"), true},
+      {"the same pair entered the other way round", entite("31/03/2026"), Trimestre, true},
+      {"next day", Trimestre, entite("01/04/2026"), false},
+      {"day before", entite("01/04/2026"), Trimestre, false},
+      {"two open-ended", Ouvert, entite("01/06/2026"), true},
       {"inside",
-       {"01", "001", "001001", "01/01/2026", "31/12/2026"},
+       entite("01/01/2026", "31/12/2026"),
        {"03", "001", "001002", "01/05/2026", "31/05/2026"},
        true},
       {"another entity", Ouvert, {"01", "002", "002001", "01/06/2026", ""}, false},
-      {"private employer beside the entity",
-       Ouvert,
-       {"02", "001", "00007", "01/06/2026", ""},
+      {"private employer beside the entity", Ouvert, particulier("00007", "01/06/2026"), false},
+      {"entity beside a private employer", particulier("00007", "01/01/2026"), entite("01/06/2026"),
        false},
-      {"entity beside a private employer",
-       {"02", "001", "00007", "01/01/2026", ""},
-       {"01", "001", "001001", "01/06/2026", ""},
-       false},
-      {"two private employers",
-       {"02", "001", "00007", "01/01/2026", ""},
-       {"02", "001", "00008", "01/06/2026", ""},
-       false},
-      {"the same private employer twice",
-       {"02", "001", "00007", "01/01/2026", ""},
-       {"02", "001", "00007", "01/06/2026", ""},
-       true},
+      {"two private employers", particulier("00007", "01/01/2026"),
+       particulier("00008", "01/06/2026"), false},
+      {"the same private employer twice", particulier("00007", "01/01/2026"),
+       particulier("00007", "01/06/2026"), true},
   };
   for (const auto& [nom, present, nouveau, conflit] : cas) {
-    effacer();
     ecrire("001", present);
     EXPECT_EQ(rules::VerifContratExist(db, portee(nouveau), dates(nouveau)).conflit.has_value(),
               conflit)
@@ -121,7 +100,7 @@ TEST_F(Chevauchement, LeContratLuiMemeNeCompteJamais) {
 }
 
 TEST_F(Chevauchement, MessageEtVoisins) {
-  ecrire("001", {"01", "001", "001001", "01/01/2025", "31/01/2025"});
+  ecrire("001", entite("01/01/2025", "31/01/2025"));
   ecrire("002", {"01", "001", "001002", "01/03/2025", "31/03/2025"});
   ecrire("003", {"01", "001", "001003", "01/09/2025", "30/09/2025"});
   ecrire("004", {"01", "001", "001004", "01/12/2025", ""});
@@ -167,41 +146,20 @@ TEST_F(Chevauchement, DateDeFinChangeeOuSupprimee) {
     Cas contrat;
     std::string texte;
   } cas[] = {
-      {"none left with an end",
-       {"01", "001", "001001", "01/01/2020", ""},
-       {"01", "001", "001001", "01/01/2026", ""},
-       suppression + "01/01/2020       "},
-      {"a later one with an end",
-       {"01", "001", "001001", "01/06/2026", "30/06/2026"},
-       {"01", "001", "001001", "01/01/2026", ""},
+      {"none left with an end", entite("01/01/2020"), Ouvert, suppression + "01/01/2020       "},
+      {"a later one with an end", entite("01/06/2026", "30/06/2026"), Ouvert,
        suppression + "01/06/2026       "},
-      {"an earlier one that ended",
-       {"01", "001", "001001", "01/01/2025", "31/12/2025"},
-       {"01", "001", "001001", "01/01/2026", ""},
-       ""},
-      {"end after an open one's start",
-       {"01", "001", "001001", "01/06/2026", ""},
-       {"01", "001", "001001", "01/01/2026", "01/06/2026"},
+      {"an earlier one that ended", entite("01/01/2025", "31/12/2025"), Ouvert, ""},
+      {"end after an open one's start", entite("01/06/2026"), entite("01/01/2026", "01/06/2026"),
        modification + "01/06/2026       "},
-      {"end before an open one's start",
-       {"01", "001", "001001", "01/06/2026", ""},
-       {"01", "001", "001001", "01/01/2026", "31/05/2026"},
+      {"end before an open one's start", entite("01/06/2026"), entite("01/01/2026", "31/05/2026"),
        ""},
-      {"common days",
-       {"01", "001", "001001", "01/06/2026", "30/06/2026"},
-       {"01", "001", "001001", "01/01/2026", "15/06/2026"},
+      {"common days", entite("01/06/2026", "30/06/2026"), entite("01/01/2026", "15/06/2026"),
        modification + "01/06/2026       30/06/2026"},
-      {"after it",
-       {"01", "001", "001001", "01/06/2026", "30/06/2026"},
-       {"01", "001", "001001", "01/07/2026", "31/07/2026"},
-       ""},
-      {"other scope",
-       {"02", "001", "00007", "01/01/2020", ""},
-       {"01", "001", "001001", "01/01/2026", ""},
-       ""},
+      {"after it", entite("01/06/2026", "30/06/2026"), entite("01/07/2026", "31/07/2026"), ""},
+      {"other scope", particulier("00007", "01/01/2020"), Ouvert, ""},
   };
   for (const auto& [nom, autre, contrat, texte] : cas) {
-    effacer();
     ecrire("001", autre);
     const auto refus = rules::Verif_SuppDateFin(db, portee(contrat, "002"), dates(contrat));
     EXPECT_EQ(refus ? refus->texte : "", texte) << nom;
