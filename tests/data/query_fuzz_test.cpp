@@ -18,8 +18,6 @@ constexpr unsigned seed = 20260302;
 constexpr const char* seeds[] = {
     R"(SSELECT CONTRAT AVEC @ID = "1]" AND AVEC 7 <= "20000" AND AVEC 8 >= "20000" OR = "")",
     R"(SSELECT CONTRAT AVEC 0 = "1]" AND <> "12" AND AVEC 1 <> "02" PAR-DECR 8)",
-    R"(SELECT CONTRAT AVEC 116 = "12" OR AVEC 117 = "12")",
-    R"(SSELECT PCS AVEC 0 < "100" PAR 1)",
     R"(SSELECT DETAILINTER AVEC 0 = "12]" AND > "[2026")",
     R"(SSELECT CIVILAIDE AVEC NomPrenomAide = "É]" AND AVEC CodeAideElts AND SANS 43 PAR 2 PAR 3)",
     R"(SELECT TPSDETAILSINTERV = "1]" AVEC 1 > "2" OR = "" AND AVEC CodeActInterv = "0]" AND AVEC TypeActDetailInterv # "M" PAR JourInterv PAR HeureInterv)",

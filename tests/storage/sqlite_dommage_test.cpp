@@ -124,8 +124,7 @@ TEST_F(Dommages, AnyFlippedByteIsNoticed) {
 TEST_F(Dommages, AFileCutShortIsNoticed) {
   const std::string sain = Octets();
   for (const std::size_t manque :
-       {std::size_t{1}, std::size_t{8}, std::size_t{8191}, std::size_t{8192}, std::size_t{8193},
-        sain.size() - 8192, sain.size() - 100, sain.size() - 99, sain.size()}) {
+       {std::size_t{1}, std::size_t{8192}, std::size_t{8193}, sain.size() - 100, sain.size()}) {
     SCOPED_TRACE(manque);
     Remplacer(sain.substr(0, sain.size() - manque));
     EXPECT_GT(Interroger(), 0);
