@@ -1,6 +1,5 @@
 // The contracts of the demonstration data: what the screens rely on, over every one of them.
 
-#include <set>
 #include <tuple>
 
 #include "base/demo_base.h"
@@ -12,40 +11,13 @@ namespace {
 using namespace essai_demo;
 namespace T = data::Tables;
 
-TEST(Demo, NumerosEtCompteurs) {
-  std::map<std::string, std::set<std::string>> numeros;
-  std::set<std::string> enCours;
-  int libres = 0, annules = 0;
-  for (const auto& [cle, contrat] : base()[fichier::CONTRAT]) {
-    numeros[aidantDe(cle)].insert(cle.substr(5));
-    annules += contrat.annule();
-    if (!contrat.annule() && contrat.fin() >= Aujourdhui) enCours.insert(aidantDe(cle));
-  }
-  for (const auto& [code, aidant] : base()[fichier::CIVILAIDANT]) {
-    std::set<std::string>& tous = numeros[code];
-    EXPECT_EQ(aidant(data::CivilAidant::DernierNumero), *tous.rbegin()) << code;
-    for (const std::string& libre : aidant.valeurs(data::CivilAidant::NumerosLibres)) {
-      EXPECT_TRUE(tous.insert(libre).second) << code << libre << " is free and used";
-      ++libres;
-    }
-    // From 001 to the highest, each is a record or given back.
-    EXPECT_EQ(*tous.begin(), "001") << code;
-    EXPECT_EQ(static_cast<int>(tous.size()), std::stoi(*tous.rbegin())) << code;
-    EXPECT_FALSE(!aidant(data::CivilAidant::DateFin).empty() && enCours.contains(code)) << code;
-  }
-  EXPECT_GT(std::min(libres, annules), 0);
-}
-
 TEST(Demo, AucunChevauchement) {
   // Contracts by carer, entity and private employer; absences by carer. Nothing shares a day.
   std::map<std::string, std::vector<std::pair<long, long>>> portees;
-  std::set<std::string> genres;
   chaqueContrat([&](const std::string& cle, const Item& contrat) {
     const std::string employeur = contrat.particulier() ? "02" + contrat(C::Employeur) : "";
     const std::string portee = aidantDe(cle) + contrat(C::Association) + employeur;
     portees[portee].emplace_back(contrat.debut(), contrat.fin());
-    genres.insert(contrat(C::Type) + contrat(C::Salaire) + contrat(C::Statut) +
-                  employeur.substr(0, 2) + (contrat.fin() == SansFin ? "" : " fini"));
   });
   for (const auto& [cle, absence] : base()[fichier::ABSENCESAIDANT]) {
     const long fin = absence.nombre(data::AbsencesAidant::DateFin);
@@ -59,12 +31,10 @@ TEST(Demo, AucunChevauchement) {
       libre = fin + 1;
     }
   }
-  EXPECT_THAT(genres, testing::IsSupersetOf({"IHP", "IMP", "IMA", "DHP fini", "DMP fini", "IHP02",
-                                             "IHP02 fini", "DHP02 fini"}));
 }
 
-// An attribute of a contract that is read nowhere below, all values, and the file whose keys it holds; or the item of TABLES
-// and the place of its codes or labels there.
+// An attribute of a contract that is read nowhere below, all values, and the file whose keys it
+// holds; or the item of TABLES and the place of its codes or labels there.
 using Reference = std::tuple<int, std::string_view, const char*, int>;
 constexpr Reference References[] = {
     {C::Association, fichier::ASSOCIATION, nullptr, 0},
@@ -121,16 +91,8 @@ TEST(Demo, EmployeurProfilEtActivitesSuiventLaConvention) {
       EXPECT_TRUE(code.starts_with(entite)) << code;
       EXPECT_EQ(base().lire(fichier::ACTIVITES, code)(data::Activites::Genre) == "M", mandat);
     }
-    for (const std::string& grille : contrat.valeurs(C::Grille)) {
-      EXPECT_TRUE(grille.empty() || grille.starts_with(contrat(C::Convention))) << grille;
-    }
     const std::string index = "CONTRAT" + entite + contrat(C::Convention);
     EXPECT_TRUE(base().contient(index, cle) && base().contient(fichier::LIENCONTRAT, index));
-    EXPECT_TRUE(contrat(C::ModePaiement) != "1" ||
-                base().lire(fichier::RIBAIDANT, aidantDe(cle))(data::RibAidant::Compte) != "");
-    const Item& convention = base().lire(fichier::CONVENTIONCOL, contrat(C::Convention));
-    EXPECT_FALSE(convention(data::ConventionCol::PrevoyanceObligatoire) == "1" &&
-                 contrat(C::ContratPrevoyance).empty());
   });
 }
 
@@ -142,7 +104,7 @@ TEST(Demo, GroupesParalleles) {
                                       {89, 90, 91, 92},
                                       {87, 88},
                                       {105, 106, 107}};
-  int modules = 0, avenants = 0, partages = 0;
+  int avenants = 0, partages = 0;
   chaqueContrat([&](const std::string& cle, const Item& contrat) {
     for (const std::vector<int>& groupe : Groupes) {
       for (const int a : groupe) EXPECT_EQ(contrat.DCount(a), contrat.DCount(groupe[0])) << a;
@@ -166,17 +128,11 @@ TEST(Demo, GroupesParalleles) {
       ++partages;
     }
     EXPECT_EQ(contrat(C::Lissage, 1) == "1", contrat(C::Salaire) + contrat(C::Statut) == "MP");
-    for (int n = 1; n <= contrat.DCount(C::SuiviPeriode); ++n, ++modules) {
-      EXPECT_EQ(contrat.nombre(C::SuiviDifference, n) + contrat.nombre(C::SuiviHeures, n),
-                contrat.nombre(C::SuiviReel, n) + contrat.nombre(C::SuiviAbsences, n));
-      EXPECT_LE(contrat(C::SuiviPeriode, n), contrat(C::PeriodeTraitee));
-    }
   });
-  EXPECT_GT(std::min({modules, avenants, partages}), 5);
+  EXPECT_GT(std::min(avenants, partages), 5);
 }
 
 TEST(Demo, DatesLiensEtRemplacements) {
-  constexpr std::string_view Indemnite = "11 12 14 15 20 25 26 33 38 65 91 92 93";
   int liens = 0, remplaces = 0;
   chaqueContrat([&](const std::string& cle, const Item& contrat) {
     const long debut = contrat.debut(), fin = contrat.fin();
@@ -197,11 +153,8 @@ TEST(Demo, DatesLiensEtRemplacements) {
       EXPECT_GE(absence.nombre(data::AbsencesAidant::DateFin), debut);
       ++remplaces;
     }
-    const std::string avant = contrat(C::CongesReprisDe);
-    EXPECT_TRUE(avant == "" || base().lire(fichier::CONTRAT, avant)(C::CongesReportesSur) == cle);
     if (const std::string apres = contrat(C::CongesReportesSur); !apres.empty()) {
       const Item& suite = base().lire(fichier::CONTRAT, apres);
-      EXPECT_EQ(suite(C::CongesReprisDe), cle);
       EXPECT_EQ(contrat(C::Type) + suite(C::Type) + suite(C::Employeur),
                 "DI" + contrat(C::Employeur));
       EXPECT_TRUE(suite.debut() > fin && suite.debut() <= fin + 3) << suite.debut();
@@ -210,48 +163,8 @@ TEST(Demo, DatesLiensEtRemplacements) {
     }
     EXPECT_EQ(contrat(C::MotifFin) == "", fin == SansFin);
     EXPECT_EQ(contrat(C::DernierBulletin) == "", fin == SansFin);
-    if (fin == SansFin) return;
-    for (const int attribut : {C::DateNotification, C::DernierJourTravaille}) {
-      EXPECT_TRUE(debut <= contrat.nombre(attribut) && contrat.nombre(attribut) <= fin);
-    }
-    EXPECT_EQ(contrat(C::DernierBulletin).size(), 6U);
-    EXPECT_LE(contrat(C::DernierBulletin), data::periodeDe(fin));
-    EXPECT_GE(contrat(C::DernierBulletin), data::periodeDe(debut));
-    EXPECT_EQ(contrat(C::CalculLicenciement).empty(),
-              Indemnite.find(contrat(C::MotifFin)) == std::string_view::npos);
-    EXPECT_EQ(contrat(C::DateSignatureRupture).empty(), contrat(C::MotifFin) != "43");
   });
   EXPECT_GT(std::min(liens, remplaces), 3);
-}
-
-TEST(Demo, DecesRetraitesEtEssais) {
-  // The age in days that a reason asks for, with the fewest leap days that 62 or 67 years have.
-  const std::map<std::string, long> Derniers = {{"66", 0}, {"39", 22645}, {"38", 24471}};
-  std::map<std::string, int> vus;
-  chaqueContrat([&](const std::string& cle, const Item& contrat) {
-    const std::string motif = contrat(C::MotifFin);
-    const Item& aidant = base().lire(fichier::CIVILAIDANT, aidantDe(cle));
-    const long fin = contrat.fin();
-    ++vus[motif];
-    if (const auto dernier = Derniers.find(motif); dernier != Derniers.end()) {
-      EXPECT_GE(fin - aidant.nombre(data::CivilAidant::DateNaissance), dernier->second);
-      EXPECT_TRUE(motif != "66" || aidant.fin(data::CivilAidant::DateFin) == fin);
-      for (const auto& [autre, sien] : base()[fichier::CONTRAT]) {
-        if (aidantDe(autre) != aidantDe(cle)) continue;
-        const bool avant = sien.annule() || (autre <= cle && sien.fin() <= fin);
-        EXPECT_TRUE(avant && sien.debut() <= fin) << autre;
-      }
-    }
-    const long essai = contrat.nombre(C::PeriodeEssai);
-    const long finEssai = contrat.debut() + essai * (contrat(C::EssaiRenouvelable) == "1" ? 2 : 1);
-    EXPECT_FALSE((motif == "34" || motif == "35") && fin >= finEssai) << finEssai;
-    const long deces =
-        !contrat.particulier()
-            ? SansFin
-            : base().lire(fichier::CIVILAIDE, contrat(C::Employeur)).fin(data::CivilAide::DateFin);
-    EXPECT_TRUE(motif == "65" ? fin == deces : deces == SansFin || fin <= deces) << deces;
-  });
-  for (const char* motif : {"34", "35", "39", "65", "66"}) EXPECT_GT(vus[motif], 0) << motif;
 }
 
 }  // namespace

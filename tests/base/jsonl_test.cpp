@@ -42,40 +42,31 @@ TEST(ArticleJson, RefuseAvecPlaceEtRaison) {
   } cas[] = {
       // JSON that is none.
       {R"({"fichier":"PCS","cle":"1","item":["a"^)", "JSON incomplet"},
-      {R"({"fichier":"PCS","cle":"1","item":["é^)", "JSON incomplet"},
       {"^", "JSON incomplet"},
       {avecItem(R"(["a",^])"), "JSON invalide"},
-      {avecItem(R"(["a" ^"b"])"), "JSON invalide"},
-      {avecItem(R"(["é",^tru])"), "JSON invalide"},
       {avecItem(R"(["é\^x"])"), "JSON invalide"},
       {R"({"fichier" ^12})", "JSON invalide"},
       {avecItem("[]") + " ^é", "JSON invalide"},
       // Another shape.
       {R"(^["a"])", "un enregistrement est un objet"},
-      {R"(^12)", "un enregistrement est un objet"},
       {avecItem(R"(^"a")"), "un article est le tableau"},
-      {avecItem("^12"), "un article est le tableau"},
       {avecItem(R"(["a",^{"b":"c"}])"), "objet à l'intérieur"},
       {avecItem(R"([["a",["b",^["c"]]]])"), "tableau trop profond"},
       {avecItem(R"(["é",^-3.5])"), "nombre au lieu d'un texte"},
       {avecItem("[^null]"), "« true », « false » et « null »"},
-      {R"({"fichier":"PCS","cle":^12,"item":[]})", "nombre au lieu d'un texte"},
       {R"({"fichier":^["PCS"],"cle":"1","item":[]})", "« fichier » doit être un texte"},
       // Members.
       {R"({"fichier":"PCS","cle":"1","item":[], ^"autre":1})", "membre inconnu « autre »"},
       {R"({"fichier":"PCS","item":[]^})", "il manque le membre « cle »"},
       {R"({"fichier":"PCS","cle":"1","item":[],^"cle":"2"})", "membre « cle » donné deux fois"},
       {R"({"fichier": ^"pcs","cle":"1","item":[]})", "Le nom de fichier « pcs »"},
-      {R"({"fichier":^"","cle":"1","item":[]})", "Le nom de fichier"},
       {R"({"cle" : ^"","fichier":"PCS","item":[]})", "Un article du fichier PCS"},
       // Characters that no text may hold.
       {avecItem("[\"é^\x1e\"]"), "séparateur U+001E"},
       {avecItem("[\"é^\tb\"]"), "caractère de contrôle U+0009 ; dans un texte il s'écrit \\u0009"},
       {avecItem(R"(["é^\u001Db"])"), "séparateur U+001D"},
-      {avecItem(R"(["a\\^\u0000"])"), "caractère U+0000"},
       {avecItem("[]") + "^" + std::string(1, '\0') + "x", "caractère U+0000"},
       {R"({"fichier":"PCS","cle":^"1\n","item":[]})", "La clé « 1? »"},
-      {avecItem("[\"é^\xFF\"]"), "octet qui n'est pas de l'UTF-8"},
       {avecItem("[]") + "^\xE2\x82", "octet qui n'est pas de l'UTF-8"},
   };
   for (const auto& c : cas) {
@@ -92,11 +83,8 @@ TEST(ArticleJson, EcritLaFormeLaPlusCourte) {
     const char* item;
     const char* ecrit;
   } cas[] = {
-      {"[]", "[]"},
       {R"(["a","",""])", R"(["a"])"},
-      {R"(["","a"])", R"(["","a"])"},
       {R"([[],["",""],[["",""]],"b"])", R"(["","","","b"])"},
-      {R"([["a"],[["b"]]])", R"(["a","b"])"},
       {R"([["a","",["b","","c",""],""]])", R"([["a","",["b","","c"]]])"},
       {R"([[["a","b"]]])", R"([[["a","b"]]])"},
       {R"([["",["","a"]],[["b"],"c"]])", R"([["",["","a"]],["b","c"]])"},
@@ -126,7 +114,6 @@ std::string cles(const std::string& entree, std::size_t limite) {
 TEST(LecteurJsonl, CompteLesLignesEtReprendApresUnRefus) {
   const std::string a = R"({"fichier":"PCS","cle":"a","item":[]})";  // 37 bytes
   const std::string b = R"({"fichier":"PCS","cle":"b","item":[]})";
-  EXPECT_EQ(cles("", 100), "");
   EXPECT_EQ(cles("\n \t\r\n", 100), "");
   EXPECT_EQ(cles("\xEF\xBB\xBF" + a + "\r\n\r\n" + b, 100), "a@1 b@3 ");
   EXPECT_EQ(cles(a + "\nx\n" + b + "\n", 100), "a@1 !2:1 b@3 ");
@@ -139,16 +126,6 @@ TEST(LecteurJsonl, CompteLesLignesEtReprendApresUnRefus) {
   } catch (const RefusJson& refus) {
     EXPECT_EQ(std::to_string(refus.Ligne()) + ":" + std::to_string(refus.Colonne()), "2:7");
   }
-}
-
-TEST(LecteurJsonl, LitUneLigneDePlusieursMegaoctets) {
-  std::string valeurs = "\"v0\"";
-  for (int i = 1; i < 2'000'000; ++i) valeurs += ",\"v\"";
-  std::istringstream flux(avecItem("[[" + valeurs + "]]"));
-  LecteurJsonl lecteur(flux);
-  Enregistrement lu;
-  ASSERT_TRUE(lecteur.Suivant(lu));
-  EXPECT_EQ(lu.texte.size(), 2U * 2'000'000);  // a "v" and a separator each, then the 0
 }
 
 TEST(ClesVues, RetrouveLaPremiereLigneDeChaqueCle) {
