@@ -74,12 +74,6 @@ TEST_F(Programme, ScenariosDeDemonstration) {
     EXPECT_THAT(erreurs.str(), HasSubstr("attendu : FAUX\n"));
   }
   EXPECT_GE(joues, 11);
-  // With full rights the first check of the scenario without them does not hold.
-  const std::string sansDroits = Scenarios + "lecture-seule.scenario";
-  EXPECT_EQ(Jouer("", {sansDroits}), Manque);
-  EXPECT_EQ(erreurs.str(), sansDroits +
-                               ":3: verifier Cmd_Ajouter visible non\n"
-                               "  attendu : non\n  trouvé  : oui\n");
 }
 
 // Each block of the documentation stands on its own, on the data as they are.
@@ -108,32 +102,13 @@ TEST_F(Programme, ExemplesDeLaDocumentation) {
   EXPECT_GE(blocs, 7);
 }
 
-TEST_F(Programme, EcheanceEtEtatDeLAidant) {
-  EXPECT_EQ(Jouer("verifier Cmd_Ajouter actif non\ncliquer Cmd_Recherche\n"
-                  "verifier Cmd_Ajouter actif non\nverifier Cmd_Ajouter visible oui",
-                  {"--etat-supprime"}),
-            Tenu)
-      << erreurs.str();
-  // On 10/11/2026 the contract that ends that day has not ended yet.
-  EXPECT_EQ(Lancer({"--base", base, "--aidant", "00001", "--date", "10/11/2026"},
-                   "cliquer Opt_Historique\ncliquer Cmd_Recherche\n"
-                   "verifier Lst_DatFinContrat lignes 31/12/2024"),
-            Tenu)
-      << erreurs.str();
-  // A carer without contracts, without a date given.
+// Without a date given, the program takes the day's.
+TEST_F(Programme, AidantSansContratNiDate) {
   EXPECT_EQ(Lancer({"--base", base, "--aidant", "00002"},
                    "verifier Etq_NomPrenomAidant libelle \"PETIT Hervé\"\ncliquer Cmd_Recherche\n"
                    "verifier Lst_Type nombre 0\nverifier Cmd_OK actif oui"),
             Tenu)
       << erreurs.str();
-}
-
-TEST_F(Programme, ControleFerme) {
-  EXPECT_EQ(Jouer("cliquer Cmd_Retour\ncliquer Cmd_Recherche"), Manque);
-  EXPECT_EQ(erreurs.str(),
-            "entrée standard:2: cliquer Cmd_Recherche\n  attendu : une forme ouverte\n"
-            "  trouvé  : aucune : l'écran des contrats est fermé\n");
-  EXPECT_EQ(Jouer("cliquer Cmd_Retour\narticle CONTRAT 00001001 4 = I"), Tenu);
 }
 
 // A faulty scenario is refused whole, with every fault, before the data file is opened.
@@ -165,7 +140,6 @@ TEST_F(Programme, OptionsFausses) {
       {{"--base", base, "--aidant", "00001", "a", "b"}, "« b » n'est pas une option, ni"},
       {{"--base", base, "--aidant", "00001", "a"}, "Le scénario « a » ne s'ouvre pas."},
       {{"--base", Racine, "--aidant", "00001"}, "L'écran des contrats ne s'ouvre pas : "},
-      {{"--base", base, "--aidant", "00001", Racine}, "Le scénario"},
   };
   for (const auto& c : cas) {
     SCOPED_TRACE(c.raison);

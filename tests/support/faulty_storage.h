@@ -20,9 +20,8 @@ class FaultyStorage : public data::Storage {
   void EchouerEcriture(int n) { Armer(n, 0); }
   void EchouerAppel(int n) { Armer(0, n); }
 
-  // Since the last Echouer...: writes, and calls of every kind, the failed one included.
+  // Writes since the last Echouer..., the failed one included.
   int Ecritures() const { return ecritures_; }
-  int Appels() const { return appels_; }
 
   bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
     Appel(fichier, cle);
