@@ -75,6 +75,11 @@ class EssaiDialogue : public ::testing::Test {
     const char* const boutons[] = {"", "OA", "ON", "ONA"};
     return icone + std::string(boutons[static_cast<int>(boite->boutons)]) + " " + boite->texte;
   }
+  // Clicks, and gives the box that this has shown.
+  std::string clic(screen::User& user, screen::Field& champ) {
+    user.Cliquer(champ);
+    return message();
+  }
   static std::string actif(const screen::Form& form) {
     return form.Active() != nullptr ? form.Active()->Nom() : "-";
   }

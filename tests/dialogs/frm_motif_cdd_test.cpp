@@ -1,5 +1,7 @@
 #include "dialogs/frm_motif_cdd.h"
 
+#include "data/texte.h"
+#include "dialogs/ligne_remplace.h"
 #include "essai_dialogue.h"
 
 namespace dialogs {
@@ -71,8 +73,7 @@ class MotifCDD : public EssaiDialogue {
   // Gives up the row being added.
   std::string abandonner(screen::User& user, Frm_MotifCDD& f, Reponse reponse = Reponse::Oui) {
     hote.messages.Repondre(reponse);
-    user.Cliquer(f.Cmd_AnnulerAidant);
-    return message();
+    return clic(user, f.Cmd_AnnulerAidant);
   }
   // Adds a carer with the absence of that row, -1 for none.
   void ajouter(screen::User& user, Frm_MotifCDD& f, const char* code, int absence) {
@@ -107,7 +108,6 @@ TEST_F(MotifCDD, UnCodeNEstPrisQuAvecUnContratAuDebut) {
       {"00004", "02/03/2026", "01", entite, "|||"},
       // Completed to 12000, whose absence on file does not make up for a contract.
       {"12", Debut, "01", entite, "|||"},
-      {"99999", Debut, "01", inconnu, "|||"},
       {"\"] OR", Debut, "01", inconnu, "|||"},
       {"\x01\x02" + std::string(10000, '\''), Debut, "01", inconnu, "|||"},
       {"", Debut, "01", "", "|||"},
@@ -204,8 +204,8 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
     for (const Reponse reponse : {Reponse::Non, Reponse::Oui}) {
       EXPECT_EQ(f->Lst_AidantRemplace.ListCount(), 2);
       hote.messages.Repondre(reponse);
-      user.Cliquer(f->Cmd_SupprimerAidant);
-      EXPECT_EQ(message(), "EON Etes-vous sûr de vouloir supprimer cette ligne ?");
+      EXPECT_EQ(clic(user, f->Cmd_SupprimerAidant),
+                "EON Etes-vous sûr de vouloir supprimer cette ligne ?");
     }
     EXPECT_EQ(mode(*f), "1111/000000");
 
@@ -224,20 +224,17 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
     EXPECT_EQ(mode(*f), "0000/001111");
     EXPECT_EQ(saisie(*f), Martin);
     user.Choisir(f->Cbo_Absence, 1);
-    user.Cliquer(f->Cmd_OkAidant);
-    EXPECT_EQ(message(), refus);
+    EXPECT_EQ(clic(user, f->Cmd_OkAidant), refus);
     user.Choisir(f->Cbo_Absence, 0);
     user.Cliquer(f->Cmd_OkAidant);
     EXPECT_EQ(lignes(*f), "[" + Martin + "][" + MartinConges + "]");
 
     user.Cliquer(f->Cmd_AjouterAidant);
-    user.Cliquer(f->Cmd_OkAidant);
-    EXPECT_EQ(message(), "I Le code de l'aidant est obligatoire.");
+    EXPECT_EQ(clic(user, f->Cmd_OkAidant), "I Le code de l'aidant est obligatoire.");
     EXPECT_EQ(actif(*f), "Txt_CodeAidant");
     user.Taper(f->Txt_CodeAidant, "00001");
     EXPECT_EQ(message(), "I Aucune absence en cours ou à venir pour l'aidant DURAND ANNE.");
-    user.Cliquer(f->Cmd_OkAidant);
-    EXPECT_EQ(message(), "I L'aidant ne peut pas se remplacer lui-même.");
+    EXPECT_EQ(clic(user, f->Cmd_OkAidant), "I L'aidant ne peut pas se remplacer lui-même.");
     EXPECT_EQ(abandonner(user, *f, Reponse::Non) + saisie(*f),
               "QON Etes-vous sûr de vouloir quitter cette création ?00001|DURAND Anne||");
     // Past 30 characters of a name the same absence is not recognised.
@@ -252,8 +249,7 @@ TEST_F(MotifCDD, LaListeSeModifieLigneParLigne) {
     EXPECT_EQ(message() + actif(*f), "E Cet aidant n'existe pas.Txt_CodeAidant");
     abandonner(user, *f);
     user.Taper(f->Cbo_MotifEmbauche, "Inconnu");
-    user.Cliquer(f->Cmd_OK);
-    EXPECT_EQ(message(), "E La saisie d'un motif d'embauche est obligatoire.");
+    EXPECT_EQ(clic(user, f->Cmd_OK), "E La saisie d'un motif d'embauche est obligatoire.");
     EXPECT_EQ(actif(*f), "Txt_MotifEmbContrat(0)");
     user.Taper(f->Cbo_MotifEmbauche, "Surcroît");
     user.Cliquer(f->Cmd_OK);
@@ -281,10 +277,10 @@ TEST_F(MotifCDD, RetourDemandeQuandIlYAAPerdre) {
       user.Taper(f->Txt_MotifEmbContrat_1, c.tape);
       const bool demande = c.reponse != Reponse::Ok;
       if (demande) hote.messages.Repondre(c.reponse);
-      user.Cliquer(f->Cmd_Retour);
-      EXPECT_EQ(message(), demande ? "EONA Voulez-vous enregistrer les modifications apportées à "
-                                     "cet article ?"
-                                   : "");
+      EXPECT_EQ(clic(user, f->Cmd_Retour),
+                demande ? "EONA Voulez-vous enregistrer les modifications apportées à "
+                          "cet article ?"
+                        : "");
       EXPECT_EQ(f->Visible(), c.reponse == Reponse::Annuler);
       EXPECT_EQ(lu(Motif), c.reponse == Reponse::Oui ? "9=Motif^et plus 10=Mme Avant 137=03"
                                                      : "9=Motif 10=Mme Avant 137=03");
@@ -349,6 +345,21 @@ TEST_F(MotifCDD, LaTableDesMotifsSeTientAilleurs) {
     user.Cliquer(f->Cmd_OK);
   });
   EXPECT_EQ(lu(Motif), "113=C 137=03");
+}
+
+// Cut by characters, one too many on each side. Columns 38 to 97 are compared: a name's end, then
+// the label from its column 46.
+TEST(LigneRemplace, VaEtVientDansSesColonnes) {
+  const auto repete = [](const char* texte, int n) {
+    std::string resultat;
+    while (n-- > 0) resultat += texte;
+    return resultat;
+  };
+  const std::string nom = repete("é", 35), absence = repete("à", 60);
+  const std::string ligne = FaireLigne({"00002", nom + "X", absence + "X", "K"});
+  EXPECT_EQ(LireLigne(ligne), (LigneRemplace{"00002", nom, absence, "K"})) << ligne;
+  EXPECT_EQ(data::milieu(ligne, 126), "K");
+  EXPECT_EQ(AbsenceComparee(ligne), repete("é", 5) + "   " + repete("à", 52));
 }
 
 }  // namespace

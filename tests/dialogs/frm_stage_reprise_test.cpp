@@ -33,8 +33,7 @@ TEST_F(StageEtReprise, LesCinqZonesDuStageSontObligatoires) {
     EXPECT_EQ(user.Fermer(), Acte::Avale);
     for (const auto& [champ, absente, texte] : zones) {
       if (&champ != &f->Txt_Seuil) user.Taper(champ, "  ");
-      user.Cliquer(f->Cmd_OK);
-      EXPECT_EQ(message(), absente);
+      EXPECT_EQ(clic(user, f->Cmd_OK), absente);
       EXPECT_EQ(actif(*f), champ.Nom());
       user.Taper(champ, texte);
     }
@@ -87,8 +86,7 @@ TEST_F(StageEtReprise, RetourDuStageEcritAussiCeQuiManque) {
     montrer(*f, [&, &s = seuil, &q = question](screen::User& user) {
       user.Taper(f->Txt_Seuil, s);
       if (*q != '\0') hote.messages.Repondre(Reponse::Oui);
-      user.Cliquer(f->Cmd_Retour);
-      EXPECT_EQ(message(), q);
+      EXPECT_EQ(clic(user, f->Cmd_Retour), q);
     });
     EXPECT_EQ(lu({138, 139, 140, 141, 142}), attendu);
   }
