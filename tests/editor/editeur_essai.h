@@ -7,9 +7,12 @@
 //   EXPECT_EQ(messages(), "");             the boxes shown since, parted by "|"
 //   contrat("00001001", {{...}});          a stored contract: the basic one with other attributes
 //   ouvrir("00001001");                    as from a double click
+//   ouvrirContrat({{...}});                both, for 00001001
+//   quitter(Reponse::Non);                 the button that leaves, and what its question is told
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <vector>
@@ -35,6 +38,12 @@ inline std::string jour(const std::string& affichee) {
   return affichee.empty() ? "" : std::to_string(data::lireDateAffichee(affichee).value());
 }
 
+// A text of several values, written "a|b".
+inline std::string valeurs(std::string texte) {
+  std::replace(texte.begin(), texte.end(), '|', data::SepValeur);
+  return texte;
+}
+
 class Editeur : public ::testing::Test {
  protected:
   using Attributs = std::map<int, std::string>;
@@ -44,22 +53,15 @@ class Editeur : public ::testing::Test {
     article("COMPTEUR", "999", {{18, "1"}});
     article("PERIODESPAIE", "1", {{1, "202611"}});
     article("CIVILAIDANT", Aidant, {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
-    article("ASSOCIATION", "001", {{1, "Aide du Val"}});
-    article("ASSOCIATION", "002", {{1, "Bien Chez Soi"}});
-    article("CONVENTIONCOL", "01", {{1, "Branche"}});
+    libelles("ASSOCIATION", {{"001", "Aide du Val"}, {"002", "Bien Chez Soi"}});
+    libelles("CONVENTIONCOL", {{"01", "Branche"}, {"03", "Collectif"}, {"07", "Public"}});
     article("CONVENTIONCOL", "02", {{1, "Particuliers"}, {22, "1"}});
-    article("CONVENTIONCOL", "03", {{1, "Collectif"}});
-    article("CONVENTIONCOL", "07", {{1, "Public"}});
-    article("ETABLISSEMENT", "001001", {{1, "Siège"}});
-    article("ETABLISSEMENT", "002001", {{1, "Nord"}});
-    article("ETABLISSEMENT", "002002", {{1, "Est"}});
+    libelles("ETABLISSEMENT", {{"001001", "Siège"}, {"002001", "Nord"}, {"002002", "Est"}});
     article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
     article("ACTIVITES", "001MAN", {{1, "Mandat"}, {12, "M"}});
     article("ACTIVITES", "002DOM", {{1, "Domicile"}, {12, "P"}});
     article("ACTIVITES", "002GAR", {{1, "Garde"}, {12, "P"}});
-    article("GRILLESCC", "01B", {{1, "Grille B"}});
-    article("GRILLESCC", "01A", {{1, "Grille A"}});
-    article("GRILLESCC", "03A", {{1, "Grille C"}});
+    libelles("GRILLESCC", {{"01B", "Grille B"}, {"01A", "Grille A"}, {"03A", "Grille C"}});
     article("CONTRATSPREV", "10", {{1, "Cadres"}, {2, "x"}, {3, "01"}});
     article("CONTRATSPREV", "20", {{1, "Tous"}, {2, "Employés"}, {3, "03"}});
     article("CONTRATSPREV", "11", {{1, "Autres"}, {3, "01"}});
@@ -74,9 +76,8 @@ class Editeur : public ::testing::Test {
     article("ELTSPARTEMP", "00008", {{2, "R"}});
     article("RUBCHARGE", "AD1", {{28, "1"}});
     article("RUBCHARGE", "AD2", {{28, "1"}, {30, "x"}});
-    article("PCS", "56", {{1, "Services"}});
-    article("PCS", "563b", {{1, "Aide à domicile"}});
-    article("PCS", "563c", {{1, "Employé de maison"}});
+    libelles("PCS",
+             {{"56", "Services"}, {"563b", "Aide à domicile"}, {"563c", "Employé de maison"}});
     data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
     const char* const lignes[][3] = {
         {"CDI", "Normal", "O"}, {"STG", "Stagiaire", "O"}, {"OLD", "Ancien", ""}};
@@ -93,6 +94,10 @@ class Editeur : public ::testing::Test {
     data::CItem item = db.OpenFile(fichier).NewItem(cle);
     for (const auto& [a, texte] : attributs) item.Set(a, texte);
     item.DBWrite();
+  }
+  // Records of a label alone.
+  void libelles(const char* fichier, const std::map<std::string, std::string>& parCle) {
+    for (const auto& [cle, libelle] : parCle) article(fichier, cle, {{1, libelle}});
   }
   // An open-ended hourly contract of entity 001 from 01/03/2026, but for `autres`.
   void contrat(const std::string& cle, Attributs autres = {}) {
@@ -127,6 +132,15 @@ class Editeur : public ::testing::Test {
     if (!editeur) charger();
     editeur->InitElementContrat();
     montrer();
+  }
+
+  void ouvrirContrat(const Attributs& autres = {}) {
+    contrat("00001001", autres);
+    ouvrir("00001001");
+  }
+  void quitter(screen::Reponse reponse) {
+    hote.messages.Repondre(reponse);
+    cliquer(editeur->Cmd_Retour);
   }
 
   editor::OngletOrigine& o() { return editeur->origine; }

@@ -3,14 +3,9 @@
 
 namespace {
 
-using essai::Acte, essai::jour;
+using essai::Acte, essai::jour, essai::valeurs;
 namespace C = essai::C;
 using screen::User;
-
-// Two values of one attribute.
-std::string valeurs(const std::string& une, const std::string& autre) {
-  return une + data::SepValeur + autre;
-}
 
 class Fiche : public essai::Editeur {
  protected:
@@ -18,8 +13,7 @@ class Fiche : public essai::Editeur {
 
   // Leaves, says no to leaving, and so has the fields copied to the contract in hand.
   void copier() {
-    hote.messages.Repondre(screen::Reponse::Annuler);
-    cliquer(editeur->Cmd_Retour);
+    quitter(screen::Reponse::Annuler);
     EXPECT_TRUE(hote.messages.ReponsesRestantes().empty()) << "nothing was changed";
   }
   void nouveau(const char* convention, const char* entite) {
@@ -48,7 +42,7 @@ TEST_F(Fiche, VerifieDansLOrdre) {
   const char* const incorrecte = "La date saisie est incorrecte, veuillez la ressaisir.";
   const char *const debut = "Txt_DatDebContrat", *const fin = "Txt_DatFinContrat";
   const Attributs cdd{{C::MotifEmbauche, "1"}}, futur{{C::DateDebut, jour("01/12/2026")}};
-  const Attributs avenant{{C::DepartGrille, valeurs("", jour("01/06/2026"))},
+  const Attributs avenant{{C::DepartGrille, valeurs("|" + jour("01/06/2026"))},
                           {C::PeriodeTraitee, "202602"}};
   const Attributs traite{{C::PeriodeTraitee, "202603"}};
   const struct {
@@ -108,8 +102,7 @@ TEST_F(Fiche, VerifieDansLOrdre) {
   };
   for (const auto& [nom, attributs, suite, message, focus] : cas) {
     editeur.reset();
-    if (suite[0] != '+') contrat("00001001", attributs);
-    if (suite[0] != '+') ouvrir("00001001");
+    if (suite[0] != '+') ouvrirContrat(attributs);
     for (const std::string& acte : data::mots(suite)) actes.at(acte[0])(acte.substr(1));
     messages();
     cliquer(editeur->Cmd_OK);
@@ -121,8 +114,7 @@ TEST_F(Fiche, VerifieDansLOrdre) {
 
 TEST_F(Fiche, UnMotifSaisiAussitotSuffitUneConventionDeStageNon) {
   const std::string motif = "La saisie d'un motif d'embauche est obligatoire.";
-  contrat("00001001", {{C::Nature, "STG"}});
-  ouvrir("00001001");
+  ouvrirContrat({{C::Nature, "STG"}});
   determine("31/12/2026");
   hote.messages.Repondre(screen::Reponse::Non);
   hote.modales.Prevoir([](screen::Form& f) { User(f).Cliquer(*f.Find("Cmd_Retour")); });
@@ -130,24 +122,20 @@ TEST_F(Fiche, UnMotifSaisiAussitotSuffitUneConventionDeStageNon) {
   EXPECT_EQ(hote.messages.Prendre()->texte, motif);
   messages();
 
-  const auto saisir = [this](std::vector<std::pair<const char*, const char*>> champs) {
+  const auto saisir = [this](const std::vector<const char*>& champs) {
     hote.modales.Prevoir([champs](screen::Form& f) {
-      for (const auto& [champ, texte] : champs) User(f).Taper(*f.Find(champ), texte);
+      for (const char* champ : champs) User(f).Taper(*f.Find(champ), "3");
       User(f).Cliquer(*f.Find("Cmd_OK"));
     });
   };
-  saisir({{"Txt_MotifEmbContrat(0)", "Congés"}});
-  saisir({{"Txt_Etab", "x"},
-          {"Txt_SujetStage", "x"},
-          {"Txt_Tuteur", "x"},
-          {"Txt_Service", "x"},
-          {"Txt_Seuil", "3"}});
+  saisir({"Txt_MotifEmbContrat(0)"});
+  saisir({"Txt_Etab", "Txt_SujetStage", "Txt_Tuteur", "Txt_Service", "Txt_Seuil"});
   cliquer(editeur->Cmd_OK);
   EXPECT_EQ(messages(), motif + "|La saisie du détail de la convention de stage est obligatoire.");
   EXPECT_TRUE(editeur->Visible());
   cliquer(editeur->Cmd_OK);
   EXPECT_FALSE(editeur->Visible());
-  EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::StageEcole), "x");
+  EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::StageEcole), "3");
 }
 
 TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
@@ -176,12 +164,7 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
                         {C::ReferenceConventionAidee, "sans date"},
                         {C::ContrepartieInterruption, "9"}};
   for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec, vides}) {
-    contrat("00001001", autres);
-    ouvrir("00001001");  // the same editor, over what the contract before has left
-    EXPECT_EQ(o().Txt_NumContrat.Text(), "001");
-    EXPECT_FALSE(o().Txt_ConvColContrat.Enabled() || o().Txt_AssocContrat.Enabled() ||
-                 o().Cbo_LibEmplEtabContrat.Enabled());
-    EXPECT_TRUE(o().Txt_DatDebContrat.Enabled());
+    ouvrirContrat(autres);  // the same editor, over what the contract before has left
     User(*editeur).Derouler(o().Cbo_NatureContrat);
     EXPECT_EQ(lignes(o().Cbo_NatureContrat),
               autres == avec ? "Normal|Stagiaire|Ancien" : "Normal|Stagiaire");
@@ -198,13 +181,11 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
 }
 
 TEST_F(Fiche, UnNouveauContratNeGardeRienDuPrecedent) {
-  contrat("00001001", {{C::EssaiRenouvelable, "1"}, {C::DateConventionAidee, "20000"}});
-  ouvrir("00001001");
+  ouvrirContrat({{C::EssaiRenouvelable, "1"}, {C::DateConventionAidee, "20000"}});
   cliquer(editeur->Cmd_Retour);
   nouveau("02", "001");
   taper(o().Txt_EmplEtabContrat, "00007");
-  hote.messages.Repondre(screen::Reponse::Oui);
-  cliquer(editeur->Cmd_Retour);
+  quitter(screen::Reponse::Oui);
   creer();
   const auto& paie = editeur->paie;
   EXPECT_FALSE(o().Txt_AssocContrat.Enabled() || o().Txt_NumRef.Enabled() ||
@@ -216,8 +197,7 @@ TEST_F(Fiche, UnNouveauContratNeGardeRienDuPrecedent) {
 }
 
 TEST_F(Fiche, EcritChaqueChampASaPlace) {
-  contrat("00001001");
-  ouvrir("00001001");
+  ouvrirContrat();
   determine("31122027");
   cliquer(o().Opt_Mensuel);
   cliquer(o().Opt_Administratif);
@@ -243,12 +223,11 @@ TEST_F(Fiche, EcritChaqueChampASaPlace) {
 }
 
 TEST_F(Fiche, CeQuUneCopieARetireRevientAvecLesChamps) {
-  contrat("00001001", {{C::Type, "D"},
-                       {C::DateFinPresumee, jour("31/12/2026")},
-                       {C::Nature, "STG"},
-                       {C::StageEcole, "Lycée"},
-                       {C::StageSeuil, "375"}});
-  ouvrir("00001001");
+  ouvrirContrat({{C::Type, "D"},
+                 {C::DateFinPresumee, jour("31/12/2026")},
+                 {C::Nature, "STG"},
+                 {C::StageEcole, "Lycée"},
+                 {C::StageSeuil, "375"}});
   EXPECT_TRUE(o().Cmd_Stage.Visible());
   remplir(o().Cbo_NatureContrat, "Ancien");  // on file, but no longer offered
   EXPECT_EQ(messages() + actif(),
@@ -277,60 +256,37 @@ TEST_F(Fiche, UnDebutDeplaceEntraineLeContratSigne) {
   const std::string mars = jour("01/03/2026"), avril = jour("01/04/2026"), mai = jour("01/05/2026"),
                     juin = jour("01/06/2026");
   for (const std::string& depart : {mars, mai, std::string()}) {
-    contrat("00001001",
-            {{C::DateEffet, valeurs(mars, juin)}, {C::DepartGrille, valeurs(depart, juin)}});
-    ouvrir("00001001");
+    ouvrirContrat({{C::DateEffet, valeurs(mars + "|" + juin)},
+                   {C::DepartGrille, valeurs(depart + "|" + juin)}});
     for (const std::string& debut : {avril, mai, mars, avril}) {
       debuter(session.Lib.DateFromInternal(debut).c_str());
       remplir(o().Txt_PerEssaiContrat, debut == mars ? "1" : "2");
       copier();
       EXPECT_EQ(lu({C::DateDebut, C::DateEffet, C::DepartGrille}),
-                debut + " " + valeurs(debut, juin) + " " +
-                    valeurs(depart == mars ? debut : depart, juin));
+                debut + " " + valeurs(debut + "|" + juin) + " " +
+                    valeurs((depart == mars ? debut : depart) + "|" + juin));
     }
     debuter("01/06/2026");
     EXPECT_EQ(messages().substr(0, 60),
               "Voulez-vous enregistrer les modifications apportées à cet ");
     EXPECT_EQ(o().Txt_DatDebContrat.Text(), "");
-    hote.messages.Repondre(screen::Reponse::Non);
-    cliquer(editeur->Cmd_Retour);
+    quitter(screen::Reponse::Non);
     messages();
   }
 }
 
 // The copy made on leaving is in the contract in hand already when the checks run.
 TEST_F(Fiche, QuitterEnEnregistrantCompareAuDebutSurFichier) {
-  contrat("00001001", {{C::PeriodeTraitee, "202603"}});
-  ouvrir("00001001");
+  ouvrirContrat({{C::PeriodeTraitee, "202603"}});
   debuter("01/05/2026");
-  hote.messages.Repondre(screen::Reponse::Oui);
-  cliquer(editeur->Cmd_Retour);
+  quitter(screen::Reponse::Oui);
   EXPECT_TRUE(editeur->Visible());
   EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::DateDebut), jour("01/03/2026"));
 }
 
-TEST_F(Fiche, UneCreationPrendSaDateDEffetDuDebut) {
-  nouveau("02", "001");
-  taper(o().Txt_EmplEtabContrat, "00007");
-  debuter("5/1/27");
-  EXPECT_EQ(editeur->caracteristiques.Txt_DatEffetContrat.Text() + " " +
-                editeur->caracteristiques.Txt_AvenantContrat.Text(),
-            "05/01/2027 0");
-  debuter("32/1/27");  // stays in the box until it is a date
-  EXPECT_EQ(o().Txt_DatDebContrat.Text() + " " + actif(), "32/1/27 Txt_DatDebContrat");
-  debuter("05/01/2027");
-  cliquer(editeur->Cmd_OK);
-  EXPECT_EQ(messages(), "");
-  const data::CItem ecrit = session.F_CONTRAT.Read("00001002");
-  EXPECT_EQ(ecrit(C::Employeur) + " " + ecrit(C::DateEffet) + " " + ecrit(C::EssaiRenouvelable) +
-                ecrit(C::Type) + ecrit(C::Salaire) + ecrit(C::Statut),
-            "00007 " + jour("05/01/2027") + " 0IHP");
-}
-
 // Term, minimum length, insecurity bonus open and ticked; modulation shown and ticked; shares.
 TEST_F(Fiche, LesOptionsMontrentCeQuiLesConcerne) {
-  contrat("00001001");
-  ouvrir("00001001");
+  ouvrirContrat();
   auto& carac = editeur->caracteristiques;
   const auto apres = [&](screen::OptionButton& option) {
     cliquer(option);
@@ -385,8 +341,7 @@ TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
   for (const auto& [autres, droit, attendu] : cas) {
     if (droit == 1) editeur.reset();
     droits = session::DroitsUniformes(droit);
-    contrat("00001001", autres);
-    ouvrir("00001001");
+    ouvrirContrat(autres);
     EXPECT_EQ(groupe(), attendu);
   }
   auto& paie = editeur->paie;
