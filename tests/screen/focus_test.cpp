@@ -25,8 +25,6 @@ const auto quitter = [](Essai& e) { return User(e).Quitter(); };
 const Cas tous[] = {
     {"clic", rien, cliquerOk, Acte::Fait, "Txt_A.LostFocus Cmd_OK.GotFocus Cmd_OK.Click", "Cmd_OK"},
     {"clic refusé", garder, cliquerOk, Acte::Avale, "Txt_A.LostFocus", "Txt_A"},
-    {"onglet refusé", garder, [](Essai& e) { return User(e).Onglet(e.Ong_A, 1); }, Acte::Avale,
-     "Txt_A.LostFocus", "Txt_A"},
     {"le dernier envoi compte", [](Essai& e) { e.Txt_C.SetFocus(), e.Txt_B.SetFocus(); }, cliquerOk,
      Acte::Avale, "Txt_A.LostFocus Txt_B.GotFocus", "Txt_B"},
     {"envoi puis retour à l'acte", [](Essai& e) { e.Txt_C.SetFocus(), e.Cmd_OK.SetFocus(); },
