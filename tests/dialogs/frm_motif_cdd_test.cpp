@@ -108,7 +108,6 @@ TEST_F(MotifCDD, UnCodeNEstPrisQuAvecUnContratAuDebut) {
       {"00004", "02/03/2026", "01", entite, "|||"},
       // Completed to 12000, whose absence on file does not make up for a contract.
       {"12", Debut, "01", entite, "|||"},
-      {"\"] OR", Debut, "01", inconnu, "|||"},
       {"\x01\x02" + std::string(10000, '\''), Debut, "01", inconnu, "|||"},
       {"", Debut, "01", "", "|||"},
   };

@@ -46,8 +46,25 @@ class Enregistre : public essai::Editeur {
     }
     return lignes;
   }
+  // No fault, no editor and no contract.
+  void vider() {
+    stockage->EchouerEcriture(0);
+    editeur.reset();
+    session.CombosRemplis = false;
+    for (const char* fichier : {"CONTRAT", "CONTRATINV", "ACTUSUIVICONTRAT", "LIENCONTRAT",
+                                "LIENAVENANT", "CONTRAT00101", "CONTRAT00102", "DSNEVENEMENT"}) {
+      std::vector<std::string> cles;
+      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto) {
+        cles.emplace_back(cle);
+        return true;
+      });
+      for (const auto& cle : cles) memoire.Erase(fichier, cle);
+    }
+    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, "001"}});
+  }
   // The fixed-term contract 001 alone, over before the new one, whose leave can be taken over.
   void precedent(const std::string& fin, Attributs autres = {}) {
+    vider();
     autres.merge(Attributs{{C::Type, "D"},
                            {C::DateDebut, jour("01/01/2025")},
                            {C::DateFin, jour(fin)},
@@ -55,8 +72,6 @@ class Enregistre : public essai::Editeur {
                            {C::PrimePrecarite, "1"}});
     contrat("00001001", autres);
     article("DETAILCALCUL", "00001001202605", {{1, "F"}});
-    db.OpenFile("CONTRAT").DeleteItem("00001002");
-    article("CIVILAIDANT", "00001", {{41, "001"}});
   }
   // The user of the restart dialog.
   void repondreReprise(const std::function<void(dialogs::Frm_Reprise&)>& utilisateur) {
@@ -103,10 +118,7 @@ TEST_F(Enregistre, ChoisitLeNumero) {
        "Cet aidant n'a plus de numéro de contrat libre : 999 ont été donnés."},
   };
   for (const auto& [dernier, libres, presents, numero, apres, message] : cas) {
-    for (int n = 1; n < 20; ++n) {
-      db.OpenFile("CONTRAT").DeleteItem("00001" + std::string(n < 10 ? "00" : "0") +
-                                        std::to_string(n));
-    }
+    vider();
     article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, dernier}, {42, valeurs(libres)}});
     for (const char* present : presents) {
       contrat("00001" + std::string(present), {{C::Annule, "O"}, {C::Employeur, "001009"}});
@@ -124,7 +136,6 @@ TEST_F(Enregistre, ChoisitLeNumero) {
     for (const char* present : presents) {
       EXPECT_EQ(attribut("CONTRAT", "00001" + std::string(present), C::Employeur), "001009");
     }
-    editeur.reset();
   }
 }
 
@@ -203,6 +214,7 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
       {"to another fixed term", reporte, true, reprendDetermine, "-", "^1"},
   };
   for (const auto& [nom, attributs, finChangee, lie, avant, apres] : cas) {
+    vider();
     Attributs complet = attributs;
     complet.merge(Attributs{{C::DateFin, jour("30/06/2026")},
                             {C::DernierBulletin, "202606"},
@@ -212,7 +224,6 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
     Attributs suivant = lie;
     suivant.merge(Attributs{{C::DateDebut, jour("01/07/2026")}});
     contrat("00001002", suivant);
-    db.OpenFile("DSNEVENEMENT").DeleteItem("00001001");
     if (avant != "-") {
       const auto place = avant.find('^');
       article("DSNEVENEMENT", "00001001",
@@ -224,7 +235,6 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
     cliquer(editeur->Cmd_OK);
     EXPECT_EQ(messages(), "") << nom;
     EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << nom;
-    editeur.reset();
   }
 }
 
@@ -305,26 +315,9 @@ class Panne : public Enregistre {
   }
   // A new contract of the entity, next day to a fixed term whose end is to be declared.
   void saisirUneSuite() {
-    vider();
     precedent("30/11/2026");
     article("DSNEVENEMENT", "00001001", {{2, "1"}});
     saisir("01/12/2026");
-  }
-  // No fault, no editor and no contract.
-  void vider() {
-    stockage->EchouerEcriture(0);
-    editeur.reset();
-    session.CombosRemplis = false;
-    for (const char* fichier : {"CONTRAT", "CONTRATINV", "ACTUSUIVICONTRAT", "LIENCONTRAT",
-                                "LIENAVENANT", "CONTRAT00101", "CONTRAT00102", "DSNEVENEMENT"}) {
-      std::vector<std::string> cles;
-      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto) {
-        cles.emplace_back(cle);
-        return true;
-      });
-      for (const auto& cle : cles) memoire.Erase(fichier, cle);
-    }
-    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, "001"}});
   }
 };
 
@@ -335,8 +328,7 @@ TEST_F(Panne, CreationPourUneEntiteApresUnContrat) {
 // What an interrupted save has stored is cancelled when the user gives the contract up, and a
 // takeover that is refused on the second try is undone.
 TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
-  enum Suite { Abandonner, Refuser };
-  for (const Suite suite : {Abandonner, Refuser}) {
+  for (const bool abandonner : {true, false}) {
     saisirUneSuite();
     const std::string avant = lu("CONTRAT", "00001001");
     accepterReprise(true);
@@ -345,14 +337,14 @@ TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
     EXPECT_THROW(cliquer(editeur->Cmd_OK), data::StoreError);
     EXPECT_NE(lu("CONTRAT", "00001001"), avant);
     stockage->EchouerEcriture(0);
-    if (suite == Abandonner) {
+    if (abandonner) {
       quitter(screen::Reponse::Oui);
     } else {
       repondreReprise([](dialogs::Frm_Reprise& f) { screen::User(f).Cliquer(f.Cmd_Annuler); });
       cliquer(editeur->Cmd_OK);
     }
     EXPECT_FALSE(editeur->Visible());
-    EXPECT_EQ(attribut("CONTRAT", "00001002", C::Annule), suite == Abandonner ? "O" : "");
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::Annule), abandonner ? "O" : "");
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41), "002");
     EXPECT_EQ(lu("CONTRAT", "00001001"), avant);

@@ -162,10 +162,6 @@ TEST_F(Codes, LaPrevoyanceDUnParticulierDoitEtreEnCours) {
     taper(o().Txt_EmplEtabContrat, "00007");
     EXPECT_EQ(prevoyance(), attendu) << code << fin;
   }
-  article("ELTSPARTEMP", "00007", {{13, "20"}});
-  taper(o().Txt_EmplEtabContrat, "00007");
-  taper(o().Txt_EmplEtabContrat, "00008");  // the former employer's contract does not stay
-  EXPECT_EQ(prevoyance(), "  |  | ");
 }
 
 TEST_F(Codes, RechercheUnEmployeurParSonNom) {
@@ -179,7 +175,6 @@ TEST_F(Codes, RechercheUnEmployeurParSonNom) {
     const char* message;
   } cas[] = {
       {"martin", "Rose MARTIN|Luc MARTINEZ", " martin", ""},
-      {"martine", "Luc MARTINEZ", "00008 Luc MARTINEZ", ""},
       {"martin r", "Rose MARTIN", "00007 Rose MARTIN", ""},
       {"x\"] OR AVEC 0 = \"", "", " x\"] OR AVEC 0 = \"", ""},
       {"mar\"tinez", "Luc MARTINEZ", "00008 Luc MARTINEZ", ""},
