@@ -1,0 +1,33 @@
+#include "fenetre/avertir.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "data/store_error.h"
+#include "liaison/textes_qt.h"
+
+namespace hote {
+
+void avertir(const QString& texte) {
+  QMessageBox boite(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget()
+                                                                 : QApplication::activeWindow());
+  boite.setWindowTitle("Contrats de travail");
+  boite.setIcon(QMessageBox::Warning);
+  boite.setTextFormat(Qt::PlainText);
+  boite.setText(texte);
+  boite.addButton("OK", QMessageBox::AcceptRole);
+  boite.exec();
+}
+
+void avertirErreur(const QString& texte, const std::exception& erreur) {
+  QString detail = versQt(erreur.what());
+  if (const auto* const store = dynamic_cast<const data::StoreError*>(&erreur)) {
+    detail += QString("\n\nErreur n° %1").arg(static_cast<long>(store->Numero()));
+    if (!store->Fichier().empty()) detail += ", fichier " + versQt(store->Fichier());
+    if (!store->Cle().empty()) detail += ", clé « " + versQt(store->Cle()) + " »";
+    detail += ".";
+  }
+  avertir(texte + "\n\n" + detail);
+}
+
+}  // namespace hote

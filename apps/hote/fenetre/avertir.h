@@ -1,0 +1,13 @@
+#pragma once
+// The host window's own messages, in a box above whatever is open.
+
+#include <QString>
+#include <exception>
+
+namespace hote {
+
+void avertir(const QString& texte);
+// `texte`, what the error says of itself, and for a store's error its number and place.
+void avertirErreur(const QString& texte, const std::exception& erreur);
+
+}  // namespace hote

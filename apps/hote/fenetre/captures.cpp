@@ -1,0 +1,210 @@
+#include "fenetre/captures.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <stdexcept>
+
+#include "control/ctr_contrat.h"
+#include "data/layouts/contrat.h"
+#include "data/layouts/fichiers.h"
+#include "dialogs/frm_motif_cdd.h"
+#include "dialogs/frm_reprise.h"
+#include "dialogs/frm_stage.h"
+#include "fenetre/aide.h"
+#include "fenetre/fenetre_hote.h"
+#include "liaison/bureau.h"
+#include "liaison/liaison.h"
+#include "liaison/textes_qt.h"
+#include "screen/user.h"
+#include "storage/sqlite.h"
+#include "widget/contrat_widget.h"
+#include "widget/formes.h"
+
+namespace hote {
+
+namespace {
+
+constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show and to leave
+
+class Album {
+ public:
+  explicit Album(const QString& dossier) : dossier_(dossier) {
+    if (!dossier_.mkpath(".")) {
+      throw std::runtime_error(versModele("Le dossier « " + dossier + " » ne peut pas être créé."));
+    }
+  }
+  void Prendre(QWidget& widget, const QString& nom) {
+    QCoreApplication::processEvents();
+    const QString chemin = dossier_.filePath(nom + ".png");
+    if (!widget.grab().save(chemin)) {
+      throw std::runtime_error(versModele("L'image « " + chemin + " » ne s'écrit pas."));
+    }
+    images_ << chemin;
+  }
+  const QStringList& Images() const { return images_; }
+
+ private:
+  QDir dossier_;
+  QStringList images_;
+};
+
+// Stands for the user while the editor's own loop runs: a picture of each tab, then out.
+class Visite : public QObject {
+ public:
+  explicit Visite(Album& album) : album_(album) {
+    connect(&minuteur_, &QTimer::timeout, this, [this] { Tour(); });
+    minuteur_.start(10);
+  }
+  const QString& Echec() const { return echec_; }
+  bool Vue() const { return vue_; }
+
+ private:
+  void Tour() {
+    if (occupee_) return;
+    occupee_ = true;
+    try {
+      Agir();
+    } catch (const std::exception& erreur) {
+      echec_ = versQt(erreur.what());
+    }
+    occupee_ = false;
+    if (++tours_ < ToursMax) return;
+    // Nobody is there to see what keeps the editor open.
+    qFatal("L'éditeur ne se ferme pas.");
+  }
+
+  void Agir() {
+    QWidget* const fenetre = QApplication::activeModalWidget();
+    if (auto* const boite = qobject_cast<QMessageBox*>(fenetre)) {
+      Refuser(*boite);
+    } else if (fenetre != nullptr && !vue_) {
+      vue_ = true;
+      auto* const onglets = fenetre->findChild<QTabWidget*>("Ong_Contrat");
+      for (int i = 0; onglets != nullptr && i < onglets->count(); ++i) {
+        onglets->setCurrentIndex(i);
+        album_.Prendre(*fenetre, QString("editeur-%1").arg(i + 1));
+      }
+    } else if (fenetre != nullptr) {
+      if (auto* const retour = fenetre->findChild<QAbstractButton*>("Cmd_Retour")) retour->click();
+    }
+  }
+
+  // Nothing is kept of the visit.
+  static void Refuser(QMessageBox& boite) {
+    for (QAbstractButton* const bouton : boite.buttons()) {
+      if (boite.buttonRole(bouton) == QMessageBox::NoRole) return bouton->click();
+    }
+    boite.close();
+  }
+
+  Album& album_;
+  QTimer minuteur_{};
+  QString echec_{};
+  bool vue_ = false;
+  bool occupee_ = false;
+  int tours_ = 0;
+};
+
+std::string premierAvecContrat(data::Storage& stockage) {
+  std::string code;
+  stockage.Scan(data::fichier::CONTRAT, data::KeyRange::Tout(),
+                [&](std::string_view cle, std::string_view) {
+                  code = cle.substr(0, 5);
+                  return false;
+                });
+  if (code.empty()) throw std::runtime_error("Ce fichier ne contient aucun contrat à montrer.");
+  return code;
+}
+
+void capturer(Album& album, Bureau& bureau, screen::Form& forme, const QString& nom) {
+  const std::unique_ptr<QWidget> fenetre = bureau.Construire(forme.Nom());
+  forme.Show();
+  const Liaison liaison(forme, *fenetre, bureau);
+  fenetre->show();
+  album.Prendre(*fenetre, nom);
+}
+
+void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat& liste) {
+  session::Session session(bureau.Plateforme().poste);
+  session.Db = liste.Etat().Db;
+  session.OuvrirFichiers();
+  session.F_CONTRAT.Lire(liste.ClesContrats()(1), session.ItemContrat);
+  const session::DroitsUniformes droits(session::Droit::Plein);
+
+  dialogs::Frm_MotifCDD motif(bureau.Plateforme(), session);
+  motif.DroitsUtilisateur(droits);
+  motif.Etq_CodeAidant.SetLibelle(liste.W_Code);
+  motif.Etq_NomPrenomAidant.SetLibelle(liste.W_NomPrenom);
+  motif.init();
+  capturer(album, bureau, motif, "motif-cdd");
+
+  dialogs::Frm_Stage stage(bureau.Plateforme(), session);
+  stage.DroitsUtilisateur(droits);
+  stage.Etq_Aidant.SetLibelle(liste.W_Code + " " + liste.W_NomPrenom);
+  stage.init();
+  capturer(album, bureau, stage, "stage");
+
+  dialogs::Frm_Reprise reprise(bureau.Plateforme(), session);
+  dialogs::DonneesReprise donnees;
+  donnees.aidant = "Aidant : " + liste.W_Code + " " + liste.W_NomPrenom;
+  donnees.debut = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateDebut));
+  donnees.fin = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateFin));
+  reprise.Afficher(donnees);
+  capturer(album, bureau, reprise, "reprise");
+}
+
+void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::string aidant) {
+  FenetreHote fenetre(bureau);
+  fenetre.show();
+  if (!fenetre.OuvrirFichier(copie)) throw std::runtime_error("Le fichier ne s'ouvre pas.");
+  album.Prendre(fenetre, "fenetre");
+  if (aidant.empty()) {
+    const data::PosteSysteme poste;
+    aidant = premierAvecContrat(*storage::SqliteStorage::OuvrirEnLecture(versModele(copie), poste));
+  }
+  if (!fenetre.OuvrirAidant(aidant)) throw std::runtime_error("L'aidant ne s'affiche pas.");
+  control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
+  fenetre.Ecran()->Affiche("", "", "");
+  album.Prendre(fenetre, "liste");
+  if (liste.Lst_DatDebContrat.ListCount() == 0) {
+    throw std::runtime_error("L'aidant « " + aidant + " » n'a pas de contrat à montrer.");
+  }
+  Visite visite(album);
+  screen::User(liste).DoubleCliquer(liste.Lst_DatDebContrat, 0);
+  if (!visite.Echec().isEmpty()) throw std::runtime_error(versModele(visite.Echec()));
+  if (!visite.Vue()) throw std::runtime_error("L'éditeur ne s'est pas ouvert.");
+  capturerDialogues(album, bureau, liste);
+  FenetreAide aide(&fenetre);
+  aide.setAttribute(Qt::WA_DeleteOnClose, false);
+  aide.Montrer("Frm_ElementsContrat");
+  album.Prendre(aide, "aide");
+}
+
+}  // namespace
+
+QStringList capturerFormes(const QString& fichier, const std::string& aidant,
+                           const QString& dossier) {
+  const QTemporaryDir essai;
+  const QString copie = essai.filePath(QFileInfo(fichier).fileName());
+  for (const char* const suffixe : {"", "-wal"}) {
+    if (*suffixe != '\0' && !QFile::exists(fichier + suffixe)) continue;
+    if (QFile::copy(fichier + suffixe, copie + suffixe)) continue;
+    throw std::runtime_error(versModele("Le fichier « " + fichier + " » ne peut pas être lu."));
+  }
+  Album album(dossier);
+  Bureau bureau(nullptr,
+                std::make_unique<QSettings>(essai.filePath("reglages.ini"), QSettings::IniFormat));
+  enregistrerFormes(bureau);
+  capturerEcrans(album, bureau, copie, aidant);
+  return album.Images();
+}
+
+}  // namespace hote

@@ -1,0 +1,275 @@
+#include "fenetre/fenetre_hote.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QSessionManager>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
+#include <utility>
+
+#include "control/ctr_contrat.h"
+#include "data/store_error.h"
+#include "fenetre/aide.h"
+#include "fenetre/avertir.h"
+#include "fenetre/fichiers_recents.h"
+#include "fenetre/recherche_aidant.h"
+#include "liaison/bureau.h"
+#include "liaison/textes_qt.h"
+#include "widget/contrat_widget.h"
+
+namespace hote {
+
+namespace {
+
+constexpr QSize TaillePremiere{1280, 720};
+constexpr int LargeurRecherche = 260;
+constexpr const char* CleFenetre = "fenetres/hote";
+constexpr const char* ClePartage = "fenetres/hote_partage";
+
+}  // namespace
+
+FenetreHote::FenetreHote(Bureau& bureau)
+    : bureau_(bureau),
+      partage_(new QSplitter(this)),
+      recherche_(new RechercheAidant(partage_)),
+      centre_(new QStackedWidget(partage_)),
+      accueil_(new QLabel(centre_)) {
+  FaireCentre();
+  FaireMenus();
+  RetrouverPlace();
+  Titrer();
+  RemplirAccueil();
+  bureau_.SurAide = [this](const std::string&, int commande) {
+    if (commande == screen::Aide::Quitter) {
+      FenetreAide::Fermer();
+    } else {
+      FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
+    }
+  };
+  connect(qApp, &QGuiApplication::commitDataRequest, this, &FenetreHote::FinDeSession,
+          Qt::DirectConnection);
+  qApp->installEventFilter(this);
+}
+
+FenetreHote::~FenetreHote() {
+  delete ecran_;
+  bureau_.SurAide = nullptr;
+}
+
+void FenetreHote::FaireCentre() {
+  setCentralWidget(partage_);
+  setWindowIcon(QIcon(":/paquet/contrat-hote.svg"));
+  recherche_->setMinimumWidth(180);
+  recherche_->setEnabled(false);
+  accueil_->setAlignment(Qt::AlignCenter);
+  accueil_->setTextFormat(Qt::PlainText);
+  accueil_->setWordWrap(true);
+  centre_->addWidget(accueil_);
+  partage_->setStretchFactor(1, 1);
+  partage_->setChildrenCollapsible(true);
+  partage_->setCollapsible(1, false);
+  connect(recherche_, &RechercheAidant::choisi, this,
+          [this](const Aidant& aidant) { OuvrirAidant(aidant); });
+}
+
+bool FenetreHote::OuvrirFichier(const QString& chemin) {
+  if (EditionEnCours()) return false;
+  try {
+    auto base = std::make_unique<BaseOuverte>(chemin, bureau_.Plateforme().poste);
+    auto aidants = lireAidants(base->Db().Stockage());
+    FermerAidant();
+    base_ = std::move(base);
+    recherche_->Remplir(std::move(aidants));
+  } catch (const std::exception& erreur) {
+    avertirErreur("Le fichier « " + chemin + " » ne s'ouvre pas.", erreur);
+    FichiersRecents(bureau_.Reglages()).Oublier(chemin);
+    RemplirRecents();
+    return false;
+  }
+  perdue_ = false;
+  connect(base_.get(), &BaseOuverte::disparue, this, &FenetreHote::BaseDisparue,
+          Qt::QueuedConnection);
+  FichiersRecents(bureau_.Reglages()).Noter(chemin);
+  RemplirRecents();
+  recherche_->setEnabled(true);
+  recherche_->Prendre();
+  RemplirAccueil();
+  Titrer();
+  return true;
+}
+
+void FenetreHote::OuvrirDernier() {
+  const QStringList chemins = FichiersRecents(bureau_.Reglages()).Chemins();
+  if (!chemins.isEmpty() && QFileInfo::exists(chemins.first())) OuvrirFichier(chemins.first());
+}
+
+bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
+  if (base_ == nullptr || EditionEnCours()) return false;
+  FermerAidant();
+  aidant_ = aidant;
+  ecran_ = new ContratWidget(bureau_, centre_);
+  centre_->addWidget(ecran_);
+  connect(ecran_, &ContratWidget::sortie, this, &FenetreHote::FermerAidant, Qt::QueuedConnection);
+  ecran_->TheDatabase(base_->Db());
+  ecran_->TheClient(client_);
+  ecran_->W_Code = aidant.code;
+  ecran_->W_NomPrenom = aidant.nomPrenom;
+  ecran_->W_EtatSuppAidant = aidant.supprime;
+  ecran_->DroitsUtilisateur(niveau_ == session::Droit::Plein ? complets_ : consultation_);
+  try {
+    ecran_->init();
+    ecran_->Affiche("", "", "A");
+  } catch (const std::exception& erreur) {
+    FermerAidant();
+    avertirErreur("Les contrats de « " + versQt(aidant.nomPrenom) + " » ne s'affichent pas.",
+                  erreur);
+    return false;
+  }
+  centre_->setCurrentWidget(ecran_);
+  recherche_->Designer(aidant.code);
+  if (auto* const liste = ecran_->findChild<QWidget*>("Lst_DatDebContrat")) liste->setFocus();
+  Titrer();
+  return true;
+}
+
+bool FenetreHote::OuvrirAidant(const std::string& code) {
+  if (base_ == nullptr) return false;
+  try {
+    for (const Aidant& aidant : lireAidants(base_->Db().Stockage())) {
+      if (aidant.code == code) return OuvrirAidant(aidant);
+    }
+  } catch (const std::exception& erreur) {
+    avertirErreur("La liste des aidants ne peut pas être lue.", erreur);
+    return false;
+  }
+  avertir("L'aidant « " + versQt(code) +
+          " » n'existe pas dans ce fichier. Cherchez-le par son nom.");
+  return false;
+}
+
+void FenetreHote::FermerAidant() {
+  if (ecran_ == nullptr || ecran_->Occupe()) return;
+  centre_->setCurrentWidget(accueil_);
+  delete std::exchange(ecran_, nullptr);
+  aidant_ = Aidant();
+  recherche_->Prendre();
+  Titrer();
+}
+
+// The screen looks its right up once, at its start.
+void FenetreHote::ChangerDroits(int niveau) {
+  if (niveau == niveau_ || EditionEnCours()) return;
+  niveau_ = niveau;
+  Titrer();
+  if (ecran_ != nullptr) OuvrirAidant(Aidant(aidant_));
+}
+
+void FenetreHote::Actualiser() {
+  if (base_ == nullptr) return;
+  try {
+    recherche_->Remplir(lireAidants(base_->Db().Stockage()));
+  } catch (const std::exception& erreur) {
+    avertirErreur("La liste des aidants ne peut pas être lue.", erreur);
+  }
+}
+
+void FenetreHote::Titrer() {
+  QStringList parties;
+  if (ecran_ != nullptr) {
+    parties << QString("%1 (%2)").arg(versQt(aidant_.nomPrenom), versQt(aidant_.code));
+  }
+  if (base_ != nullptr) {
+    parties << base_->Nom();
+    parties << (niveau_ == session::Droit::Plein ? "droits complets" : "consultation");
+  }
+  parties << "Contrats de travail";
+  setWindowTitle(parties.join(" – "));
+}
+
+void FenetreHote::RemplirAccueil() {
+  accueil_->setText(base_ == nullptr
+                        ? "Ouvrez un fichier de données par le menu Fichier."
+                        : "Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
+}
+
+// A screen that works on a file which is gone stores nothing that anyone will find again.
+void FenetreHote::BaseDisparue() {
+  if (base_ == nullptr) return;
+  perdue_ = true;
+  avertir(
+      "Le fichier de données « " + base_->Chemin() +
+      " » a été déplacé ou supprimé pendant son utilisation.\n\nCe qui a été enregistré avant "
+      "est dans ce fichier. Ce que vous enregistreriez maintenant serait perdu : notez votre "
+      "saisie en cours, quittez l'écran, remettez le fichier à sa place et ouvrez-le à nouveau.");
+  Oublier();
+}
+
+void FenetreHote::Oublier() {
+  if (!perdue_) return;
+  if (ecran_ != nullptr && ecran_->Occupe()) {
+    QTimer::singleShot(500, this, [this] { Oublier(); });
+    return;
+  }
+  FermerAidant();
+  base_.reset();
+  perdue_ = false;
+  recherche_->Remplir({});
+  recherche_->setEnabled(false);
+  RemplirAccueil();
+  Titrer();
+}
+
+// True, after a notice, while an editor or a box of the contract screen is open: it is modal, so
+// that only the window system or the end of a session come this way.
+bool FenetreHote::EditionEnCours() {
+  if (ecran_ == nullptr || !ecran_->Occupe()) return false;
+  if (prevenu_) return true;
+  prevenu_ = true;
+  avertir("Un contrat est ouvert. Terminez par OK ou Retour, puis recommencez.");
+  prevenu_ = false;
+  return true;
+}
+
+void FenetreHote::closeEvent(QCloseEvent* evenement) {
+  if (EditionEnCours()) {
+    evenement->ignore();
+    return;
+  }
+  RetenirPlace();
+  FenetreAide::Fermer();
+  FermerAidant();
+  evenement->accept();
+}
+
+// What was stored is safe whatever happens; what is only typed needs its user.
+void FenetreHote::FinDeSession(QSessionManager& gestion) {
+  RetenirPlace();
+  if (ecran_ == nullptr || !ecran_->Occupe() || !gestion.allowsInteraction()) return;
+  gestion.cancel();
+  gestion.release();
+  QTimer::singleShot(0, this, [this] { EditionEnCours(); });
+}
+
+void FenetreHote::RetenirPlace() {
+  bureau_.Reglages().setValue(CleFenetre, saveGeometry());
+  bureau_.Reglages().setValue(ClePartage, partage_->saveState());
+}
+
+void FenetreHote::RetrouverPlace() {
+  partage_->setSizes({LargeurRecherche, TaillePremiere.width() - LargeurRecherche});
+  partage_->restoreState(bureau_.Reglages().value(ClePartage).toByteArray());
+  if (!restoreGeometry(bureau_.Reglages().value(CleFenetre).toByteArray())) resize(TaillePremiere);
+}
+
+bool FenetreHote::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() != QEvent::KeyPress || !objet->isWidgetType()) return false;
+  if (static_cast<QKeyEvent*>(evenement)->key() != Qt::Key_F1) return false;
+  FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
+  return true;
+}
+
+}  // namespace hote

@@ -1,0 +1,98 @@
+#pragma once
+// The host window: a data file, its carers, and the contract screen of one of them.
+//
+//   hote::FenetreHote fenetre(bureau);
+//   fenetre.show();
+//   fenetre.OuvrirFichier("paie.contrats");
+//
+// No failure of the store ends the program: it is told, and what was open or typed stays as far as
+// the store allows. What the screens have stored is stored; the window writes nothing itself.
+
+#include <QMainWindow>
+#include <memory>
+#include <string>
+
+#include "fenetre/annuaire.h"
+#include "fenetre/base_ouverte.h"
+#include "session/droits.h"
+#include "session/session.h"
+
+class ContratWidget;
+class QActionGroup;
+class QLabel;
+class QSessionManager;
+class QSplitter;
+class QStackedWidget;
+
+namespace hote {
+
+class Bureau;
+class RechercheAidant;
+
+class FenetreHote : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  // `bureau` outlives the window.
+  explicit FenetreHote(Bureau& bureau);
+  ~FenetreHote() override;
+
+  // False, after a message, when it does not open; what was open before stays open then.
+  bool OuvrirFichier(const QString& chemin);
+  // The file opened last, if it still stands.
+  void OuvrirDernier();
+  // Shows the contracts of a carer of the file; false, after a message, when that fails.
+  bool OuvrirAidant(const Aidant& aidant);
+  // The carer of that code; false, after a message, when the file has none.
+  bool OuvrirAidant(const std::string& code);
+  void FermerAidant();
+  // 2 full, 1 consultation; the carer's screen begins anew.
+  void ChangerDroits(int niveau);
+
+  // The contract screen, nullptr when no carer is open.
+  ContratWidget* Ecran() const { return ecran_; }
+
+ protected:
+  void closeEvent(QCloseEvent* evenement) override;
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+ private:
+  void FaireCentre();
+  void FaireMenus();
+  void FaireMenuDroits();
+  void FaireMenuAide();
+  void RemplirRecents();
+  void RemplirAccueil();
+  void ChoisirFichier();
+  void NouvelleFenetre();
+  void Actualiser();
+  void Titrer();
+  void BaseDisparue();
+  void Oublier();
+  bool EditionEnCours();
+  void FinDeSession(QSessionManager& gestion);
+  void RetenirPlace();
+  void RetrouverPlace();
+
+  Bureau& bureau_;
+  session::Client client_;
+  const session::DroitsUniformes complets_{session::Droit::Plein};
+  const session::DroitsUniformes consultation_{1};
+  int niveau_ = session::Droit::Plein;
+
+  std::unique_ptr<BaseOuverte> base_;
+  Aidant aidant_;
+  ContratWidget* ecran_ = nullptr;
+  // The file has gone under an open editor: it is let go of when that is closed.
+  bool perdue_ = false;
+  bool prevenu_ = false;
+
+  QSplitter* partage_;
+  RechercheAidant* recherche_;
+  QStackedWidget* centre_;
+  QLabel* accueil_;
+  QMenu* recents_ = nullptr;
+  QActionGroup* droits_ = nullptr;
+};
+
+}  // namespace hote

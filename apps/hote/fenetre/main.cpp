@@ -1,0 +1,79 @@
+// contrat-hote: the contract screen in a window of its own. Its options are told by --help.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLibraryInfo>
+#include <QLoggingCategory>
+#include <QTextStream>
+#include <QTimer>
+#include <QTranslator>
+
+#include "fenetre/captures.h"
+#include "fenetre/fenetre_hote.h"
+#include "liaison/bureau.h"
+#include "liaison/textes_qt.h"
+#include "widget/formes.h"
+
+namespace {
+
+int capturer(const QCommandLineParser& options) {
+  QTextStream erreurs(stderr);
+  // The offscreen platform warns of what nobody needs there.
+  QLoggingCategory::setFilterRules("default.warning=false");
+  try {
+    if (options.positionalArguments().isEmpty()) {
+      erreurs << "--captures : donnez le fichier de données à montrer.\n";
+      return 2;
+    }
+    for (const QString& image : hote::capturerFormes(options.positionalArguments().constFirst(),
+                                                     hote::versModele(options.value("aidant")),
+                                                     options.value("captures"))) {
+      QTextStream(stdout) << image << '\n';
+    }
+    return 0;
+  } catch (const std::exception& erreur) {
+    erreurs << hote::versQt(erreur.what()) << '\n';
+    return 1;
+  }
+}
+
+int montrer(const QCommandLineParser& options) {
+  hote::Bureau bureau;
+  hote::enregistrerFormes(bureau);
+  hote::FenetreHote fenetre(bureau);
+  fenetre.show();
+  // Behind the first picture of the window: a large file does not hold it back.
+  QTimer::singleShot(0, &fenetre, [&] {
+    const QStringList fichiers = options.positionalArguments();
+    if (fichiers.isEmpty()) return fenetre.OuvrirDernier();
+    const std::string aidant = hote::versModele(options.value("aidant"));
+    if (fenetre.OuvrirFichier(fichiers.constFirst()) && !aidant.empty()) {
+      fenetre.OuvrirAidant(aidant);
+    }
+  });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("contrat-hote");
+  QApplication::setApplicationVersion(CONTRATS_VERSION);
+  QApplication::setDesktopFileName("contrat-hote");
+  QLocale::setDefault(QLocale(QLocale::French));
+  QTranslator textes;
+  if (textes.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&textes);
+  }
+  QCommandLineParser options;
+  options.setApplicationDescription("Les contrats de travail des aidants.");
+  options.addHelpOption();
+  options.addVersionOption();
+  options.addOption(
+      {"captures", "Écrit les images des écrans dans ce dossier et s'arrête.", "dossier"});
+  options.addOption({"aidant", "Ouvre l'aidant de ce code.", "code"});
+  options.addPositionalArgument("fichier", "Le fichier de données ; sinon le dernier ouvert.");
+  options.process(application);
+  return options.isSet("captures") ? capturer(options) : montrer(options);
+}

@@ -1,0 +1,87 @@
+#include "fenetre/recherche_aidant.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace hote {
+
+RechercheAidant::RechercheAidant(QWidget* parent)
+    : QWidget(parent),
+      saisie_(new QLineEdit(this)),
+      liste_(new QTreeView(this)),
+      compte_(new QLabel(this)) {
+  saisie_->setObjectName("rechercheAidant");
+  saisie_->setPlaceholderText("Nom ou code de l'aidant");
+  saisie_->setClearButtonEnabled(true);
+  saisie_->setMaxLength(80);
+  saisie_->installEventFilter(this);
+  liste_->setObjectName("listeAidants");
+  liste_->setModel(&annuaire_);
+  liste_->setRootIsDecorated(false);
+  liste_->setUniformRowHeights(true);
+  liste_->setAllColumnsShowFocus(true);
+  liste_->setHeaderHidden(true);
+  liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  liste_->header()->setStretchLastSection(true);
+  liste_->header()->resizeSection(Annuaire::Code, fontMetrics().horizontalAdvance("00000") + 22);
+  auto* const disposition = new QVBoxLayout(this);
+  disposition->setContentsMargins(9, 9, 3, 9);
+  disposition->addWidget(saisie_);
+  disposition->addWidget(liste_);
+  disposition->addWidget(compte_);
+  connect(saisie_, &QLineEdit::textChanged, this, [this] { Filtrer(); });
+  connect(saisie_, &QLineEdit::returnPressed, this, [this] { Choisir(); });
+  connect(liste_, &QTreeView::activated, this, [this] { Choisir(); });
+}
+
+void RechercheAidant::Remplir(std::vector<Aidant> aidants) {
+  annuaire_.Remplir(std::move(aidants));
+  Filtrer();
+}
+
+void RechercheAidant::Designer(const std::string& code) {
+  const int ligne = annuaire_.LigneDe(code);
+  if (ligne < 0) return;
+  liste_->setCurrentIndex(annuaire_.index(ligne, 0));
+  liste_->scrollTo(annuaire_.index(ligne, 0), QAbstractItemView::PositionAtCenter);
+}
+
+void RechercheAidant::Prendre() {
+  saisie_->setFocus();
+  saisie_->selectAll();
+}
+
+void RechercheAidant::Filtrer() {
+  annuaire_.Filtrer(saisie_->text());
+  if (annuaire_.rowCount() > 0) liste_->setCurrentIndex(annuaire_.index(0, 0));
+  const int retenus = annuaire_.rowCount();
+  compte_->setText(annuaire_.Total() == 0 ? "Aucun aidant"
+                   : retenus == 0         ? "Aucun aidant ne convient"
+                   : retenus == annuaire_.Total()
+                       ? QString("%1 aidants").arg(retenus)
+                       : QString("%1 sur %2 aidants").arg(retenus).arg(annuaire_.Total()));
+}
+
+// The carer is handed over by copy: the host may fill the list again meanwhile.
+void RechercheAidant::Choisir() {
+  const QModelIndex courant = liste_->currentIndex();
+  if (!courant.isValid()) return;
+  const Aidant aidant = annuaire_.Ligne(courant.row());
+  emit choisi(aidant);
+}
+
+bool RechercheAidant::eventFilter(QObject* objet, QEvent* evenement) {
+  if (objet != saisie_ || evenement->type() != QEvent::KeyPress) return false;
+  const int touche = static_cast<QKeyEvent*>(evenement)->key();
+  const bool deplace = touche == Qt::Key_Up || touche == Qt::Key_Down || touche == Qt::Key_PageUp ||
+                       touche == Qt::Key_PageDown;
+  if (deplace) QCoreApplication::sendEvent(liste_, evenement);
+  return deplace;
+}
+
+}  // namespace hote

@@ -1,0 +1,74 @@
+#pragma once
+// The desk: what a desktop host gives to the screens, whole. It owns the services of the platform,
+// knows how each form's window is made and which forms are shown, and is the door at which errors
+// of the handlers stop.
+//
+// One desk outlives the forms and binders that stand on it.
+
+#include <QSettings>
+#include <QString>
+#include <functional>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+#include "screen/platform.h"
+
+class QWidget;
+
+namespace hote {
+
+class Liaison;
+
+class Bureau {
+ public:
+  using Fabrique = std::function<std::unique_ptr<QWidget>()>;
+
+  // `poste`: the workstation, this machine's own when absent. `reglages`: the settings store, the
+  // user's own when absent.
+  explicit Bureau(const data::Poste* poste = nullptr,
+                  std::unique_ptr<QSettings> reglages = nullptr);
+  ~Bureau();
+  Bureau(const Bureau&) = delete;
+  Bureau& operator=(const Bureau&) = delete;
+
+  screen::Platform& Plateforme();
+  QSettings& Reglages();
+
+  // How the window of the form of that name is made.
+  void Enregistrer(const std::string& forme, Fabrique fabrique);
+  // A new window for the form; a std::logic_error when none was registered.
+  std::unique_ptr<QWidget> Construire(const std::string& forme) const;
+
+  // Help was asked for: the help file and a command of screen::Aide. Unset, nothing happens.
+  std::function<void(const std::string& fichier, int commande)> SurAide;
+  // A document was printed to that PDF file.
+  std::function<void(const QString& fichier)> SurImpression;
+
+  void Inscrire(Liaison& liaison) { liaisons_.push_back(&liaison); }
+  void Retirer(Liaison& liaison);
+  // The form shown last, which has the user now; nullptr when none is shown. Help on the current
+  // screen starts from its name.
+  screen::Form* FormeCourante() const;
+  // Shows the state of every form.
+  void PousserTout();
+
+  // Runs a part of the logic. What rises from it is told to the user; false then.
+  bool Proteger(const std::function<void()>& partie);
+
+  // Pop-up menus shown so far.
+  unsigned long Menus() const { return menus_; }
+  void CompterMenu() { ++menus_; }
+
+ private:
+  void MontrerErreur(const QString& texte, const QString& detail);
+
+  struct Services;
+  std::unique_ptr<Services> services_;
+  std::map<std::string, Fabrique> fabriques_;
+  std::vector<Liaison*> liaisons_;
+  unsigned long menus_ = 0;
+};
+
+}  // namespace hote

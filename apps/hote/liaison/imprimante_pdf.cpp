@@ -1,0 +1,95 @@
+#include <QDateTime>
+#include <QDir>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QStandardPaths>
+#include <stdexcept>
+
+#include "liaison/bureau.h"
+#include "liaison/services_qt.h"
+#include "liaison/textes_qt.h"
+
+namespace hote {
+
+namespace {
+
+constexpr int PointsParPouce = 600;
+constexpr double TwipsParPouce = 1440;
+
+int enPoints(int twips) {
+  return qRound(twips * PointsParPouce / TwipsParPouce);
+}
+
+}  // namespace
+
+ImprimantePdf::ImprimantePdf(Bureau& bureau) : bureau_(bureau) {}
+ImprimantePdf::~ImprimantePdf() = default;
+
+void ImprimantePdf::Choisir(int imprimante) {
+  if (imprimante != 0) {
+    throw std::out_of_range("no printer of index " + std::to_string(imprimante));
+  }
+}
+
+void ImprimantePdf::Police(const std::string& nom, double points, bool gras) {
+  police_ = nom;
+  points_ = points;
+  gras_ = gras;
+}
+
+QPainter& ImprimantePdf::Pinceau() {
+  if (!document_) {
+    const QDir dossier(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dossier.mkpath(".");
+    const QString heure = QDateTime::currentDateTime().toString("yyyy-MM-dd HH-mm-ss-zzz");
+    fichier_ = dossier.filePath("Impression " + heure + ".pdf");
+    document_ = std::make_unique<QPdfWriter>(fichier_);
+    document_->setPageMargins(QMarginsF(0, 0, 0, 0));
+    document_->setResolution(PointsParPouce);
+    pinceau_ = std::make_unique<QPainter>();
+    if (!pinceau_->begin(document_.get())) {
+      pinceau_.reset();
+      document_.reset();
+      throw std::runtime_error(
+          versModele("Le document ne peut pas être écrit : " + fichier_ +
+                     ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
+    }
+  } else if (pageFinie_) {
+    document_->newPage();
+  }
+  pageFinie_ = false;
+  return *pinceau_;
+}
+
+void ImprimantePdf::Texte(int x, int y, const std::string& texte) {
+  QPainter& pinceau = Pinceau();
+  QFont police(versQt(police_));
+  police.setPointSizeF(points_);
+  police.setBold(gras_);
+  police.setStyleHint(QFont::TypeWriter);
+  pinceau.setFont(police);
+  // A place is the top of the line.
+  pinceau.drawText(enPoints(x), enPoints(y) + pinceau.fontMetrics().ascent(), versQt(texte));
+}
+
+void ImprimantePdf::Image(int x, int y, int largeur, int hauteur, const std::string& fichier) {
+  const QImage image(versQt(fichier));
+  if (image.isNull()) return;
+  Pinceau().drawImage(QRect(enPoints(x), enPoints(y), enPoints(largeur), enPoints(hauteur)), image);
+}
+
+void ImprimantePdf::FinPage() {
+  Pinceau();
+  pageFinie_ = true;
+}
+
+void ImprimantePdf::FinDocument() {
+  if (!document_) return;
+  pinceau_->end();
+  pinceau_.reset();
+  document_.reset();
+  pageFinie_ = false;
+  if (bureau_.SurImpression) bureau_.SurImpression(fichier_);
+}
+
+}  // namespace hote

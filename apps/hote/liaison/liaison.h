@@ -1,0 +1,115 @@
+#pragma once
+// The binder: shows a form of the screen model in a tree of widgets, field and widget being tied by
+// their names, and hands what the user does to the model through screen::User alone.
+//
+//   Liaison liaison(forme, racine, bureau);      // the widgets show the form from now on
+//
+// The model is the only source of events. After each act of the user, and before each box, modal
+// show and focus change, its whole state is pushed to the widgets; what widgets signal meanwhile is
+// no act. A focus change of the toolkit is only recorded, and delivered (Drainer) before anything
+// else that the user does. When the model kept the focus, or a box came up, the press, key or click
+// that moved it is dropped.
+//
+// The form and the root widget outlive the binder. An error that rises from a handler is shown by
+// the desk and goes no further.
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "screen/user.h"
+
+class QButtonGroup;
+class QInputMethodEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QAbstractButton;
+class QWidget;
+
+namespace hote {
+
+class Bureau;
+class Lien;
+
+// The options of one frame, which exclude each other wherever their widgets stand.
+class GroupeOptions {
+ public:
+  explicit GroupeOptions(QObject* parent);
+  void Ajouter(QAbstractButton& option);
+  // Leaves none of the group on.
+  void Eteindre(QAbstractButton& option);
+
+ private:
+  QButtonGroup* groupe_;
+};
+
+class Liaison : public QObject {
+  Q_OBJECT
+
+ public:
+  Liaison(screen::Form& forme, QWidget& racine, Bureau& bureau);
+  ~Liaison() override;
+
+  screen::Form& Forme() const { return forme_; }
+  QWidget& Racine() const { return racine_; }
+
+  // An act of the user, after the focus change that is waiting. False, and nothing done, when that
+  // change was refused or brought up a box; also during a push.
+  bool Jouer(const std::function<void(screen::User&)>& acte);
+  // Delivers the focus change that is waiting. False when the act that made it must be dropped.
+  bool Drainer();
+  // The model's state to the widgets, the focus included.
+  void Pousser();
+  // An act of the user is under way: the binder must not be deleted.
+  bool Occupee() const { return occupation_ > 0; }
+
+  GroupeOptions& Groupe(const screen::Frame* cadre);
+
+  // What does not match, in words: fields without a widget or with one of another kind, widgets
+  // named as a field without one.
+  QStringList Ecarts() const;
+
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+ signals:
+  // The form is no longer visible.
+  void formeCachee();
+
+ private:
+  void Lier();
+  void LierListes();
+  Lien* LienDe(const QWidget* widget) const;
+  bool Contient(const QWidget& widget) const;
+  void NoterFocus(QWidget* arrivee);
+  void Attendre(Lien& lien);
+  void PousserFocus();
+  void Apres();
+
+  bool Souris(QWidget& widget, const QMouseEvent& evenement);
+  bool Clavier(QWidget& widget, QKeyEvent& evenement);
+  bool Tabuler(bool arriere);
+  bool ChangerOnglet(int sens);
+  bool Raccourci(QWidget& widget);
+  bool Composer(QWidget& widget, const QInputMethodEvent& evenement);
+
+  screen::Form& forme_;
+  QWidget& racine_;
+  Bureau& bureau_;
+  screen::User user_;
+  std::vector<std::unique_ptr<Lien>> liens_;
+  QHash<const QWidget*, Lien*> parWidget_;
+  std::map<const screen::Field*, Lien*> parChamp_;
+  std::map<const screen::Frame*, GroupeOptions> groupes_;
+  // The field that the toolkit has moved the keyboard to and the model does not know of yet.
+  Lien* enAttente_ = nullptr;
+  int poussees_ = 0;
+  int occupation_ = 0;
+  bool composition_ = false;
+};
+
+}  // namespace hote

@@ -1,0 +1,218 @@
+#include "liaison/lien.h"
+
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTabWidget>
+#include <algorithm>
+
+#include "liaison/liaison.h"
+#include "liaison/textes_qt.h"
+#include "screen/touches.h"
+
+namespace hote {
+
+namespace {
+
+// A label, whose text is data as often as a caption.
+class LienEtiquette : public Lien {
+ public:
+  using Lien::Lien;
+
+ protected:
+  void PousserEtat() override {
+    auto& etiquette = static_cast<QLabel&>(Widget());
+    const QString texte = versQt(Champ().Libelle());
+    if (etiquette.text() == texte) return;
+    etiquette.setTextFormat(Qt::PlainText);
+    etiquette.setText(texte);
+  }
+};
+
+// A frame: a box with a caption, a plain one, or the page of a tab, which the tabs show and hide.
+class LienCadre : public Lien {
+ public:
+  LienCadre(Liaison& liaison, screen::Field& champ, QWidget& widget)
+      : Lien(liaison, champ, widget), boite_(qobject_cast<QGroupBox*>(&widget)) {
+    const QWidget* const parent = widget.parentWidget();
+    page_ = parent != nullptr && qobject_cast<QTabWidget*>(parent->parentWidget()) != nullptr;
+  }
+
+ protected:
+  void PousserEtat() override {
+    const QString texte = versQt(Champ().Libelle());
+    if (boite_ != nullptr && boite_->title() != texte) boite_->setTitle(texte);
+  }
+  void PousserDisponibilite() override {
+    if (!page_) return Lien::PousserDisponibilite();
+    const bool bloquee = Widget().testAttribute(Qt::WA_ForceDisabled);
+    if (Champ().Enabled() == bloquee) Widget().setEnabled(Champ().Enabled());
+  }
+
+ private:
+  QGroupBox* boite_;
+  bool page_ = false;
+};
+
+class LienOnglets : public Lien {
+ public:
+  LienOnglets(Liaison& liaison, screen::TabStrip& champ, QTabWidget& onglets)
+      : Lien(liaison, champ, onglets), modele_(champ), onglets_(onglets) {
+    onglets_.tabBar()->setFocusPolicy(Qt::StrongFocus);
+    connect(&onglets_, &QTabWidget::currentChanged, this, [this](int onglet) {
+      Binder().Jouer([&](screen::User& user) { user.Onglet(modele_, onglet); });
+    });
+  }
+  QWidget& CibleFocus() override { return *onglets_.tabBar(); }
+
+ protected:
+  void PousserEtat() override {
+    const auto& titres = modele_.Onglets();
+    for (int i = 0; i < onglets_.count() && i < static_cast<int>(titres.size()); ++i) {
+      const QString titre = versQt(titres[static_cast<std::size_t>(i)]);
+      if (onglets_.tabText(i) != titre) onglets_.setTabText(i, titre);
+    }
+    if (onglets_.currentIndex() != modele_.Tab()) onglets_.setCurrentIndex(modele_.Tab());
+  }
+  // The pages have an availability of their own.
+  void PousserDisponibilite() override {
+    QTabBar& barre = *onglets_.tabBar();
+    if (barre.isEnabled() != modele_.Enabled()) barre.setEnabled(modele_.Enabled());
+    if (onglets_.isHidden() == modele_.Visible()) onglets_.setVisible(modele_.Visible());
+  }
+
+ private:
+  screen::TabStrip& modele_;
+  QTabWidget& onglets_;
+};
+
+// A bar or a pair of arrows: both hold a number between two bounds.
+template <typename Plage>
+class LienPlage : public Lien {
+ public:
+  LienPlage(Liaison& liaison, screen::RangeField& champ, Plage& plage)
+      : Lien(liaison, champ, plage), modele_(champ), plage_(plage) {
+    connect(&plage_, &Plage::valueChanged, this, [this](int valeur) {
+      Binder().Jouer([&](screen::User& user) { user.Barre(modele_, valeur); });
+    });
+  }
+
+ protected:
+  void PousserEtat() override {
+    const int min = std::min(modele_.Min(), modele_.Max());
+    const int max = std::max(modele_.Min(), modele_.Max());
+    if (plage_.minimum() != min || plage_.maximum() != max) plage_.setRange(min, max);
+    if (plage_.value() != modele_.Value()) plage_.setValue(modele_.Value());
+  }
+
+ private:
+  screen::RangeField& modele_;
+  Plage& plage_;
+};
+
+}  // namespace
+
+void Lien::Pousser() {
+  PousserEtat();
+  PousserDisponibilite();
+}
+
+// The widget's own flags are compared: those that count its parents change with them.
+void Lien::PousserDisponibilite() {
+  const bool bloque = widget_.testAttribute(Qt::WA_ForceDisabled);
+  if (champ_.Enabled() == bloque) widget_.setEnabled(champ_.Enabled());
+  if (widget_.isHidden() == champ_.Visible()) widget_.setVisible(champ_.Visible());
+}
+
+std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget& widget) {
+  using screen::Kind;
+  switch (champ.Genre()) {
+    case Kind::Texte:
+      return creerLienSaisie(liaison, champ, widget);
+    case Kind::Deroulante:
+    case Kind::Liste:
+      return creerLienLignes(liaison, champ, widget);
+    case Kind::Bouton:
+    case Kind::Option:
+    case Kind::Case:
+      return creerLienBouton(liaison, champ, widget);
+    case Kind::Cadre:
+      return std::make_unique<LienCadre>(liaison, champ, widget);
+    case Kind::Etiquette:
+      if (qobject_cast<QLabel*>(&widget) == nullptr) return nullptr;
+      return std::make_unique<LienEtiquette>(liaison, champ, widget);
+    case Kind::Image:
+      return std::make_unique<Lien>(liaison, champ, widget);
+    case Kind::Onglets:
+      if (auto* onglets = qobject_cast<QTabWidget*>(&widget)) {
+        return std::make_unique<LienOnglets>(liaison, static_cast<screen::TabStrip&>(champ),
+                                             *onglets);
+      }
+      return nullptr;
+    case Kind::UpDown:
+      if (auto* fleches = qobject_cast<QSpinBox*>(&widget)) {
+        return std::make_unique<LienPlage<QSpinBox>>(
+            liaison, static_cast<screen::RangeField&>(champ), *fleches);
+      }
+      return nullptr;
+    case Kind::Barre:
+      if (auto* barre = qobject_cast<QScrollBar*>(&widget)) {
+        return std::make_unique<LienPlage<QScrollBar>>(
+            liaison, static_cast<screen::RangeField&>(champ), *barre);
+      }
+      return nullptr;
+    case Kind::Menu:
+      return nullptr;
+  }
+  return nullptr;
+}
+
+char32_t toucheDe(const QKeyEvent& evenement) {
+  switch (evenement.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return screen::ToucheEntree;
+    case Qt::Key_Backspace:
+      return screen::ToucheRetour;
+    default:
+      break;
+  }
+  // Alt alone asks for an access key; with Ctrl it is the third level of a French keyboard.
+  if ((evenement.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier) {
+    return 0;
+  }
+  const QList<uint> points = evenement.text().toUcs4();
+  return points.size() == 1 && screen::estCaractere(points.front()) ? points.front() : 0;
+}
+
+char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
+                       char32_t touche) {
+  if (!filtre) return touche;
+  const unsigned long interruptions = screen::Form::Interruptions();
+  const bool joue = liaison.Jouer([&](screen::User& user) {
+    if (user.Focus(champ) != screen::Acte::Fait) {
+      touche = 0;
+      return;
+    }
+    screen::fire(filtre, touche);
+  });
+  const bool reste = joue && champ.Accessible() && champ.Forme().Active() == &champ &&
+                     screen::Form::Interruptions() == interruptions;
+  return reste ? touche : 0;
+}
+
+QString filtrerTexte(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
+                     const QString& texte) {
+  if (!filtre) return texte;
+  QString garde;
+  for (const uint point : texte.toUcs4()) {
+    const char32_t touche = filtrerTouche(liaison, champ, filtre, point);
+    if (screen::estCaractere(touche)) garde += versQt(screen::texteDe(touche));
+  }
+  return garde;
+}
+
+}  // namespace hote

@@ -1,0 +1,66 @@
+#pragma once
+// One field tied to its widget. A link shows what the model says (Pousser) and turns what the user
+// does into acts of the binder; it decides nothing itself.
+
+#include <QObject>
+#include <QWidget>
+#include <memory>
+
+#include "screen/field.h"
+
+class QKeyEvent;
+
+namespace hote {
+
+class Liaison;
+
+class Lien : public QObject {
+ public:
+  Lien(Liaison& liaison, screen::Field& champ, QWidget& widget)
+      : liaison_(liaison), champ_(champ), widget_(widget) {}
+
+  screen::Field& Champ() const { return champ_; }
+  QWidget& Widget() const { return widget_; }
+
+  // The model's state to the widget. The binder guards the signals that this raises.
+  void Pousser();
+  // The widget that takes the keyboard.
+  virtual QWidget& CibleFocus() { return widget_; }
+  // A key for the focused widget. True when it is dealt with and must not reach the widget.
+  virtual bool Touche(QKeyEvent& /*evenement*/) { return false; }
+  // A text that an input method is about to insert, as the field lets it through.
+  virtual QString Filtrer(const QString& texte) { return texte; }
+  // The mouse goes down in the widget, before the widget sees it.
+  virtual void AvantPression() {}
+
+ protected:
+  virtual void PousserEtat() {}
+  virtual void PousserDisponibilite();
+  Liaison& Binder() const { return liaison_; }
+
+ private:
+  Liaison& liaison_;
+  screen::Field& champ_;
+  QWidget& widget_;
+};
+
+// The link that suits the field's kind; nullptr when the widget is of another kind.
+std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget& widget);
+
+// The makers of the kinds, by family.
+std::unique_ptr<Lien> creerLienSaisie(Liaison& liaison, screen::Field& champ, QWidget& widget);
+std::unique_ptr<Lien> creerLienLignes(Liaison& liaison, screen::Field& champ, QWidget& widget);
+std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QWidget& widget);
+
+// The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
+// window's: no field may keep it from closing.
+char32_t toucheDe(const QKeyEvent& evenement);
+// Shows KeyPress a key typed in the link's field. What is left of it: 0 when it is dropped, or when
+// the handler took the screen or the focus away.
+char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
+                       char32_t touche);
+// The text of an input method, key by key through KeyPress.
+QString filtrerTexte(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
+                     const QString& texte);
+
+}  // namespace hote

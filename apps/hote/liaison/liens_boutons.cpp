@@ -1,0 +1,102 @@
+// Buttons, options and check boxes.
+
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "liaison/liaison.h"
+#include "liaison/lien.h"
+#include "liaison/textes_qt.h"
+
+namespace hote {
+
+namespace {
+
+// `clicked` alone is a user's act; `toggled` comes from a push too.
+class LienPressable : public Lien {
+ public:
+  LienPressable(Liaison& liaison, screen::Field& champ, QAbstractButton& bouton)
+      : Lien(liaison, champ, bouton), bouton_(bouton) {
+    connect(&bouton_, &QAbstractButton::clicked, this, [this] { Cliquer(); });
+  }
+
+ protected:
+  void Cliquer() {
+    Binder().Jouer([this](screen::User& user) { user.Cliquer(Champ()); });
+  }
+  void PousserEtat() override {
+    const QString texte = versQt(Champ().Libelle());
+    if (bouton_.text() != texte) bouton_.setText(texte);
+  }
+
+  QAbstractButton& bouton_;
+};
+
+class LienBouton : public LienPressable {
+ public:
+  LienBouton(Liaison& liaison, screen::Field& champ, QPushButton& bouton)
+      : LienPressable(liaison, champ, bouton) {
+    bouton.setAutoDefault(false);
+    bouton.setDefault(false);
+  }
+  bool Touche(QKeyEvent& evenement) override {
+    if (toucheDe(evenement) != screen::ToucheEntree) return false;
+    if (!evenement.isAutoRepeat()) Cliquer();
+    return true;
+  }
+};
+
+class LienOption : public LienPressable {
+ public:
+  using LienPressable::LienPressable;
+
+ protected:
+  void PousserEtat() override {
+    LienPressable::PousserEtat();
+    const bool valeur = static_cast<screen::OptionButton&>(Champ()).Value();
+    if (bouton_.isChecked() == valeur) return;
+    if (valeur) {
+      bouton_.setChecked(true);
+    } else {
+      Binder().Groupe(Champ().Cadre()).Eteindre(bouton_);
+    }
+  }
+};
+
+class LienCase : public LienPressable {
+ public:
+  using LienPressable::LienPressable;
+
+ protected:
+  void PousserEtat() override {
+    LienPressable::PousserEtat();
+    const bool cochee = static_cast<screen::CheckBox&>(Champ()).Value() != 0;
+    if (bouton_.isChecked() != cochee) bouton_.setChecked(cochee);
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QWidget& widget) {
+  switch (champ.Genre()) {
+    case screen::Kind::Bouton:
+      if (auto* bouton = qobject_cast<QPushButton*>(&widget)) {
+        return std::make_unique<LienBouton>(liaison, champ, *bouton);
+      }
+      return nullptr;
+    case screen::Kind::Option:
+      if (auto* option = qobject_cast<QRadioButton*>(&widget)) {
+        liaison.Groupe(champ.Cadre()).Ajouter(*option);
+        return std::make_unique<LienOption>(liaison, champ, *option);
+      }
+      return nullptr;
+    default:
+      if (auto* coche = qobject_cast<QCheckBox*>(&widget)) {
+        return std::make_unique<LienCase>(liaison, champ, *coche);
+      }
+      return nullptr;
+  }
+}
+
+}  // namespace hote

@@ -1,0 +1,194 @@
+// Lists and drop-downs.
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "liaison/combo_deroulante.h"
+#include "liaison/liaison.h"
+#include "liaison/lien.h"
+#include "liaison/textes_qt.h"
+#include "screen/touches.h"
+
+namespace hote {
+
+namespace {
+
+class LienListe : public Lien {
+ public:
+  LienListe(Liaison& liaison, screen::ListBox& champ, QListWidget& liste)
+      : Lien(liaison, champ, liste), modele_(champ), liste_(liste) {
+    liste_.setSelectionMode(QAbstractItemView::SingleSelection);
+    liste_.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    // Lists in step look like one row only if those without the keyboard show it as strongly.
+    QPalette palette = liste_.palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+      palette.setBrush(QPalette::Inactive, role, palette.brush(QPalette::Active, role));
+    }
+    liste_.setPalette(palette);
+    connect(&liste_, &QListWidget::itemSelectionChanged, this, [this] {
+      choisie_ = true;
+      const auto choix = liste_.selectionModel()->selectedRows();
+      if (!choix.isEmpty()) return Choisir(choix.front().row());
+      // No act of the model leaves a list without a row: what it holds is shown again.
+      Binder().Jouer([](screen::User&) {});
+    });
+    // A click on the row that is selected already is a choice too.
+    connect(&liste_, &QListWidget::clicked, this, [this](const QModelIndex& index) {
+      if (!choisie_) Choisir(index.row());
+    });
+    connect(&liste_, &QListWidget::doubleClicked, this, [this](const QModelIndex& index) {
+      choisie_ = true;
+      const int ligne = index.row();
+      Binder().Jouer([&](screen::User& user) { user.DoubleCliquer(modele_, ligne); });
+    });
+  }
+  void AvantPression() override { choisie_ = false; }
+  bool Touche(QKeyEvent& evenement) override {
+    const char32_t touche = toucheDe(evenement);
+    if (touche == 0) return false;
+    if (touche == screen::ToucheEntree) {
+      Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
+      return true;
+    }
+    return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche) != touche;
+  }
+
+ protected:
+  void PousserEtat() override {
+    if (modele_.Rows() != poussees_) Remplir();
+    const auto choix = liste_.selectionModel()->selectedRows();
+    const int ligne = choix.isEmpty() ? -1 : choix.front().row();
+    if (ligne == modele_.ListIndex()) return;
+    if (modele_.ListIndex() < 0) {
+      liste_.setCurrentRow(-1);
+      liste_.clearSelection();
+      return;
+    }
+    liste_.setCurrentRow(modele_.ListIndex());
+    liste_.scrollToItem(liste_.currentItem());
+  }
+
+ private:
+  void Choisir(int ligne) {
+    Binder().Jouer([&](screen::User& user) { user.Choisir(modele_, ligne); });
+  }
+  void Remplir() {
+    poussees_ = modele_.Rows();
+    liste_.clear();
+    QStringList textes;
+    textes.reserve(static_cast<qsizetype>(poussees_.size()));
+    for (const auto& texte : poussees_) textes << versQt(texte);
+    liste_.addItems(textes);
+    liste_.doItemsLayout();
+  }
+
+  screen::ListBox& modele_;
+  QListWidget& liste_;
+  std::vector<std::string> poussees_;
+  // The press under way has changed the selection.
+  bool choisie_ = false;
+};
+
+class LienDeroulante : public Lien {
+ public:
+  LienDeroulante(Liaison& liaison, screen::ComboBox& champ, ComboDeroulante& combo)
+      : Lien(liaison, champ, combo), modele_(champ), combo_(combo) {
+    combo_.setEditable(champ.Saisie());
+    combo_.setInsertPolicy(QComboBox::NoInsert);
+    combo_.clear();
+    if (QLineEdit* const ligne = combo_.lineEdit()) {
+      combo_.setCompleter(nullptr);
+      // The combo answers the end of an edit with a choice that nobody made.
+      QObject::disconnect(ligne, SIGNAL(editingFinished()), &combo_, nullptr);
+      longueurQt_ = ligne->maxLength();
+      connect(ligne, &QLineEdit::textEdited, this,
+              [this](const QString& texte) { Transmettre(texte); });
+    }
+    connect(&combo_, &QComboBox::activated, this, [this](int ligne) {
+      Binder().Jouer([&](screen::User& user) { user.Choisir(modele_, ligne); });
+    });
+    connect(&combo_, &ComboDeroulante::aboutToShowPopup, this, [this] { Derouler(); });
+  }
+  bool Touche(QKeyEvent& evenement) override {
+    const char32_t touche = toucheDe(evenement);
+    if (touche == 0) return false;
+    if (touche == screen::ToucheEntree) {
+      Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
+      return true;
+    }
+    const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche);
+    if (gardee == touche) return false;
+    QLineEdit* const ligne = combo_.lineEdit();
+    if (ligne != nullptr && screen::estCaractere(gardee)) {
+      ligne->insert(versQt(screen::texteDe(gardee)));
+      Transmettre(ligne->text());
+    }
+    return true;
+  }
+  QString Filtrer(const QString& texte) override {
+    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte);
+  }
+
+ protected:
+  void PousserEtat() override {
+    if (modele_.Rows() != poussees_) Remplir();
+    if (combo_.currentIndex() != modele_.ListIndex()) combo_.setCurrentIndex(modele_.ListIndex());
+    const QString texte = versQt(modele_.Text());
+    QLineEdit* const ligne = combo_.lineEdit();
+    if (ligne == nullptr) {
+      // A text that is none of the rows.
+      if (combo_.placeholderText() != texte) combo_.setPlaceholderText(texte);
+      return;
+    }
+    const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
+    const int longueur = std::max(limite, static_cast<int>(texte.size()));
+    if (ligne->maxLength() != longueur) ligne->setMaxLength(longueur);
+    if (ligne->text() == texte) return;
+    const int curseur = ligne->cursorPosition();
+    ligne->setText(texte);
+    ligne->setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+  }
+
+ private:
+  void Transmettre(const QString& texte) {
+    Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
+  }
+  // The rows may be filled now; a refused leave or a box keeps them hidden.
+  void Derouler() {
+    screen::Acte acte = screen::Acte::Avale;
+    const unsigned long interruptions = screen::Form::Interruptions();
+    Binder().Jouer([&](screen::User& user) { acte = user.Derouler(modele_); });
+    if (acte != screen::Acte::Fait || screen::Form::Interruptions() != interruptions) {
+      combo_.RefuserOuverture();
+    }
+  }
+  void Remplir() {
+    poussees_ = modele_.Rows();
+    combo_.clear();
+    QStringList textes;
+    textes.reserve(static_cast<qsizetype>(poussees_.size()));
+    for (const auto& texte : poussees_) textes << versQt(texte);
+    combo_.addItems(textes);
+  }
+
+  screen::ComboBox& modele_;
+  ComboDeroulante& combo_;
+  std::vector<std::string> poussees_;
+  int longueurQt_ = 32767;
+};
+
+}  // namespace
+
+std::unique_ptr<Lien> creerLienLignes(Liaison& liaison, screen::Field& champ, QWidget& widget) {
+  if (champ.Genre() == screen::Kind::Liste) {
+    auto* const liste = qobject_cast<QListWidget*>(&widget);
+    if (liste == nullptr) return nullptr;
+    return std::make_unique<LienListe>(liaison, static_cast<screen::ListBox&>(champ), *liste);
+  }
+  auto* const combo = qobject_cast<ComboDeroulante*>(&widget);
+  if (combo == nullptr) return nullptr;
+  return std::make_unique<LienDeroulante>(liaison, static_cast<screen::ComboBox&>(champ), *combo);
+}
+
+}  // namespace hote

@@ -1,0 +1,124 @@
+// Text fields, on one line and on several.
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "liaison/liaison.h"
+#include "liaison/lien.h"
+#include "liaison/textes_qt.h"
+#include "screen/touches.h"
+
+namespace hote {
+
+namespace {
+
+class LienSaisie : public Lien {
+ public:
+  LienSaisie(Liaison& liaison, screen::TextField& champ, QWidget& widget)
+      : Lien(liaison, champ, widget), modele_(champ) {}
+
+  bool Touche(QKeyEvent& evenement) override {
+    const char32_t touche = toucheDe(evenement);
+    if (touche == 0) return false;
+    if (touche == screen::ToucheEntree && !modele_.Multiligne()) {
+      Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
+      return true;
+    }
+    const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche);
+    if (gardee == touche) return screen::estCaractere(touche) && Pleine();
+    if (screen::estCaractere(gardee) && !Pleine()) Inserer(versQt(screen::texteDe(gardee)));
+    return true;
+  }
+  QString Filtrer(const QString& texte) override {
+    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte);
+  }
+
+ protected:
+  virtual void Inserer(const QString& texte) = 0;
+  // No character more can be typed.
+  virtual bool Pleine() const { return false; }
+  // The whole text as the user has left it, by keys, a paste or an input method.
+  void Transmettre(const QString& texte) {
+    Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
+  }
+
+  screen::TextField& modele_;
+};
+
+class LienLigne : public LienSaisie {
+ public:
+  LienLigne(Liaison& liaison, screen::TextField& champ, QLineEdit& ligne)
+      : LienSaisie(liaison, champ, ligne), ligne_(ligne), longueurQt_(ligne.maxLength()) {
+    connect(&ligne_, &QLineEdit::textEdited, this,
+            [this](const QString& texte) { Transmettre(texte); });
+  }
+
+ protected:
+  void Inserer(const QString& texte) override {
+    ligne_.insert(texte);
+    Transmettre(ligne_.text());
+  }
+  void PousserEtat() override {
+    const QString texte = versQt(modele_.Text());
+    // A program may set more than the user can type.
+    const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
+    const int longueur = std::max(limite, static_cast<int>(texte.size()));
+    if (ligne_.maxLength() != longueur) ligne_.setMaxLength(longueur);
+    if (ligne_.text() == texte) return;
+    const int curseur = ligne_.cursorPosition();
+    ligne_.setText(texte);
+    ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+  }
+
+ private:
+  QLineEdit& ligne_;
+  int longueurQt_;
+};
+
+class LienTexteLong : public LienSaisie {
+ public:
+  LienTexteLong(Liaison& liaison, screen::TextField& champ, QPlainTextEdit& page)
+      : LienSaisie(liaison, champ, page), page_(page) {
+    page_.setTabChangesFocus(true);
+    connect(&page_, &QPlainTextEdit::textChanged, this,
+            [this] { Transmettre(page_.toPlainText()); });
+  }
+
+ protected:
+  void Inserer(const QString& texte) override { page_.insertPlainText(texte); }
+  bool Pleine() const override {
+    return modele_.Longueur() > 0 && !page_.textCursor().hasSelection() &&
+           page_.toPlainText().toUcs4().size() >= modele_.Longueur();
+  }
+  // The widget knows one line end only; the records of the suite hold CR LF.
+  void PousserEtat() override {
+    QString texte = versQt(modele_.Text());
+    texte.replace("\r\n", "\n").replace('\r', '\n');
+    if (page_.toPlainText() == texte) return;
+    QTextCursor curseur = page_.textCursor();
+    const int place = curseur.position();
+    page_.setPlainText(texte);
+    curseur = page_.textCursor();
+    curseur.setPosition(std::min(place, static_cast<int>(texte.size())));
+    page_.setTextCursor(curseur);
+  }
+
+ private:
+  QPlainTextEdit& page_;
+};
+
+}  // namespace
+
+std::unique_ptr<Lien> creerLienSaisie(Liaison& liaison, screen::Field& champ, QWidget& widget) {
+  auto& modele = static_cast<screen::TextField&>(champ);
+  if (auto* ligne = qobject_cast<QLineEdit*>(&widget)) {
+    return std::make_unique<LienLigne>(liaison, modele, *ligne);
+  }
+  if (auto* page = qobject_cast<QPlainTextEdit*>(&widget)) {
+    return std::make_unique<LienTexteLong>(liaison, modele, *page);
+  }
+  return nullptr;
+}
+
+}  // namespace hote

@@ -1,0 +1,126 @@
+#include "liaison/services_qt.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+
+#include "liaison/bureau.h"
+#include "liaison/textes_qt.h"
+
+namespace hote {
+
+namespace {
+
+using screen::Boutons;
+using screen::Reponse;
+
+struct BoutonMessage {
+  Boutons boutons;
+  Reponse reponse;
+  const char* texte;
+  QMessageBox::ButtonRole role;
+  bool echappe;  // what Esc and the close box answer
+};
+
+constexpr BoutonMessage BoutonsMessages[] = {
+    {Boutons::Ok, Reponse::Ok, "OK", QMessageBox::AcceptRole, true},
+    {Boutons::OkAnnuler, Reponse::Ok, "OK", QMessageBox::AcceptRole, false},
+    {Boutons::OkAnnuler, Reponse::Annuler, "Annuler", QMessageBox::RejectRole, true},
+    {Boutons::OuiNon, Reponse::Oui, "&Oui", QMessageBox::YesRole, false},
+    {Boutons::OuiNon, Reponse::Non, "&Non", QMessageBox::NoRole, true},
+    {Boutons::OuiNonAnnuler, Reponse::Oui, "&Oui", QMessageBox::YesRole, false},
+    {Boutons::OuiNonAnnuler, Reponse::Non, "&Non", QMessageBox::NoRole, false},
+    {Boutons::OuiNonAnnuler, Reponse::Annuler, "Annuler", QMessageBox::RejectRole, true},
+};
+
+QMessageBox::Icon iconeQt(screen::Icone icone) {
+  switch (icone) {
+    case screen::Icone::Aucune:
+      return QMessageBox::NoIcon;
+    case screen::Icone::Information:
+      return QMessageBox::Information;
+    case screen::Icone::Question:
+      return QMessageBox::Question;
+    case screen::Icone::Exclamation:
+      return QMessageBox::Warning;
+    case screen::Icone::Arret:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+void CurseurQt::Attente(bool attente) {
+  if (attente == attente_) return;
+  attente_ = attente;
+  if (attente) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+void CurseurQt::TraiterEvenements() {
+  bureau_.PousserTout();
+  QCoreApplication::processEvents();
+}
+
+void CurseurQt::Bip() {
+  QApplication::beep();
+}
+
+CurseurQt::Levee::Levee(CurseurQt& curseur) : curseur_(curseur), attente_(curseur.attente_) {
+  curseur_.Attente(false);
+}
+
+CurseurQt::Levee::~Levee() {
+  curseur_.Attente(attente_);
+}
+
+Reponse MessagesQt::Montrer(const screen::Message& message) {
+  bureau_.PousserTout();
+  const CurseurQt::Levee levee(curseur_);
+  QMessageBox boite(QApplication::activeWindow());
+  boite.setTextFormat(Qt::PlainText);
+  boite.setWindowTitle(versQt(message.titre));
+  boite.setText(versQt(message.texte));
+  boite.setIcon(iconeQt(message.icone));
+  Reponse echappe = Reponse::Ok;
+  std::vector<std::pair<QAbstractButton*, Reponse>> boutons;
+  for (const BoutonMessage& b : BoutonsMessages) {
+    if (b.boutons != message.boutons) continue;
+    QPushButton* const bouton = boite.addButton(b.texte, b.role);
+    if (boutons.empty()) boite.setDefaultButton(bouton);
+    boutons.emplace_back(bouton, b.reponse);
+    if (!b.echappe) continue;
+    boite.setEscapeButton(bouton);
+    echappe = b.reponse;
+  }
+  boite.exec();
+  for (const auto& [bouton, reponse] : boutons) {
+    if (bouton == boite.clickedButton()) return reponse;
+  }
+  return echappe;
+}
+
+std::string ReglagesQt::Lire(const std::string& section, const std::string& cle,
+                             const std::string& defaut) const {
+  return versModele(reglages_.value(versQt(section + "/" + cle), versQt(defaut)).toString());
+}
+
+void ReglagesQt::Ecrire(const std::string& section, const std::string& cle,
+                        const std::string& valeur) {
+  reglages_.setValue(versQt(section + "/" + cle), versQt(valeur));
+}
+
+std::string AideQt::Dossier() const {
+  return versModele(QCoreApplication::applicationDirPath());
+}
+
+void AideQt::Appeler(const std::string& fichier, int commande) {
+  if (bureau_.SurAide) bureau_.SurAide(fichier, commande);
+}
+
+}  // namespace hote

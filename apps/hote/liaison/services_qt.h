@@ -1,0 +1,124 @@
+#pragma once
+// The services of the platform, on Qt.
+
+#include <QString>
+#include <memory>
+
+#include "screen/platform.h"
+
+class QPainter;
+class QPdfWriter;
+class QSettings;
+class QWidget;
+
+namespace hote {
+
+class Bureau;
+
+class CurseurQt : public screen::Curseur {
+ public:
+  explicit CurseurQt(Bureau& bureau) : bureau_(bureau) {}
+  void Attente(bool attente) override;
+  void TraiterEvenements() override;
+  void Bip() override;
+
+  // Lifts the wait cursor while the user is asked something.
+  class Levee {
+   public:
+    explicit Levee(CurseurQt& curseur);
+    ~Levee();
+    Levee(const Levee&) = delete;
+    Levee& operator=(const Levee&) = delete;
+
+   private:
+    CurseurQt& curseur_;
+    bool attente_;
+  };
+
+ private:
+  Bureau& bureau_;
+  bool attente_ = false;
+};
+
+class MessagesQt : public screen::Messages {
+ public:
+  MessagesQt(Bureau& bureau, CurseurQt& curseur) : bureau_(bureau), curseur_(curseur) {}
+  screen::Reponse Montrer(const screen::Message& message) override;
+
+ private:
+  Bureau& bureau_;
+  CurseurQt& curseur_;
+};
+
+// A modal form gets a window of its own for the time of its show.
+class ModalesQt : public screen::Modales {
+ public:
+  ModalesQt(Bureau& bureau, CurseurQt& curseur) : bureau_(bureau), curseur_(curseur) {}
+  void Attendre(screen::Form& form) override;
+  // The entries that follow `menu` in the form, up to the next one that heads a menu.
+  void MontrerMenu(screen::Form& form, std::string_view menu) override;
+
+ private:
+  void Placer(QWidget& fenetre, QWidget* parente, const QString& nom);
+
+  Bureau& bureau_;
+  CurseurQt& curseur_;
+};
+
+// Paper is a PDF file in the user's documents.
+class ImprimantePdf : public screen::Imprimante {
+ public:
+  explicit ImprimantePdf(Bureau& bureau);
+  ~ImprimantePdf() override;
+  std::vector<std::string> Noms() const override { return {"Document PDF"}; }
+  void Choisir(int imprimante) override;
+  void Police(const std::string& nom, double points, bool gras) override;
+  void Texte(int x, int y, const std::string& texte) override;
+  void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) override;
+  void FinPage() override;
+  void FinDocument() override;
+
+ private:
+  QPainter& Pinceau();
+
+  Bureau& bureau_;
+  QString fichier_;
+  std::unique_ptr<QPdfWriter> document_;
+  std::unique_ptr<QPainter> pinceau_;
+  bool pageFinie_ = false;
+  std::string police_ = "Courier New";
+  double points_ = 10;
+  bool gras_ = false;
+};
+
+class ReglagesQt : public screen::Reglages {
+ public:
+  explicit ReglagesQt(QSettings& reglages) : reglages_(reglages) {}
+  std::string Lire(const std::string& section, const std::string& cle,
+                   const std::string& defaut) const override;
+  void Ecrire(const std::string& section, const std::string& cle,
+              const std::string& valeur) override;
+
+ private:
+  QSettings& reglages_;
+};
+
+class AideQt : public screen::Aide {
+ public:
+  explicit AideQt(Bureau& bureau) : bureau_(bureau) {}
+  std::string Dossier() const override;
+  // The host shows help in a window of its own.
+  void Preparer(const std::string&, const screen::FenetreAide&) override {}
+  void Appeler(const std::string& fichier, int commande) override;
+
+ private:
+  Bureau& bureau_;
+};
+
+// A host without the suite's other controls.
+class AucunControle : public screen::ControlesHeberges {
+ public:
+  screen::ControleHeberge* Trouver(const std::string&) override { return nullptr; }
+};
+
+}  // namespace hote

@@ -1,0 +1,81 @@
+#include "widget/contrat_widget.h"
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "control/ctr_contrat.h"
+#include "liaison/bureau.h"
+#include "liaison/liaison.h"
+
+struct ContratWidget::Prive {
+  explicit Prive(hote::Bureau& bureauDonne)
+      : bureau(bureauDonne),
+        controle(bureau.Plateforme()),
+        racine(bureau.Construire(controle.Nom())) {}
+
+  hote::Bureau& bureau;
+  control::Ctr_Contrat controle;
+  std::unique_ptr<QWidget> racine;
+  std::unique_ptr<hote::Liaison> liaison;
+};
+
+ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
+    : QWidget(parent), prive_(std::make_unique<Prive>(bureau)) {
+  auto* const disposition = new QVBoxLayout(this);
+  disposition->setContentsMargins(0, 0, 0, 0);
+  disposition->addWidget(prive_->racine.get());
+  prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
+  prive_->controle.Sortie = [this] { QTimer::singleShot(0, this, [this] { Annoncer(); }); };
+}
+
+ContratWidget::~ContratWidget() = default;
+
+int ContratWidget::W_Sortir() const {
+  return prive_->controle.W_Sortir;
+}
+
+void ContratWidget::TheDatabase(data::Db& db) {
+  prive_->controle.TheDatabase(db);
+}
+
+void ContratWidget::TheClient(session::Client& client) {
+  prive_->controle.TheClient(client);
+}
+
+void ContratWidget::DroitsUtilisateur(const session::Droits& droits) {
+  prive_->controle.DroitsUtilisateur(droits);
+}
+
+void ContratWidget::init() {
+  control::Ctr_Contrat& controle = prive_->controle;
+  controle.W_Code = W_Code;
+  controle.W_NomPrenom = W_NomPrenom;
+  controle.W_EtatSuppAidant = W_EtatSuppAidant;
+  controle.W_CodeContrat = W_CodeContrat;
+  controle.Show();
+  controle.init();
+  prive_->bureau.PousserTout();
+}
+
+void ContratWidget::Affiche(std::string_view typeAct, std::string_view codeAsso,
+                            std::string_view actifs) {
+  prive_->controle.Affiche(typeAct, codeAsso, actifs);
+  prive_->bureau.PousserTout();
+}
+
+bool ContratWidget::Occupe() const {
+  return prive_->liaison->Occupee();
+}
+
+control::Ctr_Contrat& ContratWidget::Controle() const {
+  return prive_->controle;
+}
+
+// A loop of a box may run before the handler that left has ended.
+void ContratWidget::Annoncer() {
+  if (Occupe()) {
+    QTimer::singleShot(0, this, [this] { Annoncer(); });
+    return;
+  }
+  emit sortie();
+}

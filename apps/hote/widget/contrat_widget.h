@@ -1,0 +1,77 @@
+#pragma once
+// The contract screen of one carer as a widget, for any Qt host. The host calls it in this order:
+//
+//   hote::Bureau bureau;                       // one for the application
+//   auto* ecran = new ContratWidget(bureau, parent);
+//   ecran->TheDatabase(db);
+//   ecran->W_Code = "00042";                   // and W_NomPrenom, W_EtatSuppAidant, W_CodeContrat
+//   ecran->DroitsUtilisateur(droits);
+//   connect(ecran, &ContratWidget::sortie, fenetre, &QWidget::close);
+//   ecran->init();
+//   ecran->Affiche("", "", "A");               // if it wants filters preset
+//
+// For another carer the host makes another widget: one control at a time is assumed. The desk, the
+// database, the client and the rights outlive the widget. A data::StoreError rises from init and
+// Affiche to the host; one that a user's act meets is shown to the user.
+
+#include <QWidget>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace control {
+class Ctr_Contrat;
+}
+namespace data {
+class Db;
+}
+namespace session {
+class Client;
+class Droits;
+}  // namespace session
+namespace hote {
+class Bureau;
+}
+
+class ContratWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ContratWidget(hote::Bureau& bureau, QWidget* parent = nullptr);
+  ~ContratWidget() override;
+
+  // The carer's code, 5 characters, and the name to show.
+  std::string W_Code;
+  std::string W_NomPrenom;
+  // The carer is in the deleted state: no contract can be added.
+  bool W_EtatSuppAidant = false;
+  // The key of one contract to open straight away, or "".
+  std::string W_CodeContrat;
+  // 1 when the user has left by Retour.
+  int W_Sortir() const;
+
+  void TheDatabase(data::Db& db);
+  void TheClient(session::Client& client);
+  void DroitsUtilisateur(const session::Droits& droits);
+  // Opens the session's files and shows the carer. Called once. With W_CodeContrat it returns when
+  // the editor of that contract has been closed.
+  void init();
+  // Presets the filters and searches. `typeAct`: "P" entity contracts, "M" private employers, else
+  // both. `codeAsso`: legal entity or "". `actifs`: "A" active, "H" ended, else all.
+  void Affiche(std::string_view typeAct, std::string_view codeAsso, std::string_view actifs);
+
+  // A handler is under way, a box or an editor open: the widget must not be deleted now.
+  bool Occupe() const;
+  // The screen itself, for a host that drives it further and for tests.
+  control::Ctr_Contrat& Controle() const;
+
+ signals:
+  // W_Sortir has become 1. No handler is under way: the slot may delete the widget.
+  void sortie();
+
+ private:
+  void Annoncer();
+
+  struct Prive;
+  std::unique_ptr<Prive> prive_;
+};
