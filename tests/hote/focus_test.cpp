@@ -1,0 +1,198 @@
+// Leaving a field before the act that leaves it: a refusal swallows the act, whatever it is.
+
+#include "essai.h"
+
+namespace {
+
+using essai::Apres;
+
+class Focus : public essai::Essai {
+ protected:
+  struct Depart {
+    const char* nom;
+    std::function<void()> acte;
+    std::string evenements;  // that follow "-Txt_Date" when the leave is granted
+    std::string arrivee;
+  };
+
+  std::vector<Depart> departs() {
+    return {
+        {"click on a button", [this] { cliquer(w("Cmd_OK")); }, " Cmd_OK", "Cmd_OK"},
+        {"access key", [this] { touche(Qt::Key_V, Qt::AltModifier); }, " Cmd_OK", "Cmd_OK"},
+        {"tab", [this] { cliquer(ongletBarre(), ongletBarre().tabRect(1).center()); }, " Ong<0",
+         "Ong"},
+        {"Ctrl+Tab", [this] { touche(Qt::Key_Tab, Qt::ControlModifier); }, " Ong<0", "Ong"},
+        {"row", [this] { ligne("Lst_A", 2); }, " Lst_A2", "Lst_A"},
+        {"option",
+         [this] {
+           cliquer(w("Opt_2"), {8, w("Opt_2").height() / 2});
+         },
+         " Opt_2", "Opt_2"},
+        {"check box",
+         [this] {
+           cliquer(w("Cac_X"), {8, w("Cac_X").height() / 2});
+         },
+         " Cac_X", "Cac_X"},
+        {"Tab", [this] { touche(Qt::Key_Tab); }, "", "Txt_Num"},
+        {"click into a field", [this] { cliquer(w("Txt_P1")); }, "", "Txt_P1"},
+    };
+  }
+  QTabBar& ongletBarre() { return *w<QTabWidget>("Ong").tabBar(); }
+  // What an act must not have changed.
+  std::string etat() {
+    return std::to_string(ongletBarre().currentIndex()) + "/" +
+           std::to_string(w<QListWidget>("Lst_A").selectedItems().size()) +
+           (w<QRadioButton>("Opt_2").isChecked() ? "o" : "") +
+           (w<QCheckBox>("Cac_X").isChecked() ? "c" : "") + "/" + focus();
+  }
+};
+
+TEST_F(Focus, RefusedLeaveSwallowsTheAct) {
+  aller("Txt_Date");
+  taper("?");
+  for (const Depart& depart : departs()) {
+    SCOPED_TRACE(depart.nom);
+    depart.acte();
+    EXPECT_EQ(forme.Prendre(), "-Txt_Date");
+    EXPECT_EQ(actif(), "Txt_Date");
+    EXPECT_EQ(etat(), "0/0/Txt_Date");
+  }
+}
+
+TEST_F(Focus, GrantedLeaveComesBeforeTheAct) {
+  for (const Depart& depart : departs()) {
+    SCOPED_TRACE(depart.nom);
+    cliquer(ongletBarre(), ongletBarre().tabRect(0).center());
+    aller("Txt_Date");
+    depart.acte();
+    EXPECT_EQ(forme.Prendre(), "-Txt_Date" + depart.evenements);
+    EXPECT_EQ(actif(), depart.arrivee);
+  }
+}
+
+TEST_F(Focus, BoxDuringTheLeaveDropsTheClick) {
+  aller("Txt_Date");
+  taper("boite");
+  Apres clerc([](QWidget& boite) { QTest::keyClick(&boite, Qt::Key_Escape); });
+  cliquer(w("Cmd_OK"));
+  EXPECT_EQ(clerc.Fois(), 1);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Date");
+}
+
+// The widgets stand in another order, Txt_Notes is disabled and the second page hidden.
+TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
+  forme.Txt_Notes.SetEnabled(false);
+  liaison->Pousser();
+  aller("Txt_Date");
+  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",   "Lst_B",
+                                       "Opt_1",   "Opt_2",     "Cac_X",   "Ong",
+                                       "Txt_P1",  "Cmd_OK",    "Txt_Date"};
+  for (const auto& nom : ordre) {
+    touche(Qt::Key_Tab);
+    EXPECT_EQ(actif(), nom);
+    EXPECT_EQ(focus(), nom);
+  }
+  for (auto nom = ordre.rbegin() + 1; nom != ordre.rend(); ++nom) {
+    touche(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(actif(), *nom);
+  }
+}
+
+// A field that its own click disables loses the keyboard to another, which the model then enters.
+TEST_F(Focus, DisabledFieldHandsTheKeyboardOn) {
+  forme.SurOk = [this] { forme.Cmd_OK.SetEnabled(false); };
+  cliquer(w("Cmd_OK"));
+  EXPECT_FALSE(w("Cmd_OK").isEnabled());
+  ASSERT_NE(actif(), "");
+  EXPECT_EQ(actif(), focus());
+}
+
+TEST_F(Focus, EnterPressesTheFocusedButtonAlone) {
+  aller("Txt_Date");
+  touche(Qt::Key_Return);
+  EXPECT_EQ(forme.Prendre(), "");
+  touche(Qt::Key_V, Qt::AltModifier);
+  forme.Prendre();
+  touche(Qt::Key_Enter, Qt::KeypadModifier);
+  touche(Qt::Key_Space);
+  EXPECT_EQ(forme.Prendre(), "Cmd_OK Cmd_OK");
+}
+
+TEST_F(Focus, ClosingAsksTheModel) {
+  forme.fermable = false;
+  aller("Txt_Num");
+  for (int i = 0; i < 2; ++i) {
+    i == 0 ? touche(Qt::Key_Escape) : static_cast<void>(racine->close());
+    EXPECT_TRUE(racine->isVisible());
+    EXPECT_EQ(actif(), "Txt_Num");
+  }
+  forme.fermable = true;
+  touche(Qt::Key_Escape);
+  EXPECT_FALSE(racine->isVisible());
+  EXPECT_FALSE(forme.Visible());
+}
+
+// A handler shows a modal form, which shows a box; the rest of the handler runs after both.
+TEST_F(Focus, ModalShowBlocksInsideTheHandler) {
+  std::string dedans;
+  forme.SurOk = [&] {
+    forme.SurOk = nullptr;
+    essai::Frm_Essai autre(bureau.Plateforme());
+    autre.Txt_Date.SetFocus();
+    autre.SurOk = [&] {
+      const auto reponse = autre.MessageBox("Sûr ?", screen::Boutons::OuiNon);
+      if (reponse == screen::Reponse::Non) autre.Hide();
+    };
+    autre.ShowModal();
+    dedans = autre.journal;
+  };
+  Apres clerc([&](QWidget& fenetre) {
+    if (qobject_cast<QMessageBox*>(&fenetre) != nullptr) {
+      QTest::keyClick(&fenetre, Qt::Key_Escape);
+      return;
+    }
+    // The form below takes no click.
+    cliquer(w("Cac_X"), {8, w("Cac_X").height() / 2});
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_8);
+    QTest::keyClick(fenetre.windowHandle(), Qt::Key_V, Qt::AltModifier);
+  });
+  cliquer(w("Cmd_OK"));
+  EXPECT_EQ(clerc.Fois(), 2);
+  EXPECT_EQ(dedans, "-Txt_Date Cmd_OK");
+  EXPECT_EQ(forme.Prendre(), "-Txt_Date Cmd_OK");
+  EXPECT_EQ(QApplication::activeWindow(), racine.get());
+}
+
+TEST_F(Focus, StoreErrorIsToldAndTheFormGoesOn) {
+  forme.SurOk = [] {
+    throw data::StoreError(data::NumeroErreur::DisquePlein, "Le disque est plein.", "CONTRAT",
+                           "00001001");
+  };
+  aller("Txt_Num");
+  taper("12");
+  forme.Prendre();
+  QString texte;
+  Apres clerc([&](QWidget& boite) {
+    texte = static_cast<QMessageBox&>(boite).text();
+    QTest::keyClick(&boite, Qt::Key_Return);
+  });
+  cliquer(w("Cmd_OK"));
+  EXPECT_TRUE(texte.startsWith("Le disque est plein.")) << texte.toStdString();
+  EXPECT_TRUE(texte.contains("CONTRAT") && texte.contains("00001001"));
+  EXPECT_EQ(w<QLineEdit>("Txt_Num").text(), "12");
+  forme.SurOk = nullptr;
+  cliquer(w("Cmd_OK"));
+  EXPECT_EQ(forme.Prendre(), "-Txt_Num Cmd_OK Cmd_OK");
+}
+
+TEST_F(Focus, RightClickShowsTheMenuOfTheForm) {
+  Apres clerc([](QWidget& menu) {
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  cliquer(w("Etq_Nom"), {}, Qt::RightButton);
+  EXPECT_EQ(forme.Prendre(), "Mnu_Sommaire");
+  EXPECT_EQ(clerc.Fois(), 1);
+}
+
+}  // namespace
