@@ -112,21 +112,25 @@ std::string CItem::Text() const {
   return resultat;
 }
 
+// Every record read comes through here: most attributes are empty or one plain value, and cost no
+// second look.
 void CItem::SetText(std::string_view texte) {
   // Built aside: `texte` may be a view of this very item.
   std::vector<std::string> attributs;
-  if (!texte.empty()) attributs.reserve(static_cast<std::size_t>(count(texte, SepAttribut)));
-  for (std::size_t debut = 0; debut <= texte.size();) {
-    const auto fin = std::min(texte.find(SepAttribut, debut), texte.size());
-    const std::string_view attribut = texte.substr(debut, fin - debut);
-    // Most attributes are one plain value and need no second look.
-    if (attribut.empty() ||
-        (attribut.back() != SepValeur && attribut.find(SepSousValeur) == std::string_view::npos)) {
-      attributs.emplace_back(attribut);
-    } else {
-      attributs.push_back(canonical(attribut));
+  attributs.reserve(static_cast<std::size_t>(count(texte, SepAttribut)));
+  const bool sousValeurs = texte.find(SepSousValeur) != std::string_view::npos;
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    if (texte[i] == SepAttribut) {
+      attributs.emplace_back();
+      continue;
     }
-    debut = fin + 1;
+    const auto fin = std::min(texte.find(SepAttribut, i), texte.size());
+    if (sousValeurs || texte[fin - 1] == SepValeur) {
+      attributs.push_back(canonical(texte.substr(i, fin - i)));
+    } else {
+      attributs.emplace_back(texte.data() + i, fin - i);
+    }
+    i = fin;
   }
   avant_ = std::move(attributs);
   apres_.clear();
