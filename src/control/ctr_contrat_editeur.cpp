@@ -4,6 +4,7 @@
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "screen/attente.h"
+#include "session/pendant.h"
 
 namespace control {
 

@@ -10,6 +10,7 @@
 #include "data/texte.h"
 #include "editor/editeur.h"
 #include "editor/origine_listes.h"
+#include "session/pendant.h"
 
 namespace editor {
 
@@ -60,7 +61,7 @@ void OngletOrigine::Remplir_Combos() {
 }
 
 void OngletOrigine::Afficher_Ong1() {
-  const Pendant silence(editeur_.EvenementsActifs, false);
+  const session::Pendant silence(editeur_.EvenementsActifs, false);
   // A new editor in a session whose lists are filled already has none of them.
   if (ListeConvCol.Vide()) Remplir_Combos();
   debutDeplace_ = false;

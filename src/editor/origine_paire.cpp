@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/texte.h"
+#include "session/pendant.h"
 
 namespace editor {
 
@@ -12,13 +13,13 @@ void PaireCode::Remplir(std::vector<Ligne> lignes) {
   libelle_.Clear();
   for (const Ligne& ligne : lignes_) libelle_.AddItem(ligne.libelle);
   if (!saisie_) return;
-  const Pendant muette(muette_, true);
+  const session::Pendant muette(muette_, true);
   libelle_.SetText(texte);
 }
 
 void PaireCode::Montrer(std::string_view libelle) {
   if (saisie_) return;
-  const Pendant muette(muette_, true);
+  const session::Pendant muette(muette_, true);
   const auto ligne = std::find_if(lignes_.begin(), lignes_.end(), [&](const Ligne& l) {
     return l.code == code_.Text() && l.libelle == libelle;
   });
@@ -35,7 +36,7 @@ void PaireCode::SuivreChoix() {
 
 void PaireCode::SuivreSaisie() {
   if (muette_) return;
-  const Pendant saisie(saisie_, true);
+  const session::Pendant saisie(saisie_, true);
   code_.SetText(CodeChoisi());
 }
 

@@ -12,19 +12,6 @@
 
 namespace editor {
 
-// A flag that holds a value for the time of a scope.
-class Pendant {
- public:
-  Pendant(bool& drapeau, bool valeur) : drapeau_(drapeau), avant_(drapeau) { drapeau_ = valeur; }
-  ~Pendant() { drapeau_ = avant_; }
-  Pendant(const Pendant&) = delete;
-  Pendant& operator=(const Pendant&) = delete;
-
- private:
-  bool& drapeau_;
-  bool avant_;
-};
-
 class PaireCode {
  public:
   struct Ligne {

@@ -12,10 +12,6 @@ bool QuitterDate(Session& session, screen::TextField& champ) {
   return false;
 }
 
-void LierDate(Session& session, screen::TextField& champ) {
-  champ.LostFocus = [&session, &champ] { QuitterDate(session, champ); };
-}
-
 void FiltrerNombre(Session& session, screen::TextField& champ, bool moins) {
   champ.KeyPress = [&session, &champ, moins](char32_t& touche) {
     session.Lib.FilterKey(champ.Text(), touche, moins);

@@ -13,9 +13,6 @@ inline constexpr const char* ErreurDate = "Erreur de saisie dans la date, veuill
 // The LostFocus of a date field: puts the typed date in displayed form. A text that is no date
 // keeps the focus, without a message. True when the field may be left.
 bool QuitterDate(Session& session, screen::TextField& champ);
-// Ties QuitterDate alone as LostFocus.
-void LierDate(Session& session, screen::TextField& champ);
-
 // Lets only the keys of a number through; the minus sign when `moins`.
 void FiltrerNombre(Session& session, screen::TextField& champ, bool moins);
 // The LostFocus of a number field: puts a filled field in its fixed-width form, `avant` digits

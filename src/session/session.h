@@ -80,18 +80,6 @@ struct Session {
   void Liberer();
 };
 
-// A flag of the session that is set for the time of a scope, whatever ends it.
-class Pendant {
- public:
-  explicit Pendant(bool& drapeau) : drapeau_(drapeau) { drapeau_ = true; }
-  ~Pendant() { drapeau_ = false; }
-  Pendant(const Pendant&) = delete;
-  Pendant& operator=(const Pendant&) = delete;
-
- private:
-  bool& drapeau_;
-};
-
 struct FichierSession {
   std::string_view nom;
   data::DbFile Session::*fichier;

@@ -76,10 +76,7 @@ class LienListe : public Lien {
   void Remplir() {
     poussees_ = modele_.Rows();
     liste_.clear();
-    QStringList textes;
-    textes.reserve(static_cast<qsizetype>(poussees_.size()));
-    for (const auto& texte : poussees_) textes << versQt(texte);
-    liste_.addItems(textes);
+    liste_.addItems(versQt(poussees_));
     liste_.doItemsLayout();
   }
 
@@ -166,10 +163,7 @@ class LienDeroulante : public Lien {
   void Remplir() {
     poussees_ = modele_.Rows();
     combo_.clear();
-    QStringList textes;
-    textes.reserve(static_cast<qsizetype>(poussees_.size()));
-    for (const auto& texte : poussees_) textes << versQt(texte);
-    combo_.addItems(textes);
+    combo_.addItems(versQt(poussees_));
   }
 
   screen::ComboBox& modele_;
