@@ -5,28 +5,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QTreeView>
+#include <cstdio>
 
 #include "control/ctr_contrat.h"
 #include "fenetre/aide.h"
 #include "fenetre/fichiers_recents.h"
-#include "liaison/bureau.h"
+#include "integration/hote_essai.h"
 #include "liaison/textes_qt.h"
 #include "screen/user.h"
-#include "storage/sqlite.h"
 #include "widget/contrat_widget.h"
-#include "widget/formes.h"
 
 namespace {
 
@@ -58,24 +50,6 @@ TEST(Annuaire, KeepsACarerByTheBeginningOfCodeOrName) {
   }
 }
 
-// A user who answers each box with its only button, and keeps what it said.
-class Lecteur {
- public:
-  Lecteur() {
-    QObject::connect(&minuteur_, &QTimer::timeout, &minuteur_, [this] {
-      auto* const boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (boite == nullptr) return;
-      dit += boite->text();
-      boite->buttons().constFirst()->click();
-    });
-    minuteur_.start(10);
-  }
-  QString dit{};
-
- private:
-  QTimer minuteur_{};
-};
-
 // The title of the help page that is shown.
 std::string PageAide() {
   for (QWidget* const fenetre : QApplication::topLevelWidgets()) {
@@ -85,17 +59,9 @@ std::string PageAide() {
   return "no help";
 }
 
-class Hote : public ::testing::Test {
+class Hote : public essai::Hote {
  protected:
-  Hote() {
-    hote::enregistrerFormes(bureau_);
-    Creer(Chemin("a.contrats"));
-  }
-
-  QString Chemin(const char* nom) const { return dossier_.filePath(nom); }
-  std::unique_ptr<QSettings> Reglages() const {
-    return std::make_unique<QSettings>(Chemin("reglages.ini"), QSettings::IniFormat);
-  }
+  Hote() { Creer(Chemin("a.contrats")); }
 
   // The carers 00001 and 00002, the second one deleted, and what the screen reads at its start.
   void Creer(const QString& chemin) const {
@@ -114,12 +80,6 @@ class Hote : public ::testing::Test {
   bool OuvrirDurand() {
     return fenetre_.OuvrirFichier(Chemin("a.contrats")) && fenetre_.OuvrirAidant("00001");
   }
-  std::string Titre() const { return fenetre_.windowTitle().toStdString(); }
-
-  const QTemporaryDir dossier_{};
-  const data::PosteFixe poste_{21511};
-  hote::Bureau bureau_{&poste_, Reglages()};
-  hote::FenetreHote fenetre_{bureau_};
 };
 
 TEST_F(Hote, OpensACarerFromTheKeyboardAndSaysSo) {
@@ -151,16 +111,35 @@ TEST_F(Hote, ADeletedCarerGetsNoNewContract) {
   EXPECT_FALSE(fenetre_.Ecran()->Controle().Cmd_Ajouter.Enabled());
 }
 
+// What does not open leaves what is open, and says of which file it speaks and why.
 TEST_F(Hote, KeepsWhatIsOpenWhenAnotherFileFails) {
   ASSERT_TRUE(OuvrirDurand());
-  QFile(Chemin("faux.contrats")).open(QIODevice::WriteOnly);
-  const Lecteur lecteur;
-  EXPECT_FALSE(fenetre_.OuvrirFichier(Chemin("absent.contrats")));
-  EXPECT_FALSE(fenetre_.OuvrirFichier(Chemin("faux.contrats")));
-  EXPECT_FALSE(fenetre_.OuvrirAidant("99999"));
-  for (const char* const mot : {"absent.contrats", "faux.contrats", "99999"}) {
-    EXPECT_TRUE(lecteur.dit.contains(mot)) << mot;
+  const auto ecrire = [this](const char* nom, const QByteArray& contenu) {
+    QFile fichier(Chemin(nom));
+    EXPECT_TRUE(fichier.open(QIODevice::WriteOnly) && fichier.write(contenu) == contenu.size());
+  };
+  QFile modele(Chemin("a.contrats"));
+  ASSERT_TRUE(modele.open(QIODevice::ReadOnly));
+  QByteArray plusRecent = modele.read(100);
+  plusRecent[63] = 9;  // the low byte of the version
+  ecrire("vide & creux.contrats", "");
+  ecrire("été.contrats", QByteArray(5000, 'x'));
+  ecrire("neuf.contrats", plusRecent);
+  struct Cas {
+    const char* nom;
+    const char* dit;
+  };
+  essai::Lecteur lecteur;
+  for (const Cas& cas :
+       {Cas{"absent.contrats", "pas de fichier"}, Cas{".", "un dossier"},
+        Cas{"vide & creux.contrats", "est vide"}, Cas{"été.contrats", "pas un fichier de données"},
+        Cas{"neuf.contrats", "Installez la dernière version"}}) {
+    EXPECT_FALSE(fenetre_.OuvrirFichier(Chemin(cas.nom)));
+    EXPECT_TRUE(lecteur.dit.contains(cas.nom)) << cas.nom;
+    EXPECT_TRUE(lecteur.ADit(cas.dit)) << cas.nom;
   }
+  EXPECT_FALSE(fenetre_.OuvrirAidant("99999"));
+  EXPECT_TRUE(lecteur.ADit("99999"));
   EXPECT_NE(fenetre_.Ecran(), nullptr);
   EXPECT_EQ(hote::FichiersRecents(bureau_.Reglages()).Chemins(), QStringList{Chemin("a.contrats")});
 }
@@ -169,7 +148,7 @@ TEST_F(Hote, KeepsWhatIsOpenWhenAnotherFileFails) {
 TEST_F(Hote, TellsWhyACarerDoesNotShow) {
   storage::SqliteStorage::Ouvrir(Chemin("a.contrats").toStdString(), poste_)
       ->Erase("COMPTEUR", "999");
-  const Lecteur lecteur;
+  const essai::Lecteur lecteur;
   EXPECT_FALSE(OuvrirDurand());
   EXPECT_TRUE(lecteur.dit.contains("DURAND Gwenaëlle")) << lecteur.dit.toStdString();
   EXPECT_TRUE(lecteur.dit.contains("COMPTEUR")) << lecteur.dit.toStdString();
@@ -177,42 +156,47 @@ TEST_F(Hote, TellsWhyACarerDoesNotShow) {
   EXPECT_EQ(Titre(), "a.contrats – droits complets – Contrats de travail");
 }
 
-TEST_F(Hote, LetsGoOfAFileThatIsRemoved) {
+TEST_F(Hote, LetsGoOfAFileThatIsRemovedOrReplaced) {
+  Creer(Chemin("b.contrats"));
+  const std::string la = Chemin("a.contrats").toStdString();
+  essai::Lecteur lecteur;
   ASSERT_TRUE(OuvrirDurand());
-  const Lecteur lecteur;
-  ASSERT_TRUE(QFile::remove(Chemin("a.contrats")));
+  ASSERT_EQ(std::rename(Chemin("b.contrats").toStdString().c_str(), la.c_str()), 0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == "Contrats de travail"; }, 5000));
-  EXPECT_TRUE(lecteur.dit.contains("a.contrats"));
+  EXPECT_TRUE(lecteur.ADit("remplacé par un autre"));
+  ASSERT_TRUE(OuvrirDurand());
+  ASSERT_EQ(std::remove(la.c_str()), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == "Contrats de travail"; }, 5000));
+  EXPECT_TRUE(lecteur.ADit("déplacé ou supprimé"));
   EXPECT_EQ(fenetre_.Ecran(), nullptr);
 }
 
-// The window system or the end of a session can ask for it although the editor is modal.
+// The window system, another part of the program or the end of a session can ask for it although
+// the editor is modal.
 TEST_F(Hote, StaysWhileTheEditorIsOpen) {
   fenetre_.show();
   ASSERT_TRUE(OuvrirDurand());
-  const Lecteur lecteur;
-  bool resteOuverte = false;
-  QTimer minuteur;
-  QObject::connect(&minuteur, &QTimer::timeout, &minuteur, [&] {
-    QWidget* const active = QApplication::activeModalWidget();
-    if (active == nullptr || active->objectName() != "Frm_ElementsContrat") return;
-    if (!resteOuverte) {
-      resteOuverte = true;
-      EXPECT_FALSE(fenetre_.close());
-      EXPECT_FALSE(fenetre_.OuvrirFichier(Chemin("a.contrats")));
-      fenetre_.FermerAidant();
-      EXPECT_NE(fenetre_.Ecran(), nullptr);
-      QTest::keyClick(active, Qt::Key_F1);
-      EXPECT_EQ(PageAide(), "Le contrat");
-    } else {
-      active->findChild<QAbstractButton*>("Cmd_Retour")->click();
-    }
-  });
-  minuteur.start(20);
-  fenetre_.Ecran()->findChild<QAbstractButton*>("Cmd_Ajouter")->click();
-  minuteur.stop();
-  EXPECT_TRUE(resteOuverte);
-  EXPECT_TRUE(lecteur.dit.contains("Un contrat est ouvert")) << lecteur.dit.toStdString();
+  essai::Lecteur lecteur;
+  const essai::DansForme editeur("Frm_ElementsContrat",
+                                 {[&](QWidget&) { EXPECT_FALSE(fenetre_.close()); },
+                                  [](QWidget&) {
+                                    // What QCoreApplication::quit does while the program runs.
+                                    QEvent fin(QEvent::Quit);
+                                    QCoreApplication::sendEvent(qApp, &fin);
+                                  },
+                                  [&](QWidget& active) {
+                                    EXPECT_TRUE(lecteur.ADit("Un contrat est ouvert"));
+                                    EXPECT_FALSE(fenetre_.OuvrirFichier(Chemin("a.contrats")));
+                                    fenetre_.ChangerDroits(1);
+                                    fenetre_.FermerAidant();
+                                    EXPECT_NE(fenetre_.Ecran(), nullptr);
+                                    QTest::keyClick(&active, Qt::Key_F1);
+                                    EXPECT_EQ(PageAide(), "Le contrat");
+                                  },
+                                  [](QWidget& active) { essai::cliquer(active, "Cmd_Retour"); }});
+  essai::cliquer(*fenetre_.Ecran(), "Cmd_Ajouter");
+  EXPECT_EQ(editeur.Faits(), 4U);
+  EXPECT_NE(Titre().find("droits complets"), std::string::npos);
   EXPECT_TRUE(fenetre_.close());
 }
 
@@ -227,8 +211,15 @@ TEST_F(Hote, RemembersFilesAndSize) {
   hote::Bureau bureau(&poste_, Reglages());
   EXPECT_EQ(hote::FichiersRecents(bureau.Reglages()).Chemins(),
             (QStringList{Chemin("a.contrats"), Chemin("b.contrats")}));
+  {
+    hote::FenetreHote autre(bureau);
+    EXPECT_EQ(autre.size(), QSize(1111, 666));
+    autre.showMaximized();
+    autre.close();
+  }
   hote::FenetreHote autre(bureau);
-  EXPECT_EQ(autre.size(), QSize(1111, 666));
+  EXPECT_TRUE(autre.isMaximized());
+  EXPECT_EQ(autre.normalGeometry().size(), QSize(1111, 666));
   autre.OuvrirDernier();
   EXPECT_EQ(autre.windowTitle().toStdString(),
             "a.contrats – droits complets – Contrats de travail");

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QPalette>
-#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 #include <numeric>
@@ -51,8 +50,8 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
   fiches_.reserve(aidants.size());
   for (Aidant& aidant : aidants) {
     const QString code = plier(versQt(aidant.code));
-    const QString court =
-        code.mid(std::min(code.indexOf(QRegularExpression("[^0]|$")), code.size()));
+    const auto debut = std::find_if(code.begin(), code.end(), [](QChar c) { return c != '0'; });
+    const QString court = code.mid(debut - code.begin());
     const QString nom = plier(versQt(aidant.nomPrenom));
     fiches_.push_back({std::move(aidant), nom, " " + code + " " + court + " " + nom});
   }
@@ -65,12 +64,13 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
 }
 
 void Annuaire::Filtrer(const QString& saisie) {
-  const QStringList mots = plier(saisie).split(' ', Qt::SkipEmptyParts);
+  QStringList mots = plier(saisie).split(' ', Qt::SkipEmptyParts);
+  for (QString& mot : mots) mot.prepend(' ');
   beginResetModel();
   retenus_.clear();
   for (std::size_t i = 0; i < fiches_.size(); ++i) {
     const bool garde = std::all_of(mots.begin(), mots.end(), [&](const QString& mot) {
-      return fiches_[i].mots.contains(" " + mot);
+      return fiches_[i].mots.contains(mot);
     });
     if (garde) retenus_.push_back(i);
   }

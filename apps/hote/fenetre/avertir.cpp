@@ -8,15 +8,27 @@
 
 namespace hote {
 
-void avertir(const QString& texte) {
+namespace {
+
+void montrer(const QString& texte, QMessageBox::Icon icone) {
   QMessageBox boite(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget()
                                                                  : QApplication::activeWindow());
   boite.setWindowTitle("Contrats de travail");
-  boite.setIcon(QMessageBox::Warning);
+  boite.setIcon(icone);
   boite.setTextFormat(Qt::PlainText);
   boite.setText(texte);
   boite.addButton("OK", QMessageBox::AcceptRole);
   boite.exec();
+}
+
+}  // namespace
+
+void informer(const QString& texte) {
+  montrer(texte, QMessageBox::Information);
+}
+
+void avertir(const QString& texte) {
+  montrer(texte, QMessageBox::Warning);
 }
 
 void avertirErreur(const QString& texte, const std::exception& erreur) {

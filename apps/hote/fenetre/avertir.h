@@ -6,6 +6,7 @@
 
 namespace hote {
 
+void informer(const QString& texte);
 void avertir(const QString& texte);
 // `texte`, what the error says of itself, and for a store's error its number and place.
 void avertirErreur(const QString& texte, const std::exception& erreur);

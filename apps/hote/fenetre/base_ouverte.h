@@ -4,31 +4,46 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QString>
+#include <functional>
+#include <memory>
 
 #include "data/db.h"
 #include "data/poste.h"
 
 namespace hote {
 
+class StockageVeille;
+
+// How the store in a data file is opened. A data::StoreError when it cannot be.
+using Ouvreur = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
+                                                             const data::Poste& poste)>;
+// The embedded store. A write waits for another program 2 seconds at most: the window waits too.
+std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste);
+
 class BaseOuverte : public QObject {
   Q_OBJECT
 
  public:
   // A data::StoreError rises when the file cannot be opened. `poste` outlives the object.
-  BaseOuverte(const QString& chemin, const data::Poste& poste);
+  BaseOuverte(const QString& chemin, const data::Poste& poste, const Ouvreur& ouvrir);
 
   const QString& Chemin() const { return chemin_; }
   QString Nom() const;
   data::Db& Db() { return db_; }
+  // What has become of the file and what its user can do, "" while it stands under its name.
+  QString Defaut() const;
+  void Veiller();
 
  signals:
-  // The file no longer stands under its name. Sent once.
+  // The file no longer stands under its name: nothing is written until it is put back. Veiller
+  // starts the watch again then.
   void disparue();
 
  private:
   void Regarder();
 
   QString chemin_;
+  std::shared_ptr<StockageVeille> stockage_;
   data::Db db_;
   QFileSystemWatcher veille_;
 };

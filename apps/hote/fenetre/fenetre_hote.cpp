@@ -1,5 +1,6 @@
 #include "fenetre/fenetre_hote.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -15,6 +16,7 @@
 #include "data/store_error.h"
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
+#include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
@@ -32,8 +34,9 @@ constexpr const char* ClePartage = "fenetres/hote_partage";
 
 }  // namespace
 
-FenetreHote::FenetreHote(Bureau& bureau)
+FenetreHote::FenetreHote(Bureau& bureau, Ouvreur ouvrir)
     : bureau_(bureau),
+      ouvrir_(std::move(ouvrir)),
       partage_(new QSplitter(this)),
       recherche_(new RechercheAidant(partage_)),
       centre_(new QStackedWidget(partage_)),
@@ -50,6 +53,9 @@ FenetreHote::FenetreHote(Bureau& bureau)
       FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
     }
   };
+  bureau_.SurImpression = [](const QString& fichier) {
+    informer("Le document est prêt, dans le fichier « " + fichier + " ».");
+  };
   connect(qApp, &QGuiApplication::commitDataRequest, this, &FenetreHote::FinDeSession,
           Qt::DirectConnection);
   qApp->installEventFilter(this);
@@ -58,6 +64,7 @@ FenetreHote::FenetreHote(Bureau& bureau)
 FenetreHote::~FenetreHote() {
   delete ecran_;
   bureau_.SurAide = nullptr;
+  bureau_.SurImpression = nullptr;
 }
 
 void FenetreHote::FaireCentre() {
@@ -79,14 +86,14 @@ void FenetreHote::FaireCentre() {
 bool FenetreHote::OuvrirFichier(const QString& chemin) {
   if (EditionEnCours()) return false;
   try {
-    auto base = std::make_unique<BaseOuverte>(chemin, bureau_.Plateforme().poste);
+    auto base = std::make_unique<BaseOuverte>(chemin, bureau_.Plateforme().poste, ouvrir_);
     auto aidants = lireAidants(base->Db().Stockage());
     FermerAidant();
     base_ = std::move(base);
     recherche_->Remplir(std::move(aidants));
   } catch (const std::exception& erreur) {
     avertirErreur("Le fichier « " + chemin + " » ne s'ouvre pas.", erreur);
-    FichiersRecents(bureau_.Reglages()).Oublier(chemin);
+    if (!QFileInfo::exists(chemin)) FichiersRecents(bureau_.Reglages()).Oublier(chemin);
     RemplirRecents();
     return false;
   }
@@ -104,7 +111,9 @@ bool FenetreHote::OuvrirFichier(const QString& chemin) {
 
 void FenetreHote::OuvrirDernier() {
   const QStringList chemins = FichiersRecents(bureau_.Reglages()).Chemins();
-  if (!chemins.isEmpty() && QFileInfo::exists(chemins.first())) OuvrirFichier(chemins.first());
+  const bool dernier = !chemins.isEmpty() && QFileInfo::exists(chemins.first());
+  const QString chemin = dernier ? chemins.first() : fichierDemonstration();
+  if (!chemin.isEmpty()) OuvrirFichier(chemin);
 }
 
 bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
@@ -164,6 +173,7 @@ void FenetreHote::FermerAidant() {
 void FenetreHote::ChangerDroits(int niveau) {
   if (niveau == niveau_ || EditionEnCours()) return;
   niveau_ = niveau;
+  for (QAction* const choix : droits_->actions()) choix->setChecked(choix->data() == niveau_);
   Titrer();
   if (ecran_ != nullptr) OuvrirAidant(Aidant(aidant_));
 }
@@ -196,20 +206,24 @@ void FenetreHote::RemplirAccueil() {
                         : "Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
 }
 
-// A screen that works on a file which is gone stores nothing that anyone will find again.
 void FenetreHote::BaseDisparue() {
-  if (base_ == nullptr) return;
+  if (base_ == nullptr || perdue_) return;
   perdue_ = true;
-  avertir(
-      "Le fichier de données « " + base_->Chemin() +
-      " » a été déplacé ou supprimé pendant son utilisation.\n\nCe qui a été enregistré avant "
-      "est dans ce fichier. Ce que vous enregistreriez maintenant serait perdu : notez votre "
-      "saisie en cours, quittez l'écran, remettez le fichier à sa place et ouvrez-le à nouveau.");
+  if (const QString defaut = base_->Defaut(); !defaut.isEmpty()) {
+    avertir(defaut +
+            "\n\nTant que ce n'est pas fait, rien ne s'enregistre ; une saisie en cours reste à "
+            "l'écran.");
+  }
   Oublier();
 }
 
 void FenetreHote::Oublier() {
-  if (!perdue_) return;
+  if (base_ == nullptr || !perdue_) return;
+  if (base_->Defaut().isEmpty()) {
+    perdue_ = false;
+    base_->Veiller();
+    return;
+  }
   if (ecran_ != nullptr && ecran_->Occupe()) {
     QTimer::singleShot(500, this, [this] { Oublier(); });
     return;
@@ -252,6 +266,11 @@ void FenetreHote::FinDeSession(QSessionManager& gestion) {
   gestion.cancel();
   gestion.release();
   QTimer::singleShot(0, this, [this] { EditionEnCours(); });
+}
+
+void FenetreHote::paintEvent(QPaintEvent* evenement) {
+  QMainWindow::paintEvent(evenement);
+  if (!std::exchange(dessinee_, true)) emit peinte();
 }
 
 void FenetreHote::RetenirPlace() {

@@ -33,13 +33,13 @@ class FenetreHote : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `bureau` outlives the window.
-  explicit FenetreHote(Bureau& bureau);
+  // `bureau` outlives the window. `ouvrir`: how a data file is opened.
+  explicit FenetreHote(Bureau& bureau, Ouvreur ouvrir = ouvrirSqlite);
   ~FenetreHote() override;
 
   // False, after a message, when it does not open; what was open before stays open then.
   bool OuvrirFichier(const QString& chemin);
-  // The file opened last, if it still stands.
+  // The file opened last, else the demonstration data, whichever stands.
   void OuvrirDernier();
   // Shows the contracts of a carer of the file; false, after a message, when that fails.
   bool OuvrirAidant(const Aidant& aidant);
@@ -52,13 +52,19 @@ class FenetreHote : public QMainWindow {
   // The contract screen, nullptr when no carer is open.
   ContratWidget* Ecran() const { return ecran_; }
 
+ signals:
+  // The first picture of the window is drawn: a large file does not hold it back.
+  void peinte();
+
  protected:
   void closeEvent(QCloseEvent* evenement) override;
+  void paintEvent(QPaintEvent* evenement) override;
   bool eventFilter(QObject* objet, QEvent* evenement) override;
 
  private:
   void FaireCentre();
   void FaireMenus();
+  void FaireMenuFichier();
   void FaireMenuDroits();
   void FaireMenuAide();
   void RemplirRecents();
@@ -75,6 +81,7 @@ class FenetreHote : public QMainWindow {
   void RetrouverPlace();
 
   Bureau& bureau_;
+  const Ouvreur ouvrir_;
   session::Client client_;
   const session::DroitsUniformes complets_{session::Droit::Plein};
   const session::DroitsUniformes consultation_{1};
@@ -83,9 +90,10 @@ class FenetreHote : public QMainWindow {
   std::unique_ptr<BaseOuverte> base_;
   Aidant aidant_;
   ContratWidget* ecran_ = nullptr;
-  // The file has gone under an open editor: it is let go of when that is closed.
+  // The file has gone. Under an open editor it is kept until that is closed: it may come back.
   bool perdue_ = false;
   bool prevenu_ = false;
+  bool dessinee_ = false;
 
   QSplitter* partage_;
   RechercheAidant* recherche_;

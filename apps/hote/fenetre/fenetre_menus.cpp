@@ -12,6 +12,7 @@
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
 #include "fenetre/fenetre_hote.h"
+#include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
@@ -19,17 +20,23 @@
 
 namespace hote {
 
-void FenetreHote::FaireMenus() {
+void FenetreHote::FaireMenuFichier() {
   QMenu* const fichier = menuBar()->addMenu("&Fichier");
   fichier->addAction("&Ouvrir…", QKeySequence(QKeySequence::Open), this,
                      &FenetreHote::ChoisirFichier);
   recents_ = fichier->addMenu("Fichiers &récents");
   RemplirRecents();
+  QAction* const demonstration = fichier->addAction(
+      "&Données de démonstration", this, [this] { OuvrirFichier(fichierDemonstration()); });
+  demonstration->setVisible(!fichierDemonstration().isEmpty());
   fichier->addAction("&Nouvelle fenêtre", QKeySequence(QKeySequence::New), this,
                      &FenetreHote::NouvelleFenetre);
   fichier->addSeparator();
   fichier->addAction("&Quitter", QKeySequence("Ctrl+Q"), this, &QWidget::close);
+}
 
+void FenetreHote::FaireMenus() {
+  FaireMenuFichier();
   QMenu* const aidant = menuBar()->addMenu("Aidan&t");
   aidant->addAction("&Chercher un aidant", QKeySequence(QKeySequence::Find), this, [this] {
     if (partage_->sizes().constFirst() == 0) partage_->setSizes({1, 1});
@@ -53,6 +60,7 @@ void FenetreHote::FaireMenuDroits() {
   for (const Choix& choix : Niveaux) {
     QAction* const action = menu->addAction(choix.texte);
     action->setCheckable(true);
+    action->setData(choix.niveau);
     action->setChecked(choix.niveau == niveau_);
     droits_->addAction(action);
     connect(action, &QAction::triggered, this,

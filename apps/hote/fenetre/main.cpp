@@ -5,7 +5,6 @@
 #include <QLibraryInfo>
 #include <QLoggingCategory>
 #include <QTextStream>
-#include <QTimer>
 #include <QTranslator>
 
 #include "fenetre/captures.h"
@@ -41,16 +40,16 @@ int montrer(const QCommandLineParser& options) {
   hote::Bureau bureau;
   hote::enregistrerFormes(bureau);
   hote::FenetreHote fenetre(bureau);
-  fenetre.show();
-  // Behind the first picture of the window: a large file does not hold it back.
-  QTimer::singleShot(0, &fenetre, [&] {
+  const auto commencer = [&] {
     const QStringList fichiers = options.positionalArguments();
     if (fichiers.isEmpty()) return fenetre.OuvrirDernier();
     const std::string aidant = hote::versModele(options.value("aidant"));
     if (fenetre.OuvrirFichier(fichiers.constFirst()) && !aidant.empty()) {
       fenetre.OuvrirAidant(aidant);
     }
-  });
+  };
+  QObject::connect(&fenetre, &hote::FenetreHote::peinte, &fenetre, commencer, Qt::QueuedConnection);
+  fenetre.show();
   return QApplication::exec();
 }
 

@@ -1,0 +1,46 @@
+// Paper: what is printed through the desk's printer is a PDF file in the user's documents.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "integration/hote_essai.h"
+
+namespace {
+
+using Impression = essai::Hote;
+
+QByteArray contenu(const QString& chemin) {
+  QFile fichier(chemin);
+  EXPECT_TRUE(fichier.open(QIODevice::ReadOnly)) << chemin.toStdString();
+  return fichier.readAll();
+}
+
+TEST_F(Impression, EachDocumentIsAWholePdfFileThatTheUserIsToldOf) {
+  qputenv("HOME", dossier_.path().toUtf8());
+  qputenv("XDG_CONFIG_HOME", dossier_.path().toUtf8());
+  essai::Lecteur lecteur;
+  screen::Imprimante& papier = bureau_.Plateforme().imprimante;
+  for (const int pages : {1, 3}) {
+    for (int page = 1; page <= pages; ++page) {
+      papier.Police("Courier New", 10, false);
+      papier.Texte(567, 567, "Liste des contrats, page " + std::to_string(page));
+      papier.FinPage();
+    }
+    papier.FinDocument();
+    EXPECT_TRUE(lecteur.ADit(".pdf")) << pages;
+  }
+  const QDir documents(dossier_.filePath("Documents"));
+  const QStringList fichiers = documents.entryList({"*.pdf"}, QDir::Files, QDir::Name);
+  ASSERT_EQ(fichiers.size(), 2);
+  for (int i = 0; i < 2; ++i) {
+    const QByteArray pdf = contenu(documents.filePath(fichiers[i]));
+    EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
+    EXPECT_EQ(pdf.count("/Type /Page\n"), i == 0 ? 1 : 3);
+    // A page without text has no font.
+    EXPECT_TRUE(pdf.contains("/Type /Font\n"));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,153 @@
+// Failures of the store under the open screens, through real widgets: each one is told, what was
+// typed stays, and the same act passes when the store is well again.
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <cstdio>
+#include <sstream>
+
+#include "base/executer.h"
+#include "fenetre/annuaire.h"
+#include "integration/hote_essai.h"
+#include "support/faulty_storage.h"
+#include "widget/contrat_widget.h"
+
+namespace {
+
+struct Dessous {
+  std::unique_ptr<data::Storage> magasin;
+};
+
+// A faulty store that owns the one below.
+struct Panne : Dessous, support::FaultyStorage {
+  explicit Panne(std::unique_ptr<data::Storage> sain)
+      : Dessous{std::move(sain)}, FaultyStorage(*magasin) {}
+};
+
+class Pannes : public ::testing::Test {
+ protected:
+  Pannes() {
+    for (const std::vector<std::string>& commande :
+         {std::vector<std::string>{"creer", Chemin()},
+          {"importer", Chemin(), CONTRATS_SOURCE_DIR "/demo/scenarios/donnees.jsonl"}}) {
+      std::istringstream entree;
+      std::ostringstream sortie;
+      EXPECT_EQ(base::executer(commande, entree, sortie, sortie), 0) << sortie.str();
+    }
+    hote::enregistrerFormes(bureau_);
+    fenetre_.show();
+  }
+
+  std::string Chemin() const { return dossier_.filePath("a.contrats").toStdString(); }
+  void Copier(const std::string& chemin) const {
+    storage::SqliteStorage::Ouvrir(Chemin(), poste_);
+    EXPECT_TRUE(QFile::copy(QString::fromStdString(Chemin()), QString::fromStdString(chemin)));
+  }
+  // What another program reads.
+  std::string Lu(const std::string& chemin, const char* fichier, const char* cle) const {
+    std::string texte = "-";
+    storage::SqliteStorage::Ouvrir(chemin, poste_)->Get(fichier, cle, texte);
+    return texte;
+  }
+  // The first failing call, then ever later ones, until the act passes without meeting it.
+  void ChaquePanne(const char* acte, const std::function<bool()>& passe) {
+    int pannes = 0;
+    for (int n = 1, suivant = 2;; n = std::exchange(suivant, n + suivant), ++pannes) {
+      panne_->EchouerAppel(n);
+      const bool reussi = passe();
+      panne_->EchouerAppel(0);
+      EXPECT_NE(lecteur_.ADit("Panne voulue"), reussi) << acte << ", call " << n;
+      if (reussi) break;
+    }
+    EXPECT_GT(pannes, 0) << acte;
+  }
+
+  // A new contract for the carer as a clerk types it.
+  static void Remplir(QWidget& editeur) {
+    struct Saisie {
+      const char* champ;
+      const char* texte;
+    };
+    for (const Saisie& saisie :
+         {Saisie{"Txt_ConvColContrat", "01"}, Saisie{"Txt_AssocContrat", "001"},
+          Saisie{"Txt_EmplEtabContrat", "001"}, Saisie{"Txt_DatDebContrat", "01/12/2026"},
+          Saisie{"Txt_PerEssaiContrat", "60"}}) {
+      auto* const ligne = editeur.findChild<QLineEdit*>(saisie.champ);
+      ASSERT_NE(ligne, nullptr) << saisie.champ;
+      ligne->setFocus();
+      QTest::keyClicks(ligne, saisie.texte);
+    }
+  }
+  static std::string Texte(QWidget& fenetre, const char* champ) {
+    return fenetre.findChild<QLineEdit*>(champ)->text().toStdString();
+  }
+
+  const QTemporaryDir dossier_{};
+  const data::PosteFixe poste_{21511};
+  hote::Bureau bureau_{&poste_, std::make_unique<QSettings>(dossier_.filePath("reglages.ini"),
+                                                            QSettings::IniFormat)};
+  Panne* panne_ = nullptr;
+  hote::FenetreHote fenetre_{bureau_, [this](const std::string& chemin, const data::Poste& poste) {
+                               auto panne =
+                                   std::make_unique<Panne>(hote::ouvrirSqlite(chemin, poste));
+                               panne_ = panne.get();
+                               return panne;
+                             }};
+  essai::Lecteur lecteur_{};
+};
+
+TEST_F(Pannes, EveryReadThatFailsIsToldAndTheScreenGoesOn) {
+  ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(Chemin())));
+  ChaquePanne("carer", [&] { return fenetre_.OuvrirAidant("00001"); });
+  auto* const liste = fenetre_.Ecran();
+  ASSERT_NE(liste, nullptr);
+  ChaquePanne("search", [&] {
+    essai::cliquer(*liste, "Cmd_OK");
+    essai::cliquer(*liste, "Cmd_Recherche");
+    return !lecteur_.dit.contains("Panne");
+  });
+  ChaquePanne("editor", [&] {
+    const essai::DansForme editeur(
+        "Frm_ElementsContrat", {[](QWidget& fenetre) { essai::cliquer(fenetre, "Cmd_Retour"); }});
+    essai::cliquer(*liste, "Cmd_Ajouter");
+    return editeur.Faits() == 1;
+  });
+}
+
+// The writes of a new contract: itself, the follow-up, the carer's numbers, two marks that the
+// indexes exist, and one index.
+TEST_F(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
+  constexpr int Ecritures = 6;
+  for (int n = 1; n <= Ecritures; ++n) {
+    const std::string chemin = Chemin() + std::to_string(n);
+    Copier(chemin);
+    ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(chemin)));
+    ASSERT_TRUE(fenetre_.OuvrirAidant("00002"));
+    const essai::DansForme editeur("Frm_ElementsContrat",
+                                   {Remplir, [&](QWidget& fenetre) {
+                                      panne_->EchouerEcriture(n);
+                                      essai::cliquer(fenetre, "Cmd_OK");
+                                      panne_->EchouerEcriture(0);
+                                      EXPECT_TRUE(lecteur_.ADit("Panne voulue")) << "write " << n;
+                                      EXPECT_TRUE(fenetre.isVisible());
+                                      EXPECT_EQ(Texte(fenetre, "Txt_DatDebContrat"), "01/12/2026");
+                                      EXPECT_EQ(Texte(fenetre, "Txt_PerEssaiContrat"), "60");
+                                      essai::cliquer(fenetre, "Cmd_OK");
+                                    }});
+    essai::cliquer(*fenetre_.Ecran(), "Cmd_Ajouter");
+    EXPECT_EQ(editeur.Faits(), 2U);
+    EXPECT_EQ(Lu(chemin, "CONTRAT", "00002001").substr(0, 26),
+              "01\x1e"
+              "001\x1e"
+              "001001\x1eI\x1eH\x1eP\x1e"
+              "21520\x1e");
+    EXPECT_EQ(Lu(chemin, "CONTRAT", "00002002"), "-");
+    EXPECT_EQ(Lu(chemin, "CONTRAT00101", "00002001"), "");
+    EXPECT_EQ(Lu(chemin, "LIENAVENANT", "AVENANT00101"), "");
+  }
+}
+
+}  // namespace
