@@ -10,12 +10,14 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <stdexcept>
 
 #include "control/ctr_contrat.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "dialogs/frm_motif_cdd.h"
+#include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_reprise.h"
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
@@ -33,6 +35,7 @@ namespace hote {
 namespace {
 
 constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show and to leave
+constexpr QSize TailleControle{1010, 690};
 
 class Album {
  public:
@@ -113,15 +116,27 @@ class Visite : public QObject {
   int tours_ = 0;
 };
 
-std::string premierAvecContrat(data::Storage& stockage) {
-  std::string code;
+struct Vedettes {
+  std::string premier;       // the first carer with a contract
+  std::string plusContrats;  // the one with most of them
+};
+
+Vedettes chercherVedettes(data::Storage& stockage) {
+  Vedettes vedettes;
+  std::string aidant;
+  int contrats = 0;
+  int record = 0;
   stockage.Scan(data::fichier::CONTRAT, data::KeyRange::Tout(),
                 [&](std::string_view cle, std::string_view) {
-                  code = cle.substr(0, 5);
-                  return false;
+                  contrats = cle.substr(0, 5) == aidant ? contrats + 1 : 1;
+                  aidant = cle.substr(0, 5);
+                  if (vedettes.premier.empty()) vedettes.premier = aidant;
+                  if (contrats > record) vedettes.plusContrats = aidant;
+                  record = std::max(record, contrats);
+                  return true;
                 });
-  if (code.empty()) throw std::runtime_error("Ce fichier ne contient aucun contrat à montrer.");
-  return code;
+  if (aidant.empty()) throw std::runtime_error("Ce fichier ne contient aucun contrat à montrer.");
+  return vedettes;
 }
 
 void capturer(Album& album, Bureau& bureau, screen::Form& forme, const QString& nom) {
@@ -159,6 +174,24 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   donnees.fin = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateFin));
   reprise.Afficher(donnees);
   capturer(album, bureau, reprise, "reprise");
+
+  // Without the control of the suite that it stands for.
+  dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme(), session);
+  capturer(album, bureau, motifs, "motifs-embauche");
+}
+
+// The list before a search, when the filters are free.
+void capturerSelection(Album& album, Bureau& bureau, const control::Ctr_Contrat& liste) {
+  const session::DroitsUniformes droits(session::Droit::Plein);
+  ContratWidget ecran(bureau);
+  ecran.TheDatabase(*liste.Etat().Db);
+  ecran.W_Code = liste.W_Code;
+  ecran.W_NomPrenom = liste.W_NomPrenom;
+  ecran.DroitsUtilisateur(droits);
+  ecran.init();
+  ecran.resize(TailleControle);
+  ecran.show();
+  album.Prendre(ecran, "selection");
 }
 
 void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::string aidant) {
@@ -166,10 +199,15 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   fenetre.show();
   if (!fenetre.OuvrirFichier(copie)) throw std::runtime_error("Le fichier ne s'ouvre pas.");
   album.Prendre(fenetre, "fenetre");
-  if (aidant.empty()) {
-    const data::PosteSysteme poste;
-    aidant = premierAvecContrat(*storage::SqliteStorage::OuvrirEnLecture(versModele(copie), poste));
+  const data::PosteSysteme poste;
+  const Vedettes vedettes =
+      chercherVedettes(*storage::SqliteStorage::OuvrirEnLecture(versModele(copie), poste));
+  if (aidant.empty()) aidant = vedettes.premier;
+  if (!fenetre.OuvrirAidant(vedettes.plusContrats)) {
+    throw std::runtime_error("L'aidant ne s'affiche pas.");
   }
+  fenetre.Ecran()->Affiche("", "", "");
+  album.Prendre(fenetre, "liste-longue");
   if (!fenetre.OuvrirAidant(aidant)) throw std::runtime_error("L'aidant ne s'affiche pas.");
   control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
   fenetre.Ecran()->Affiche("", "", "");
@@ -182,6 +220,7 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   if (!visite.Echec().isEmpty()) throw std::runtime_error(versModele(visite.Echec()));
   if (!visite.Vue()) throw std::runtime_error("L'éditeur ne s'est pas ouvert.");
   capturerDialogues(album, bureau, liste);
+  capturerSelection(album, bureau, liste);
   FenetreAide aide(&fenetre);
   aide.setAttribute(Qt::WA_DeleteOnClose, false);
   aide.Montrer("Frm_ElementsContrat");

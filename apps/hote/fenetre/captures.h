@@ -8,10 +8,10 @@
 
 namespace hote {
 
-// Opens a copy of the data file, walks through the list, the editor of the carer's first contract
-// and the dialogs, and writes a PNG of each into `dossier`, made when absent. `aidant`: a code, or
-// "" for the first carer with a contract. Answers the files written; a std::runtime_error in French
-// tells what could not be done.
+// Opens a copy of the data file, walks through the list, also of the carer with most contracts, the
+// editor of the carer's first contract and the dialogs, and writes a PNG of each into `dossier`,
+// made when absent. `aidant`: a code, or "" for the first carer with a contract. Answers the files
+// written; a std::runtime_error in French tells what could not be done.
 QStringList capturerFormes(const QString& fichier, const std::string& aidant,
                            const QString& dossier);
 

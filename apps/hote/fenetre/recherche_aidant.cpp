@@ -8,6 +8,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "widget/lignes_listes.h"
+
 namespace hote {
 
 RechercheAidant::RechercheAidant(QWidget* parent)
@@ -28,9 +30,12 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   liste_->setHeaderHidden(true);
   liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   liste_->header()->setStretchLastSection(true);
-  liste_->header()->resizeSection(Annuaire::Code, fontMetrics().horizontalAdvance("00000") + 22);
+  liste_->setItemDelegate(new LigneListe(liste_));
+  liste_->header()->resizeSection(
+      Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
   auto* const disposition = new QVBoxLayout(this);
-  disposition->setContentsMargins(9, 9, 3, 9);
+  disposition->setContentsMargins(12, 12, 6, 12);
+  disposition->setSpacing(9);
   disposition->addWidget(saisie_);
   disposition->addWidget(liste_);
   disposition->addWidget(compte_);

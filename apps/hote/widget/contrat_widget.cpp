@@ -6,6 +6,7 @@
 #include "control/ctr_contrat.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
+#include "widget/lignes_contrats.h"
 
 struct ContratWidget::Prive {
   explicit Prive(hote::Bureau& bureauDonne)
@@ -24,6 +25,7 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   auto* const disposition = new QVBoxLayout(this);
   disposition->setContentsMargins(0, 0, 0, 0);
   disposition->addWidget(prive_->racine.get());
+  hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
   prive_->controle.Sortie = [this] { QTimer::singleShot(0, this, [this] { Annoncer(); }); };
 }

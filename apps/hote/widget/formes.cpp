@@ -9,6 +9,7 @@
 #include "ui_Frm_MotifsEmbauche.h"
 #include "ui_Frm_Reprise.h"
 #include "ui_Frm_Stage.h"
+#include "widget/apparence.h"
 
 namespace hote {
 
@@ -24,6 +25,7 @@ template <typename Forme, typename Racine>
 std::unique_ptr<QWidget> construire() {
   auto racine = std::make_unique<Racine>();
   Forme().setupUi(racine.get());
+  appliquerApparence(*racine);
   return racine;
 }
 

@@ -1,0 +1,24 @@
+#pragma once
+// The rows of the contract list. A clerk looks for the contract that runs: it stands out in bold
+// with a bar at its left, and what has ended steps back.
+
+#include <string_view>
+
+class QWidget;
+namespace data {
+class Poste;
+}
+
+namespace hote {
+
+enum class EtatContrat { EnCours, Termine, AVenir };
+
+// From the dates that the list shows, JJ/MM/AAAA, and today. A contract runs from its first day to
+// its last, both included, and without an end for ever; without a start it is to come. A text that
+// is no date is as good as none.
+EtatContrat etatContrat(std::string_view debut, std::string_view fin, long aujourdhui);
+
+// Draws so the five lists of the contract control under `racine`. The workstation outlives them.
+void habillerContrats(QWidget& racine, const data::Poste& poste);
+
+}  // namespace hote

@@ -1,0 +1,75 @@
+#include "widget/lignes_listes.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace hote {
+
+namespace {
+
+QStyle& styleDe(const QStyleOptionViewItem& cellule) {
+  return cellule.widget == nullptr ? *QApplication::style() : *cellule.widget->style();
+}
+
+QPalette::ColorGroup groupe(const QStyleOptionViewItem& cellule) {
+  if (!cellule.state.testFlag(QStyle::State_Enabled)) return QPalette::Disabled;
+  return cellule.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+}
+
+QRect placeDuTexte(const QStyleOptionViewItem& cellule) {
+  return cellule.rect.adjusted(LigneListe::Marge, 0, -LigneListe::Marge, 0);
+}
+
+}  // namespace
+
+// 22 pixels for the 14 of a usual font.
+int LigneListe::Hauteur(const QFontMetrics& mesures) {
+  return mesures.height() * 3 / 2 + 1;
+}
+
+void LigneListe::paint(QPainter* pinceau, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+  QStyleOptionViewItem cellule = option;
+  initStyleOption(&cellule, index);
+  QStyle& style = styleDe(cellule);
+  style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cellule, pinceau, cellule.widget);
+  const bool choisie = cellule.state.testFlag(QStyle::State_Selected);
+  const QRect place = placeDuTexte(cellule);
+  pinceau->save();
+  pinceau->setFont(cellule.font);
+  pinceau->setPen(
+      cellule.palette.color(groupe(cellule), choisie ? QPalette::HighlightedText : QPalette::Text));
+  pinceau->setClipRect(place, Qt::IntersectClip);
+  pinceau->drawText(
+      place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+      cellule.fontMetrics.elidedText(cellule.text, cellule.textElideMode, place.width()));
+  pinceau->restore();
+  if (choisie || !cellule.state.testFlag(QStyle::State_HasFocus)) return;
+  QStyleOptionFocusRect focus;
+  focus.QStyleOption::operator=(cellule);
+  focus.backgroundColor = cellule.palette.color(groupe(cellule), QPalette::Base);
+  style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, pinceau, cellule.widget);
+}
+
+QSize LigneListe::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QStyleOptionViewItem cellule = option;
+  initStyleOption(&cellule, index);
+  return {cellule.fontMetrics.horizontalAdvance(cellule.text) + 2 * Marge,
+          Hauteur(option.fontMetrics)};
+}
+
+bool LigneListe::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue,
+                           const QStyleOptionViewItem& option, const QModelIndex& index) {
+  if (evenement->type() != QEvent::ToolTip || index.data(Qt::ToolTipRole).isValid()) {
+    return QStyledItemDelegate::helpEvent(evenement, vue, option, index);
+  }
+  const bool tient = sizeHint(option, index).width() <= option.rect.width();
+  QToolTip::showText(evenement->globalPos(),
+                     tient ? QString() : index.data().toString().toHtmlEscaped(), vue);
+  return true;
+}
+
+}  // namespace hote

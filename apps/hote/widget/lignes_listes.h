@@ -1,0 +1,26 @@
+#pragma once
+// The rows of the component's lists and of the host's: as high as the font asks for and a little air,
+// a margin on both sides, and the whole text as a tooltip where it does not fit.
+
+#include <QStyledItemDelegate>
+
+class QFontMetrics;
+
+namespace hote {
+
+class LigneListe : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  // Between the text and either side of its cell, in pixels. Captions over a list stand as far in.
+  static constexpr int Marge = 8;
+  static int Hauteur(const QFontMetrics& mesures);
+
+  void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  bool helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+};
+
+}  // namespace hote
