@@ -53,7 +53,7 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
     const auto debut = std::find_if(code.begin(), code.end(), [](QChar c) { return c != '0'; });
     const QString court = code.mid(debut - code.begin());
     const QString nom = plier(versQt(aidant.nomPrenom));
-    fiches_.push_back({std::move(aidant), nom, " " + code + " " + court + " " + nom});
+    fiches_.push_back({std::move(aidant), nom, versModele(" " + code + " " + court + " " + nom)});
   }
   std::sort(fiches_.begin(), fiches_.end(), [](const Fiche& a, const Fiche& b) {
     return std::tie(a.nom, a.aidant.code) < std::tie(b.nom, b.aidant.code);
@@ -64,13 +64,15 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
 }
 
 void Annuaire::Filtrer(const QString& saisie) {
-  QStringList mots = plier(saisie).split(' ', Qt::SkipEmptyParts);
-  for (QString& mot : mots) mot.prepend(' ');
+  std::vector<std::string> mots;
+  for (const QString& mot : plier(saisie).split(' ', Qt::SkipEmptyParts)) {
+    mots.push_back(versModele(" " + mot));
+  }
   beginResetModel();
   retenus_.clear();
   for (std::size_t i = 0; i < fiches_.size(); ++i) {
-    const bool garde = std::all_of(mots.begin(), mots.end(), [&](const QString& mot) {
-      return fiches_[i].mots.contains(mot);
+    const bool garde = std::all_of(mots.begin(), mots.end(), [&](const std::string& mot) {
+      return fiches_[i].mots.find(mot) != std::string::npos;
     });
     if (garde) retenus_.push_back(i);
   }

@@ -51,8 +51,8 @@ class Annuaire : public QAbstractTableModel {
  private:
   struct Fiche {
     Aidant aidant;
-    QString nom;   // folded
-    QString mots;  // every word that can be typed, each after a blank
+    QString nom;       // folded
+    std::string mots;  // every word that can be typed, each after a blank, in UTF-8
   };
 
   std::vector<Fiche> fiches_;
