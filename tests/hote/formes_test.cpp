@@ -174,4 +174,28 @@ TEST_F(Formes, LeavingLetsTheHostDeleteTheWidget) {
   EXPECT_EQ(sorties, 1);
 }
 
+// A contract asked for beforehand: init returns when its editor has closed, and the widget, a window
+// of its own here, stays until then.
+TEST_F(Formes, InitWithAContractIsBusyUntilItsEditorCloses) {
+  article("CONTRAT", "00001001",
+          {{1, "01"}, {2, "001"}, {3, "001001"}, {4, "I"}, {5, "H"}, {6, "P"}, {7, "21000"}});
+  article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
+  ContratWidget ecran(bureau);
+  ecran.TheDatabase(db);
+  ecran.W_Code = "00001";
+  ecran.W_CodeContrat = "00001001";
+  ecran.DroitsUtilisateur(droits);
+  ecran.show();
+  const Apres clerc([&](QWidget& fenetre) {
+    EXPECT_EQ(fenetre.objectName(), "Frm_ElementsContrat");
+    EXPECT_TRUE(ecran.Occupe());
+    EXPECT_FALSE(ecran.close());
+    fenetre.findChild<QPushButton*>("Cmd_Retour")->click();
+  });
+  ecran.init();
+  EXPECT_EQ(clerc.Fois(), 1);
+  EXPECT_FALSE(ecran.Occupe());
+  EXPECT_TRUE(ecran.close());
+}
+
 }  // namespace

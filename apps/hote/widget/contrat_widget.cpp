@@ -1,16 +1,28 @@
 #include "widget/contrat_widget.h"
 
+#include <QCloseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "control/ctr_contrat.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
+#include "session/pendant.h"
+#include "widget/formes.h"
 #include "widget/lignes_contrats.h"
+
+namespace {
+
+hote::Bureau& avecFormes(hote::Bureau& bureau) {
+  hote::enregistrerFormes(bureau);
+  return bureau;
+}
+
+}  // namespace
 
 struct ContratWidget::Prive {
   explicit Prive(hote::Bureau& bureauDonne)
-      : bureau(bureauDonne),
+      : bureau(avecFormes(bureauDonne)),
         controle(bureau.Plateforme()),
         racine(bureau.Construire(controle.Nom())) {}
 
@@ -18,6 +30,8 @@ struct ContratWidget::Prive {
   control::Ctr_Contrat controle;
   std::unique_ptr<QWidget> racine;
   std::unique_ptr<hote::Liaison> liaison;
+  // The host is inside init or Affiche.
+  bool appele = false;
 };
 
 ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
@@ -49,6 +63,7 @@ void ContratWidget::DroitsUtilisateur(const session::Droits& droits) {
 }
 
 void ContratWidget::init() {
+  const session::Pendant appel(prive_->appele);
   control::Ctr_Contrat& controle = prive_->controle;
   controle.W_Code = W_Code;
   controle.W_NomPrenom = W_NomPrenom;
@@ -61,12 +76,13 @@ void ContratWidget::init() {
 
 void ContratWidget::Affiche(std::string_view typeAct, std::string_view codeAsso,
                             std::string_view actifs) {
+  const session::Pendant appel(prive_->appele);
   prive_->controle.Affiche(typeAct, codeAsso, actifs);
   prive_->bureau.PousserTout();
 }
 
 bool ContratWidget::Occupe() const {
-  return prive_->liaison->Occupee();
+  return prive_->appele || prive_->liaison->Occupee();
 }
 
 control::Ctr_Contrat& ContratWidget::Controle() const {
@@ -79,5 +95,10 @@ void ContratWidget::Annoncer() {
     QTimer::singleShot(0, this, [this] { Annoncer(); });
     return;
   }
+  if (isWindow()) close();
   emit sortie();
+}
+
+void ContratWidget::closeEvent(QCloseEvent* evenement) {
+  evenement->setAccepted(!Occupe());
 }
