@@ -1,8 +1,47 @@
 #include "rapports.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace bench {
+
+namespace {
+
+// "-" where there is no bound.
+std::string borneDe(double borne) {
+  if (borne == 0) return "-";
+  char texte[32];
+  std::snprintf(texte, sizeof texte, "%.2f", borne);
+  return texte;
+}
+
+}  // namespace
+
+double mediane(std::vector<double> valeurs) {
+  const auto milieu = valeurs.begin() + static_cast<std::ptrdiff_t>(valeurs.size() / 2);
+  std::nth_element(valeurs.begin(), milieu, valeurs.end());
+  return *milieu;
+}
+
+bool imprimerRapports(const std::vector<Rapport>& rapports, const Medianes& medianes) {
+  bool tous = true;
+  std::printf("\n%-58s %10s %10s %7s %7s\n", "rapport", "mesure us", "brut us", "rapport", "borne");
+  for (const Rapport& r : rapports) {
+    const auto mesure = medianes.find(r.mesure);
+    const auto brut = medianes.find(r.brut);
+    if (mesure == medianes.end() || brut == medianes.end()) continue;
+    const double microsecondes = mesure->second / 1e3;
+    const double rapport = mesure->second / brut->second;
+    const bool tenu = (r.borne == 0 || rapport <= r.borne) &&
+                      (r.borneMicrosecondes == 0 || microsecondes <= r.borneMicrosecondes);
+    tous = tous && tenu;
+    std::printf("%-58s %10.1f %10.1f %7.2f %7s", r.attente.c_str(), microsecondes,
+                brut->second / 1e3, rapport, borneDe(r.borne).c_str());
+    if (r.borneMicrosecondes != 0) std::printf(" (%.0f us)", r.borneMicrosecondes);
+    std::printf(" %s\n", tenu ? "" : "DEPASSE");
+  }
+  return tous;
+}
 
 void Rapporteur::ReportRuns(const std::vector<Run>& runs) {
   for (const Run& run : runs) {
@@ -20,17 +59,7 @@ void Rapporteur::ReportRuns(const std::vector<Run>& runs) {
 }
 
 void Rapporteur::Finalize() {
-  std::printf("\n%-58s %10s %10s %7s %7s\n", "rapport", "mesure us", "brut us", "rapport", "borne");
-  for (const Rapport& r : rapports_) {
-    const auto mesure = medianes_.find(r.mesure);
-    const auto brut = medianes_.find(r.brut);
-    if (mesure == medianes_.end() || brut == medianes_.end()) continue;
-    const double rapport = mesure->second / brut->second;
-    const bool tenu = rapport <= r.borne;
-    tenus_ = tenus_ && tenu;
-    std::printf("%-58s %10.1f %10.1f %7.2f %7.2f %s\n", r.attente.c_str(), mesure->second / 1e3,
-                brut->second / 1e3, rapport, r.borne, tenu ? "" : "DEPASSE");
-  }
+  tenus_ = imprimerRapports(rapports_, medianes_);
 }
 
 }  // namespace bench

@@ -14,8 +14,18 @@ struct Rapport {
   std::string attente;  // what a user waits for
   std::string mesure;   // name of the benchmark measured
   std::string brut;     // name of the benchmark that does the raw work underneath
-  double borne;
+  double borne;         // of the ratio; 0 for a ratio that is told only
+  // Bound of the measure itself, in microseconds; 0 when the ratio alone is bounded.
+  double borneMicrosecondes = 0;
 };
+
+// Median time of each benchmark, in nanoseconds.
+using Medianes = std::map<std::string, double>;
+
+// The middle one; of an even number, the upper of the two. There is at least one value.
+double mediane(std::vector<double> valeurs);
+// Prints the ratios of those that were measured, with their bounds. Whether all bounds were kept.
+bool imprimerRapports(const std::vector<Rapport>& rapports, const Medianes& medianes);
 
 // Prints every measure, then the ratios with their bounds.
 class Rapporteur : public benchmark::ConsoleReporter {
@@ -30,8 +40,7 @@ class Rapporteur : public benchmark::ConsoleReporter {
 
  private:
   std::vector<Rapport> rapports_;
-  // Median time of each benchmark, in nanoseconds.
-  std::map<std::string, double> medianes_;
+  Medianes medianes_;
   bool tenus_ = true;
 };
 

@@ -1,0 +1,55 @@
+// bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
+// of the words demarrage, touches and liste, those given are measured, else all.
+
+#include <QApplication>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+
+#include "bases.h"
+#include "mesures.h"
+
+namespace {
+
+const std::vector<bench::Rapport> Rapports{
+    {"first window / empty window", "fenetreHote", "fenetreVide", 1.5},
+    {"first window, 200,000 contracts / empty window", "fenetreHoteGrande", "fenetreVide", 1.5},
+    {"start to the carers' list / empty window", "aidantsListes", "fenetreVide", 0},
+    {"start to a carer's contracts / empty window", "contratsListes", "fenetreVide", 0},
+    {"a key in the editor's slowest field / a bare text line", "toucheEditeur", "toucheLigneNue", 0,
+     4000},
+    {"list of 999 contracts shown / searched without screen", "listeAffichee", "listeSansEcran", 2},
+};
+
+const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
+    {"demarrage", bench::mesurerDemarrage},
+    {"touches", bench::mesurerTouches},
+    {"liste", bench::mesurerListe},
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<std::string> choix;
+  for (int i = 1; i < argc; ++i) {
+    if (std::strncmp(argv[i], "--dossier=", 10) == 0) {
+      bench::dossier() = argv[i] + 10;
+    } else {
+      choix.push_back(argv[i]);
+    }
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  bench::Medianes medianes;
+  try {
+    for (const auto& [nom, mesurer] : Mesures) {
+      const bool choisie = choix.empty() || std::count(choix.begin(), choix.end(), nom) > 0;
+      if (choisie) mesurer(medianes);
+    }
+  } catch (const std::exception& erreur) {
+    std::fprintf(stderr, "bench_hote: %s\n", erreur.what());
+    return 2;
+  }
+  return bench::imprimerRapports(Rapports, medianes) ? 0 : 1;
+}

@@ -1,0 +1,21 @@
+#pragma once
+// What bench_hote measures. Each function fills in the medians of its benchmarks; everything is
+// timed by the processor, of which other programs take nothing.
+
+#include "rapports.h"
+
+namespace bench {
+
+// Processor time of this process so far, its threads included, in nanoseconds.
+double tempsProcesseur();
+
+// Starts of the host and of an empty window, whole processes: "fenetreVide", "fenetreHote",
+// "fenetreHoteGrande" (on a file of 200,000 contracts), "aidantsListes", "contratsListes".
+void mesurerDemarrage(Medianes& medianes);
+// A key in the editor's fields: "toucheEditeur", the field whose median is the worst, beside
+// "toucheLigneNue", a text line alone in its window. Prints every field.
+void mesurerTouches(Medianes& medianes);
+// The search of a carer with 999 contracts: "listeAffichee" at the screen, "listeSansEcran".
+void mesurerListe(Medianes& medianes);
+
+}  // namespace bench
