@@ -42,7 +42,7 @@ QColor melanger(const QColor& texte, const QColor& fond, double part) {
 }
 
 int chiffres(const QFontMetrics& mesures, int nombre) {
-  return nombre * mesures.horizontalAdvance('0');
+  return mesures.horizontalAdvance(QString(nombre, '0'));
 }
 
 // One digit more than asked for, where the cursor stands.

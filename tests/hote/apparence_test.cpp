@@ -1,0 +1,177 @@
+// The looks of the forms: nothing cut or laid over another in a larger font, disabled texts that
+// read, and the contract that runs picked out of the list. The forms are taken unbound, so that
+// every field shows at once, which is more than any contract shows.
+
+#include "widget/apparence.h"
+
+#include <QDir>
+
+#include "essai.h"
+#include "widget/formes.h"
+#include "widget/lignes_contrats.h"
+
+namespace {
+
+constexpr const char* Formes[] = {"Ctr_Contrat",        "Frm_ElementsContrat", "Frm_MotifCDD",
+                                  "Frm_MotifsEmbauche", "Frm_Stage",           "Frm_Reprise"};
+// A screen less its title bar, its task bar and the host's menu.
+constexpr QSize Place{1280, 660};
+
+class Apparence : public ::testing::TestWithParam<double> {
+ protected:
+  Apparence() { hote::enregistrerFormes(bureau); }
+  ~Apparence() override {
+    QApplication::setFont(police);
+    QApplication::setPalette(palette);
+  }
+  void grossir(double facteur) {
+    QFont grande = police;
+    grande.setPointSizeF(police.pointSizeF() * facteur);
+    QApplication::setFont(grande);
+  }
+  std::unique_ptr<QWidget> montrer(const std::string& forme) {
+    auto racine = bureau.Construire(forme);
+    racine->show();
+    QCoreApplication::processEvents();
+    return racine;
+  }
+  // Where the pictures of a run go, for whoever wants to see them; nowhere otherwise.
+  static void capturer(QWidget& racine, const QString& nom) {
+    const QString captures = qEnvironmentVariable("CONTRATS_CAPTURES");
+    if (!captures.isEmpty()) racine.grab().save(QDir(captures).filePath(nom + ".png"));
+  }
+
+  const QFont police = QApplication::font();
+  const QPalette palette = QApplication::palette();
+  QTemporaryDir dossier;
+  hote::Bureau bureau{
+      nullptr, std::make_unique<QSettings>(dossier.filePath("reglages.ini"), QSettings::IniFormat)};
+};
+
+// What the widget must hold to be read whole, in the bold of a list's current rows where it is one.
+QSize besoin(const QWidget& widget) {
+  const QString chiffres(widget.property("caracteres").toInt(), '0');
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr && !chiffres.isEmpty()) {
+    return {widget.fontMetrics().horizontalAdvance(chiffres), widget.fontMetrics().height()};
+  }
+  if (qobject_cast<const QListWidget*>(&widget) != nullptr && !chiffres.isEmpty()) {
+    QFont gras = widget.font();
+    gras.setBold(true);
+    return {QFontMetrics(gras).horizontalAdvance(chiffres), 0};
+  }
+  const auto* const etiquette = qobject_cast<const QLabel*>(&widget);
+  const bool texte = etiquette != nullptr
+                         ? !etiquette->wordWrap() && !etiquette->text().isEmpty()
+                         : qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+  return texte ? widget.sizeHint() : QSize(0, 0);
+}
+
+std::string defauts(const QWidget& racine) {
+  QStringList defauts;
+  for (const QWidget* const widget : racine.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->size().isEmpty() || widget->objectName().startsWith("qt_"))
+      continue;
+    const QSize voulu = besoin(*widget);
+    if (voulu.width() > widget->width() || voulu.height() > widget->height()) {
+      defauts << widget->objectName() + " is cut";
+    }
+    const QWidget* const parent = widget->parentWidget();
+    if (parent->layout() == nullptr) continue;
+    if (!parent->rect().contains(widget->geometry()))
+      defauts << widget->objectName() + " sticks out";
+    for (const QObject* const autre : parent->children()) {
+      const auto* const voisin = qobject_cast<const QWidget*>(autre);
+      if (voisin == nullptr || voisin == widget || !voisin->isVisible()) continue;
+      if (voisin->geometry().intersects(widget->geometry())) {
+        defauts << widget->objectName() + " lies over " + voisin->objectName();
+      }
+    }
+  }
+  return defauts.join("\n").toStdString();
+}
+
+TEST_P(Apparence, NothingIsCutNorLaidOver) {
+  grossir(GetParam());
+  for (const char* const forme : Formes) {
+    const auto racine = montrer(forme);
+    EXPECT_LE(racine->minimumSizeHint().width(), Place.width() * GetParam()) << forme;
+    EXPECT_LE(racine->minimumSizeHint().height(), Place.height() * GetParam()) << forme;
+    racine->resize(racine->minimumSizeHint());
+    auto* const onglets = racine->findChild<QTabWidget*>();
+    for (int i = 0; i < (onglets == nullptr ? 1 : onglets->count()); ++i) {
+      if (onglets != nullptr) onglets->setCurrentIndex(i);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(defauts(*racine), "") << forme << " page " << i;
+      capturer(*racine, QString("%1-%2-%3").arg(forme).arg(i).arg(GetParam()));
+    }
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Polices, Apparence, ::testing::Values(1.0, 1.5));
+
+// Fields of the logic that have no place on the screen: the binder shows them as it shows all.
+TEST_F(Apparence, FieldsWithoutAPlaceStayOutOfSight) {
+  const auto editeur = montrer("Frm_ElementsContrat");
+  const auto motif = montrer("Frm_MotifCDD");
+  const std::pair<QWidget*, const char*> caches[] = {{editeur.get(), "Etq_CodeAidant"},
+                                                     {editeur.get(), "Etq_NomPrenomAidant"},
+                                                     {editeur.get(), "Cbo_PeriodeEffet"},
+                                                     {motif.get(), "Txt_CodeAbs"},
+                                                     {motif.get(), "Txt_AidantRemplContrat"}};
+  for (const auto& [racine, nom] : caches) {
+    auto* const champ = racine->findChild<QWidget*>(nom);
+    ASSERT_NE(champ, nullptr) << nom;
+    champ->show();
+    EXPECT_FALSE(champ->isVisible()) << nom;
+  }
+}
+
+// Black on white is 21 to 1, and 4.54 is the contrast of #767676 on white.
+TEST_F(Apparence, DisabledTextsReadAndStepBackOnAnyPalette) {
+  EXPECT_NEAR(hote::contraste(Qt::black, Qt::white), 21.0, 1e-9);
+  EXPECT_NEAR(hote::contraste(Qt::white, QColor(0x76, 0x76, 0x76)), 4.54, 0.005);
+  const auto racine = montrer("Frm_ElementsContrat");
+  const std::pair<QColor, QColor> palettes[] = {
+      {Qt::white, QColor(0xef, 0xef, 0xef)}, {QColor(0x1e, 0x1e, 0x1e), QColor(0x35, 0x35, 0x35)}};
+  for (const auto& [base, fenetre] : palettes) {
+    QPalette nouvelle(fenetre, fenetre);
+    nouvelle.setColor(QPalette::Base, base);
+    QApplication::setPalette(nouvelle);
+    QCoreApplication::processEvents();
+    capturer(*racine, "palette" + fenetre.name().mid(1));
+    const QPalette vue = racine->findChild<QWidget*>("Txt_NumContrat")->palette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+      const QColor eteint = vue.color(QPalette::Disabled, role);
+      for (const QColor& fond : {base, fenetre}) {
+        EXPECT_GE(hote::contraste(eteint, fond), 4.5) << fenetre.name().toStdString() << role;
+        EXPECT_LT(hote::contraste(eteint, fond),
+                  hote::contraste(vue.color(QPalette::Active, role), fond) - 2);
+      }
+    }
+  }
+}
+
+TEST(LignesContrats, TheDatesSayWhatRuns) {
+  using E = hote::EtatContrat;
+  const struct {
+    const char* debut;
+    const char* fin;
+    E etat;
+  } cas[] = {
+      {"07/10/2019", "", E::EnCours},
+      {"22/11/2026", "", E::EnCours},
+      {"23/11/2026", "", E::AVenir},
+      {"01/12/2026", "31/12/2026", E::AVenir},
+      {"01/02/2026", "22/11/2026", E::EnCours},
+      {"01/02/2026", "21/11/2026", E::Termine},
+      {"06/06/2019", "06/10/2019", E::Termine},
+      {"02/12/2025", "01/12/2026", E::EnCours},
+      {"", "", E::AVenir},
+      {"01/02/2026", "??", E::EnCours},
+  };
+  for (const auto& c : cas) {
+    // 22/11/2026.
+    EXPECT_EQ(hote::etatContrat(c.debut, c.fin, 21511), c.etat) << c.debut << " to " << c.fin;
+  }
+}
+
+}  // namespace
