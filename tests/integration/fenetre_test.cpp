@@ -156,19 +156,31 @@ TEST_F(Hote, TellsWhyACarerDoesNotShow) {
   EXPECT_EQ(Titre(), "a.contrats – droits complets – Contrats de travail");
 }
 
-TEST_F(Hote, LetsGoOfAFileThatIsRemovedOrReplaced) {
+// The one that is moved comes back; the one that is replaced does not, and the new file is whole.
+TEST_F(Hote, SaysThatTheFileHasLeftItsPlace) {
   Creer(Chemin("b.contrats"));
   const std::string la = Chemin("a.contrats").toStdString();
+  const std::string ailleurs = Chemin("b.contrats").toStdString();
   essai::Lecteur lecteur;
   ASSERT_TRUE(OuvrirDurand());
-  ASSERT_EQ(std::rename(Chemin("b.contrats").toStdString().c_str(), la.c_str()), 0);
+  const std::string titre = Titre();
+  ASSERT_EQ(std::rename(la.c_str(), (la + "2").c_str()), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return lecteur.ADit("déplacé ou supprimé"); }, 5000));
+  EXPECT_NE(Titre().find("absent"), std::string::npos);
+  ASSERT_EQ(std::rename((la + "2").c_str(), la.c_str()), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == titre; }, 5000));
+
+  // The log of the former file holds a write that the new one must not take over.
+  storage::SqliteStorage::Ouvrir(la, poste_)->Put("ASSOCIATION", "001", "Ancienne");
+  ASSERT_EQ(std::rename(ailleurs.c_str(), la.c_str()), 0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == "Contrats de travail"; }, 5000));
-  EXPECT_TRUE(lecteur.ADit("remplacé par un autre"));
-  ASSERT_TRUE(OuvrirDurand());
-  ASSERT_EQ(std::remove(la.c_str()), 0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == "Contrats de travail"; }, 5000));
-  EXPECT_TRUE(lecteur.ADit("déplacé ou supprimé"));
+  EXPECT_TRUE(lecteur.dit.contains("remplacé par un autre"));
+  EXPECT_TRUE(lecteur.ADit("a.contrats-wal.ancien1"));
   EXPECT_EQ(fenetre_.Ecran(), nullptr);
+  ASSERT_TRUE(OuvrirDurand());
+  std::string entite;
+  storage::SqliteStorage::Ouvrir(la, poste_)->Get("ASSOCIATION", "001", entite);
+  EXPECT_EQ(entite, "Entité");
 }
 
 // The window system, another part of the program or the end of a session can ask for it although

@@ -50,6 +50,14 @@ QString BaseOuverte::Defaut() const {
   return versQt(stockage_->Defaut());
 }
 
+bool BaseOuverte::Remplacee() const {
+  return stockage_->Fichier().Regarder() == FichierSuivi::Etat::Remplace;
+}
+
+QString BaseOuverte::EcarterJournal() {
+  return versQt(stockage_->EcarterJournal());
+}
+
 void BaseOuverte::Regarder() {
   if (!Defaut().isEmpty()) emit disparue();
 }

@@ -32,6 +32,10 @@ class BaseOuverte : public QObject {
   data::Db& Db() { return db_; }
   // What has become of the file and what its user can do, "" while it stands under its name.
   QString Defaut() const;
+  // Another file has taken the name: what is shown is no longer what stands there.
+  bool Remplacee() const;
+  // See StockageVeille.
+  QString EcarterJournal();
   void Veiller();
 
  signals:

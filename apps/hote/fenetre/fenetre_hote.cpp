@@ -85,6 +85,7 @@ void FenetreHote::FaireCentre() {
 
 bool FenetreHote::OuvrirFichier(const QString& chemin) {
   if (EditionEnCours()) return false;
+  if (base_ != nullptr) base_->EcarterJournal();
   try {
     auto base = std::make_unique<BaseOuverte>(chemin, bureau_.Plateforme().poste, ouvrir_);
     auto aidants = lireAidants(base->Db().Stockage());
@@ -193,7 +194,7 @@ void FenetreHote::Titrer() {
     parties << QString("%1 (%2)").arg(versQt(aidant_.nomPrenom), versQt(aidant_.code));
   }
   if (base_ != nullptr) {
-    parties << base_->Nom();
+    parties << (perdue_ ? base_->Nom() + " (absent ou remplacé)" : base_->Nom());
     parties << (niveau_ == session::Droit::Plein ? "droits complets" : "consultation");
   }
   parties << "Contrats de travail";
@@ -209,25 +210,36 @@ void FenetreHote::RemplirAccueil() {
 void FenetreHote::BaseDisparue() {
   if (base_ == nullptr || perdue_) return;
   perdue_ = true;
+  const QString journal = base_->EcarterJournal();
+  Titrer();
   if (const QString defaut = base_->Defaut(); !defaut.isEmpty()) {
     avertir(defaut +
             "\n\nTant que ce n'est pas fait, rien ne s'enregistre ; une saisie en cours reste à "
-            "l'écran.");
+            "l'écran." +
+            (journal.isEmpty() ? ""
+                               : "\n\nLes dernières écritures de l'ancien fichier sont gardées "
+                                 "dans « " +
+                                     journal + " »."));
   }
-  Oublier();
+  AttendreRetour();
 }
 
-void FenetreHote::Oublier() {
+// A file that is gone can still be read here, perhaps here alone: it stays open. One whose name
+// another file has taken does not: its data would be taken for the new ones.
+void FenetreHote::AttendreRetour() {
   if (base_ == nullptr || !perdue_) return;
   if (base_->Defaut().isEmpty()) {
     perdue_ = false;
     base_->Veiller();
-    return;
+    Titrer();
+  } else if (base_->Remplacee() && (ecran_ == nullptr || !ecran_->Occupe())) {
+    Oublier();
+  } else {
+    QTimer::singleShot(500, this, [this] { AttendreRetour(); });
   }
-  if (ecran_ != nullptr && ecran_->Occupe()) {
-    QTimer::singleShot(500, this, [this] { Oublier(); });
-    return;
-  }
+}
+
+void FenetreHote::Oublier() {
   FermerAidant();
   base_.reset();
   perdue_ = false;

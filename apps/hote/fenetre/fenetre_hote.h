@@ -74,6 +74,7 @@ class FenetreHote : public QMainWindow {
   void Actualiser();
   void Titrer();
   void BaseDisparue();
+  void AttendreRetour();
   void Oublier();
   bool EditionEnCours();
   void FinDeSession(QSessionManager& gestion);
@@ -90,7 +91,7 @@ class FenetreHote : public QMainWindow {
   std::unique_ptr<BaseOuverte> base_;
   Aidant aidant_;
   ContratWidget* ecran_ = nullptr;
-  // The file has gone. Under an open editor it is kept until that is closed: it may come back.
+  // The file no longer stands under its name. It may come back.
   bool perdue_ = false;
   bool prevenu_ = false;
   bool dessinee_ = false;

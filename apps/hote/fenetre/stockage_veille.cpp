@@ -1,5 +1,6 @@
 #include "fenetre/stockage_veille.h"
 
+#include <filesystem>
 #include <utility>
 
 #include "data/store_error.h"
@@ -11,6 +12,7 @@ namespace {
 using Etat = FichierSuivi::Etat;
 
 constexpr const char* SuffixeJournal = "-wal";
+constexpr const char* SuffixeMemoire = "-shm";  // the log's index, made anew when it is absent
 
 const char* defaut(Etat etat) {
   switch (etat) {
@@ -46,6 +48,23 @@ std::string StockageVeille::Defaut() const {
   return "Le journal « " + journal_.Chemin() +
          " », qui accompagne le fichier de données, a été supprimé ou remplacé. Notez votre saisie "
          "en cours, fermez toutes les fenêtres ouvertes sur ce fichier, puis ouvrez-le à nouveau.";
+}
+
+std::string StockageVeille::EcarterJournal() const {
+  namespace fs = std::filesystem;
+  if (fichier_.Regarder() != Etat::Remplace || !journal_.Existait() ||
+      journal_.Regarder() != Etat::EnPlace) {
+    return {};
+  }
+  std::error_code code;
+  std::string nom;
+  for (int n = 1; nom.empty() || fs::exists(nom, code); ++n) {
+    nom = journal_.Chemin() + ".ancien" + std::to_string(n);
+  }
+  fs::rename(journal_.Chemin(), nom, code);
+  if (code) return {};
+  fs::remove(fichier_.Chemin() + SuffixeMemoire, code);
+  return nom;
 }
 
 void StockageVeille::Exiger(std::string_view fichier, std::string_view cle) const {

@@ -16,10 +16,14 @@ class StockageVeille : public data::Storage {
  public:
   // `fichier`: the file that `dessous` has open.
   StockageVeille(FichierSuivi fichier, std::unique_ptr<data::Storage> dessous);
+  ~StockageVeille() override { EcarterJournal(); }
 
   const FichierSuivi& Fichier() const { return fichier_; }
   // What has become of the file and what its user can do, "" while it is in place.
   std::string Defaut() const;
+  // When another file has taken the name: renames the log of the former file, which the new one
+  // would take for its own and be damaged by. Its new name, "" when there was nothing to do.
+  std::string EcarterJournal() const;
 
   bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override;
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override;
