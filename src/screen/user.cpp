@@ -81,12 +81,22 @@ Acte User::Quitter() {
   return form_.MoveFocusNext() ? Acte::Fait : Acte::Avale;
 }
 
-// One key into an accessible field. True when it went into the text.
+// Shows a key of the active field to its KeyPress. What is left of it.
+char32_t User::Montrer(Field& champ, char32_t touche) {
+  const KeyHandler* const keyPress = keyPressOf(champ);
+  if (keyPress == nullptr) return 0;
+  fire(*keyPress, touche);
+  return Presente() && champ.Accessible() && form_.Active() == &champ ? touche : 0;
+}
+
+char32_t User::Filtrer(Field& champ, char32_t touche) {
+  return Entrer(champ) == Acte::Fait ? Montrer(champ, touche) : 0;
+}
+
+// One key into the active field. True when it went into the text.
 bool User::Presser(Field& champ, char32_t touche, bool remplacer) {
-  if (const KeyHandler* const keyPress = keyPressOf(champ)) {
-    fire(*keyPress, touche);
-    if (!Presente() || !champ.Accessible()) return false;
-  }
+  touche = Montrer(champ, touche);
+  if (touche == 0) return false;
   const Saisie saisie(champ);
   if (!saisie.Existe()) return false;
   const std::string avant = remplacer ? std::string() : saisie.Texte();

@@ -39,6 +39,10 @@ class User {
   // One key into the field: Entree, Echap, Retour (erases the last character) or a character, added
   // at the end. Enter and the blank press a focused button, the blank a check box or an option.
   Acte Touche(Field& champ, char32_t touche);
+  // One key about to go into a field whose text the host edits itself, and hands over whole to
+  // Coller: focus, then KeyPress. What is left of the key; 0 when it is dropped, when the field
+  // takes no keys or no acts, and when the handler took the screen or the focus away.
+  char32_t Filtrer(Field& champ, char32_t touche);
   // The whole new text at once, as a paste or an input method gives it: no KeyPress, one Change.
   // Cut at the field's length; control characters are left out.
   Acte Coller(Field& champ, std::string_view texte);
@@ -63,6 +67,7 @@ class User {
   Acte Entrer(Field& champ);
   // Whether the form still is there for the user.
   bool Presente() const;
+  char32_t Montrer(Field& champ, char32_t touche);
   bool Presser(Field& champ, char32_t touche, bool remplacer);
 
   Form& form_;

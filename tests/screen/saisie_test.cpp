@@ -91,6 +91,42 @@ TEST_F(Saisie, Touches) {
   EXPECT_EQ(user.Touche(essai.Etq_A, U'a'), Acte::Inaccessible);
 }
 
+// A host that edits the text itself asks what is left of a key; the text is not touched.
+TEST_F(Saisie, ToucheFiltree) {
+  const struct {
+    const char* nom;
+    Field& champ;
+    char32_t touche;
+    Handler surTouche;  // in place of the filter
+    char32_t reste;
+    const char* actif;
+  } cas[] = {
+      {"gardée", essai.Txt_A, U'a', {}, U'a', "Txt_A"},
+      {"changée", essai.Txt_A, U',', {}, U'.', "Txt_A"},
+      {"refusée", essai.Txt_A, U'x', {}, 0, "Txt_A"},
+      {"effacement", essai.Txt_A, ToucheRetour, {}, ToucheRetour, "Txt_A"},
+      {"liste", essai.Lst_A, U'a', {}, U'a', "Lst_A"},
+      {"champ sans touches", essai.Cmd_OK, U'a', {}, 0, "Cmd_OK"},
+      {"boîte", essai.Txt_A, U'a', [&] { essai.MessageBox("non"); }, U'a', "Txt_A"},
+      {"focus ailleurs", essai.Txt_A, U'a', [&] { essai.Txt_B.SetFocus(); }, 0, "Txt_B"},
+      {"champ fermé", essai.Txt_A, U'a', [&] { essai.Txt_A.SetEnabled(false); }, 0, "-"},
+      {"champ déjà fermé", essai.Txt_A, U'a', {}, 0, "-"},
+      {"écran désactivé", essai.Txt_C, U'a', [&] { essai.SetEnabled(false); }, 0, "Txt_C"},
+      {"écran déjà désactivé", essai.Txt_C, U'a', {}, 0, "Txt_C"},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.nom);
+    const KeyHandler filtre = essai.Txt_A.KeyPress;
+    if (c.surTouche) {
+      essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = [&](char32_t&) { c.surTouche(); };
+    }
+    EXPECT_EQ(user.Filtrer(c.champ, c.touche), c.reste);
+    EXPECT_EQ(essai.Actif(), c.actif);
+    essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = filtre;
+  }
+  EXPECT_EQ(essai.Txt_A.Text() + essai.Txt_C.Text(), "");
+}
+
 // A code field that moves on when it is full takes the rest of the keys along.
 TEST_F(Saisie, LesTouchesSuiventLeFocus) {
   essai.Txt_B.SetText("b");
