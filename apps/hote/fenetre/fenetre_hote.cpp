@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QLabel>
 #include <QSessionManager>
 #include <QSettings>
 #include <QSplitter>
@@ -14,6 +13,7 @@
 
 #include "control/ctr_contrat.h"
 #include "data/store_error.h"
+#include "fenetre/accueil.h"
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
 #include "fenetre/fichier_demonstration.h"
@@ -40,7 +40,7 @@ FenetreHote::FenetreHote(Bureau& bureau, Ouvreur ouvrir)
       partage_(new QSplitter(this)),
       recherche_(new RechercheAidant(partage_)),
       centre_(new QStackedWidget(partage_)),
-      accueil_(new QLabel(centre_)) {
+      accueil_(new Accueil(centre_)) {
   FaireCentre();
   FaireMenus();
   RetrouverPlace();
@@ -72,9 +72,6 @@ void FenetreHote::FaireCentre() {
   setWindowIcon(QIcon(":/paquet/contrat-hote.svg"));
   recherche_->setMinimumWidth(180);
   recherche_->setEnabled(false);
-  accueil_->setAlignment(Qt::AlignCenter);
-  accueil_->setTextFormat(Qt::PlainText);
-  accueil_->setWordWrap(true);
   centre_->addWidget(accueil_);
   partage_->setStretchFactor(1, 1);
   partage_->setChildrenCollapsible(true);
@@ -202,9 +199,8 @@ void FenetreHote::Titrer() {
 }
 
 void FenetreHote::RemplirAccueil() {
-  accueil_->setText(base_ == nullptr
-                        ? "Ouvrez un fichier de données par le menu Fichier."
-                        : "Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
+  accueil_->Dire(base_ == nullptr ? "Ouvrez un fichier de données par le menu Fichier."
+                                  : "Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
 }
 
 void FenetreHote::BaseDisparue() {

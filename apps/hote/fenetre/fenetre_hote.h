@@ -19,13 +19,13 @@
 
 class ContratWidget;
 class QActionGroup;
-class QLabel;
 class QSessionManager;
 class QSplitter;
 class QStackedWidget;
 
 namespace hote {
 
+class Accueil;
 class Bureau;
 class RechercheAidant;
 
@@ -99,7 +99,7 @@ class FenetreHote : public QMainWindow {
   QSplitter* partage_;
   RechercheAidant* recherche_;
   QStackedWidget* centre_;
-  QLabel* accueil_;
+  Accueil* accueil_;
   QMenu* recents_ = nullptr;
   QActionGroup* droits_ = nullptr;
 };

@@ -8,9 +8,29 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "widget/apparence.h"
 #include "widget/lignes_listes.h"
 
 namespace hote {
+
+namespace {
+
+// What the directory gives in another colour steps back, as far as it still reads on this palette.
+class LigneAidant : public LigneListe {
+ public:
+  using LigneListe::LigneListe;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* cellule, const QModelIndex& index) const override {
+    LigneListe::initStyleOption(cellule, index);
+    if (!index.data(Qt::ForegroundRole).isValid()) return;
+    QPalette& palette = cellule->palette;
+    palette.setColor(QPalette::All, QPalette::Text,
+                     palette.color(QPalette::Disabled, QPalette::WindowText));
+  }
+};
+
+}  // namespace
 
 RechercheAidant::RechercheAidant(QWidget* parent)
     : QWidget(parent),
@@ -30,7 +50,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   liste_->setHeaderHidden(true);
   liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   liste_->header()->setStretchLastSection(true);
-  liste_->setItemDelegate(new LigneListe(liste_));
+  liste_->setItemDelegate(new LigneAidant(liste_));
   liste_->header()->resizeSection(
       Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
   auto* const disposition = new QVBoxLayout(this);
@@ -39,6 +59,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   disposition->addWidget(saisie_);
   disposition->addWidget(liste_);
   disposition->addWidget(compte_);
+  appliquerApparence(*this);
   connect(saisie_, &QLineEdit::textChanged, this, [this] { Filtrer(); });
   connect(saisie_, &QLineEdit::returnPressed, this, [this] { Choisir(); });
   connect(liste_, &QTreeView::activated, this, [this] { Choisir(); });
