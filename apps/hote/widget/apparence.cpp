@@ -18,6 +18,7 @@ namespace hote {
 namespace {
 
 constexpr const char* Caracteres = "caracteres";
+constexpr const char* CaracteresMin = "caracteresMin";
 constexpr const char* CaracteresMax = "caracteresMax";
 constexpr const char* Rangees = "rangees";
 constexpr const char* Colonne = "colonne";
@@ -46,13 +47,19 @@ int chiffres(const QFontMetrics& mesures, int nombre) {
 }
 
 // One digit more than asked for, where the cursor stands.
-void dimensionner(QLineEdit& saisie, int caracteres) {
+int largeurSaisie(const QLineEdit& saisie, int caracteres) {
   QStyleOptionFrame option;
   option.initFrom(&saisie);
   option.lineWidth = saisie.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &saisie);
   const QSize texte(chiffres(saisie.fontMetrics(), caracteres + 1), saisie.fontMetrics().height());
-  saisie.setFixedWidth(
-      saisie.style()->sizeFromContents(QStyle::CT_LineEdit, &option, texte, &saisie).width());
+  return saisie.style()->sizeFromContents(QStyle::CT_LineEdit, &option, texte, &saisie).width();
+}
+
+void dimensionner(QLineEdit& saisie) {
+  const int exacte = saisie.property(Caracteres).toInt();
+  const int moindre = saisie.property(CaracteresMin).toInt();
+  if (exacte > 0) saisie.setFixedWidth(largeurSaisie(saisie, exacte));
+  if (moindre > 0) saisie.setMinimumWidth(largeurSaisie(saisie, moindre));
 }
 
 // Rows of a list may stand in bold.
@@ -134,10 +141,7 @@ class Apparence : public QObject {
       if (!colonne.isEmpty()) etiquette->setMinimumWidth(colonnes[colonne]);
       if (chiffre > 0) etiquette->setMinimumWidth(chiffres(etiquette->fontMetrics(), chiffre + 1));
     }
-    for (auto* const saisie : racine_.findChildren<QLineEdit*>()) {
-      const int caracteres = saisie->property(Caracteres).toInt();
-      if (caracteres > 0) dimensionner(*saisie, caracteres);
-    }
+    for (auto* const saisie : racine_.findChildren<QLineEdit*>()) dimensionner(*saisie);
     for (auto* const bouton : racine_.findChildren<QPushButton*>()) {
       const QFontMetrics mesures = bouton->fontMetrics();
       const int texte = mesures.horizontalAdvance(bouton->text()) + chiffres(mesures, AirBouton);

@@ -3,6 +3,7 @@
 // states its wishes in dynamic properties:
 //
 //   caracteres     width in digits: exact for an entry, the least one for a list, a button or a label
+//   caracteresMin  the least width of an entry that takes the room there is
 //   caracteresMax  the largest width of a list, in digits
 //   rangees        the least height of a list, in rows
 //   colonne        labels of one form that bear the same word here are as wide as the widest of them
