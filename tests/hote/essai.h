@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -89,14 +90,24 @@ class Frm_Essai : public screen::Form {
       if (Txt_Date.Text() == "?") Txt_Date.SetFocus();
       if (Txt_Date.Text() == "boite") MessageBox("Date douteuse");
     };
+    Opt_1.LostFocus = [this] {
+      noter("-Opt_1");
+      if (optionGardee) Opt_1.SetFocus();
+    };
     Txt_Num.KeyPress = [](char32_t& touche) {
       if (touche == U',') touche = U'.';
       const bool chiffre = (touche >= U'0' && touche <= U'9') || touche == U'.';
       if (!chiffre && touche != screen::ToucheRetour) touche = 0;
     };
-    Txt_Num.Change = [this] { noter("Txt_Num=" + Txt_Num.Text()); };
+    Txt_Num.Change = [this] {
+      noter("Txt_Num=" + Txt_Num.Text());
+      if (SurNum) SurNum();
+    };
     Cbo_Ville.Click = [this] { noter("Cbo_Ville:" + Cbo_Ville.Text()); };
-    Cbo_Ville.Change = [this] { noter("Cbo_Ville=" + Cbo_Ville.Text()); };
+    Cbo_Ville.Change = [this] {
+      noter("Cbo_Ville=" + Cbo_Ville.Text());
+      if (SurVille) SurVille();
+    };
     Cbo_Ville.DropDown = [this] {
       if (Cbo_Ville.ListCount() == 0) Cbo_Ville.AddItem("Lyon"), Cbo_Ville.AddItem("Nice");
     };
@@ -108,10 +119,14 @@ class Frm_Essai : public screen::Form {
       noter("Lst_A" + std::to_string(Lst_A.ListIndex()));
       Lst_B.SetListIndex(Lst_A.ListIndex());
     };
-    Lst_A.DblClick = [this] { noter("Lst_A!"); };
+    Lst_A.DblClick = [this] {
+      noter("Lst_A!");
+      if (SurDouble) SurDouble();
+    };
     Opt_1.Click = [this] { noter("Opt_1"); };
     Opt_2.Click = [this] { noter("Opt_2"); };
     Cac_X.Click = [this] { noter("Cac_X"); };
+    Bdh_N.Change = [this] { noter("Bdh_N" + std::to_string(Bdh_N.Value())); };
     Ong.Click = [this](int ancien) { noter("Ong<" + std::to_string(ancien)); };
     Cmd_OK.Click = [this] {
       noter("Cmd_OK");
@@ -120,8 +135,9 @@ class Frm_Essai : public screen::Form {
     Mnu_Sommaire.Click = [this] { noter("Mnu_Sommaire"); };
   }
 
-  screen::Handler SurOk;
+  screen::Handler SurOk, SurNum, SurVille, SurDouble;
   bool fermable = true;
+  bool optionGardee = false;
   std::string journal;
   std::string Prendre() { return std::exchange(journal, {}); }
 
@@ -138,6 +154,7 @@ class Frm_Essai : public screen::Form {
   screen::OptionButton Opt_1{*this, "Opt_1", "Un", &Cdr_G};
   screen::OptionButton Opt_2{*this, "Opt_2", "Deux", &Cdr_G};
   screen::CheckBox Cac_X{*this, "Cac_X", "Coche"};
+  screen::UpDown Bdh_N{*this, "Bdh_N"};
   screen::TabStrip Ong{*this, "Ong", {"Premier", "Second"}};
   screen::Frame Cdr_P1{*this, "Cdr_P1"};
   screen::TextField Txt_P1{*this, "Txt_P1", 0, &Cdr_P1};
@@ -182,6 +199,7 @@ inline std::unique_ptr<QWidget> construireEssai() {
   new QHBoxLayout(groupe);
   for (const char* const nom : {"Opt_1", "Opt_2"}) poser<QRadioButton>(*groupe, nom);
   poser<QCheckBox>(*racine, "Cac_X");
+  poser<QSpinBox>(*racine, "Bdh_N");
   auto* const onglets = poser<QTabWidget>(*racine, "Ong");
   for (const char* const nom : {"Cdr_P1", "Cdr_P2"}) {
     auto* const page = new QWidget;
@@ -225,6 +243,7 @@ class Essai : public ::testing::Test {
     auto& l = w<QListWidget>(liste);
     cliquer(*l.viewport(), l.visualItemRect(l.item(rang)).center());
   }
+  void option(const char* nom) { cliquer(w(nom), {8, w(nom).height() / 2}); }
   // To the window, so that shortcuts count.
   void touche(Qt::Key cle, Qt::KeyboardModifiers modifs = {}) {
     QTest::keyClick(racine->windowHandle(), cle, modifs);

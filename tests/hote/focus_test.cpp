@@ -23,16 +23,13 @@ class Focus : public essai::Essai {
          "Ong"},
         {"Ctrl+Tab", [this] { touche(Qt::Key_Tab, Qt::ControlModifier); }, " Ong<0", "Ong"},
         {"row", [this] { ligne("Lst_A", 2); }, " Lst_A2", "Lst_A"},
-        {"option",
+        {"option", [this] { option("Opt_2"); }, " Opt_2", "Opt_2"},
+        {"check box", [this] { option("Cac_X"); }, " Cac_X", "Cac_X"},
+        {"arrow",
          [this] {
-           cliquer(w("Opt_2"), {8, w("Opt_2").height() / 2});
+           cliquer(w("Bdh_N"), {w("Bdh_N").width() - 5, 5});
          },
-         " Opt_2", "Opt_2"},
-        {"check box",
-         [this] {
-           cliquer(w("Cac_X"), {8, w("Cac_X").height() / 2});
-         },
-         " Cac_X", "Cac_X"},
+         " Bdh_N" + std::to_string(forme.Bdh_N.Value() + 1), "Bdh_N"},
         {"Tab", [this] { touche(Qt::Key_Tab); }, "", "Txt_Num"},
         {"click into a field", [this] { cliquer(w("Txt_P1")); }, "", "Txt_P1"},
     };
@@ -40,10 +37,12 @@ class Focus : public essai::Essai {
   QTabBar& ongletBarre() { return *w<QTabWidget>("Ong").tabBar(); }
   // What an act must not have changed.
   std::string etat() {
+    const int fleche = w<QSpinBox>("Bdh_N").value();
     return std::to_string(ongletBarre().currentIndex()) + "/" +
            std::to_string(w<QListWidget>("Lst_A").selectedItems().size()) +
            (w<QRadioButton>("Opt_2").isChecked() ? "o" : "") +
-           (w<QCheckBox>("Cac_X").isChecked() ? "c" : "") + "/" + focus();
+           (w<QCheckBox>("Cac_X").isChecked() ? "c" : "") + (fleche != 0 ? "f" : "") + "/" +
+           focus();
   }
 };
 
@@ -56,6 +55,45 @@ TEST_F(Focus, RefusedLeaveSwallowsTheAct) {
     EXPECT_EQ(forme.Prendre(), "-Txt_Date");
     EXPECT_EQ(actif(), "Txt_Date");
     EXPECT_EQ(etat(), "0/0/Txt_Date");
+  }
+}
+
+// Neither the drag nor the release of a press that was swallowed counts.
+TEST_F(Focus, RefusedLeaveSwallowsThePressWhole) {
+  // A second click on a row makes the list act on the release.
+  for (int i = 0; i < 2; ++i) ligne("Lst_A", 1);
+  aller("Txt_Date");
+  taper("?");
+  auto& a = w<QListWidget>("Lst_A");
+  const auto place = [&](int rang) {
+    return a.viewport()->mapTo(racine.get(), a.visualItemRect(a.item(rang)).center());
+  };
+  QWindow* const fenetre = racine->windowHandle();
+  for (const int rang : {3, 1}) {
+    QTest::mousePress(fenetre, Qt::LeftButton, {}, place(1));
+    QTest::mouseMove(fenetre, place(rang));
+    QTest::mouseRelease(fenetre, Qt::LeftButton, {}, place(rang));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(forme.Prendre(), "-Txt_Date");
+    EXPECT_EQ(a.currentRow(), 1);
+  }
+}
+
+// During long work the form takes nothing, and the keyboard is where it was afterwards.
+TEST_F(Focus, DisabledFormDropsTheAct) {
+  aller("Txt_Date");
+  for (const Depart& depart : departs()) {
+    SCOPED_TRACE(depart.nom);
+    forme.SetEnabled(false);
+    depart.acte();
+    taper("z");
+    racine->close();
+    EXPECT_EQ(forme.Prendre(), "");
+    forme.SetEnabled(true);
+    liaison->Pousser();
+    EXPECT_EQ(actif(), "Txt_Date");
+    EXPECT_EQ(etat(), "0/0/Txt_Date");
+    EXPECT_EQ(w<QLineEdit>("Txt_Date").text(), "");
   }
 }
 
@@ -84,9 +122,9 @@ TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
   forme.Txt_Notes.SetEnabled(false);
   liaison->Pousser();
   aller("Txt_Date");
-  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",   "Lst_B",
-                                       "Opt_1",   "Opt_2",     "Cac_X",   "Ong",
-                                       "Txt_P1",  "Cmd_OK",    "Txt_Date"};
+  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",  "Lst_B",
+                                       "Opt_1",   "Opt_2",     "Cac_X",  "Bdh_N",
+                                       "Ong",     "Txt_P1",    "Cmd_OK", "Txt_Date"};
   for (const auto& nom : ordre) {
     touche(Qt::Key_Tab);
     EXPECT_EQ(actif(), nom);
@@ -152,7 +190,7 @@ TEST_F(Focus, ModalShowBlocksInsideTheHandler) {
       return;
     }
     // The form below takes no click.
-    cliquer(w("Cac_X"), {8, w("Cac_X").height() / 2});
+    option("Cac_X");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_8);
     QTest::keyClick(fenetre.windowHandle(), Qt::Key_V, Qt::AltModifier);
   });
@@ -161,6 +199,78 @@ TEST_F(Focus, ModalShowBlocksInsideTheHandler) {
   EXPECT_EQ(dedans, "-Txt_Date Cmd_OK");
   EXPECT_EQ(forme.Prendre(), "-Txt_Date Cmd_OK");
   EXPECT_EQ(QApplication::activeWindow(), racine.get());
+}
+
+// The window of a form that follows a box at once still belongs to the form below.
+TEST_F(Focus, ModalShowAfterABoxStandsOnItsForm) {
+  forme.SurOk = [&] {
+    forme.MessageBox("D'abord");
+    essai::Frm_Essai(bureau.Plateforme()).ShowModal();
+  };
+  std::vector<QWindow*> dessous;
+  Apres clerc([&](QWidget& fenetre) {
+    dessous.push_back(fenetre.windowHandle()->transientParent());
+    QTest::keyClick(&fenetre, Qt::Key_Escape);
+  });
+  cliquer(w("Cmd_OK"));
+  EXPECT_EQ(dessous, std::vector<QWindow*>(2, racine->windowHandle()));
+}
+
+// The release of the double click comes when the form that it opened has gone.
+TEST_F(Focus, ModalShowFromADoubleClick) {
+  forme.SurDouble = [&] { essai::Frm_Essai(bureau.Plateforme()).ShowModal(); };
+  Apres clerc([](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); });
+  auto& a = w<QListWidget>("Lst_A");
+  const QPoint place = a.viewport()->mapTo(racine.get(), a.visualItemRect(a.item(2)).center());
+  QTest::mouseDClick(racine->windowHandle(), Qt::LeftButton, {}, place);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(clerc.Fois(), 1);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Date Lst_A2 Lst_A2 Lst_A!");
+  option("Cac_X");
+  EXPECT_EQ(forme.Prendre(), "-Lst_A Cac_X");
+}
+
+// The host's own widgets take the keyboard without an event of the form, which goes on later.
+TEST_F(Focus, HostKeepsItsOwnWidgets) {
+  QWidget hote;
+  QVBoxLayout disposition(&hote);
+  QLineEdit recherche;
+  disposition.addWidget(racine.get());
+  disposition.addWidget(&recherche);
+  hote.show();
+  hote.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&hote));
+  const auto cliquerHote = [&](QWidget& widget) {
+    QTest::mouseClick(hote.windowHandle(), Qt::LeftButton, {},
+                      widget.mapTo(&hote, widget.rect().center()));
+    QCoreApplication::processEvents();
+  };
+  cliquerHote(w("Txt_Date"));
+  taper("?");
+  forme.Prendre();
+  cliquerHote(recherche);
+  taper("dur");
+  liaison->Pousser();
+  EXPECT_TRUE(recherche.hasFocus());
+  EXPECT_EQ(recherche.text(), "dur");
+  EXPECT_EQ(forme.Prendre() + actif(), "Txt_Date");
+  cliquerHote(w("Cmd_OK"));
+  EXPECT_EQ(forme.Prendre() + "/" + focus(), "-Txt_Date/Txt_Date");
+  forme.Txt_Date.SetText("");
+  forme.Cmd_OK.SetFocus();
+  liaison->Pousser();
+  QTest::keyClick(hote.windowHandle(), Qt::Key_Tab);
+  EXPECT_TRUE(recherche.hasFocus());
+  racine->setParent(nullptr);
+}
+
+TEST_F(Focus, SharedAccessKeyOnlyMovesTheFocus) {
+  forme.Cac_X.SetLibelle("&Vrai");
+  liaison->Pousser();
+  aller("Txt_Date");
+  touche(Qt::Key_V, Qt::AltModifier);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Date");
+  EXPECT_EQ(actif(), focus());
 }
 
 TEST_F(Focus, StoreErrorIsToldAndTheFormGoesOn) {

@@ -1,7 +1,9 @@
 // Typing, choosing and what the model shows back.
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QInputMethodEvent>
+#include <QMimeData>
 
 #include "essai.h"
 
@@ -58,6 +60,83 @@ TEST_F(Saisie, KeyFilterSeesKeysAndDeadKeysAndAPasteGoesRound) {
   EXPECT_EQ(forme.Txt_Num.Text().find_first_of("\t\x07"), std::string::npos);
 }
 
+// What a clerk does beside typing; each line goes on from the text that the former has left.
+TEST_F(Saisie, EditingKeys) {
+  aller("Txt_Num");
+  auto& champ = w<QLineEdit>("Txt_Num");
+  const struct {
+    const char* nom;
+    std::function<void()> acte;
+    const char* texte;
+  } cas[] = {
+      {"keys", [&] { taper("123"); }, "123"},
+      {"cut", [&] { champ.selectAll(), touche(Qt::Key_X, Qt::ControlModifier); }, ""},
+      {"undo", [&] { touche(Qt::Key_Z, Qt::ControlModifier); }, "123"},
+      {"Delete", [&] { touche(Qt::Key_Home), touche(Qt::Key_Delete); }, "23"},
+      {"dropped over a selection", [&] { champ.selectAll(), taper("x"); }, "23"},
+      {"changed over a selection", [&] { champ.selectAll(), taper(","); }, "."},
+      {"third level",
+       [&] {
+         QTest::sendKeyEvent(QTest::Click, &champ, Qt::Key_7, "7",
+                             Qt::ControlModifier | Qt::AltModifier);
+       },
+       ".7"},
+      {"word", [&] { touche(Qt::Key_Backspace, Qt::ControlModifier); }, "."},
+      {"undo after a program's text",
+       [&] {
+         forme.Txt_Num.SetText("5");
+         liaison->Pousser();
+         touche(Qt::Key_Z, Qt::ControlModifier);
+       },
+       "5"},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.nom);
+    c.acte();
+    EXPECT_EQ(forme.Txt_Num.Text(), c.texte);
+    EXPECT_EQ(affiche("Txt_Num"), c.texte);
+  }
+}
+
+// A text that is dropped on a field is an act on it: the field before must be left.
+TEST_F(Saisie, DroppedTextLeavesTheFieldBefore) {
+  aller("Txt_Date");
+  taper("?");
+  QMimeData donnees;
+  donnees.setText("12");
+  for (const bool refus : {true, false}) {
+    if (!refus) forme.Txt_Date.SetText("");
+    QDragEnterEvent arrivee({5, 5}, Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&w("Txt_Num"), &arrivee);
+    QDropEvent depot({5, 5}, Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&w("Txt_Num"), &depot);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(forme.Prendre(), refus ? "-Txt_Date" : "-Txt_Date Txt_Num=12");
+    EXPECT_EQ(affiche("Txt_Num"), refus ? "" : "12");
+    EXPECT_EQ(focus(), refus ? "Txt_Date" : "Txt_Num");
+  }
+}
+
+// A handler of the key that fails, or goes elsewhere, takes the key.
+TEST_F(Saisie, KeyOfAHandlerThatFailsOrLeavesIsDropped) {
+  Apres clerc([](QWidget& boite) { QTest::keyClick(&boite, Qt::Key_Escape); });
+  aller("Txt_Num");
+  forme.Txt_Num.KeyPress = [](char32_t&) { throw std::runtime_error("panne"); };
+  taper("1");
+  EXPECT_EQ(clerc.Fois(), 1);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(racine.get()));
+  forme.Txt_Num.KeyPress = [this](char32_t&) { forme.Txt_P1.SetFocus(); };
+  taper("2");
+  EXPECT_EQ(forme.Prendre() + affiche("Txt_Num") + affiche("Txt_P1"), "-Txt_Num");
+  // A key that the filter changes is one change too, even when that moves the focus.
+  forme.Txt_Num.KeyPress = [](char32_t& touche) { touche = U'.'; };
+  forme.SurNum = [this] { forme.Txt_P1.SetFocus(); };
+  aller("Txt_Num");
+  taper(",");
+  EXPECT_EQ(forme.Prendre(), "Txt_Num=. -Txt_Num");
+  EXPECT_EQ(focus(), "Txt_P1");
+}
+
 TEST_F(Saisie, LongPasteIsCutAndAProgramMaySetMore) {
   cliquer(w("Txt_Notes"));
   coller(QString(100000, 'x') + "\n");
@@ -68,6 +147,12 @@ TEST_F(Saisie, LongPasteIsCutAndAProgramMaySetMore) {
   liaison->Pousser();
   EXPECT_EQ(w<QPlainTextEdit>("Txt_Notes").toPlainText(), "un\ndeux");
   EXPECT_EQ(forme.Txt_Notes.Text(), "un\r\ndeux");
+  // The unbreakable blank of an amount outlives an edit beside it.
+  forme.Txt_Notes.SetText("12\u00a0000");
+  liaison->Pousser();
+  touche(Qt::Key_Home);
+  taper("!");
+  EXPECT_EQ(forme.Txt_Notes.Text(), "!12\u00a0000");
   EXPECT_EQ(affiche("Txt_Num"), "1234567");
 }
 
@@ -88,6 +173,19 @@ TEST_F(Saisie, DropDownIsFilledLateAndChosenOrTyped) {
   EXPECT_EQ(combo.currentText().toStdString(), forme.Cbo_Ville.Text());
   EXPECT_EQ(combo.currentIndex(), -1);
   EXPECT_EQ(forme.Cbo_Ville.ListIndex(), -1);
+  // Rows that are filled anew under the keys leave the cursor where it is.
+  forme.SurVille = [this] {
+    forme.Cbo_Ville.AddItem("Ville " + std::to_string(forme.Cbo_Ville.ListCount()));
+  };
+  touche(Qt::Key_Home);
+  taper("abc");
+  EXPECT_EQ(forme.Cbo_Ville.Text(), "abcLyonx");
+  forme.SurVille = nullptr;
+  forme.Cbo_Ville.SetListIndex(1);
+  liaison->Pousser();
+  touche(Qt::Key_End);
+  taper("yz");
+  EXPECT_EQ(forme.Cbo_Ville.Text(), "Niceyz");
   // The end of the edit is no choice.
   forme.Prendre();
   touche(Qt::Key_Return);
@@ -113,12 +211,27 @@ TEST_F(Saisie, ListsOfOneTableAreSelectedAndScrolledAsOne) {
   EXPECT_TRUE(b.item(1)->isSelected());
   ligne("Lst_A", 1);
   EXPECT_EQ(forme.Prendre(), "-Txt_Date Lst_A1 Lst_A1");
+  // Only the left button chooses.
+  for (const auto bouton : {Qt::RightButton, Qt::MiddleButton}) {
+    cliquer(*a.viewport(), a.visualItemRect(a.item(3)).center(), bouton);
+  }
+  touche(Qt::Key_Down);
+  touche(Qt::Key_End);
+  touche(Qt::Key_Home);
+  EXPECT_EQ(forme.Prendre(), "Lst_A2 Lst_A39 Lst_A0");
+  EXPECT_EQ(b.currentRow(), 0);
   a.verticalScrollBar()->setValue(12);
   EXPECT_EQ(b.verticalScrollBar()->value(), 12);
   forme.Lst_A.SetListIndex(39);
   liaison->Pousser();
   EXPECT_TRUE(a.viewport()->rect().contains(a.visualItemRect(a.item(39)).center()));
   EXPECT_EQ(b.verticalScrollBar()->value(), a.verticalScrollBar()->value());
+  // The first arrow in a list without a row takes the first row; Enter opens as a double click.
+  forme.Lst_A.SetListIndex(-1);
+  liaison->Pousser();
+  forme.Prendre();
+  for (const auto cle : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Down, Qt::Key_Enter}) touche(cle);
+  EXPECT_EQ(forme.Prendre(), "Lst_A0 Lst_A1 Lst_A1 Lst_A!");
   forme.Lst_A.Clear();
   liaison->Pousser();
   EXPECT_EQ(a.count(), 0);
@@ -138,7 +251,7 @@ TEST_F(Saisie, OptionsFollowTheModel) {
     return std::string(w<QRadioButton>("Opt_1").isChecked() ? "1" : "") +
            (w<QRadioButton>("Opt_2").isChecked() ? "2" : "");
   };
-  cliquer(w("Opt_1"), {8, w("Opt_1").height() / 2});
+  option("Opt_1");
   EXPECT_EQ(allumees(), "1");
   touche(Qt::Key_Right);
   EXPECT_EQ(allumees(), "2");
@@ -147,17 +260,51 @@ TEST_F(Saisie, OptionsFollowTheModel) {
   liaison->Pousser();
   EXPECT_EQ(allumees(), "");
   EXPECT_EQ(forme.Prendre(), "");
+  // The arrows choose, also where none is on yet, round the end, and against one refusal.
+  touche(Qt::Key_Down);
+  EXPECT_EQ(allumees(), "1");
+  forme.optionGardee = true;
+  touche(Qt::Key_Left);
+  EXPECT_EQ(allumees(), "1");
+  EXPECT_EQ(forme.Prendre() + "/" + focus(), "-Opt_2 Opt_1 -Opt_1/Opt_1");
 }
 
-TEST_F(Saisie, WheelTurnsOnlyWhatTheUserIsIn) {
+TEST_F(Saisie, ArrowsCountAndTheirTextDoesNot) {
+  aller("Bdh_N");
+  forme.Bdh_N.SetValue(3);
+  liaison->Pousser();
+  forme.Prendre();
+  touche(Qt::Key_A, Qt::ControlModifier);
+  taper("7");
+  coller("8");
+  touche(Qt::Key_Up);
+  touche(Qt::Key_Down);
+  EXPECT_EQ(forme.Prendre(), "Bdh_N4 Bdh_N3");
+  EXPECT_EQ(w<QSpinBox>("Bdh_N").value(), 3);
+}
+
+// The wheel turns a value only where the user is, and then nothing else.
+TEST_F(Saisie, StrayWheelDoesNothing) {
+  struct Guet : QObject {
+    int roues = 0;
+    bool eventFilter(QObject*, QEvent* e) override {
+      roues += e->type() == QEvent::Wheel;
+      return false;
+    }
+  } guet;
+  racine->installEventFilter(&guet);
   forme.Cbo_Ville.AddItem("Lyon");
   liaison->Pousser();
   aller("Txt_Num");
-  auto& combo = w<ComboDeroulante>("Cbo_Ville");
-  QWheelEvent roue(combo.rect().center(), combo.mapToGlobal(combo.rect().center()), {}, {0, -120},
-                   Qt::NoButton, {}, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&combo, &roue);
-  EXPECT_EQ(forme.Cbo_Ville.ListIndex(), -1);
+  QWidget* const cibles[] = {&w("Cbo_Ville"), &w("Bdh_N"), w<QTabWidget>("Ong").tabBar()};
+  for (QWidget* const cible : cibles) {
+    const QPoint milieu = cible->rect().center();
+    QWheelEvent roue(milieu, cible->mapToGlobal(milieu), {}, {0, -120}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(cible, &roue);
+  }
+  EXPECT_EQ(forme.Prendre(), "");
+  EXPECT_EQ(guet.roues, 0);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ QSettings& Bureau::Reglages() {
 }
 
 void Bureau::Enregistrer(const std::string& forme, Fabrique fabrique) {
-  fabriques_[forme] = std::move(fabrique);
+  fabriques_.try_emplace(forme, std::move(fabrique));
 }
 
 std::unique_ptr<QWidget> Bureau::Construire(const std::string& forme) const {
@@ -68,6 +68,12 @@ screen::Form* Bureau::FormeCourante() const {
   const auto trouvee = std::find_if(liaisons_.rbegin(), liaisons_.rend(),
                                     [](const Liaison* l) { return l->Forme().Visible(); });
   return trouvee == liaisons_.rend() ? nullptr : &(*trouvee)->Forme();
+}
+
+QWidget* Bureau::FenetreCourante() const {
+  const auto trouvee = std::find_if(liaisons_.rbegin(), liaisons_.rend(),
+                                    [](const Liaison* l) { return l->Racine().isVisible(); });
+  return trouvee == liaisons_.rend() ? QApplication::activeWindow() : (*trouvee)->Racine().window();
 }
 
 // A push can end a form's show, and with it its binder: the list is walked by place.

@@ -36,7 +36,7 @@ class Bureau {
   screen::Platform& Plateforme();
   QSettings& Reglages();
 
-  // How the window of the form of that name is made.
+  // How the window of the form of that name is made. The first one told holds.
   void Enregistrer(const std::string& forme, Fabrique fabrique);
   // A new window for the form; a std::logic_error when none was registered.
   std::unique_ptr<QWidget> Construire(const std::string& forme) const;
@@ -51,6 +51,9 @@ class Bureau {
   // The form shown last, which has the user now; nullptr when none is shown. Help on the current
   // screen starts from its name.
   screen::Form* FormeCourante() const;
+  // The window on which boxes and further forms stand: the one that was bound last, or the active
+  // one. A window that comes back from under a box is active a moment too late to be asked.
+  QWidget* FenetreCourante() const;
   // Shows the state of every form.
   void PousserTout();
 

@@ -135,9 +135,9 @@ void Liaison::Attendre(Lien& lien) {
 
 bool Liaison::Drainer() {
   if (enAttente_ == nullptr) return true;
-  // During long work the change waits, and what made it is dropped.
-  if (!forme_.Enabled()) return false;
   screen::Field& champ = std::exchange(enAttente_, nullptr)->Champ();
+  // During long work the keyboard stays: the push at its end puts it back.
+  if (!forme_.Enabled()) return false;
   if (&champ == forme_.Active()) return true;
   const QPointer<Liaison> la(this);
   const unsigned long interruptions = screen::Form::Interruptions();

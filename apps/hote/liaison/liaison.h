@@ -8,7 +8,7 @@
 // show and focus change, its whole state is pushed to the widgets; what widgets signal meanwhile is
 // no act. A focus change of the toolkit is only recorded, and delivered (Drainer) before anything
 // else that the user does. When the model kept the focus, or a box came up, the press, key or click
-// that moved it is dropped.
+// that moved it is dropped, as is all that the user does to a form that is disabled or hidden.
 //
 // The form and the root widget outlive the binder. An error that rises from a handler is shown by
 // the desk and goes no further.
@@ -28,6 +28,7 @@ class QButtonGroup;
 class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
+class QShortcutEvent;
 class QAbstractButton;
 class QWidget;
 
@@ -90,11 +91,15 @@ class Liaison : public QObject {
   void PousserFocus();
   void Apres();
 
+  bool Ouverte() const;
+  bool Acte(QWidget& widget, QEvent& evenement);
+  bool Recevable(const QPointer<QWidget>& widget);
   bool Souris(QWidget& widget, const QMouseEvent& evenement);
   bool Clavier(QWidget& widget, QKeyEvent& evenement);
   bool Tabuler(bool arriere);
+  bool PasserAHote(bool arriere);
   bool ChangerOnglet(int sens);
-  bool Raccourci(QWidget& widget);
+  bool Raccourci(QWidget& widget, const QShortcutEvent& evenement);
   bool Composer(QWidget& widget, const QInputMethodEvent& evenement);
 
   screen::Form& forme_;
@@ -110,6 +115,8 @@ class Liaison : public QObject {
   int poussees_ = 0;
   int occupation_ = 0;
   bool composition_ = false;
+  // The button whose press was dropped: its drag and its release go the same way.
+  Qt::MouseButton boutonAvale_ = Qt::NoButton;
 };
 
 }  // namespace hote

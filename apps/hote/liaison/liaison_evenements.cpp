@@ -6,6 +6,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTabBar>
 #include <algorithm>
 
 #include "liaison/combo_deroulante.h"
@@ -28,10 +29,27 @@ bool surface(const Lien* lien) {
 bool moletteEgaree(const QWidget& widget) {
   for (const QWidget* w = &widget; w != nullptr && !w->isWindow(); w = w->parentWidget()) {
     const bool valeur = qobject_cast<const QComboBox*>(w) != nullptr ||
-                        qobject_cast<const QAbstractSpinBox*>(w) != nullptr;
+                        qobject_cast<const QAbstractSpinBox*>(w) != nullptr ||
+                        qobject_cast<const QTabBar*>(w) != nullptr;
     if (valeur) return !w->hasFocus();
   }
   return false;
+}
+
+bool estActe(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::Wheel:
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -39,43 +57,67 @@ bool moletteEgaree(const QWidget& widget) {
 bool Liaison::eventFilter(QObject* objet, QEvent* evenement) {
   if (!objet->isWidgetType()) return false;
   auto& widget = *static_cast<QWidget*>(objet);
-  switch (evenement->type()) {
+  if (evenement->type() == QEvent::Close) {
+    if (&widget != &racine_ || !racine_.isWindow()) return false;
+    evenement->ignore();
+    Jouer([](screen::User& user) { user.Fermer(); });
+    return true;
+  }
+  if (!estActe(evenement->type()) || !Contient(widget)) return false;
+  const bool avale = Acte(widget, *evenement);
+  // An event that is dropped must not go on to the widgets around this one.
+  if (avale) evenement->accept();
+  return avale;
+}
+
+// True when the act is dealt with, or dropped, and must not reach the widget.
+bool Liaison::Acte(QWidget& widget, QEvent& evenement) {
+  switch (evenement.type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-      return Contient(widget) && Souris(widget, *static_cast<QMouseEvent*>(evenement));
+    case QEvent::MouseButtonDblClick: {
+      const auto& souris = static_cast<QMouseEvent&>(evenement);
+      const bool avale = Souris(widget, souris);
+      boutonAvale_ = avale ? souris.button() : Qt::NoButton;
+      return avale;
+    }
+    case QEvent::MouseMove:
+      return (static_cast<QMouseEvent&>(evenement).buttons() & boutonAvale_) != 0;
+    case QEvent::MouseButtonRelease:
+      return static_cast<QMouseEvent&>(evenement).button() == boutonAvale_;
     case QEvent::KeyPress:
-      return Contient(widget) && QApplication::focusWidget() == &widget &&
-             Clavier(widget, *static_cast<QKeyEvent*>(evenement));
+      return QApplication::focusWidget() == &widget &&
+             Clavier(widget, static_cast<QKeyEvent&>(evenement));
     case QEvent::Shortcut:
-      return Contient(widget) && Raccourci(widget);
+      return Raccourci(widget, static_cast<QShortcutEvent&>(evenement));
     case QEvent::InputMethod:
-      return !composition_ && Contient(widget) &&
-             Composer(widget, *static_cast<QInputMethodEvent*>(evenement));
+      return Composer(widget, static_cast<QInputMethodEvent&>(evenement));
     case QEvent::Wheel:
-      return Contient(widget) && moletteEgaree(widget);
-    case QEvent::Close:
-      if (&widget != &racine_ || !racine_.isWindow()) return false;
-      evenement->ignore();
-      Jouer([](screen::User& user) { user.Fermer(); });
-      return true;
+      return !Ouverte() || moletteEgaree(widget);
     default:
       return false;
   }
 }
 
+bool Liaison::Ouverte() const {
+  return forme_.Visible() && forme_.Enabled();
+}
+
+// After the focus change that is waiting: whether the act that made it, or comes after it, counts.
+bool Liaison::Recevable(const QPointer<QWidget>& widget) {
+  return Drainer() && widget && Ouverte();
+}
+
 bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
-  const QPointer<QWidget> la(&widget);
-  if (!Drainer() || !la) return true;
+  if (!Recevable(&widget)) return true;
   Lien* const lien = LienDe(&widget);
-  if (lien != nullptr) lien->AvantPression();
+  if (lien != nullptr && lien->Pression(widget, evenement)) return true;
   if (evenement.button() != Qt::RightButton || !surface(lien)) return false;
   Jouer([](screen::User& user) { user.ClicDroit(); });
   return true;
 }
 
 bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
-  const QPointer<QWidget> la(&widget);
-  if (!Drainer() || !la) return true;
+  if (!Recevable(&widget)) return true;
   const bool controle = evenement.modifiers().testFlag(Qt::ControlModifier);
   const bool arriere =
       evenement.key() == Qt::Key_Backtab || evenement.modifiers().testFlag(Qt::ShiftModifier);
@@ -86,8 +128,7 @@ bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   return lien != nullptr && lien->Touche(evenement);
 }
 
-// The order is the model's. At either end of an embedded form the keyboard goes on to the host's
-// own widgets.
+// The order is the model's.
 bool Liaison::Tabuler(bool arriere) {
   std::vector<screen::Field*> ordre = forme_.Fields();
   if (arriere) std::reverse(ordre.begin(), ordre.end());
@@ -98,13 +139,30 @@ bool Liaison::Tabuler(bool arriere) {
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
   if (suivant == ordre.end()) {
-    if (!racine_.isWindow()) return false;
+    if (PasserAHote(arriere)) return true;
     suivant = std::find_if(ordre.begin(), ordre.end(), prenable);
     if (suivant == ordre.end()) return true;
   }
   screen::Field& cible = **suivant;
   Jouer([&](screen::User& user) { user.Focus(cible); });
   return true;
+}
+
+// From either end of an embedded form the keyboard goes on to the host's own widgets. False when
+// there is none.
+bool Liaison::PasserAHote(bool arriere) {
+  const auto apres = [&](const QWidget& w) {
+    return arriere ? w.previousInFocusChain() : w.nextInFocusChain();
+  };
+  for (QWidget* w = apres(racine_); w != &racine_; w = apres(*w)) {
+    const bool prenable = !Contient(*w) && w->focusProxy() == nullptr &&
+                          (w->focusPolicy() & Qt::TabFocus) != 0 && w->isEnabled() &&
+                          w->isVisible();
+    if (!prenable) continue;
+    w->setFocus(arriere ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+    return true;
+  }
+  return false;
 }
 
 bool Liaison::ChangerOnglet(int sens) {
@@ -119,11 +177,13 @@ bool Liaison::ChangerOnglet(int sens) {
   return false;
 }
 
-// An access key does not move the focus by itself, as a click does.
-bool Liaison::Raccourci(QWidget& widget) {
+// An access key does not move the focus by itself, as a click does. One that several widgets share
+// only moves it, from one to the next.
+bool Liaison::Raccourci(QWidget& widget, const QShortcutEvent& evenement) {
+  if (!Recevable(&widget)) return true;
   Lien* const lien = LienDe(&widget);
   auto* const bouton = qobject_cast<QAbstractButton*>(&widget);
-  if (lien == nullptr || bouton == nullptr) return false;
+  if (lien == nullptr || bouton == nullptr || evenement.isAmbiguous()) return false;
   Jouer([&](screen::User& user) { user.Cliquer(lien->Champ()); });
   return true;
 }
@@ -131,9 +191,9 @@ bool Liaison::Raccourci(QWidget& widget) {
 // Dead keys and composed characters come this way, not as keys.
 bool Liaison::Composer(QWidget& widget, const QInputMethodEvent& evenement) {
   const QString texte = evenement.commitString();
-  if (texte.isEmpty()) return false;
+  if (composition_ || texte.isEmpty()) return false;
   const QPointer<QWidget> la(&widget);
-  if (!Drainer() || !la) return true;
+  if (!Recevable(la)) return true;
   Lien* const lien = LienDe(&widget);
   if (lien == nullptr) return false;
   const QString garde = lien->Filtrer(texte);

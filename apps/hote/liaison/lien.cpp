@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTabBar>
@@ -113,6 +114,16 @@ class LienPlage : public Lien {
   Plage& plage_;
 };
 
+// A pair of arrows. Qt puts a number before them, which no field of the model has: nothing is typed
+// into it.
+class LienFleches : public LienPlage<QSpinBox> {
+ public:
+  LienFleches(Liaison& liaison, screen::RangeField& champ, QSpinBox& fleches)
+      : LienPlage(liaison, champ, fleches) {
+    if (auto* const nombre = fleches.findChild<QLineEdit*>()) nombre->setReadOnly(true);
+  }
+};
+
 }  // namespace
 
 void Lien::Pousser() {
@@ -154,8 +165,8 @@ std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget&
       return nullptr;
     case Kind::UpDown:
       if (auto* fleches = qobject_cast<QSpinBox*>(&widget)) {
-        return std::make_unique<LienPlage<QSpinBox>>(
-            liaison, static_cast<screen::RangeField&>(champ), *fleches);
+        return std::make_unique<LienFleches>(liaison, static_cast<screen::RangeField&>(champ),
+                                             *fleches);
       }
       return nullptr;
     case Kind::Barre:
@@ -180,10 +191,10 @@ char32_t toucheDe(const QKeyEvent& evenement) {
     default:
       break;
   }
-  // Alt alone asks for an access key; with Ctrl it is the third level of a French keyboard.
-  if ((evenement.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier) {
-    return 0;
-  }
+  // Alt alone asks for an access key and Ctrl alone for a command, whatever text comes with them;
+  // both are the third level of a French keyboard.
+  const bool alt = evenement.modifiers().testFlag(Qt::AltModifier);
+  if (alt != evenement.modifiers().testFlag(Qt::ControlModifier)) return 0;
   const QList<uint> points = evenement.text().toUcs4();
   return points.size() == 1 && screen::estCaractere(points.front()) ? points.front() : 0;
 }
@@ -191,17 +202,9 @@ char32_t toucheDe(const QKeyEvent& evenement) {
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
                        char32_t touche) {
   if (!filtre) return touche;
-  const unsigned long interruptions = screen::Form::Interruptions();
-  const bool joue = liaison.Jouer([&](screen::User& user) {
-    if (user.Focus(champ) != screen::Acte::Fait) {
-      touche = 0;
-      return;
-    }
-    screen::fire(filtre, touche);
-  });
-  const bool reste = joue && champ.Accessible() && champ.Forme().Active() == &champ &&
-                     screen::Form::Interruptions() == interruptions;
-  return reste ? touche : 0;
+  char32_t gardee = 0;
+  liaison.Jouer([&](screen::User& user) { gardee = user.Filtrer(champ, touche); });
+  return gardee;
 }
 
 QString filtrerTexte(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,

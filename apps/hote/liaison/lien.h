@@ -9,6 +9,7 @@
 #include "screen/field.h"
 
 class QKeyEvent;
+class QMouseEvent;
 
 namespace hote {
 
@@ -30,8 +31,9 @@ class Lien : public QObject {
   virtual bool Touche(QKeyEvent& /*evenement*/) { return false; }
   // A text that an input method is about to insert, as the field lets it through.
   virtual QString Filtrer(const QString& texte) { return texte; }
-  // The mouse goes down in the widget, before the widget sees it.
-  virtual void AvantPression() {}
+  // The mouse goes down in `ou`, the widget or a part of it. True when that is no act here and must
+  // not reach the widget.
+  virtual bool Pression(const QWidget& /*ou*/, const QMouseEvent& /*evenement*/) { return false; }
 
  protected:
   virtual void PousserEtat() {}
@@ -55,8 +57,7 @@ std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QW
 // The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
 // window's: no field may keep it from closing.
 char32_t toucheDe(const QKeyEvent& evenement);
-// Shows KeyPress a key typed in the link's field. What is left of it: 0 when it is dropped, or when
-// the handler took the screen or the focus away.
+// Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is dropped.
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
                        char32_t touche);
 // The text of an input method, key by key through KeyPress.

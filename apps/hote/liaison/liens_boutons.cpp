@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
@@ -51,6 +52,24 @@ class LienOption : public LienPressable {
  public:
   using LienPressable::LienPressable;
 
+  // Qt's own arrows click before they move the focus, and only where an option is on already.
+  bool Touche(QKeyEvent& evenement) override {
+    const int sens = sensDe(evenement.key());
+    if (sens == 0) return false;
+    std::vector<screen::Field*> groupe;
+    for (screen::Field* const champ : Champ().Forme().Fields()) {
+      const bool voisin = champ->Genre() == screen::Kind::Option &&
+                          champ->Cadre() == Champ().Cadre() && champ->Disponible();
+      if (voisin) groupe.push_back(champ);
+    }
+    const auto ici = std::find(groupe.begin(), groupe.end(), &Champ());
+    if (groupe.size() < 2 || ici == groupe.end()) return true;
+    const auto rang = static_cast<std::size_t>(ici - groupe.begin());
+    screen::Field& cible = *groupe[(rang + (sens > 0 ? 1 : groupe.size() - 1)) % groupe.size()];
+    Binder().Jouer([&](screen::User& user) { user.Cliquer(cible); });
+    return true;
+  }
+
  protected:
   void PousserEtat() override {
     LienPressable::PousserEtat();
@@ -61,6 +80,12 @@ class LienOption : public LienPressable {
     } else {
       Binder().Groupe(Champ().Cadre()).Eteindre(bouton_);
     }
+  }
+
+ private:
+  static int sensDe(int touche) {
+    if (touche == Qt::Key_Down || touche == Qt::Key_Right) return 1;
+    return touche == Qt::Key_Up || touche == Qt::Key_Left ? -1 : 0;
   }
 };
 

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
+#include <algorithm>
 
 #include "liaison/combo_deroulante.h"
 #include "liaison/liaison.h"
@@ -43,15 +45,18 @@ class LienListe : public Lien {
       Binder().Jouer([&](screen::User& user) { user.DoubleCliquer(modele_, ligne); });
     });
   }
-  void AvantPression() override { choisie_ = false; }
+  bool Pression(const QWidget& ou, const QMouseEvent& evenement) override {
+    choisie_ = false;
+    return &ou == liste_.viewport() && evenement.button() != Qt::LeftButton;
+  }
   bool Touche(QKeyEvent& evenement) override {
     const char32_t touche = toucheDe(evenement);
-    if (touche == 0) return false;
     if (touche == screen::ToucheEntree) {
-      Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
+      if (!evenement.isAutoRepeat()) Entrer();
       return true;
     }
-    return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche) != touche;
+    if (touche != 0) return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche) != touche;
+    return modele_.ListIndex() < 0 && Entamer(evenement.key());
   }
 
  protected:
@@ -70,6 +75,25 @@ class LienListe : public Lien {
   }
 
  private:
+  // A row that a double click opens is opened by Enter too, unless the list has keys of its own: a
+  // clerk without a mouse gets everywhere.
+  void Entrer() {
+    Binder().Jouer([this](screen::User& user) {
+      if (modele_.KeyPress || !modele_.DblClick || modele_.ListIndex() < 0) {
+        user.Touche(modele_, screen::ToucheEntree);
+      } else {
+        user.DoubleCliquer(modele_, modele_.ListIndex());
+      }
+    });
+  }
+  // The first arrow in a list without a row: Qt would go on from a row that it has not selected.
+  bool Entamer(int cle) {
+    static constexpr int Fleches[] = {Qt::Key_Down, Qt::Key_Up,       Qt::Key_Home,
+                                      Qt::Key_End,  Qt::Key_PageDown, Qt::Key_PageUp};
+    if (std::find(std::begin(Fleches), std::end(Fleches), cle) == std::end(Fleches)) return false;
+    if (modele_.ListCount() > 0) Choisir(cle == Qt::Key_End ? modele_.ListCount() - 1 : 0);
+    return true;
+  }
   void Choisir(int ligne) {
     Binder().Jouer([&](screen::User& user) { user.Choisir(modele_, ligne); });
   }
@@ -119,7 +143,6 @@ class LienDeroulante : public Lien {
     QLineEdit* const ligne = combo_.lineEdit();
     if (ligne != nullptr && screen::estCaractere(gardee)) {
       ligne->insert(versQt(screen::texteDe(gardee)));
-      Transmettre(ligne->text());
     }
     return true;
   }
@@ -129,10 +152,12 @@ class LienDeroulante : public Lien {
 
  protected:
   void PousserEtat() override {
+    QLineEdit* const ligne = combo_.lineEdit();
+    // New rows and another row rewrite the text on their way.
+    const int curseur = ligne == nullptr ? 0 : ligne->cursorPosition();
     if (modele_.Rows() != poussees_) Remplir();
     if (combo_.currentIndex() != modele_.ListIndex()) combo_.setCurrentIndex(modele_.ListIndex());
     const QString texte = versQt(modele_.Text());
-    QLineEdit* const ligne = combo_.lineEdit();
     if (ligne == nullptr) {
       // A text that is none of the rows.
       if (combo_.placeholderText() != texte) combo_.setPlaceholderText(texte);
@@ -141,10 +166,9 @@ class LienDeroulante : public Lien {
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne->maxLength() != longueur) ligne->setMaxLength(longueur);
-    if (ligne->text() == texte) return;
-    const int curseur = ligne->cursorPosition();
-    ligne->setText(texte);
-    ligne->setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+    if (ligne->text() != texte) ligne->setText(texte);
+    const int place = std::min(curseur, static_cast<int>(texte.size()));
+    if (ligne->cursorPosition() != place) ligne->setCursorPosition(place);
   }
 
  private:

@@ -55,10 +55,8 @@ class LienLigne : public LienSaisie {
   }
 
  protected:
-  void Inserer(const QString& texte) override {
-    ligne_.insert(texte);
-    Transmettre(ligne_.text());
-  }
+  // Signals its edit as a key does.
+  void Inserer(const QString& texte) override { ligne_.insert(texte); }
   void PousserEtat() override {
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
@@ -81,21 +79,20 @@ class LienTexteLong : public LienSaisie {
   LienTexteLong(Liaison& liaison, screen::TextField& champ, QPlainTextEdit& page)
       : LienSaisie(liaison, champ, page), page_(page) {
     page_.setTabChangesFocus(true);
-    connect(&page_, &QPlainTextEdit::textChanged, this,
-            [this] { Transmettre(page_.toPlainText()); });
+    connect(&page_, &QPlainTextEdit::textChanged, this, [this] { Transmettre(Texte()); });
   }
 
  protected:
   void Inserer(const QString& texte) override { page_.insertPlainText(texte); }
   bool Pleine() const override {
     return modele_.Longueur() > 0 && !page_.textCursor().hasSelection() &&
-           page_.toPlainText().toUcs4().size() >= modele_.Longueur();
+           Texte().toUcs4().size() >= modele_.Longueur();
   }
   // The widget knows one line end only; the records of the suite hold CR LF.
   void PousserEtat() override {
     QString texte = versQt(modele_.Text());
     texte.replace("\r\n", "\n").replace('\r', '\n');
-    if (page_.toPlainText() == texte) return;
+    if (Texte() == texte) return;
     QTextCursor curseur = page_.textCursor();
     const int place = curseur.position();
     page_.setPlainText(texte);
@@ -105,6 +102,12 @@ class LienTexteLong : public LienSaisie {
   }
 
  private:
+  // The widget's plain text would turn unbreakable blanks into blanks.
+  QString Texte() const {
+    QString texte = page_.document()->toRawText();
+    return texte.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
+  }
+
   QPlainTextEdit& page_;
 };
 

@@ -18,7 +18,7 @@ namespace hote {
 // is deleted.
 void ModalesQt::Attendre(screen::Form& form) {
   const CurseurQt::Levee levee(curseur_);
-  const QPointer<QWidget> parente = QApplication::activeWindow();
+  const QPointer<QWidget> parente = bureau_.FenetreCourante();
   const std::unique_ptr<QWidget> fenetre = bureau_.Construire(form.Nom());
   bureau_.PousserTout();
   const QString cle = "fenetres/" + versQt(form.Nom());

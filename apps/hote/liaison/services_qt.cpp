@@ -1,7 +1,9 @@
 #include "liaison/services_qt.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QSettings>
 
@@ -33,6 +35,9 @@ constexpr BoutonMessage BoutonsMessages[] = {
     {Boutons::OuiNonAnnuler, Reponse::Non, "&Non", QMessageBox::NoRole, false},
     {Boutons::OuiNonAnnuler, Reponse::Annuler, "Annuler", QMessageBox::RejectRole, true},
 };
+
+// What a window's frame puts beside its title: icon and buttons, in pixels.
+constexpr int LargeurBoutons = 140;
 
 QMessageBox::Icon iconeQt(screen::Icone icone) {
   switch (icone) {
@@ -82,9 +87,11 @@ CurseurQt::Levee::~Levee() {
 Reponse MessagesQt::Montrer(const screen::Message& message) {
   bureau_.PousserTout();
   const CurseurQt::Levee levee(curseur_);
-  QMessageBox boite(QApplication::activeWindow());
+  const QPointer<QWidget> dessous = bureau_.FenetreCourante();
+  QMessageBox boite(dessous);
   boite.setTextFormat(Qt::PlainText);
-  boite.setWindowTitle(versQt(message.titre));
+  // Qt would show the program's name where there is no title.
+  boite.setWindowTitle(message.titre.empty() ? " " : versQt(message.titre));
   boite.setText(versQt(message.texte));
   boite.setIcon(iconeQt(message.icone));
   Reponse echappe = Reponse::Ok;
@@ -98,7 +105,13 @@ Reponse MessagesQt::Montrer(const screen::Message& message) {
     boite.setEscapeButton(bouton);
     echappe = b.reponse;
   }
+  // Wide enough for the title, which Qt leaves out of account.
+  if (auto* const grille = qobject_cast<QGridLayout*>(boite.layout())) {
+    const int largeur = boite.fontMetrics().horizontalAdvance(boite.windowTitle()) + LargeurBoutons;
+    grille->addItem(new QSpacerItem(largeur, 0), grille->rowCount(), 0, 1, grille->columnCount());
+  }
   boite.exec();
+  if (dessous) dessous->activateWindow();
   for (const auto& [bouton, reponse] : boutons) {
     if (bouton == boite.clickedButton()) return reponse;
   }
