@@ -45,6 +45,11 @@ bool saisissable(const screen::Field& champ) {
          static_cast<const screen::ComboBox&>(champ).Saisie();
 }
 
+// A key changes what the field shows: all but those of a drop-down without a second row.
+bool changeant(const screen::Field& champ) {
+  return saisissable(champ) || static_cast<const screen::ComboBox&>(champ).ListCount() > 1;
+}
+
 // One key given to the window, as the window system does, until nothing is left to do.
 double frapper(QWindow& fenetre, Qt::Key touche, const QString& texte) {
   const double debut = tempsProcesseur();
@@ -108,17 +113,20 @@ class Dactylo {
  private:
   Resultat MesurerChamp(screen::Field& champ) {
     const auto* const widget = Entrer(champ);
+    // Something must be chosen, so that there is a row to go back to.
+    const bool sansChoix = !saisissable(champ) && texteDe(champ).empty();
+    if (sansChoix) frapper(*fenetre_.windowHandle(), Qt::Key_Down, "");
     const std::vector<Frappe> frappes = Frappes(champ);
     RetenirTextes();
     std::vector<std::vector<double>> temps(frappes.size());
     for (int tour = 0; tour < Tours; ++tour) {
       if (QApplication::focusWidget() != widget) Entrer(champ);
-      QTest::keyClick(fenetre_.windowHandle(), Qt::Key_End);
+      if (saisissable(champ)) QTest::keyClick(fenetre_.windowHandle(), Qt::Key_End);
       for (std::size_t i = 0; i < frappes.size(); ++i) {
         const std::string avant = texteDe(champ);
         const Peintures peintures(*QApplication::focusWidget());
         const double duree = frapper(*fenetre_.windowHandle(), frappes[i].touche, frappes[i].texte);
-        if (saisissable(champ) && (texteDe(champ) == avant || peintures.Nombre() == 0)) {
+        if (changeant(champ) && (texteDe(champ) == avant || peintures.Nombre() == 0)) {
           throw std::runtime_error("a key changed or painted nothing in " + champ.Nom());
         }
         temps[i].push_back(duree);
@@ -142,10 +150,18 @@ class Dactylo {
 
   static std::vector<Frappe> Frappes(const screen::Field& champ) {
     const Frappe efface{Qt::Key_Backspace, "\b"};
-    if (!saisissable(champ)) return {{Qt::Key_Down, ""}, {Qt::Key_Up, ""}};
+    if (!saisissable(champ)) return Choix(static_cast<const screen::ComboBox&>(champ));
     const QString texte = hote::versQt(texteDe(champ));
     if (texte.isEmpty()) return {frappeDe('1'), efface};
     return {efface, frappeDe(texte.back())};
+  }
+
+  // To the row beside and back.
+  static std::vector<Frappe> Choix(const screen::ComboBox& champ) {
+    const Frappe bas{Qt::Key_Down, ""};
+    const Frappe haut{Qt::Key_Up, ""};
+    const bool derniere = champ.ListIndex() > 0 && champ.ListIndex() + 1 == champ.ListCount();
+    return derniere ? std::vector{haut, bas} : std::vector{bas, haut};
   }
 
   void RetenirTextes() {
