@@ -150,6 +150,33 @@ TEST_F(Apparence, DisabledTextsReadAndStepBackOnAnyPalette) {
   }
 }
 
+// The bar at the left of a row that runs, also on the selected row; none in lists out of use.
+TEST_F(Apparence, TheRunningContractHasItsBarAndRowsStayInStep) {
+  const data::PosteFixe poste(21511);
+  const auto racine = montrer("Ctr_Contrat");
+  hote::habillerContrats(*racine, poste);
+  QSet<int> hauteurs;
+  for (auto* const liste : racine->findChildren<QListWidget*>()) {
+    const bool debuts = liste->objectName() == "Lst_DatDebContrat";
+    liste->addItems({debuts ? "07/10/2019" : "", debuts ? "06/06/2019" : "06/10/2019"});
+    hauteurs << liste->sizeHintForRow(0) << liste->sizeHintForRow(1);
+  }
+  EXPECT_EQ(hauteurs.size(), 1);
+  auto* const debuts = racine->findChild<QListWidget*>("Lst_DatDebContrat");
+  const auto bord = [&](int ligne) {
+    const QRect place = debuts->visualItemRect(debuts->item(ligne));
+    return debuts->viewport()->grab().toImage().pixelColor(1, place.center().y());
+  };
+  const QPalette vue = debuts->palette();
+  EXPECT_EQ(bord(0), vue.color(QPalette::Highlight));
+  EXPECT_EQ(bord(1), vue.color(QPalette::Base));
+  debuts->setCurrentRow(0);
+  EXPECT_EQ(bord(0), vue.color(QPalette::HighlightedText));
+  debuts->clearSelection();
+  debuts->setEnabled(false);
+  EXPECT_EQ(bord(0), vue.color(QPalette::Disabled, QPalette::Base));
+}
+
 TEST(LignesContrats, TheDatesSayWhatRuns) {
   using E = hote::EtatContrat;
   const struct {

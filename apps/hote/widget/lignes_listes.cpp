@@ -66,7 +66,9 @@ bool LigneListe::helpEvent(QHelpEvent* evenement, QAbstractItemView* vue,
   if (evenement->type() != QEvent::ToolTip || index.data(Qt::ToolTipRole).isValid()) {
     return QStyledItemDelegate::helpEvent(evenement, vue, option, index);
   }
-  const bool tient = sizeHint(option, index).width() <= option.rect.width();
+  // A list that elides nothing keeps what runs past its edge to itself.
+  const bool tient = option.textElideMode == Qt::ElideNone ||
+                     sizeHint(option, index).width() <= option.rect.width();
   QToolTip::showText(evenement->globalPos(),
                      tient ? QString() : index.data().toString().toHtmlEscaped(), vue);
   return true;
