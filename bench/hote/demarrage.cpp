@@ -97,6 +97,7 @@ void mesurerDemarrage(Medianes& medianes) {
   const std::string aidant = aidantEnCours(demo);
   std::vector<Depart> departs{
       {"fenetreVide", {PROGRAMME_VIDE}, ImageFenetre},
+      {"fenetreMot", {PROGRAMME_VIDE, "Contrats"}, ImageFenetre},
       {"fenetreHote", {PROGRAMME_HOTE, demo.chemin}, ImageFenetre},
       {"fenetreHoteGrande", {PROGRAMME_HOTE, base(ContratsGrande).chemin}, ImageFenetre},
       {"aidantsListes", {PROGRAMME_HOTE, demo.chemin}, "listeAidants"},

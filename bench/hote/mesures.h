@@ -9,8 +9,9 @@ namespace bench {
 // Processor time of this process so far, its threads included, in nanoseconds.
 double tempsProcesseur();
 
-// Starts of the host and of an empty window, whole processes: "fenetreVide", "fenetreHote",
-// "fenetreHoteGrande" (on a file of 200,000 contracts), "aidantsListes", "contratsListes".
+// Starts of the host and of an empty window, whole processes: "fenetreVide", "fenetreMot" (one word
+// in a menu and a label), "fenetreHote", "fenetreHoteGrande" (on a file of 200,000 contracts),
+// "aidantsListes", "contratsListes".
 void mesurerDemarrage(Medianes& medianes);
 // A key in the editor's fields: "toucheEditeur", the field whose median is the worst, beside
 // "toucheLigneNue", a text line alone in its window. Prints every field.
