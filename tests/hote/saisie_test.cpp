@@ -298,6 +298,7 @@ TEST_F(Saisie, StrayWheelDoesNothing) {
   aller("Txt_Num");
   QWidget* const cibles[] = {&w("Cbo_Ville"), &w("Bdh_N"), w<QTabWidget>("Ong").tabBar()};
   for (QWidget* const cible : cibles) {
+    EXPECT_NE(cible->focusPolicy(), Qt::WheelFocus);
     const QPoint milieu = cible->rect().center();
     QWheelEvent roue(milieu, cible->mapToGlobal(milieu), {}, {0, -120}, Qt::NoButton, {},
                      Qt::NoScrollPhase, false);

@@ -73,8 +73,11 @@ void Liaison::Lier() {
     parWidget_[widget] = lien.get();
     parChamp_[champ] = lien.get();
     if (champ->Focalisable()) {
-      if (precedent != nullptr) QWidget::setTabOrder(precedent, &lien->CibleFocus());
-      precedent = &lien->CibleFocus();
+      // The wheel moves the keyboard no more than it turns a value.
+      QWidget& cible = lien->CibleFocus();
+      if (cible.focusPolicy() == Qt::WheelFocus) cible.setFocusPolicy(Qt::StrongFocus);
+      if (precedent != nullptr) QWidget::setTabOrder(precedent, &cible);
+      precedent = &cible;
     }
     liens_.push_back(std::move(lien));
   }

@@ -9,6 +9,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
@@ -63,11 +65,20 @@ class LienOnglets : public Lien {
   LienOnglets(Liaison& liaison, screen::TabStrip& champ, QTabWidget& onglets)
       : Lien(liaison, champ, onglets), modele_(champ), onglets_(onglets) {
     onglets_.tabBar()->setFocusPolicy(Qt::StrongFocus);
+    onglets_.installEventFilter(this);
     connect(&onglets_, &QTabWidget::currentChanged, this, [this](int onglet) {
       Binder().Jouer([&](screen::User& user) { user.Onglet(modele_, onglet); });
     });
   }
   QWidget& CibleFocus() override { return *onglets_.tabBar(); }
+  // A page that shows or hides a field lays itself out anew and asks the tabs to do so too, which
+  // then paint all that stands in them: for nothing, as long as they need no other size.
+  bool eventFilter(QObject* /*objet*/, QEvent* evenement) override {
+    if (evenement->type() != QEvent::LayoutRequest) return false;
+    const std::array<QSize, 3> tailles{onglets_.minimumSizeHint(), onglets_.sizeHint(),
+                                       onglets_.tabBar()->sizeHint()};
+    return std::exchange(tailles_, tailles) == tailles;
+  }
 
  protected:
   void PousserEtat() override {
@@ -88,6 +99,7 @@ class LienOnglets : public Lien {
  private:
   screen::TabStrip& modele_;
   QTabWidget& onglets_;
+  std::array<QSize, 3> tailles_;
 };
 
 // A bar or a pair of arrows: both hold a number between two bounds.

@@ -159,8 +159,9 @@ class LienDeroulante : public Lien {
     if (combo_.currentIndex() != modele_.ListIndex()) combo_.setCurrentIndex(modele_.ListIndex());
     const QString texte = versQt(modele_.Text());
     if (ligne == nullptr) {
-      // A text that is none of the rows.
-      if (combo_.placeholderText() != texte) combo_.setPlaceholderText(texte);
+      // A text that is none of the rows. Setting it lays the window out anew: not for every row.
+      const bool horsLignes = modele_.ListIndex() < 0 && combo_.placeholderText() != texte;
+      if (horsLignes) combo_.setPlaceholderText(texte);
       return;
     }
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
