@@ -1,6 +1,6 @@
 #pragma once
-// A plain frame one pixel wide, all four sides of which show at every scale: the style's own loses
-// sides where a screen pixel and a half make one of ours. The layout inside keeps a margin of one.
+// The plain frame of a table of several lists, one pixel wide. Under a scale of one and a half the
+// lists cover sides of the style's own frame: here the layout inside keeps a margin of one.
 
 #include <QPainter>
 #include <QWidget>
