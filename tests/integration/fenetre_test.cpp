@@ -144,18 +144,6 @@ TEST_F(Hote, KeepsWhatIsOpenWhenAnotherFileFails) {
   EXPECT_EQ(hote::FichiersRecents(bureau_.Reglages()).Chemins(), QStringList{Chemin("a.contrats")});
 }
 
-// The record that the screen needs at its start is not in this file.
-TEST_F(Hote, TellsWhyACarerDoesNotShow) {
-  storage::SqliteStorage::Ouvrir(Chemin("a.contrats").toStdString(), poste_)
-      ->Erase("COMPTEUR", "999");
-  const essai::Lecteur lecteur;
-  EXPECT_FALSE(OuvrirDurand());
-  EXPECT_TRUE(lecteur.dit.contains("DURAND Gwenaëlle")) << lecteur.dit.toStdString();
-  EXPECT_TRUE(lecteur.dit.contains("COMPTEUR")) << lecteur.dit.toStdString();
-  EXPECT_EQ(fenetre_.Ecran(), nullptr);
-  EXPECT_EQ(Titre(), "a.contrats – droits complets – Contrats de travail");
-}
-
 // The one that is moved comes back; the one that is replaced does not, and the new file is whole.
 TEST_F(Hote, SaysThatTheFileHasLeftItsPlace) {
   Creer(Chemin("b.contrats"));
@@ -235,6 +223,15 @@ TEST_F(Hote, RemembersFilesAndSize) {
   autre.OuvrirDernier();
   EXPECT_EQ(autre.windowTitle().toStdString(),
             "a.contrats – droits complets – Contrats de travail");
+}
+
+TEST_F(Hote, OpensTheDemonstrationDataWhenNothingWasOpenedBefore) {
+  qputenv("XDG_DATA_HOME", dossier_.path().toUtf8());
+  ASSERT_TRUE(QDir(dossier_.path()).mkdir("contrats"));
+  Creer(Chemin("contrats/demo.contrats"));
+  fenetre_.OuvrirDernier();
+  qunsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(Titre(), "demo.contrats – droits complets – Contrats de travail");
 }
 
 TEST_F(Hote, HelpIsAboutTheScreenInFront) {

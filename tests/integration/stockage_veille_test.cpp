@@ -90,12 +90,4 @@ TEST_F(Veille, UndoesABlockUnderWhichTheFileGoes) {
   EXPECT_EQ(lu("2"), "-");
 }
 
-TEST_F(Veille, IsNotMadeOnAFileThatIsGone) {
-  EXPECT_NE(refus([&] {
-              hote::StockageVeille(hote::FichierSuivi(ailleurs_),
-                                   storage::SqliteStorage::Ouvrir(chemin_, poste_));
-            }),
-            "");
-}
-
 }  // namespace

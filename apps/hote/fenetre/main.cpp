@@ -36,6 +36,7 @@ int capturer(const QCommandLineParser& options) {
   }
 }
 
+// A signal ends the program at once: there is nobody to ask, and what was stored is on the disk.
 int montrer(const QCommandLineParser& options) {
   hote::Bureau bureau;
   hote::enregistrerFormes(bureau);
