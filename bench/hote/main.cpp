@@ -13,7 +13,8 @@
 namespace {
 
 const std::vector<bench::Rapport> Rapports{
-    {"first window / empty window", "fenetreHote", "fenetreVide", 1.5},
+    {"first window on a display / empty window", "fenetreHoteEcran", "fenetreVideEcran", 1.5},
+    {"first window, offscreen / empty window", "fenetreHote", "fenetreVide", 0},
     {"first window / window with one word", "fenetreHote", "fenetreMot", 1.5},
     {"first window, 200,000 contracts / first window", "fenetreHoteGrande", "fenetreHote", 1.25},
     {"start to the carers' list / empty window", "aidantsListes", "fenetreVide", 0},

@@ -1,6 +1,6 @@
 #pragma once
-// What bench_hote measures. Each function fills in the medians of its benchmarks; everything is
-// timed by the processor, of which other programs take nothing.
+// What bench_hote measures. Each function fills in the medians of its benchmarks; all that runs
+// without a display is timed by the processor, of which other programs take nothing.
 
 #include "rapports.h"
 
@@ -11,7 +11,7 @@ double tempsProcesseur();
 
 // Starts of the host and of an empty window, whole processes: "fenetreVide", "fenetreMot" (one word
 // in a menu and a label), "fenetreHote", "fenetreHoteGrande" (on a file of 200,000 contracts),
-// "aidantsListes", "contratsListes".
+// "aidantsListes", "contratsListes"; with an X display, "fenetreVideEcran", "fenetreHoteEcran".
 void mesurerDemarrage(Medianes& medianes);
 // A key in the editor's fields: "toucheEditeur", the field whose median is the worst, beside
 // "toucheLigneNue", a text line alone in its window. Prints every field.
