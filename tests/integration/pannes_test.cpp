@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "base/executer.h"
+#include "control/ctr_contrat.h"
 #include "integration/hote_essai.h"
 #include "support/faulty_storage.h"
 #include "widget/contrat_widget.h"
@@ -145,6 +146,21 @@ TEST_F(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
     EXPECT_EQ(Lu(chemin, "CONTRAT00101", "00002001"), "");
     EXPECT_EQ(Lu(chemin, "LIENAVENANT", "AVENANT00101"), "");
   }
+}
+
+// Another program takes away a contract that has no end.
+TEST_F(Pannes, WhatAnotherProgramStoresIsSeenByTheNextSearch) {
+  ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(Chemin())));
+  ASSERT_TRUE(fenetre_.OuvrirAidant("00001"));
+  ContratWidget& ecran = *fenetre_.Ecran();
+  const auto chercher = [&] {
+    essai::cliquer(ecran, "Cmd_OK");
+    essai::cliquer(ecran, "Cmd_Recherche");
+    return ecran.Controle().Lst_DatDebContrat.ListCount();
+  };
+  const int avant = chercher();
+  storage::SqliteStorage::Ouvrir(Chemin(), poste_)->Erase("CONTRAT", "00001001");
+  EXPECT_EQ(chercher(), avant - 1);
 }
 
 // A clipboard with a whole report in it: each line holds what its field can, and the screen lives.
