@@ -134,6 +134,12 @@ TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
     touche(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(actif(), *nom);
   }
+  // A group with an option on is one stop.
+  option("Opt_2");
+  touche(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(actif(), "Lst_B");
+  touche(Qt::Key_Tab);
+  EXPECT_EQ(actif(), "Opt_2");
 }
 
 // A field that its own click disables loses the keyboard to another, which the model then enters.

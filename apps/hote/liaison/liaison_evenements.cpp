@@ -25,6 +25,17 @@ bool surface(const Lien* lien) {
          genre == screen::Kind::Image;
 }
 
+// Tab stops once in a group of options, at the one that is on; the arrows go to the others.
+bool optionPassee(const screen::Field& champ) {
+  if (champ.Genre() != screen::Kind::Option) return false;
+  if (static_cast<const screen::OptionButton&>(champ).Value()) return false;
+  const auto& champs = champ.Forme().Fields();
+  return std::any_of(champs.begin(), champs.end(), [&](const screen::Field* voisin) {
+    return voisin->Genre() == screen::Kind::Option && voisin->Cadre() == champ.Cadre() &&
+           voisin->Disponible() && static_cast<const screen::OptionButton*>(voisin)->Value();
+  });
+}
+
 // The wheel changes a value only where the user is.
 bool moletteEgaree(const QWidget& widget) {
   for (const QWidget* w = &widget; w != nullptr && !w->isWindow(); w = w->parentWidget()) {
@@ -135,7 +146,7 @@ bool Liaison::Tabuler(bool arriere) {
   const auto actif = std::find(ordre.begin(), ordre.end(), forme_.Active());
   const auto debut = actif == ordre.end() ? ordre.begin() : actif + 1;
   const auto prenable = [](const screen::Field* champ) {
-    return champ->Focalisable() && champ->Disponible();
+    return champ->Focalisable() && champ->Disponible() && !optionPassee(*champ);
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
   if (suivant == ordre.end()) {
