@@ -1,5 +1,7 @@
 #include "editor/onglet_conges.h"
 
+#include <initializer_list>
+
 #include "editor/editeur.h"
 
 namespace editor {
@@ -57,6 +59,11 @@ OngletConges::OngletConges(Frm_ElementsContrat& editeur)
       Etq_RepriseConges(editeur, "Etq_RepriseConges", "", &Page),
       Cmd_Conges(editeur, "Cmd_Conges", "Détail décompte", &Page) {
   Page.SetEnabled(false);
+  // They name the contract that leave goes to or comes from: none yet.
+  for (screen::Field* const champ : std::initializer_list<screen::Field*>{
+           &Cac_ReportConges, &Etq_ReportConges, &Cac_RepriseConges, &Etq_RepriseConges}) {
+    champ->SetVisible(false);
+  }
 }
 
 }  // namespace editor

@@ -65,6 +65,8 @@ OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
       Cmd_TpsIndem(editeur, "Cmd_TpsIndem", "Temps d'indemnisation", &Page) {
   for (const char* mode : ModesPaiement) Cbo_ModPaieContrat.AddItem(mode);
   Page.SetEnabled(false);
+  // Holds the periods as the record does; Cbo_PeriodeEffetAffichage shows them.
+  Cbo_PeriodeEffet.SetVisible(false);
 }
 
 }  // namespace editor
