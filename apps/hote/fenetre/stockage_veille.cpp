@@ -22,8 +22,7 @@ const char* defaut(Etat etat) {
       return " a été déplacé ou supprimé. Remettez-le à sa place, puis recommencez.";
     case Etat::Remplace:
       return " a été remplacé par un autre. Notez votre saisie en cours, fermez le contrat ouvert, "
-             "puis "
-             "ouvrez le fichier à nouveau.";
+             "puis ouvrez le fichier à nouveau.";
     case Etat::Inaccessible:
       return " n'est plus accessible. Vérifiez le dossier, vos droits et le réseau, puis "
              "recommencez.";
