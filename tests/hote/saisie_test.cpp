@@ -159,8 +159,12 @@ TEST_F(Saisie, LongPasteIsCutAndAProgramMaySetMore) {
 TEST_F(Saisie, DropDownIsFilledLateAndChosenOrTyped) {
   auto& combo = w<ComboDeroulante>("Cbo_Ville");
   combo.setFocus();
+  touche(Qt::Key_Down);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Date Cbo_Ville:Lyon");
+  forme.Cbo_Ville.Clear();
+  liaison->Pousser();
   taper("P");
-  EXPECT_EQ(forme.Prendre(), "-Txt_Date Cbo_Ville=P");
+  EXPECT_EQ(forme.Prendre(), "Cbo_Ville=P");
   combo.showPopup();
   ASSERT_EQ(combo.count(), 2);
   combo.hidePopup();

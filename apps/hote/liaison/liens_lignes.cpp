@@ -129,11 +129,13 @@ class LienDeroulante : public Lien {
     connect(&combo_, &QComboBox::activated, this, [this](int ligne) {
       Binder().Jouer([&](screen::User& user) { user.Choisir(modele_, ligne); });
     });
-    connect(&combo_, &ComboDeroulante::aboutToShowPopup, this, [this] { Derouler(); });
+    connect(&combo_, &ComboDeroulante::aboutToShowPopup, this, [this] {
+      if (!Derouler()) combo_.RefuserOuverture();
+    });
   }
   bool Touche(QKeyEvent& evenement) override {
     const char32_t touche = toucheDe(evenement);
-    if (touche == 0) return false;
+    if (touche == 0) return Garnir(evenement.key());
     if (touche == screen::ToucheEntree) {
       Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
       return true;
@@ -176,14 +178,17 @@ class LienDeroulante : public Lien {
   void Transmettre(const QString& texte) {
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
   }
-  // The rows may be filled now; a refused leave or a box keeps them hidden.
-  void Derouler() {
+  // The rows may be filled now. False when a refused leave or a box keeps them hidden.
+  bool Derouler() {
     screen::Acte acte = screen::Acte::Avale;
     const unsigned long interruptions = screen::Form::Interruptions();
     Binder().Jouer([&](screen::User& user) { acte = user.Derouler(modele_); });
-    if (acte != screen::Acte::Fait || screen::Form::Interruptions() != interruptions) {
-      combo_.RefuserOuverture();
-    }
+    return acte == screen::Acte::Fait && screen::Form::Interruptions() == interruptions;
+  }
+  // An arrow in a drop-down whose rows are filled late goes to the rows that dropping down fills.
+  bool Garnir(int cle) {
+    const bool fleche = cle == Qt::Key_Down || cle == Qt::Key_Up;
+    return fleche && modele_.ListCount() == 0 && modele_.DropDown && !Derouler();
   }
   void Remplir() {
     poussees_ = modele_.Rows();
