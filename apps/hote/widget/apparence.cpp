@@ -1,6 +1,5 @@
 #include "widget/apparence.h"
 
-#include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -84,16 +83,12 @@ class Apparence : public QObject {
     for (auto* const liste : racine.findChildren<QListWidget*>()) {
       liste->setItemDelegate(new LigneListe(liste));
     }
-    for (auto* const coche : racine.findChildren<QCheckBox*>()) {
-      if (coche->text().isEmpty()) coche->installEventFilter(this);
-    }
     Colorer();
     Dimensionner();
     racine.installEventFilter(this);
   }
 
-  bool eventFilter(QObject* objet, QEvent* evenement) override {
-    if (objet != &racine_) return evenement->type() == QEvent::Paint && SansTexte(objet);
+  bool eventFilter(QObject*, QEvent* evenement) override {
     if (evenement->type() == QEvent::PaletteChange) Colorer();
     if (evenement->type() == QEvent::FontChange || evenement->type() == QEvent::StyleChange) {
       Dimensionner();
@@ -102,12 +97,6 @@ class Apparence : public QObject {
   }
 
  private:
-  // A box that has no caption yet has nothing to be ticked for: it shows nothing.
-  static bool SansTexte(QObject* objet) {
-    const auto* const coche = qobject_cast<QCheckBox*>(objet);
-    return coche != nullptr && coche->text().isEmpty();
-  }
-
   // Only what is changed is set, so that the rest goes on following the host.
   void Colorer() {
     const QPalette actuelle = racine_.palette();
