@@ -17,6 +17,13 @@ Connexion::Connexion(const std::string& cible, std::string chemin, int modes)
   throw refus;
 }
 
+// A close by itself leaves the log out of a file that was moved meanwhile, and the file would be
+// opened under its new name without what was written last. What cannot be copied stays in the log.
+Connexion::~Connexion() {
+  sqlite3_wal_checkpoint_v2(db_, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+  sqlite3_close(db_);
+}
+
 sqlite3_file* Connexion::Fichier() const {
   sqlite3_file* fichier = nullptr;
   sqlite3_file_control(db_, "main", SQLITE_FCNTL_FILE_POINTER, &fichier);

@@ -17,7 +17,7 @@ class Connexion {
   // Opens `cible`, a path or a "file:" address, through the layer of sealed pages. `chemin` names
   // the data file in errors. `modes` are SQLITE_OPEN_ flags.
   Connexion(const std::string& cible, std::string chemin, int modes);
-  ~Connexion() { sqlite3_close(db_); }
+  ~Connexion();
   Connexion(const Connexion&) = delete;
   Connexion& operator=(const Connexion&) = delete;
 

@@ -182,4 +182,20 @@ TEST_F(Ouverture, FullDiskRefusesAndKeepsWhatStood) {
   EXPECT_EQ(texte, "c");
 }
 
+// A file moved under a program that has it open takes all that was written along.
+TEST_F(Ouverture, MovedWhileOpenItLosesNothing) {
+  const std::string ici = Creer("ici");
+  const std::string ailleurs = dossier_.Chemin("ailleurs");
+  {
+    const auto ouvert = SqliteStorage::Ouvrir(ici, poste_);
+    ouvert->Put("CONTRAT", "2", "b");
+    fs::rename(ici, ailleurs);
+    ouvert->Put("CONTRAT", "3", "c");
+  }
+  std::string texte;
+  const auto retrouve = SqliteStorage::Ouvrir(ailleurs, poste_);
+  EXPECT_TRUE(retrouve->Get("CONTRAT", "2", texte) && texte == "b");
+  EXPECT_TRUE(retrouve->Get("CONTRAT", "3", texte) && texte == "c");
+}
+
 }  // namespace
