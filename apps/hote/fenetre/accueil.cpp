@@ -11,18 +11,10 @@ namespace {
 constexpr int TailleIcone = 64;  // pixels
 constexpr double AgrandissementTitre = 1.6;
 
-// No row at all on a machine that cannot draw the icon's format.
-void poserIcone(QVBoxLayout& disposition) {
-  const QPixmap image = QIcon(":/paquet/contrat-hote.svg").pixmap(TailleIcone);
-  if (image.isNull()) return;
-  auto* const icone = new QLabel;
-  icone->setPixmap(image);
-  disposition.addWidget(icone, 0, Qt::AlignHCenter);
-}
-
 }  // namespace
 
-Accueil::Accueil(QWidget* parent) : QWidget(parent), conseil_(new QLabel) {
+Accueil::Accueil(QWidget* parent) : QWidget(parent), icone_(new QLabel), conseil_(new QLabel) {
+  icone_->setFixedHeight(TailleIcone);
   auto* const titre = new QLabel("Contrats de travail");
   QFont grande = titre->font();
   grande.setPointSizeF(grande.pointSizeF() * AgrandissementTitre);
@@ -35,7 +27,7 @@ Accueil::Accueil(QWidget* parent) : QWidget(parent), conseil_(new QLabel) {
   disposition->setSpacing(12);
   // A little above the middle, where the eye looks for it.
   disposition->addStretch(2);
-  poserIcone(*disposition);
+  disposition->addWidget(icone_, 0, Qt::AlignHCenter);
   disposition->addWidget(titre, 0, Qt::AlignHCenter);
   disposition->addWidget(conseil_);
   disposition->addStretch(3);
@@ -43,6 +35,12 @@ Accueil::Accueil(QWidget* parent) : QWidget(parent), conseil_(new QLabel) {
 
 void Accueil::Dire(const QString& conseil) {
   conseil_->setText(conseil);
+}
+
+void Accueil::PoserIcone(const QIcon& icone) {
+  const QPixmap image = icone.pixmap(TailleIcone);
+  icone_->setPixmap(image);
+  icone_->setVisible(!image.isNull());
 }
 
 }  // namespace hote

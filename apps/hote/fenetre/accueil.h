@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QIcon;
 class QLabel;
 
 namespace hote {
@@ -13,8 +14,12 @@ class Accueil : public QWidget {
   explicit Accueil(QWidget* parent = nullptr);
 
   void Dire(const QString& conseil);
+  // Shows the program's icon in the room that is kept for it. On a machine that cannot draw its
+  // format the room goes.
+  void PoserIcone(const QIcon& icone);
 
  private:
+  QLabel* icone_;
   QLabel* conseil_;
 };
 

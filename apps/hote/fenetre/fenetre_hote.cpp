@@ -69,7 +69,6 @@ FenetreHote::~FenetreHote() {
 
 void FenetreHote::FaireCentre() {
   setCentralWidget(partage_);
-  setWindowIcon(QIcon(":/paquet/contrat-hote.svg"));
   recherche_->setMinimumWidth(180);
   recherche_->setEnabled(false);
   centre_->addWidget(accueil_);
@@ -278,7 +277,14 @@ void FenetreHote::FinDeSession(QSessionManager& gestion) {
 
 void FenetreHote::paintEvent(QPaintEvent* evenement) {
   QMainWindow::paintEvent(evenement);
-  if (!std::exchange(dessinee_, true)) emit peinte();
+  if (std::exchange(dessinee_, true)) return;
+  // The icon's format loads a reader of its own: behind the first picture.
+  QTimer::singleShot(0, this, [this] {
+    const QIcon icone(":/paquet/contrat-hote.svg");
+    setWindowIcon(icone);
+    accueil_->PoserIcone(icone);
+  });
+  emit peinte();
 }
 
 void FenetreHote::RetenirPlace() {

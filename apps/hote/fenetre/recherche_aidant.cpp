@@ -39,7 +39,6 @@ RechercheAidant::RechercheAidant(QWidget* parent)
       compte_(new QLabel(this)) {
   saisie_->setObjectName("rechercheAidant");
   saisie_->setPlaceholderText("Nom ou code de l'aidant");
-  saisie_->setClearButtonEnabled(true);
   saisie_->setMaxLength(80);
   saisie_->installEventFilter(this);
   liste_->setObjectName("listeAidants");
@@ -83,6 +82,8 @@ void RechercheAidant::Prendre() {
 }
 
 void RechercheAidant::Filtrer() {
+  // Its picture is loaded when it is first of use: not while the window starts.
+  if (!saisie_->text().isEmpty()) saisie_->setClearButtonEnabled(true);
   annuaire_.Filtrer(saisie_->text());
   if (annuaire_.rowCount() > 0) liste_->setCurrentIndex(annuaire_.index(0, 0));
   const int retenus = annuaire_.rowCount();
