@@ -207,6 +207,34 @@ TEST_F(Saisie, RefusedLeaveKeepsTheRowsHidden) {
   EXPECT_EQ(focus(), "Txt_Date");
 }
 
+// A drop-down without typing shows what a record holds, in its rows or not, and nothing for nothing.
+TEST_F(Saisie, FixedDropDownShowsTextsOutsideItsRows) {
+  class Frm_Fixe : public screen::Form {
+   public:
+    explicit Frm_Fixe(screen::Platform& plateforme) : Form(plateforme, "Frm_Fixe", "Fixe") {
+      Cbo_Fixe.AddItem("Lyon");
+    }
+    screen::ComboBox Cbo_Fixe{*this, "Cbo_Fixe", false};
+  } fixe(bureau.Plateforme());
+  QDialog fenetre;
+  new QVBoxLayout(&fenetre);
+  auto* const combo = essai::poser<ComboDeroulante>(fenetre, "Cbo_Fixe");
+  hote::Liaison liens(fixe, fenetre, bureau);
+  const struct {
+    const char* texte;
+    int ligne;
+    const char* montre;
+  } cas[] = {{"Ancienne", -1, "Ancienne"}, {"", -1, ""}, {"Lyon", 0, "Lyon"}, {"", -1, ""}};
+  for (const auto& c : cas) {
+    fixe.Cbo_Fixe.SetListIndex(c.ligne);
+    fixe.Cbo_Fixe.SetText(c.texte);
+    liens.Pousser();
+    EXPECT_EQ(combo->currentIndex(), c.ligne) << c.montre;
+    const QString montre = c.ligne < 0 ? combo->placeholderText() : combo->currentText();
+    EXPECT_EQ(montre, c.montre);
+  }
+}
+
 TEST_F(Saisie, ListsOfOneTableAreSelectedAndScrolledAsOne) {
   auto& a = w<QListWidget>("Lst_A");
   auto& b = w<QListWidget>("Lst_B");

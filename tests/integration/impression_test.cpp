@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <QDir>
 #include <QFile>
+#include <csignal>
 
 #include "integration/hote_essai.h"
 
@@ -41,6 +44,23 @@ TEST_F(Impression, EachDocumentIsAWholePdfFileThatTheUserIsToldOf) {
     // A page without text has no font.
     EXPECT_TRUE(pdf.contains("/Type /Font\n"));
   }
+}
+
+// A disk that fills on the way: the user is told, and no half document is left.
+TEST_F(Impression, ADocumentThatDoesNotFitIsRefusedWhole) {
+  qputenv("HOME", dossier_.path().toUtf8());
+  qputenv("XDG_CONFIG_HOME", dossier_.path().toUtf8());
+  screen::Imprimante& papier = bureau_.Plateforme().imprimante;
+  papier.Texte(567, 567, "Liste des contrats");
+  rlimit avant{};
+  getrlimit(RLIMIT_FSIZE, &avant);
+  const auto signal = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit petit{100, avant.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &petit);
+  EXPECT_THROW(papier.FinDocument(), std::runtime_error);
+  setrlimit(RLIMIT_FSIZE, &avant);
+  std::signal(SIGXFSZ, signal);
+  EXPECT_TRUE(QDir(dossier_.filePath("Documents")).isEmpty());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <stdexcept>
 
@@ -18,6 +19,12 @@ constexpr double TwipsParPouce = 1440;
 
 int enPoints(int twips) {
   return qRound(twips * PointsParPouce / TwipsParPouce);
+}
+
+[[noreturn]] void refuser(const QSaveFile& fichier) {
+  throw std::runtime_error(
+      versModele("Le document ne peut pas être écrit : " + fichier.fileName() +
+                 ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
 }
 
 }  // namespace
@@ -42,18 +49,13 @@ QPainter& ImprimantePdf::Pinceau() {
     const QDir dossier(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dossier.mkpath(".");
     const QString heure = QDateTime::currentDateTime().toString("yyyy-MM-dd HH-mm-ss-zzz");
-    fichier_ = dossier.filePath("Impression " + heure + ".pdf");
-    document_ = std::make_unique<QPdfWriter>(fichier_);
+    auto fichier = std::make_unique<QSaveFile>(dossier.filePath("Impression " + heure + ".pdf"));
+    if (!fichier->open(QIODevice::WriteOnly)) refuser(*fichier);
+    fichier_ = std::move(fichier);
+    document_ = std::make_unique<QPdfWriter>(fichier_.get());
     document_->setPageMargins(QMarginsF(0, 0, 0, 0));
     document_->setResolution(PointsParPouce);
-    pinceau_ = std::make_unique<QPainter>();
-    if (!pinceau_->begin(document_.get())) {
-      pinceau_.reset();
-      document_.reset();
-      throw std::runtime_error(
-          versModele("Le document ne peut pas être écrit : " + fichier_ +
-                     ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
-    }
+    pinceau_ = std::make_unique<QPainter>(document_.get());
   } else if (pageFinie_) {
     document_->newPage();
   }
@@ -89,7 +91,11 @@ void ImprimantePdf::FinDocument() {
   pinceau_.reset();
   document_.reset();
   pageFinie_ = false;
-  if (bureau_.SurImpression) bureau_.SurImpression(fichier_);
+  // A document that did not come whole onto the disk does not stand there at all.
+  const std::unique_ptr<QSaveFile> fichier = std::move(fichier_);
+  // (The commit does not tell when its own last write fails.)
+  if (!fichier->flush() || !fichier->commit()) refuser(*fichier);
+  if (bureau_.SurImpression) bureau_.SurImpression(fichier->fileName());
 }
 
 }  // namespace hote

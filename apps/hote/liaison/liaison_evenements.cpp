@@ -201,7 +201,7 @@ bool Liaison::Raccourci(QWidget& widget, const QShortcutEvent& evenement) {
 
 // Dead keys and composed characters come this way, not as keys.
 bool Liaison::Composer(QWidget& widget, const QInputMethodEvent& evenement) {
-  const QString texte = evenement.commitString();
+  const QString& texte = evenement.commitString();
   if (composition_ || texte.isEmpty()) return false;
   const QPointer<QWidget> la(&widget);
   if (!Recevable(la)) return true;

@@ -163,7 +163,10 @@ class LienDeroulante : public Lien {
     if (ligne == nullptr) {
       // A text that is none of the rows. Setting it lays the window out anew: not for every row.
       const bool horsLignes = modele_.ListIndex() < 0 && combo_.placeholderText() != texte;
-      if (horsLignes) combo_.setPlaceholderText(texte);
+      if (!horsLignes) return;
+      combo_.setPlaceholderText(texte);
+      // An empty one makes the toolkit choose the first row.
+      combo_.setCurrentIndex(-1);
       return;
     }
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;

@@ -8,6 +8,7 @@
 
 class QPainter;
 class QPdfWriter;
+class QSaveFile;
 class QSettings;
 class QWidget;
 
@@ -82,7 +83,7 @@ class ImprimantePdf : public screen::Imprimante {
   QPainter& Pinceau();
 
   Bureau& bureau_;
-  QString fichier_;
+  std::unique_ptr<QSaveFile> fichier_;
   std::unique_ptr<QPdfWriter> document_;
   std::unique_ptr<QPainter> pinceau_;
   bool pageFinie_ = false;
