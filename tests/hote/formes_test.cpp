@@ -174,8 +174,8 @@ TEST_F(Formes, LeavingLetsTheHostDeleteTheWidget) {
   EXPECT_EQ(sorties, 1);
 }
 
-// A contract asked for beforehand: init returns when its editor has closed, and the widget, a window
-// of its own here, stays until then.
+// A contract asked for beforehand: init returns when its editor has closed, and the widget, a
+// window of its own here, stays until then.
 TEST_F(Formes, InitWithAContractIsBusyUntilItsEditorCloses) {
   article("CONTRAT", "00001001",
           {{1, "01"}, {2, "001"}, {3, "001001"}, {4, "I"}, {5, "H"}, {6, "P"}, {7, "21000"}});

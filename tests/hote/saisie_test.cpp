@@ -207,7 +207,8 @@ TEST_F(Saisie, RefusedLeaveKeepsTheRowsHidden) {
   EXPECT_EQ(focus(), "Txt_Date");
 }
 
-// A drop-down without typing shows what a record holds, in its rows or not, and nothing for nothing.
+// A drop-down without typing shows what a record holds, in its rows or not, and nothing for
+// nothing.
 TEST_F(Saisie, FixedDropDownShowsTextsOutsideItsRows) {
   class Frm_Fixe : public screen::Form {
    public:

@@ -57,7 +57,8 @@ std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QW
 // The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
 // window's: no field may keep it from closing.
 char32_t toucheDe(const QKeyEvent& evenement);
-// Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is dropped.
+// Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is
+// dropped.
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
                        char32_t touche);
 // The text of an input method, key by key through KeyPress.

@@ -1,12 +1,12 @@
 #pragma once
-// What the forms' looks owe to the user's palette and font, which a .ui file cannot know. A .ui file
-// states its wishes in dynamic properties:
+// What the forms' looks owe to the user's palette and font, which a .ui file cannot know. A .ui
+// file states its wishes in dynamic properties:
 //
-//   caracteres     width in digits: exact for an entry, the least one for a list, a button or a label
+//   caracteres     width in digits: exact for an entry, the least one for a list, button or label
 //   caracteresMin  the least width of an entry that takes the room there is
 //   caracteresMax  the largest width of a list, in digits
 //   rangees        the least height of a list, in rows
-//   colonne        labels of one form that bear the same word here are as wide as the widest of them
+//   colonne        labels of one form with the same word here are as wide as the widest of them
 //
 // Nothing here is a colour or a size of its own: the host's style, palette and font decide.
 

@@ -10,8 +10,9 @@
 //   ecran->init();
 //   ecran->Affiche("", "", "A");               // if it wants filters preset
 //
-// The desk gets to know the windows of the forms with the first widget, those left out that the host
-// has registered before. A widget without a parent is a window, which closes when the user leaves.
+// The desk gets to know the windows of the forms with the first widget, those left out that the
+// host has registered before. A widget without a parent is a window, which closes when the user
+// leaves.
 //
 // For another carer the host makes another widget: one control at a time is assumed. The desk, the
 // database, the client and the rights outlive the widget. A data::StoreError rises from init and
@@ -63,8 +64,8 @@ class ContratWidget : public QWidget {
   // both. `codeAsso`: legal entity or "". `actifs`: "A" active, "H" ended, else all.
   void Affiche(std::string_view typeAct, std::string_view codeAsso, std::string_view actifs);
 
-  // A handler, init or Affiche is under way, a box or an editor open: the widget must not be deleted
-  // now.
+  // A handler, init or Affiche is under way, a box or an editor open: the widget must not be
+  // deleted now.
   bool Occupe() const;
   // The screen itself, for a host that drives it further and for tests.
   control::Ctr_Contrat& Controle() const;

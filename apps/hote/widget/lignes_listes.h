@@ -1,6 +1,6 @@
 #pragma once
-// The rows of the component's lists and of the host's: as high as the font asks for and a little air,
-// a margin on both sides, and the whole text as a tooltip where it does not fit.
+// The rows of the component's lists and of the host's: as high as the font asks for and a little
+// air, a margin on both sides, and the whole text as a tooltip where it does not fit.
 
 #include <QStyledItemDelegate>
 
