@@ -79,6 +79,30 @@ TEST_F(Focus, RefusedLeaveSwallowsThePressWhole) {
   }
 }
 
+// The wait cursor stands for the time of the work, but not over a question.
+TEST_F(Focus, WaitCursorMakesRoomForABox) {
+  const auto montre = [] {
+    const QCursor* const curseur = QGuiApplication::overrideCursor();
+    return curseur == nullptr ? Qt::ArrowCursor : curseur->shape();
+  };
+  screen::Curseur& curseur = bureau.Plateforme().curseur;
+  std::vector<Qt::CursorShape> vues;
+  const Apres clerc([&](QWidget& boite) {
+    vues.push_back(montre());
+    boite.close();
+  });
+  forme.SurOk = [&] {
+    curseur.Attente(true);
+    vues.push_back(montre());
+    forme.MessageBox("Sûr ?");
+    vues.push_back(montre());
+    curseur.Attente(false);
+  };
+  cliquer(w("Cmd_OK"));
+  vues.push_back(montre());
+  EXPECT_EQ(vues, (std::vector{Qt::WaitCursor, Qt::ArrowCursor, Qt::WaitCursor, Qt::ArrowCursor}));
+}
+
 // During long work the form takes nothing, and the keyboard is where it was afterwards.
 TEST_F(Focus, DisabledFormDropsTheAct) {
   aller("Txt_Date");

@@ -8,7 +8,11 @@
 #include <QFile>
 #include <csignal>
 
+#include "control/ctr_contrat.h"
+#include "data/texte.h"
+#include "fenetre/impression_liste.h"
 #include "integration/hote_essai.h"
+#include "screen/headless/hote.h"
 
 namespace {
 
@@ -61,6 +65,42 @@ TEST_F(Impression, ADocumentThatDoesNotFitIsRefusedWhole) {
   setrlimit(RLIMIT_FSIZE, &avant);
   std::signal(SIGXFSZ, signal);
   EXPECT_TRUE(QDir(dossier_.filePath("Documents")).isEmpty());
+}
+
+// 57 contracts are one more than a page holds.
+TEST(ImpressionListe, PrintsTheRowsAsTheyStandUnderTheirCaptions) {
+  screen::headless::Hote poste(21511);
+  control::Ctr_Contrat liste(poste.platform);
+  liste.Etq_CodeAidant.SetLibelle("00036");
+  liste.Etq_NomPrenomAidant.SetLibelle("DURAND Gwenaëlle");
+  for (int i = 0; i < 57; ++i) {
+    liste.Lst_DatDebContrat.AddItem("07/10/2019");
+    liste.Lst_DatFinContrat.AddItem(i == 0 ? "" : "31/12/2019");
+    liste.Lst_Type.AddItem("I");
+    liste.Lst_EmplEtabContrat.AddItem("Présence à Domicile du Bocage et des Marches");
+    liste.Lst_QualifContrat.AddItem("Branche");
+  }
+  hote::imprimerListe(liste, poste.platform);
+  ASSERT_EQ(poste.imprimante.Documents().size(), 1U);
+  const auto& pages = poste.imprimante.Documents().front().pages;
+  ASSERT_EQ(pages.size(), 2U);
+  const struct {
+    std::size_t page, ligne;
+    const char* texte;
+  } cas[] = {
+      {0, 0, "Contrats de 00036 DURAND Gwenaëlle"},
+      {0, 1,
+       "Début       Fin         Type  Employeur                           Convention Collective"},
+      {0, 2, "22/11/2026, page 1 sur 2"},
+      {0, 3, "07/10/2019              I     Présence à Domicile du Bocage et de Branche"},
+      {0, 4, "07/10/2019  31/12/2019  I     Présence à Domicile du Bocage et de Branche"},
+      {1, 2, "22/11/2026, page 2 sur 2"},
+  };
+  for (const auto& c : cas) {
+    EXPECT_EQ(data::sansBlancsADroite(pages[c.page].at(c.ligne).texte), c.texte);
+  }
+  EXPECT_EQ(pages[0].size(), 3U + 56U);
+  EXPECT_EQ(pages[1].size(), 3U + 1U);
 }
 
 }  // namespace

@@ -72,6 +72,7 @@ class FenetreHote : public QMainWindow {
   void ChoisirFichier();
   void NouvelleFenetre();
   void Actualiser();
+  void Imprimer();
   void Titrer();
   void BaseDisparue();
   void AttendreRetour();

@@ -14,6 +14,7 @@
 #include "fenetre/fenetre_hote.h"
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
+#include "fenetre/impression_liste.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
 #include "widget/contrat_widget.h"
@@ -43,6 +44,8 @@ void FenetreHote::FaireMenus() {
     recherche_->Prendre();
   });
   aidant->addAction("&Actualiser la liste", QKeySequence("F5"), this, &FenetreHote::Actualiser);
+  aidant->addAction("&Imprimer la liste", QKeySequence(QKeySequence::Print), this,
+                    &FenetreHote::Imprimer);
   aidant->addAction("&Fermer l'aidant", QKeySequence("Ctrl+W"), this, &FenetreHote::FermerAidant);
   FaireMenuDroits();
   FaireMenuAide();
@@ -102,6 +105,15 @@ void FenetreHote::ChoisirFichier() {
       QFileDialog::getOpenFileName(this, "Ouvrir un fichier de données", dossier,
                                    "Fichiers de données (*.contrats);;Tous les fichiers (*)");
   if (!chemin.isEmpty()) OuvrirFichier(chemin);
+}
+
+void FenetreHote::Imprimer() {
+  if (ecran_ == nullptr) return informer("Choisissez d'abord l'aidant dont la liste s'imprime.");
+  try {
+    imprimerListe(ecran_->Controle(), bureau_.Plateforme());
+  } catch (const std::exception& erreur) {
+    avertirErreur("La liste n'est pas imprimée.", erreur);
+  }
 }
 
 // One contract screen is assumed in a process: the second window is a second program.
