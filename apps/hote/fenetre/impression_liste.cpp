@@ -18,14 +18,14 @@ struct Colonne {
 };
 
 constexpr Colonne Colonnes[] = {
-    {&Ctr_Contrat::Etq_Debut, &Ctr_Contrat::Lst_DatDebContrat, 12},
-    {&Ctr_Contrat::Etq_Fin, &Ctr_Contrat::Lst_DatFinContrat, 12},
-    {&Ctr_Contrat::Etq_Type, &Ctr_Contrat::Lst_Type, 6},
-    {&Ctr_Contrat::Etq_Employeur, &Ctr_Contrat::Lst_EmplEtabContrat, 36},
-    {&Ctr_Contrat::Etq_Qualification, &Ctr_Contrat::Lst_QualifContrat, 42}};
+    {&Ctr_Contrat::Etq_Debut, &Ctr_Contrat::Lst_DatDebContrat, 11},
+    {&Ctr_Contrat::Etq_Fin, &Ctr_Contrat::Lst_DatFinContrat, 11},
+    {&Ctr_Contrat::Etq_Type, &Ctr_Contrat::Lst_Type, 5},
+    {&Ctr_Contrat::Etq_Employeur, &Ctr_Contrat::Lst_EmplEtabContrat, 30},
+    {&Ctr_Contrat::Etq_Qualification, &Ctr_Contrat::Lst_QualifContrat, 52}};
 
 // A sheet of 21 by 29.7 cm, in twips. At 8 points a character of the fixed font is 96 wide, so that
-// the columns take 18.3 cm.
+// the columns take 18.5 cm.
 constexpr const char* Police = "Courier New";
 constexpr double Points = 8;
 constexpr int Marge = 760;
