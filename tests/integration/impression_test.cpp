@@ -89,11 +89,10 @@ TEST(ImpressionListe, PrintsTheRowsAsTheyStandUnderTheirCaptions) {
     const char* texte;
   } cas[] = {
       {0, 0, "Contrats de 00036 DURAND Gwenaëlle"},
-      {0, 1,
-       "Début       Fin         Type  Employeur                           Convention Collective"},
+      {0, 1, "Début      Fin        Type Employeur                     Convention Collective"},
       {0, 2, "22/11/2026, page 1 sur 2"},
-      {0, 3, "07/10/2019              I     Présence à Domicile du Bocage et de Branche"},
-      {0, 4, "07/10/2019  31/12/2019  I     Présence à Domicile du Bocage et de Branche"},
+      {0, 3, "07/10/2019            I    Présence à Domicile du Bocage Branche"},
+      {0, 4, "07/10/2019 31/12/2019 I    Présence à Domicile du Bocage Branche"},
       {1, 2, "22/11/2026, page 2 sur 2"},
   };
   for (const auto& c : cas) {
