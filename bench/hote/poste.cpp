@@ -9,7 +9,6 @@
 #include <stdexcept>
 
 #include "mesures.h"
-#include "widget/formes.h"
 
 namespace bench {
 
@@ -38,7 +37,6 @@ bool Peintures::eventFilter(QObject*, QEvent* evenement) {
 PosteEcran::PosteEcran(Base& base, const std::string& aidant)
     : bureau(&poste(),
              std::make_unique<QSettings>(dossier.filePath("reglages.ini"), QSettings::IniFormat)) {
-  hote::enregistrerFormes(bureau);
   ecran = new ContratWidget(bureau, &fenetre);
   fenetre.setCentralWidget(ecran);
   fenetre.resize(1280, 720);

@@ -16,7 +16,6 @@
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
 #include "storage/sqlite.h"
-#include "widget/formes.h"
 
 namespace essai {
 
@@ -75,8 +74,6 @@ inline void cliquer(QWidget& fenetre, const char* bouton) {
 
 class Hote : public ::testing::Test {
  protected:
-  Hote() { hote::enregistrerFormes(bureau_); }
-
   QString Chemin(const char* nom) const { return dossier_.filePath(nom); }
   std::unique_ptr<QSettings> Reglages() const {
     return std::make_unique<QSettings>(Chemin("reglages.ini"), QSettings::IniFormat);

@@ -35,7 +35,6 @@ class Pannes : public ::testing::Test {
       std::ostringstream sortie;
       EXPECT_EQ(base::executer(commande, entree, sortie, sortie), 0) << sortie.str();
     }
-    hote::enregistrerFormes(bureau_);
     fenetre_.show();
   }
 

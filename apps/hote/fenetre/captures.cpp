@@ -28,7 +28,6 @@
 #include "screen/user.h"
 #include "storage/sqlite.h"
 #include "widget/contrat_widget.h"
-#include "widget/formes.h"
 
 namespace hote {
 
@@ -241,7 +240,6 @@ QStringList capturerFormes(const QString& fichier, const std::string& aidant,
   Album album(dossier);
   Bureau bureau(nullptr,
                 std::make_unique<QSettings>(essai.filePath("reglages.ini"), QSettings::IniFormat));
-  enregistrerFormes(bureau);
   capturerEcrans(album, bureau, copie, aidant);
   return album.Images();
 }

@@ -11,7 +11,6 @@
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
-#include "widget/formes.h"
 
 namespace {
 
@@ -39,7 +38,6 @@ int capturer(const QCommandLineParser& options) {
 // A signal ends the program at once: there is nobody to ask, and what was stored is on the disk.
 int montrer(const QCommandLineParser& options) {
   hote::Bureau bureau;
-  hote::enregistrerFormes(bureau);
   hote::FenetreHote fenetre(bureau);
   const auto commencer = [&] {
     const QStringList fichiers = options.positionalArguments();
