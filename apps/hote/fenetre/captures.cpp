@@ -17,7 +17,6 @@
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "dialogs/frm_motif_cdd.h"
-#include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_reprise.h"
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
@@ -175,8 +174,6 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   capturer(album, bureau, reprise, "reprise");
 
   // Without the control of the suite that it stands for.
-  dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme(), session);
-  capturer(album, bureau, motifs, "motifs-embauche");
 }
 
 // The list before a search, when the filters are free.
