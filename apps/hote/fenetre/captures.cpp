@@ -172,8 +172,6 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   donnees.fin = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateFin));
   reprise.Afficher(donnees);
   capturer(album, bureau, reprise, "reprise");
-
-  // Without the control of the suite that it stands for.
 }
 
 // The list before a search, when the filters are free.
