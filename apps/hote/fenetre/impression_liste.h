@@ -1,5 +1,6 @@
 #pragma once
-// The contract list on paper: what the list shows of a carer, in the order in which it stands there.
+// The contract list on paper: what the list shows of a carer, in the order in which it stands
+// there.
 
 #include "control/ctr_contrat.h"
 
