@@ -54,20 +54,24 @@ class Apres {
         if (fenetre != nullptr) std::abort();
         return;
       }
-      if (vue_ == fenetre) return;
+      // A window in which the clerk is still at work comes back to the front when a box closes.
+      if (vue_ == fenetre || enCours_.contains(fenetre)) return;
       vue_ = fenetre;
       ++fois_;
       // A window is active a moment after it is shown.
       if (popup == nullptr) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return fenetre->isActiveWindow(); }, 2000));
       }
+      enCours_ << fenetre;
       acte_(*fenetre);
+      enCours_.removeOne(fenetre);
     });
   }
 
   QObject vie_;
   std::function<void(QWidget&)> acte_;
   QWidget* vue_ = nullptr;
+  QList<const QWidget*> enCours_;
   int fois_ = 0;
   int tours_ = 0;
 };
