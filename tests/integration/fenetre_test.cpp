@@ -232,6 +232,8 @@ TEST_F(Hote, OpensTheDemonstrationDataWhenNothingWasOpenedBefore) {
   fenetre_.OuvrirDernier();
   qunsetenv("XDG_DATA_HOME");
   EXPECT_EQ(Titre(), "demo.contrats – droits complets – Contrats de travail");
+  EXPECT_EQ(hote::FichiersRecents(bureau_.Reglages()).Chemins(),
+            QStringList{Chemin("contrats/demo.contrats")});
 }
 
 TEST_F(Hote, HelpIsAboutTheScreenInFront) {

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "data/store_error.h"
+#include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
 
 namespace hote {
@@ -34,10 +35,7 @@ void avertir(const QString& texte) {
 void avertirErreur(const QString& texte, const std::exception& erreur) {
   QString detail = versQt(erreur.what());
   if (const auto* const store = dynamic_cast<const data::StoreError*>(&erreur)) {
-    detail += QString("\n\nErreur n° %1").arg(static_cast<long>(store->Numero()));
-    if (!store->Fichier().empty()) detail += ", fichier " + versQt(store->Fichier());
-    if (!store->Cle().empty()) detail += ", clé « " + versQt(store->Cle()) + " »";
-    detail += ".";
+    detail += "\n\n" + Bureau::Repere(*store);
   }
   avertir(texte + "\n\n" + detail);
 }

@@ -8,12 +8,15 @@
 namespace hote {
 
 QString fichierDemonstration() {
+  const QString installe =
+      QStandardPaths::locate(QStandardPaths::GenericDataLocation, "contrats/demo.contrats");
+  if (!installe.isEmpty()) return installe;
   const QDir programme(QCoreApplication::applicationDirPath());
   for (const char* const lieu : {"demo.contrats", "../../demo.contrats"}) {
     const QString chemin = QDir::cleanPath(programme.filePath(lieu));
     if (QFileInfo(chemin).isFile()) return chemin;
   }
-  return QStandardPaths::locate(QStandardPaths::GenericDataLocation, "contrats/demo.contrats");
+  return {};
 }
 
 }  // namespace hote

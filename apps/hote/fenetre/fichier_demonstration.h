@@ -1,6 +1,6 @@
 #pragma once
-// The demonstration data: a data file named demo.contrats that stands beside the program, in the
-// build tree round it, or in the system's shared data (share/contrats).
+// The demonstration data: a data file named demo.contrats that stands in the shared data of the
+// user or the system (share/contrats), beside the program, or in the build tree round it.
 
 #include <QString>
 

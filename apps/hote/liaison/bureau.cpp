@@ -86,14 +86,18 @@ bool Bureau::Proteger(const std::function<void()>& partie) {
     partie();
     return true;
   } catch (const data::StoreError& erreur) {
-    QString detail = QString("Erreur n° %1").arg(static_cast<long>(erreur.Numero()));
-    if (!erreur.Fichier().empty()) detail += ", fichier " + versQt(erreur.Fichier());
-    if (!erreur.Cle().empty()) detail += ", clé « " + versQt(erreur.Cle()) + " »";
-    MontrerErreur(versQt(erreur.what()), detail + ".");
+    MontrerErreur(versQt(erreur.what()), Repere(erreur));
   } catch (const std::exception& erreur) {
     MontrerErreur("Une erreur imprévue a interrompu l'opération.", versQt(erreur.what()));
   }
   return false;
+}
+
+QString Bureau::Repere(const data::StoreError& erreur) {
+  QString repere = QString("Erreur n° %1").arg(static_cast<long>(erreur.Numero()));
+  if (!erreur.Fichier().empty()) repere += ", fichier " + versQt(erreur.Fichier());
+  if (!erreur.Cle().empty()) repere += ", clé « " + versQt(erreur.Cle()) + " »";
+  return repere + ".";
 }
 
 void Bureau::MontrerErreur(const QString& texte, const QString& detail) {

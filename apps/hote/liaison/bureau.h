@@ -17,6 +17,10 @@
 
 class QWidget;
 
+namespace data {
+class StoreError;
+}
+
 namespace hote {
 
 class Liaison;
@@ -59,6 +63,8 @@ class Bureau {
 
   // Runs a part of the logic. What rises from it is told to the user; false then.
   bool Proteger(const std::function<void()>& partie);
+  // Number and place of a store's error, as the user reads them to whoever helps.
+  static QString Repere(const data::StoreError& erreur);
 
   // Pop-up menus shown so far.
   unsigned long Menus() const { return menus_; }
