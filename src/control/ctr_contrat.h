@@ -146,8 +146,8 @@ class Ctr_Contrat : public screen::Form {
   void AfficherLignes(const std::vector<LigneContrat>& lignes);
 
   editor::Frm_ElementsContrat& ChargerEditeur();
-  editor::Frm_ElementsContrat& OuvrirEditeur();
-  editor::Frm_ElementsContrat& OuvrirEditeurVide();
+  using Preparation = void (Ctr_Contrat::*)(editor::Frm_ElementsContrat& editeur);
+  editor::Frm_ElementsContrat& OuvrirEditeur(Preparation preparer);
   void PreparerOuverture(editor::Frm_ElementsContrat& editeur);
   void PreparerCreation(editor::Frm_ElementsContrat& editeur);
   void DechargerEditeur();

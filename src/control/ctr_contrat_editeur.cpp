@@ -18,7 +18,7 @@ void Ctr_Contrat::Appel_Contrat() {
   s.TexteContratInitial = s.ItemContrat.Text();
   s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
   s.ModeCreation = false;
-  OuvrirEditeur().ShowModal();
+  OuvrirEditeur(&Ctr_Contrat::PreparerOuverture).ShowModal();
   screen::Attente retour(*this);
   ActualiserLigne();
   s.ItemContrat = data::CItem();
@@ -32,10 +32,10 @@ void Ctr_Contrat::DechargerEditeur() {
   session_.CombosRemplis = false;
 }
 
-editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeur() {
+editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeur(Preparation preparer) {
   screen::Attente chargement(*this);
   try {
-    PreparerOuverture(ChargerEditeur());
+    (this->*preparer)(ChargerEditeur());
   } catch (...) {
     DechargerEditeur();
     throw;
@@ -63,23 +63,11 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
   s.TexteContratInitial = s.ItemContrat.Text();
   s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
   const session::Pendant enCreation(s.ModeCreation);
-  OuvrirEditeurVide().ShowModal();
+  OuvrirEditeur(&Ctr_Contrat::PreparerCreation).ShowModal();
   screen::Attente retour(*this);
   if (!s.CreationAbandonnee && !s.ConflitContrat) AjouterLigneEnTete();
   s.ConflitContrat = false;
   retour.Finir();
-}
-
-editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeurVide() {
-  screen::Attente chargement(*this);
-  try {
-    PreparerCreation(ChargerEditeur());
-  } catch (...) {
-    DechargerEditeur();
-    throw;
-  }
-  chargement.Finir();
-  return *editeur_;
 }
 
 void Ctr_Contrat::PreparerCreation(editor::Frm_ElementsContrat& editeur) {
