@@ -96,10 +96,10 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
   poste.acte = [&, etablissement = lignes(1, 1).substr(3)](screen::Form& form) {
     auto& editeur = dynamic_cast<Frm_ElementsContrat&>(form);
     screen::User user(form);
-    user.Taper(editeur.origine.Txt_ConvColContrat, "01");
-    user.Taper(editeur.origine.Txt_AssocContrat, Entite);
-    user.Taper(editeur.origine.Txt_EmplEtabContrat, etablissement);
-    user.Taper(editeur.origine.Txt_DatDebContrat, "01/12/2026");
+    user.Taper(*editeur.Find("Txt_ConvColContrat"), "01");
+    user.Taper(*editeur.Find("Txt_AssocContrat"), Entite);
+    user.Taper(*editeur.Find("Txt_EmplEtabContrat"), etablissement);
+    user.Taper(*editeur.Find("Txt_DatDebContrat"), "01/12/2026");
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();
     user.Cliquer(editeur.Cmd_OK);

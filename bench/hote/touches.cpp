@@ -250,10 +250,10 @@ void remplir(Base& base, hote::Bureau& bureau, Frm_ElementsContrat& editeur) {
   const data::CItem lignes = base.db->Selectionner(
       std::string("SSELECT ETABLISSEMENT AVEC 0 = \"") + Entite + "]\"", "ETABLISSEMENT", "0");
   screen::User user(editeur);
-  user.Taper(editeur.origine.Txt_ConvColContrat, "01");
-  user.Taper(editeur.origine.Txt_AssocContrat, Entite);
-  user.Taper(editeur.origine.Txt_EmplEtabContrat, lignes(1, 1).substr(3));
-  user.Taper(editeur.origine.Txt_DatDebContrat, "01/12/2026");
+  user.Taper(*editeur.Find("Txt_ConvColContrat"), "01");
+  user.Taper(*editeur.Find("Txt_AssocContrat"), Entite);
+  user.Taper(*editeur.Find("Txt_EmplEtabContrat"), lignes(1, 1).substr(3));
+  user.Taper(*editeur.Find("Txt_DatDebContrat"), "01/12/2026");
   bureau.PousserTout();
   traiterTout();
 }

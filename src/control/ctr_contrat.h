@@ -13,12 +13,15 @@
 // The database, client, rights and platform outlive the control. A StoreError other than an absent
 // record rises from any call to the host, the screen being usable again.
 
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "control/placement.h"
 #include "data/citem.h"
+#include "data/liste_codes.h"
 #include "editor/editeur.h"
+#include "screen/colonnes.h"
 #include "screen/form.h"
 #include "session/aide.h"
 #include "session/droits.h"
@@ -46,7 +49,7 @@ class Ctr_Contrat : public screen::Form {
 
   void TheDatabase(data::Db& db) { session_.Db = &db; }
   void TheClient(session::Client& client) { session_.LeClient = &client; }
-  void DroitsUtilisateur(const session::Droits& droits);
+  void DroitsUtilisateur(const session::Droits& droits) { session_.W_Droits = &droits; }
   // Opens the session's files, fills the legal-entity filter and shows the carer.
   void init();
   // Presets the filters and searches. `typeAct`: "P" entity contracts, "M" private employers, else
@@ -60,8 +63,8 @@ class Ctr_Contrat : public screen::Form {
   void Effacer_Donnees();
   // Fills the list from the carer's contracts by the filters and the sort chosen.
   void Recherche_Contrat();
-  // Opens W_CodeContrat, or else the contract of the selected row, in the editor, and brings its
-  // row up to date when the editor has closed.
+  // Opens the contract of the selected row, or W_CodeContrat when none is, in the editor, and
+  // brings its row up to date when the editor has closed.
   void Appel_Contrat();
 
   // The contract key of each row: attribute = row + 1.
@@ -76,22 +79,21 @@ class Ctr_Contrat : public screen::Form {
   screen::Label Etq_NomPrenomAidant{*this, "Etq_NomPrenomAidant"};
 
   screen::Frame Cdr_Association{*this, "Cdr_Association", "Entité Juridique"};
-  screen::ComboBox Cbo_Association{*this, "Cbo_Association", true, &Cdr_Association};
+  screen::ComboBox Cbo_Association{Cdr_Association, "Cbo_Association", true};
 
   screen::Frame Cdr_SelectContrat{*this, "Cdr_SelectContrat", "Sélection des contrats "};
-  screen::Frame Cdr_Validite{*this, "Cdr_Validite", "Validité ", &Cdr_SelectContrat};
-  screen::OptionButton Opt_TousValid{*this, "Opt_TousValid", "Tous", &Cdr_Validite};
-  screen::OptionButton Opt_Actif{*this, "Opt_Actif", "Actifs", &Cdr_Validite};
-  screen::OptionButton Opt_Historique{*this, "Opt_Historique", "Historiques", &Cdr_Validite};
-  screen::Frame Cdr_Type{*this, "Cdr_Type", "Type ", &Cdr_SelectContrat};
-  screen::OptionButton Opt_PartEmpl{*this, "Opt_PartEmpl", "Particuliers employeurs", &Cdr_Type};
-  screen::OptionButton Opt_Autres{*this, "Opt_Autres", "Autres", &Cdr_Type};
-  screen::OptionButton Opt_TousType{*this, "Opt_TousType", "Tous", &Cdr_Type};
+  screen::Frame Cdr_Validite{Cdr_SelectContrat, "Cdr_Validite", "Validité "};
+  screen::OptionButton Opt_TousValid{Cdr_Validite, "Opt_TousValid", "Tous"};
+  screen::OptionButton Opt_Actif{Cdr_Validite, "Opt_Actif", "Actifs"};
+  screen::OptionButton Opt_Historique{Cdr_Validite, "Opt_Historique", "Historiques"};
+  screen::Frame Cdr_Type{Cdr_SelectContrat, "Cdr_Type", "Type "};
+  screen::OptionButton Opt_PartEmpl{Cdr_Type, "Opt_PartEmpl", "Particuliers employeurs"};
+  screen::OptionButton Opt_Autres{Cdr_Type, "Opt_Autres", "Autres"};
+  screen::OptionButton Opt_TousType{Cdr_Type, "Opt_TousType", "Tous"};
   screen::Frame Cdr_TriContrat{*this, "Cdr_TriContrat", "Tri des contrats "};
-  screen::OptionButton Opt_TriEmpl{*this, "Opt_TriEmpl", "Employeur", &Cdr_TriContrat};
-  screen::OptionButton Opt_TriCroiss{*this, "Opt_TriCroiss", "Anc. croissante", &Cdr_TriContrat};
-  screen::OptionButton Opt_TriDecroiss{*this, "Opt_TriDecroiss", "Anc. décroissante",
-                                       &Cdr_TriContrat};
+  screen::OptionButton Opt_TriEmpl{Cdr_TriContrat, "Opt_TriEmpl", "Employeur"};
+  screen::OptionButton Opt_TriCroiss{Cdr_TriContrat, "Opt_TriCroiss", "Anc. croissante"};
+  screen::OptionButton Opt_TriDecroiss{Cdr_TriContrat, "Opt_TriDecroiss", "Anc. décroissante"};
   screen::Button Cmd_Recherche{*this, "Cmd_Recherche", "Recherche"};
 
   screen::Label Etq_Debut{*this, "Etq_Debut", "Début"};
@@ -117,51 +119,40 @@ class Ctr_Contrat : public screen::Form {
   void MouseDown(int bouton) override;
 
  private:
-  // A list of the control and what it shows of a row.
-  struct Colonne {
-    screen::ListBox Ctr_Contrat::*liste;
-    std::string LigneContrat::*texte;
-  };
-  static const std::array<Colonne, 5> Colonnes;
-
   void Cbo_Association_Click();
   void Cbo_Association_Change();
   void Cmd_Recherche_Click();
   void Cmd_Ajouter_Click();
   void Cmd_Ok_Click();
   void Cmd_Retour_Click();
-  void Liste_Click(const screen::ListBox& source);
-  void Bdv_Detail_Change();
-  void Mnu_Sommaire_Click();
-
   void PrendreFiltresParDefaut();
-  void ActiverListes(bool actives);
   void ViderListes();
-  void AjusterBarre();
   bool GarderValidite(const data::CItem& contrat, long debutPeriode) const;
   bool GarderType(const data::CItem& contrat) const;
-  void LireEmployeur(const data::CItem& contrat, std::string& libelle);
-  LigneContrat FaireLigne(const data::CItem& contrat, const std::string& employeur);
+  void LireEmployeur(const data::CItem& contrat, std::string& libelle) const;
+  LigneContrat FaireLigne(const data::CItem& contrat, const std::string& employeur) const;
   Tri TriChoisi() const;
   void AfficherLignes(const std::vector<LigneContrat>& lignes);
 
-  editor::Frm_ElementsContrat& ChargerEditeur();
-  using Preparation = void (Ctr_Contrat::*)(editor::Frm_ElementsContrat& editeur);
-  editor::Frm_ElementsContrat& OuvrirEditeur(Preparation preparer);
-  void PreparerOuverture(editor::Frm_ElementsContrat& editeur);
-  void PreparerCreation(editor::Frm_ElementsContrat& editeur);
-  void DechargerEditeur();
-  void PreparerEditeur(editor::Frm_ElementsContrat& editeur);
-  void ActualiserLigne();
-  void AjouterLigneEnTete();
+  // Opens the contract of that key; a row of the list that it is follows.
+  void OuvrirContrat(const std::string& cle);
+  // The editor, prepared by `preparer` under the wait state.
+  editor::Frm_ElementsContrat& Editeur(
+      const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
+  void ActualiserLigne(const std::string& cle);
+  void AjouterLigneEnTete(const std::string& cle);
 
   session::Session session_;
   session::AideEnLigne aide_;
-  const session::Droits* droits_ = &session::SansDroits;
-  session::Droit droit_;
+  // The rows of the filter of legal entities.
+  data::ListeCodes associations_;
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
+  screen::Colonnes lignes_{
+      {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
+      Bdv_Detail,
+      LignesVisibles};
   // Stays loaded between contracts; it is let go of before the session that it works on.
   std::unique_ptr<editor::Frm_ElementsContrat> editeur_;
 };

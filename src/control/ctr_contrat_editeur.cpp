@@ -1,135 +1,76 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
 #include "control/ctr_contrat.h"
-#include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "screen/attente.h"
-#include "session/pendant.h"
 
 namespace control {
 
 void Ctr_Contrat::Appel_Contrat() {
-  session::Session& s = session_;
-  s.ConflitContrat = false;
-  s.CleContratCourant =
-      W_CodeContrat.empty() ? clesContrats_(Lst_DatDebContrat.ListIndex() + 1, 1) : W_CodeContrat;
-  s.ItemContrat = data::CItem();
-  s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat);
-  s.TexteContratInitial = s.ItemContrat.Text();
-  s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
-  s.ModeCreation = false;
-  OuvrirEditeur(&Ctr_Contrat::PreparerOuverture).ShowModal();
+  const int ligne = lignes_.Ligne();
+  OuvrirContrat(ligne < 0 ? W_CodeContrat : clesContrats_(ligne + 1));
+}
+
+void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
+  Editeur([&](editor::Frm_ElementsContrat& editeur) { editeur.Ouvrir(cle); }).ShowModal();
   screen::Attente retour(*this);
-  ActualiserLigne();
-  s.ItemContrat = data::CItem();
+  ActualiserLigne(cle);
+  retour.Finir();
+}
+
+void Ctr_Contrat::Cmd_Ajouter_Click() {
+  editor::Frm_ElementsContrat& editeur = Editeur([](editor::Frm_ElementsContrat& e) { e.Creer(); });
+  editeur.ShowModal();
+  screen::Attente retour(*this);
+  if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
   retour.Finir();
 }
 
 // An editor that could not be filled is let go of: the next one must not show half of this
 // contract.
-void Ctr_Contrat::DechargerEditeur() {
-  editeur_.reset();
-  session_.CombosRemplis = false;
-}
-
-editor::Frm_ElementsContrat& Ctr_Contrat::OuvrirEditeur(Preparation preparer) {
+editor::Frm_ElementsContrat& Ctr_Contrat::Editeur(
+    const std::function<void(editor::Frm_ElementsContrat&)>& preparer) {
   screen::Attente chargement(*this);
+  if (!editeur_) {
+    editeur_ = std::make_unique<editor::Frm_ElementsContrat>(Services(), session_);
+  }
   try {
-    (this->*preparer)(ChargerEditeur());
+    preparer(*editeur_);
   } catch (...) {
-    DechargerEditeur();
+    editeur_.reset();
     throw;
   }
   chargement.Finir();
   return *editeur_;
 }
 
-void Ctr_Contrat::PreparerOuverture(editor::Frm_ElementsContrat& editeur) {
-  const session::Pendant enChargement(session_.ChargementContrat);
-  editeur.DroitsUtilisateur(*droits_);
-  if (editeur.origine.Txt_DatDebContrat.Text().empty()) editeur.origine.Afficher_Ong1();
-  PreparerEditeur(editeur);
-  editeur.caracteristiques.Cmd_AjoutAvenant.SetVisible(true);
-  editeur.caracteristiques.Cmd_AjoutAvenant.SetEnabled(true);
-  editeur.DroitsUtilisateur(*droits_);
-  editeur.InitElementContrat();
-  editeur.init();
-}
-
-void Ctr_Contrat::Cmd_Ajouter_Click() {
-  session::Session& s = session_;
-  s.CreationAbandonnee = false;
-  s.ItemContrat = data::CItem();
-  s.TexteContratInitial = s.ItemContrat.Text();
-  s.DateFinInitiale = s.ItemContrat(data::Contrat::DateFin);
-  const session::Pendant enCreation(s.ModeCreation);
-  OuvrirEditeur(&Ctr_Contrat::PreparerCreation).ShowModal();
-  screen::Attente retour(*this);
-  if (!s.CreationAbandonnee && !s.ConflitContrat) AjouterLigneEnTete();
-  s.ConflitContrat = false;
-  retour.Finir();
-}
-
-void Ctr_Contrat::PreparerCreation(editor::Frm_ElementsContrat& editeur) {
-  editeur.caracteristiques.Cmd_SuiviAnnuel.SetEnabled(false);
-  editeur.origine.Cbo_LibEmplEtabContrat.Clear();
-  PreparerEditeur(editeur);
-  editeur.Afficher_Donnees();
-  if (!session_.CombosRemplis) editeur.Remplir_CombosElement();
-  editeur.DroitsUtilisateur(*droits_);
-  editeur.init();
-}
-
-editor::Frm_ElementsContrat& Ctr_Contrat::ChargerEditeur() {
-  if (!editeur_) {
-    editeur_ = std::make_unique<editor::Frm_ElementsContrat>(Services(), session_);
-  }
-  return *editeur_;
-}
-
-void Ctr_Contrat::PreparerEditeur(editor::Frm_ElementsContrat& editeur) {
-  editeur.Etq_Aidant.SetLibelle("Aidant : " + W_Code + " " + W_NomPrenom);
-  editeur.Etq_CodeAidant.SetLibelle(W_Code);
-  editeur.Etq_NomPrenomAidant.SetLibelle(W_NomPrenom);
-  editeur.Ong_Contrat.SetTab(editor::Origine);
-}
-
 // The dates of the row that was opened, from the record as it stands now; employer and agreement
 // wait for the next search. A contract that was cancelled meanwhile leaves the list.
-void Ctr_Contrat::ActualiserLigne() {
-  session::Session& s = session_;
-  const int ligne = Lst_DatFinContrat.ListIndex();
-  s.ItemContrat = data::CItem();
-  // An opening through W_CodeContrat has no row of its own.
-  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat) ||
-      clesContrats_.Vue(ligne + 1) != s.CleContratCourant) {
+void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
+  const int ligne = lignes_.Ligne();
+  data::CItem contrat;
+  // A contract that was not opened from its row has none to update.
+  if (ligne < 0 || clesContrats_.Vue(ligne + 1) != cle || !session_.F_CONTRAT.Lire(cle, contrat)) {
     return;
   }
-  if (s.ItemContrat.Vue(data::Contrat::Annule) == "O") {
-    for (const auto& colonne : Colonnes) (this->*colonne.liste).RemoveItem(ligne);
+  if (contrat.Vue(data::Contrat::Annule) == data::Contrat::MarqueAnnule) {
+    lignes_.Retirer(ligne);
     clesContrats_.Delete(ligne + 1);
-    AjusterBarre();
     return;
   }
-  Lst_DatFinContrat.SetList(ligne,
-                            s.Lib.DateFromInternal(s.ItemContrat.Vue(data::Contrat::DateFin)));
-  Lst_DatDebContrat.SetList(ligne,
-                            s.Lib.DateFromInternal(s.ItemContrat.Vue(data::Contrat::DateDebut)));
+  lignes_.Remplacer(ligne, {session_.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateDebut)),
+                            session_.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateFin))});
 }
 
 // A contract just created stands on top, whatever the sort, until the next search.
-void Ctr_Contrat::AjouterLigneEnTete() {
-  session::Session& s = session_;
-  s.F_CIVILAIDANT.Lire(W_Code, s.ItemCivilAidant);
-  s.ItemContrat = data::CItem();
-  if (!s.F_CONTRAT.Lire(s.CleContratCourant, s.ItemContrat)) return;
+void Ctr_Contrat::AjouterLigneEnTete(const std::string& cle) {
+  data::CItem contrat;
+  if (!session_.F_CONTRAT.Lire(cle, contrat)) return;
   std::string employeur;
-  LireEmployeur(s.ItemContrat, employeur);
-  const LigneContrat ligne = FaireLigne(s.ItemContrat, employeur);
-  for (const auto& [liste, texte] : Colonnes) (this->*liste).InsertItem(0, ligne.*texte);
-  clesContrats_.Insert(1, ligne.cle);
+  LireEmployeur(contrat, employeur);
+  lignes_.Inserer(0, FaireLigne(contrat, employeur).Textes());
+  clesContrats_.Insert(1, cle);
   if (!Lst_DatDebContrat.Enabled()) Afficher_Liste();
-  AjusterBarre();
 }
 
 }  // namespace control

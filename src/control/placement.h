@@ -20,6 +20,8 @@ struct LigneContrat {
   std::string convention;
   long jourDebut = 0;  // internal day of `debut`
 
+  // As the five columns show it.
+  std::vector<std::string> Textes() const { return {debut, fin, type, employeur, convention}; }
   bool Terminee() const { return !fin.empty(); }
 };
 

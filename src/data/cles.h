@@ -10,11 +10,11 @@ namespace data {
 
 // Characters of a carer's code, the left part of every contract key.
 inline constexpr int LongueurCodeAidant = 5;
-// The agreement of private employers: the person helped is the employer.
 // Digits of a contract number.
 inline constexpr std::size_t LongueurNumero = 3;
 // The highest number that a carer's contracts can bear.
 inline constexpr long long DernierNumeroPossible = 999;
+// The agreement of private employers: the person helped is the employer.
 inline constexpr std::string_view ConventionParticuliers = "02";
 
 // A contract number as it stands in keys and fields: 3 digits with leading zeros.

@@ -1,7 +1,5 @@
 #include "dialogs/dialogue.h"
 
-#include <algorithm>
-
 namespace dialogs {
 
 void Dialogue::Sortir() {
@@ -9,29 +7,19 @@ void Dialogue::Sortir() {
   Close();
 }
 
-void DialogueContrat::DroitsUtilisateur(const session::Droits& droits) {
-  droit_ = droits.Lookup(session::DroitContrat);
+void Dialogue::Refuser(const rules::Refus& refus) {
+  MessageBox(refus.texte, screen::Boutons::Ok, refus.icone);
+  if (screen::Field* const champ = Find(refus.champ)) champ->SetFocus();
 }
 
-void DialogueContrat::Verif_TabDyn() {
-  for (const int a : attributs_) itemSauvegarde_.Set(a, "");
-  Copier_Champs(itemSauvegarde_);
-}
-
-bool DialogueContrat::Modifie() {
-  Verif_TabDyn();
-  return std::any_of(attributs_.begin(), attributs_.end(), [this](int a) {
-    return itemSauvegarde_.Vue(a) != session_.ItemContrat.Vue(a);
-  });
-}
-
-void DialogueContrat::MAJ_TabDyn() {
-  Verif_TabDyn();
-  for (const int a : attributs_) session_.ItemContrat.Set(a, itemSauvegarde_.Vue(a));
+bool DialogueContrat::Modifie() const {
+  data::CItem ecrit = dossier_.ItemContrat;
+  Copier_Champs(ecrit);
+  return ecrit.Text() != dossier_.ItemContrat.Text();
 }
 
 void DialogueContrat::Cmd_Retour_Click() {
-  if (DroitComplet() && Modifie()) {
+  if (session_.DroitComplet() && Modifie()) {
     Services().curseur.Bip();
     const auto reponse =
         MessageBox(question_, screen::Boutons::OuiNonAnnuler, screen::Icone::Exclamation);

@@ -3,68 +3,65 @@
 // the contract in hand; given its context; shown modally; read; dropped. It closes by its own
 // buttons only: the frame's close box is refused.
 //
-// A DialogueContrat enters a few attributes of the contract in hand. All that it changes is
-// Session::ItemContrat in memory, and only when the user has confirmed; storing it is the editor's
+// A DialogueContrat enters a few attributes of the contract in hand. All that it changes is the
+// dossier's ItemContrat in memory, and only when the user has confirmed; storing it is the editor's
 // business.
 
-#include <span>
 #include <string>
 
 #include "data/citem.h"
+#include "rules/verification.h"
 #include "screen/form.h"
-#include "session/droits.h"
-#include "session/session.h"
+#include "session/dossier.h"
 
 namespace dialogs {
 
 class Dialogue : public screen::Form {
  protected:
-  Dialogue(screen::Platform& platform, session::Session& session, std::string nom,
+  Dialogue(screen::Platform& platform, session::Dossier& dossier, std::string nom,
            std::string titre)
-      : Form(platform, std::move(nom), std::move(titre)), session_(session) {}
+      : Form(platform, std::move(nom), std::move(titre)),
+        dossier_(dossier),
+        session_(dossier.Session) {}
 
   bool QueryUnload() override { return sortieAutorisee_; }
   // Closes, as one of the dialog's own buttons.
   void Sortir();
+  // The checks in their order; the first that fails is shown and its field takes the focus.
+  template <class Forme>
+  bool Verifier(std::span<const rules::Verification<Forme>> verifications, Forme& forme) {
+    return rules::Verifier(verifications, forme,
+                           [this](const rules::Refus& refus) { Refuser(refus); });
+  }
 
+  session::Dossier& dossier_;
   session::Session& session_;
 
  private:
+  void Refuser(const rules::Refus& refus);
+
   bool sortieAutorisee_ = false;
 };
 
 class DialogueContrat : public Dialogue {
- public:
-  // Before `init`. Without it, or without the full right, nothing can be confirmed.
-  void DroitsUtilisateur(const session::Droits& droits);
-
  protected:
-  // `attributs`: those of the contract that this dialog enters. `question` is asked on leaving a
-  // changed screen. Both outlive the dialog.
-  DialogueContrat(screen::Platform& platform, session::Session& session, std::string nom,
-                  std::string titre, std::span<const int> attributs, const char* question)
-      : Dialogue(platform, session, std::move(nom), std::move(titre)),
-        attributs_(attributs),
-        question_(question) {}
+  // `question` is asked on leaving a changed screen; it outlives the dialog.
+  DialogueContrat(screen::Platform& platform, session::Dossier& dossier, std::string nom,
+                  std::string titre, const char* question)
+      : Dialogue(platform, dossier, std::move(nom), std::move(titre)), question_(question) {}
 
-  // Sets the dialog's attributs in `item`, all empty before, from the fields.
-  virtual void Copier_Champs(data::CItem& item) const = 0;
+  // The fields into that item; what the dialog does not enter stays.
+  virtual void Copier_Champs(data::CItem& contrat) const = 0;
 
-  bool DroitComplet() const { return droit_.Complet(); }
   // The fields into the contract in hand.
-  void MAJ_TabDyn();
+  void MAJ_TabDyn() { Copier_Champs(dossier_.ItemContrat); }
   // Leaves; first asks what to do with changes, when they could be kept.
   void Cmd_Retour_Click();
 
  private:
-  void Verif_TabDyn();
-  bool Modifie();
+  bool Modifie() const;
 
-  std::span<const int> attributs_;
   const char* question_;
-  session::Droit droit_;
-  // What the fields would write, to be compared with the contract.
-  data::CItem itemSauvegarde_;
 };
 
 }  // namespace dialogs

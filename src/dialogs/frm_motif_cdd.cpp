@@ -10,6 +10,8 @@ namespace dialogs {
 
 namespace {
 
+namespace C = data::Contrat;
+
 constexpr const char* QuestionSortie =
     "Voulez-vous enregistrer les modifications apportées à cet article ?";
 constexpr const char* MotifObligatoire = "La saisie d'un motif d'embauche est obligatoire.";
@@ -39,11 +41,18 @@ int ligneDuRecours(std::string_view code) {
 
 }  // namespace
 
-Frm_MotifCDD::Frm_MotifCDD(screen::Platform& platform, session::Session& session)
-    : DialogueContrat(platform, session, "Frm_MotifCDD", "Motif C.D.D.",
-                      data::Contrat::GroupeMotifCDD, QuestionSortie) {
-  Txt_CodeAbs.SetVisible(false);
-  Txt_AidantRemplContrat.SetVisible(false);
+Frm_MotifCDD::Frm_MotifCDD(screen::Platform& platform, session::Dossier& dossier,
+                           const std::string& dateDebut, ContexteMotif contexte)
+    : DialogueContrat(platform, dossier, "Frm_MotifCDD", "Motif C.D.D.", QuestionSortie),
+      contexte_(std::move(contexte)),
+      zones_({session::texte(Txt_MotifEmbContrat_0, C::MotifEmbaucheTexte, 1),
+              session::texte(Txt_MotifEmbContrat_1, C::MotifEmbaucheTexte, 2),
+              session::code(Cbo_MotifEmbauche, C::MotifEmbauche, motifs_)}) {
+  if (const auto jour = session_.Lib.LireDate(dateDebut)) debut_ = std::to_string(*jour);
+  Etq_CodeAidant.SetLibelle(session_.CodeAidant);
+  Etq_NomPrenomAidant.SetLibelle(session_.NomPrenomAidant);
+  Cmd_OK.SetVisible(session_.DroitComplet());
+  screen::Montrer({&Txt_CodeAbs, &Txt_AidantRemplContrat}, false);
   for (const MotifRecours& motif : MotifsRecours) Cbo_MotifCDD.AddItem(motif.libelle);
   Cmd_MotifsEmbauche.Click = [this] { Cmd_MotifsEmbauche_Click(); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
@@ -52,51 +61,38 @@ Frm_MotifCDD::Frm_MotifCDD(screen::Platform& platform, session::Session& session
   Afficher_Donnees();
 }
 
-void Frm_MotifCDD::init() {
-  Cmd_OK.SetVisible(DroitComplet());
-  ligneAidant_ = -1;
-}
-
 void Frm_MotifCDD::Afficher_Donnees() {
-  const data::CItem& contrat = session_.ItemContrat;
-  Txt_MotifEmbContrat_0.SetText(contrat.Vue(data::Contrat::MotifEmbaucheTexte, 1));
-  Txt_MotifEmbContrat_1.SetText(contrat.Vue(data::Contrat::MotifEmbaucheTexte, 2));
   Remplir_MotifEmbauche();
+  zones_.Montrer(session_.Lib, dossier_.ItemContrat);
   Remplir_ListeAidant();
-  Cbo_MotifCDD.SetListIndex(ligneDuRecours(contrat.Vue(data::Contrat::MotifRecours)));
+  Cbo_MotifCDD.SetListIndex(ligneDuRecours(dossier_.ItemContrat.Vue(C::MotifRecours)));
 }
 
 void Frm_MotifCDD::Remplir_MotifEmbauche() {
-  using namespace data::Tables;
-  motifs_.SetText("");
-  session_.F_TABLES.Lire(data::Tables::MotifEmbauche, motifs_);
-  const std::string_view code = session_.ItemContrat.Vue(data::Contrat::MotifEmbauche);
-  int choisi = -1;
+  data::CItem item;
+  session_.F_TABLES.Lire(data::Tables::MotifEmbauche, item);
+  motifs_ = data::ListeCodes::DeTable(item, data::Tables::MotifCodes, data::Tables::MotifLibelles);
   Cbo_MotifEmbauche.Clear();
-  for (int v = 1; v <= motifs_.DCount(MotifLibelles); ++v) {
-    Cbo_MotifEmbauche.AddItem(motifs_.Vue(MotifLibelles, v));
-    if (!code.empty() && choisi < 0 && motifs_.Vue(MotifCodes, v) == code) choisi = v - 1;
-  }
-  Cbo_MotifEmbauche.SetListIndex(choisi);
+  for (const auto& motif : motifs_.Lignes()) Cbo_MotifEmbauche.AddItem(motif.libelle);
 }
 
 void Frm_MotifCDD::Remplir_ListeAidant() {
-  using namespace data::Contrat;
-  const data::CItem& contrat = session_.ItemContrat;
+  const data::CItem& contrat = dossier_.ItemContrat;
   Grise_Liste();
   Lst_AidantRemplace.Clear();
-  session_.F_TABLES.Lire(data::Tables::Absences, absences_);
+  data::CItem item;
+  session_.F_TABLES.Lire(data::Tables::Absences, item);
+  absences_ = data::ListeCodes::DeTable(item);
   const data::DbFile absencesAidant = session_.Db->OpenFile(data::fichier::ABSENCESAIDANT);
   for (int v = 1; v <= TextesLibres; ++v) {
-    const std::string_view texte = contrat.Vue(PersonnesRemplacees, v);
+    const std::string_view texte = contrat.Vue(C::PersonnesRemplacees, v);
     if (!texte.empty()) Lst_AidantRemplace.AddItem(FaireLigneLibre(texte));
   }
-  for (int v = 1; v <= contrat.DCount(AidantsRemplaces); ++v) {
+  for (int v = 1; v <= contrat.DCount(C::AidantsRemplaces); ++v) {
     LigneRemplace ligne;
-    ligne.code = contrat(AidantsRemplaces, v);
-    ligne.cleAbsence = contrat(AbsencesRemplacees, v);
+    ligne.code = contrat(C::AidantsRemplaces, v);
+    ligne.cleAbsence = contrat(C::AbsencesRemplacees, v);
     if (ligne.code.empty()) continue;
-    data::CItem item;
     if (session_.F_CIVILAIDANT.Lire(ligne.code, item)) ligne.nom = NomAidant(item);
     if (absencesAidant.Lire(ligne.cleAbsence, item)) {
       ligne.absence = LibelleAbsence(session_.Lib, absences_, ligne.cleAbsence,
@@ -108,14 +104,14 @@ void Frm_MotifCDD::Remplir_ListeAidant() {
 
 // The user may have changed labels or codes: what the contract holds is shown again.
 void Frm_MotifCDD::Cmd_MotifsEmbauche_Click() {
-  Frm_MotifsEmbauche table(Services(), session_);
-  if (!table.Demarrer()) return;
-  table.ShowModal();
+  if (!Frm_MotifsEmbauche(Services()).Ouvrir(*this)) return;
   Remplir_MotifEmbauche();
+  Cbo_MotifEmbauche.SetText(motifs_.Libelle(dossier_.ItemContrat.Vue(C::MotifEmbauche)));
 }
 
 void Frm_MotifCDD::Cmd_Ok_Click() {
-  if (data::sansBlancs(Txt_MotifEmbContrat_0.Text()).empty() && CodeMotif().empty()) {
+  if (data::sansBlancs(Txt_MotifEmbContrat_0.Text()).empty() &&
+      motifs_.Code(Cbo_MotifEmbauche.Text()).empty()) {
     MessageBox(MotifObligatoire, screen::Boutons::Ok, screen::Icone::Exclamation);
     Txt_MotifEmbContrat_0.SetFocus();
     return;
@@ -124,42 +120,25 @@ void Frm_MotifCDD::Cmd_Ok_Click() {
   Sortir();
 }
 
-void Frm_MotifCDD::Copier_Champs(data::CItem& item) const {
-  using namespace data::Contrat;
-  item.Set(MotifEmbaucheTexte, 1, Txt_MotifEmbContrat_0.Text());
-  item.Set(MotifEmbaucheTexte, 2, Txt_MotifEmbContrat_1.Text());
-  item.Set(data::Contrat::MotifEmbauche, CodeMotif());
+void Frm_MotifCDD::Copier_Champs(data::CItem& contrat) const {
+  zones_.Ecrire(session_.Lib, contrat);
+  for (const int a : {C::PersonnesRemplacees, C::AidantsRemplaces, C::AbsencesRemplacees}) {
+    contrat.Set(a, "");
+  }
   int libres = 0;
   int aidants = 0;
   for (const std::string& texte : Lst_AidantRemplace.Rows()) {
     const LigneRemplace ligne = LireLigne(texte);
     if (ligne.code.empty()) {
       const std::string libre = TexteLibre(texte);
-      if (!libre.empty()) item.Set(PersonnesRemplacees, ++libres, libre);
+      if (!libre.empty()) contrat.Set(C::PersonnesRemplacees, ++libres, libre);
       continue;
     }
-    item.Set(AidantsRemplaces, ++aidants, ligne.code);
-    item.Set(AbsencesRemplacees, aidants, ligne.cleAbsence);
+    contrat.Set(C::AidantsRemplaces, ++aidants, ligne.code);
+    contrat.Set(C::AbsencesRemplacees, aidants, ligne.cleAbsence);
   }
   const int recours = Cbo_MotifCDD.ListIndex();
-  if (recours >= 0) item.Set(data::Contrat::MotifRecours, MotifsRecours[recours].code);
-}
-
-std::string Frm_MotifCDD::CodeMotif() const {
-  using namespace data::Tables;
-  if (Cbo_MotifEmbauche.Text().empty()) return {};
-  if (Cbo_MotifEmbauche.ListIndex() >= 0) {
-    return motifs_(MotifCodes, Cbo_MotifEmbauche.ListIndex() + 1);
-  }
-  for (int v = 1; v <= motifs_.DCount(MotifLibelles); ++v) {
-    if (motifs_.Vue(MotifLibelles, v) == Cbo_MotifEmbauche.Text()) return motifs_(MotifCodes, v);
-  }
-  return {};
-}
-
-std::string Frm_MotifCDD::DebutInterne() const {
-  const auto jour = session_.Lib.LireDate(DateDebut);
-  return jour ? std::to_string(*jour) : std::string();
+  contrat.Set(C::MotifRecours, recours < 0 ? "" : MotifsRecours[recours].code);
 }
 
 }  // namespace dialogs

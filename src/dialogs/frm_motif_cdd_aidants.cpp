@@ -1,7 +1,5 @@
 // The frame of the replaced carers.
 
-#include <algorithm>
-
 #include "data/cles.h"
 #include "data/texte.h"
 #include "dialogs/frm_motif_cdd.h"
@@ -13,6 +11,7 @@ namespace {
 
 using screen::Boutons;
 using screen::Icone;
+using session::RegleCode;
 
 constexpr const char* AidantInconnu = "Cet aidant n'existe pas.";
 constexpr const char* AidantSupprime = "Cet aidant existe mais est à l'état supprimé.";
@@ -34,20 +33,12 @@ constexpr const char* SansTitre = "";
 }  // namespace
 
 void Frm_MotifCDD::LierAidant() {
-  Txt_CodeAidant.Change = [this] { Txt_CodeAidant_Change(); };
-  Txt_CodeAidant.LostFocus = [this] { Completer_CodeAidant(); };
   Txt_CodeAidant.KeyPress = [this](char32_t& touche) {
-    if (touche == screen::ToucheEntree) Completer_CodeAidant();
+    if (touche == screen::ToucheEntree) aidant_.Completer();
   };
-  Cbo_AidantRemplace.Click = [this] { Cbo_AidantRemplace_Click(); };
-  Cbo_AidantRemplace.Change = [this] { Cbo_AidantRemplace_Change(); };
-  Cbo_AidantRemplace.LostFocus = [this] { Cbo_AidantRemplace_LostFocus(); };
   Cbo_AidantRemplace.KeyPress = [this](char32_t& touche) {
     if (touche == screen::ToucheEntree) Recherche_Aidant();
   };
-  Cbo_Absence.Click = [this] { Cbo_Absence_Click(); };
-  Cbo_Absence.Change = [this] { Cbo_Absence_Change(); };
-  Cbo_Absence.LostFocus = [this] { Cbo_Absence_LostFocus(); };
   Cmd_AjouterAidant.Click = [this] { Cmd_AjouterAidant_Click(); };
   Cmd_SupprimerAidant.Click = [this] { Cmd_SupprimerAidant_Click(); };
   Cmd_OkAidant.Click = [this] { Cmd_OkAidant_Click(); };
@@ -55,98 +46,71 @@ void Frm_MotifCDD::LierAidant() {
   Lst_AidantRemplace.DblClick = [this] { Lst_AidantRemplace_DblClick(); };
 }
 
-// Idle.
+RegleCode Frm_MotifCDD::RegleAidant() {
+  RegleCode regle;
+  regle.longueur = data::LongueurCodeAidant;
+  regle.completee = RegleCode::ADroite;
+  regle.inconnu = AidantInconnu;
+  regle.icone = Icone::Exclamation;
+  regle.tape = RegleCode::Cherche;
+  regle.source = [this](const std::string& code) { return NomConnu(code); };
+  regle.refus = [this](const std::string& code) { return RefusAidant(code); };
+  regle.incomplet = [this] { ViderAbsences(); };
+  regle.choisi = [this] { Recherche_AbsAidant(Txt_CodeAidant.Text()); };
+  return regle;
+}
+
+// Idle: nothing is entered. Otherwise the fields of an entry are open.
 void Frm_MotifCDD::Grise_Liste() {
   enCreationAidant_ = false;
   ligneAidant_ = -1;
   Txt_CodeAidant.SetText("");
-  Cbo_AidantRemplace.Clear();
-  resultatsAidant_.SetText("");
+  aidant_.Remplir({});
   ViderAbsences();
   ActiverSaisie(false);
 }
 
-// Editing.
-void Frm_MotifCDD::Degrise_Liste() {
-  ActiverSaisie(true);
-}
-
 void Frm_MotifCDD::ActiverSaisie(bool saisie) {
-  for (screen::Field* champ : std::initializer_list<screen::Field*>{
-           &Lst_AidantRemplace, &Cmd_AjouterAidant, &Cmd_OK, &Cmd_Retour}) {
-    champ->SetEnabled(!saisie);
-  }
-  for (screen::Field* champ : std::initializer_list<screen::Field*>{
-           &Txt_CodeAidant, &Cbo_AidantRemplace, &Cbo_Absence, &Cmd_OkAidant, &Cmd_AnnulerAidant}) {
-    champ->SetEnabled(saisie);
-  }
+  screen::Activer({&Lst_AidantRemplace, &Cmd_AjouterAidant, &Cmd_OK, &Cmd_Retour}, !saisie);
+  screen::Activer(
+      {&Txt_CodeAidant, &Cbo_AidantRemplace, &Cbo_Absence, &Cmd_OkAidant, &Cmd_AnnulerAidant},
+      saisie);
   Cmd_SupprimerAidant.SetEnabled(saisie && !enCreationAidant_);
 }
 
 void Frm_MotifCDD::ViderAbsences() {
-  Cbo_Absence.Clear();
-  resultatsAbsence_.SetText("");
   Txt_CodeAbs.SetText("");
+  absence_.Remplir({});
 }
 
-void Frm_MotifCDD::Txt_CodeAidant_Change() {
-  codeVerifie_.clear();
-  const std::string& code = Txt_CodeAidant.Text();
-  if (code.empty()) {
-    Cbo_AidantRemplace.SetText("");
-    ViderAbsences();
-  } else if (data::longueur(code) == data::LongueurCodeAidant) {
-    Verifier_CodeAidant();
-  }
-}
-
-// Checks the code when it was short, which completing it does, or when the store failed before.
-// False when a code was refused.
-bool Frm_MotifCDD::Completer_CodeAidant() {
-  const std::string code = Txt_CodeAidant.Text();
-  if (code.empty() || code == codeVerifie_) return true;
-  if (data::longueur(code) < data::LongueurCodeAidant) {
-    Txt_CodeAidant.SetText(data::completeADroite(code, data::LongueurCodeAidant, '0'));
-  } else {
-    Verifier_CodeAidant();
-  }
-  return !codeVerifie_.empty();
-}
-
-bool Frm_MotifCDD::Verifier_CodeAidant() {
-  const std::string code = Txt_CodeAidant.Text();
-  const std::string debut = DebutInterne();
+// The name of a carer found by a search is shown as the list shows it.
+std::optional<std::string> Frm_MotifCDD::NomConnu(const std::string& code) {
   data::CItem aidant;
-  if (!session_.F_CIVILAIDANT.Lire(code, aidant)) return RefuserCode(AidantInconnu);
-  if (EstSupprime(aidant, debut)) return RefuserCode(AidantSupprime);
-  nomAidant_ = NomAidant(aidant);
-  if (!NomConcorde()) Cbo_AidantRemplace.SetText(nomAidant_);
-  if (!AUnContrat(session_, Contexte, code, debut)) {
-    const bool particulier = Contexte.convention == data::ConventionParticuliers;
-    return RefuserCode(particulier ? SansContratAide : SansContratEntite);
-  }
-  Recherche_AbsAidant(code, debut);
-  codeVerifie_ = code;
-  return true;
+  if (!session_.F_CIVILAIDANT.Lire(code, aidant)) return std::nullopt;
+  const auto* const trouve = aidant_.Lignes().ParCode(code);
+  return trouve == nullptr ? NomAidant(aidant) : trouve->libelle;
 }
 
-bool Frm_MotifCDD::RefuserCode(const char* message) {
-  MessageBox(message, Boutons::Ok, Icone::Exclamation);
-  Txt_CodeAidant.SetText("");
-  Txt_CodeAidant.SetFocus();
-  return false;
+const char* Frm_MotifCDD::RefusAidant(const std::string& code) {
+  if (EstSupprime(session_.F_CIVILAIDANT.Read(code), debut_)) return AidantSupprime;
+  if (AUnContrat(session_, contexte_, code, debut_)) return nullptr;
+  return contexte_.convention == data::ConventionParticuliers ? SansContratAide : SansContratEntite;
 }
 
-void Frm_MotifCDD::Recherche_AbsAidant(const std::string& code, const std::string& debut) {
+void Frm_MotifCDD::Recherche_AbsAidant(const std::string& code) {
   ViderAbsences();
-  screen::Attente attente(*this);
-  resultatsAbsence_ = ChercherAbsences(session_, code, debut);
-  for (int i = 1; i <= resultatsAbsence_.DCount(); ++i) {
-    Cbo_Absence.AddItem(LibelleAbsence(session_.Lib, absences_, resultatsAbsence_.Vue(i, 1),
-                                       resultatsAbsence_.Vue(i, 2)));
+  {
+    screen::Attente attente(*this);
+    const data::CItem trouvees = ChercherAbsences(session_, code, debut_);
+    std::vector<data::ListeCodes::Ligne> lignes;
+    for (int i = 1; i <= trouvees.DCount(); ++i) {
+      lignes.push_back({trouvees(i, 1), LibelleAbsence(session_.Lib, absences_, trouvees.Vue(i, 1),
+                                                       trouvees.Vue(i, 2))});
+    }
+    absence_.Remplir(data::ListeCodes(std::move(lignes)));
+    attente.Finir();
   }
-  attente.Finir();
-  if (resultatsAbsence_.Vide()) {
+  if (absence_.Lignes().Vide()) {
     MessageBox(AucuneAbsence + data::majuscules(Cbo_AidantRemplace.Text()) + ".", Boutons::Ok,
                Icone::Information);
   } else if (enCreationAidant_) {
@@ -160,67 +124,28 @@ void Frm_MotifCDD::Recherche_Aidant() {
     MessageBox(NomNecessaire, Boutons::Ok, Icone::Exclamation);
     return;
   }
-  screen::Attente attente(*this);
-  const data::CItem trouves = ChercherAidants(session_, nom, DebutInterne());
-  attente.Finir();
+  data::CItem trouves;
+  {
+    screen::Attente attente(*this);
+    trouves = ChercherAidants(session_, nom, debut_);
+    attente.Finir();
+  }
   if (trouves.Vide()) {
     MessageBox(AucunAidant + data::majuscules(nom) + ".", Boutons::Ok, Icone::Information);
     return;
   }
-  resultatsAidant_ = trouves;
-  Cbo_AidantRemplace.Clear();
+  std::vector<data::ListeCodes::Ligne> lignes;
   for (int i = 1; i <= trouves.DCount(); ++i) {
-    Cbo_AidantRemplace.AddItem(
-        data::gauche(trouves(i, 2) + " " + trouves(i, 3), LongueurNomTrouve));
+    lignes.push_back(
+        {trouves(i, 1), data::gauche(trouves(i, 2) + " " + trouves(i, 3), LongueurNomTrouve)});
   }
+  aidant_.Remplir(data::ListeCodes(std::move(lignes)));
   Cbo_AidantRemplace.SetListIndex(0);
-}
-
-void Frm_MotifCDD::Cbo_AidantRemplace_Click() {
-  const int ligne = Cbo_AidantRemplace.ListIndex();
-  if (ligne >= 0) Txt_CodeAidant.SetText(resultatsAidant_.Vue(ligne + 1, 1));
-}
-
-void Frm_MotifCDD::Cbo_AidantRemplace_Change() {
-  if (!Cbo_AidantRemplace.Text().empty()) return;
-  Txt_CodeAidant.SetText("");
-  ViderAbsences();
-}
-
-bool Frm_MotifCDD::NomConcorde() const {
-  const std::string& nom = Cbo_AidantRemplace.Text();
-  return !nom.empty() && (nom == nomAidant_ || nom == data::gauche(nomAidant_, LongueurNomTrouve));
-}
-
-// A name typed over the one of the carer entered, and not searched, would be listed with a code
-// that is not its own.
-void Frm_MotifCDD::Cbo_AidantRemplace_LostFocus() {
-  if (!codeVerifie_.empty() && !NomConcorde()) Cbo_AidantRemplace.SetText(nomAidant_);
-}
-
-void Frm_MotifCDD::Cbo_Absence_Click() {
-  const int ligne = Cbo_Absence.ListIndex();
-  if (ligne >= 0) Txt_CodeAbs.SetText(resultatsAbsence_.Vue(ligne + 1, 1));
-}
-
-// The key goes with the label: a text that is none of the labels has none.
-void Frm_MotifCDD::Cbo_Absence_Change() {
-  const auto& libelles = Cbo_Absence.Rows();
-  const auto trouve = std::find(libelles.begin(), libelles.end(), Cbo_Absence.Text());
-  if (Cbo_Absence.Text().empty() || trouve == libelles.end()) {
-    Txt_CodeAbs.SetText("");
-  } else {
-    Txt_CodeAbs.SetText(resultatsAbsence_.Vue(static_cast<int>(trouve - libelles.begin()) + 1, 1));
-  }
-}
-
-void Frm_MotifCDD::Cbo_Absence_LostFocus() {
-  if (Txt_CodeAbs.Text().empty()) Cbo_Absence.SetText("");
 }
 
 void Frm_MotifCDD::Cmd_AjouterAidant_Click() {
   enCreationAidant_ = true;
-  Degrise_Liste();
+  ActiverSaisie(true);
   Txt_CodeAidant.SetFocus();
 }
 
@@ -229,9 +154,8 @@ void Frm_MotifCDD::Lst_AidantRemplace_DblClick() {
   if (ligne < 0) return;
   enCreationAidant_ = false;
   ligneAidant_ = ligne;
-  Degrise_Liste();
-  Txt_CodeAidant.SetEnabled(false);
-  Cbo_AidantRemplace.SetEnabled(false);
+  ActiverSaisie(true);
+  screen::Activer({&Txt_CodeAidant, &Cbo_AidantRemplace}, false);
   try {
     ReprendreLigne(LireLigne(Lst_AidantRemplace.List(ligne)));
   } catch (...) {
@@ -245,8 +169,7 @@ void Frm_MotifCDD::ReprendreLigne(const LigneRemplace& ligne) {
   if (ligne.code.empty()) {
     // A free text can only be deleted.
     Cbo_AidantRemplace.SetText(ligne.nom);
-    Cbo_Absence.SetEnabled(false);
-    Cmd_OkAidant.SetEnabled(false);
+    screen::Activer({&Cbo_Absence, &Cmd_OkAidant}, false);
     return;
   }
   Txt_CodeAidant.SetText(ligne.code);
@@ -255,39 +178,16 @@ void Frm_MotifCDD::ReprendreLigne(const LigneRemplace& ligne) {
   Txt_CodeAbs.SetText(ligne.cleAbsence);
 }
 
-void Frm_MotifCDD::Verif_AidantRemplacant() {
-  struct Controle {
-    bool (Frm_MotifCDD::*refuse)() const;
-    const char* message;
-    const char* champ;  // takes the focus; "" for none
-  };
-  static constexpr Controle Controles[] = {
-      {&Frm_MotifCDD::SansCode, "Le code de l'aidant est obligatoire.", "Txt_CodeAidant"},
-      {&Frm_MotifCDD::SansNom, "L'aidant doit être renseigné.", "Cbo_AidantRemplace"},
-      {&Frm_MotifCDD::SeRemplaceLuiMeme, "L'aidant ne peut pas se remplacer lui-même.", ""},
-      {&Frm_MotifCDD::DejaDansLaListe, "Cet aidant a déjà été ajouté à la liste.", ""},
-  };
-  erreurAidant_ = false;
-  for (const Controle& controle : Controles) {
-    if (!(this->*controle.refuse)()) continue;
-    erreurAidant_ = true;
-    MessageBox(controle.message, Boutons::Ok, Icone::Information);
-    if (screen::Field* champ = Find(controle.champ)) champ->SetFocus();
-    return;
-  }
-}
-
-bool Frm_MotifCDD::SansCode() const {
-  return Txt_CodeAidant.Text().empty();
-}
-
-bool Frm_MotifCDD::SansNom() const {
-  return Cbo_AidantRemplace.Text().empty();
-}
-
-bool Frm_MotifCDD::SeRemplaceLuiMeme() const {
-  return Txt_CodeAidant.Text() == Etq_CodeAidant.Libelle();
-}
+const rules::Verification<Frm_MotifCDD> Frm_MotifCDD::VerificationsAidant[4] = {
+    {[](Frm_MotifCDD& f) { return f.Txt_CodeAidant.Text().empty(); },
+     "Le code de l'aidant est obligatoire.", Icone::Information, "Txt_CodeAidant"},
+    {[](Frm_MotifCDD& f) { return f.Cbo_AidantRemplace.Text().empty(); },
+     "L'aidant doit être renseigné.", Icone::Information, "Cbo_AidantRemplace"},
+    {[](Frm_MotifCDD& f) { return f.Txt_CodeAidant.Text() == f.session_.CodeAidant; },
+     "L'aidant ne peut pas se remplacer lui-même.", Icone::Information},
+    {[](Frm_MotifCDD& f) { return f.DejaDansLaListe(); },
+     "Cet aidant a déjà été ajouté à la liste.", Icone::Information},
+};
 
 bool Frm_MotifCDD::DejaDansLaListe() const {
   const std::string& absence = Cbo_Absence.Text();
@@ -301,9 +201,7 @@ bool Frm_MotifCDD::DejaDansLaListe() const {
 }
 
 void Frm_MotifCDD::Cmd_OkAidant_Click() {
-  if (!Completer_CodeAidant()) return;
-  Verif_AidantRemplacant();
-  if (erreurAidant_) return;
+  if (!aidant_.Completer() || !Verifier<Frm_MotifCDD>(VerificationsAidant, *this)) return;
   const std::string ligne = FaireLigne(
       {Txt_CodeAidant.Text(), Cbo_AidantRemplace.Text(), Cbo_Absence.Text(), Txt_CodeAbs.Text()});
   if (enCreationAidant_) {

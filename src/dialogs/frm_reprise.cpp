@@ -4,8 +4,8 @@
 
 namespace dialogs {
 
-Frm_Reprise::Frm_Reprise(screen::Platform& platform, session::Session& session)
-    : Dialogue(platform, session, "Frm_Reprise", "Reprise des données du contrat précédent") {
+Frm_Reprise::Frm_Reprise(screen::Platform& platform, session::Dossier& dossier)
+    : Dialogue(platform, dossier, "Frm_Reprise", "Reprise des données du contrat précédent") {
   Frm_ContratPrec.SetEnabled(false);
   LierDateRecalculee(Txt_DebGrilleRecalc);
   LierDateRecalculee(Txt_DebAncRecalc);

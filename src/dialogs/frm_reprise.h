@@ -3,7 +3,7 @@
 // previous contract, and the departure dates that are proposed for the pay grid and for seniority.
 // The save computes what is shown and acts on the answer:
 //
-//   Frm_Reprise reprise(platform, session);
+//   Frm_Reprise reprise(platform, dossier);
 //   reprise.Afficher(donnees);
 //   reprise.ShowModal();
 //   if (!reprise.RepriseRefusee) use reprise.NouvelleDateGrille ...
@@ -38,7 +38,7 @@ struct DonneesReprise {
 
 class Frm_Reprise : public Dialogue {
  public:
-  Frm_Reprise(screen::Platform& platform, session::Session& session);
+  Frm_Reprise(screen::Platform& platform, session::Dossier& dossier);
 
   void Afficher(const DonneesReprise& donnees);
 
@@ -55,26 +55,25 @@ class Frm_Reprise : public Dialogue {
   screen::Label Etq_Aidant{*this, "Etq_Aidant"};
   // The misspelling is what users know.
   screen::Frame Frm_ContratPrec{*this, "Frm_ContratPrec", "Contrat prédécent"};
-  screen::Label Etq_DateDeb{*this, "Etq_DateDeb", "Date début", &Frm_ContratPrec};
-  screen::TextField Txt_DateDeb{*this, "Txt_DateDeb", LongueurDate, &Frm_ContratPrec};
-  screen::Label Etq_DateFin{*this, "Etq_DateFin", "Date fin", &Frm_ContratPrec};
-  screen::TextField Txt_DateFin{*this, "Txt_DateFin", LongueurDate, &Frm_ContratPrec};
-  screen::OptionButton Opt_Cdi{*this, "Opt_Cdi", "CDI", &Frm_ContratPrec};
-  screen::OptionButton Opt_Cdd{*this, "Opt_Cdd", "CDD", &Frm_ContratPrec};
-  screen::Label Etq_DebGrille{*this, "Etq_DebGrille", "Date départ calcul de grille",
-                              &Frm_ContratPrec};
-  screen::TextField Txt_DebGrille{*this, "Txt_DebGrille", LongueurDate, &Frm_ContratPrec};
-  screen::Label Etq_JoursSusp{*this, "Etq_JoursSusp", "Jours suspension", &Frm_ContratPrec};
-  screen::TextField Txt_JoursSusp{*this, "Txt_JoursSusp", LongueurJours, &Frm_ContratPrec};
-  screen::Label Etq_DateRef{*this, "Etq_DateRef", "Date référence", &Frm_ContratPrec};
-  screen::TextField Txt_DateRef{*this, "Txt_DateRef", LongueurDate, &Frm_ContratPrec};
-  screen::Label Etq_DebAnc{*this, "Etq_DebAnc", "Date départ ancienneté", &Frm_ContratPrec};
-  screen::TextField Txt_DebAnc{*this, "Txt_DebAnc", LongueurDate, &Frm_ContratPrec};
-  screen::Label Etq_JoursSuspAnc{*this, "Etq_JoursSuspAnc", "Jours suspension", &Frm_ContratPrec};
-  screen::TextField Txt_JoursSuspAnc{*this, "Txt_JoursSuspAnc", LongueurJours, &Frm_ContratPrec};
-  screen::Label Etq_DateRefAnc{*this, "Etq_DateRefAnc", "Date référence", &Frm_ContratPrec};
-  screen::TextField Txt_DateRefAnc{*this, "Txt_DateRefAnc", LongueurDate, &Frm_ContratPrec};
-  screen::CheckBox Cac_CpMois{*this, "Cac_CpMois", "Congés payés au mois", &Frm_ContratPrec};
+  screen::Label Etq_DateDeb{Frm_ContratPrec, "Etq_DateDeb", "Date début"};
+  screen::TextField Txt_DateDeb{Frm_ContratPrec, "Txt_DateDeb", LongueurDate};
+  screen::Label Etq_DateFin{Frm_ContratPrec, "Etq_DateFin", "Date fin"};
+  screen::TextField Txt_DateFin{Frm_ContratPrec, "Txt_DateFin", LongueurDate};
+  screen::OptionButton Opt_Cdi{Frm_ContratPrec, "Opt_Cdi", "CDI"};
+  screen::OptionButton Opt_Cdd{Frm_ContratPrec, "Opt_Cdd", "CDD"};
+  screen::Label Etq_DebGrille{Frm_ContratPrec, "Etq_DebGrille", "Date départ calcul de grille"};
+  screen::TextField Txt_DebGrille{Frm_ContratPrec, "Txt_DebGrille", LongueurDate};
+  screen::Label Etq_JoursSusp{Frm_ContratPrec, "Etq_JoursSusp", "Jours suspension"};
+  screen::TextField Txt_JoursSusp{Frm_ContratPrec, "Txt_JoursSusp", LongueurJours};
+  screen::Label Etq_DateRef{Frm_ContratPrec, "Etq_DateRef", "Date référence"};
+  screen::TextField Txt_DateRef{Frm_ContratPrec, "Txt_DateRef", LongueurDate};
+  screen::Label Etq_DebAnc{Frm_ContratPrec, "Etq_DebAnc", "Date départ ancienneté"};
+  screen::TextField Txt_DebAnc{Frm_ContratPrec, "Txt_DebAnc", LongueurDate};
+  screen::Label Etq_JoursSuspAnc{Frm_ContratPrec, "Etq_JoursSuspAnc", "Jours suspension"};
+  screen::TextField Txt_JoursSuspAnc{Frm_ContratPrec, "Txt_JoursSuspAnc", LongueurJours};
+  screen::Label Etq_DateRefAnc{Frm_ContratPrec, "Etq_DateRefAnc", "Date référence"};
+  screen::TextField Txt_DateRefAnc{Frm_ContratPrec, "Txt_DateRefAnc", LongueurDate};
+  screen::CheckBox Cac_CpMois{Frm_ContratPrec, "Cac_CpMois", "Congés payés au mois"};
 
   screen::Label Etq_DebGrilleRecalc{*this, "Etq_DebGrilleRecalc",
                                     "Date départ calcul de grille recalculée"};

@@ -1,10 +1,11 @@
 #include "dialogs/recherche_remplace.h"
 
 #include "data/cles.h"
+#include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
-#include "data/question.h"
+#include "data/requete.h"
 #include "data/texte.h"
 
 namespace dialogs {
@@ -13,8 +14,6 @@ namespace {
 
 // Types of absence during which nobody is replaced.
 constexpr const char* TypesJamaisRemplaces[] = {"18", "19", "20", "21"};
-
-constexpr const char* OuVide = " OR = \"\"";
 
 // "JJ/MM/AA".
 std::string dateCourte(const data::Lib& lib, std::string_view jour) {
@@ -40,45 +39,45 @@ bool EstCherchable(std::string_view nom) {
 
 data::CItem ChercherAidants(session::Session& session, std::string_view nom,
                             std::string_view jour) {
-  std::string question =
-      "SSELECT CIVILAIDANT AVEC NomPrenomAidant = " + data::citerDebut(data::majuscules(nom));
-  if (!jour.empty()) question += " AND AVEC 36 >= " + data::citer(jour) + OuVide;
-  question += " PAR 2 PAR 3";
-  return session.Db->Selectionner(question, data::fichier::CIVILAIDANT, "0 2 3 36");
+  using namespace data;
+  Requete requete(fichier::CIVILAIDANT);
+  requete.Avec("NomPrenomAidant", "=", citerDebut(majuscules(nom)));
+  if (!jour.empty()) {
+    requete.Avec(CivilAidant::DateFin, ">=", citer(jour)).Ou("=", citer(""));
+  }
+  return requete.Par(CivilAidant::Nom)
+      .Par(CivilAidant::Prenom)
+      .Lire(*session.Db, {Cle, CivilAidant::Nom, CivilAidant::Prenom, CivilAidant::DateFin});
 }
 
 bool AUnContrat(session::Session& session, const ContexteMotif& contexte, std::string_view code,
                 std::string_view jour) {
-  const bool particulier = contexte.convention == data::ConventionParticuliers;
-  std::string question = "SSELECT CONTRAT AVEC @ID = " + data::citerDebut(code);
-  question += particulier ? " AND AVEC 3 = " + data::citer(contexte.employeur)
-                          : " AND AVEC 2 = " + data::citer(contexte.association);
-  question += " AND AVEC 7 <= " + data::citer(jour);
-  question += " AND AVEC 8 >= " + data::citer(jour) + OuVide;
-  return !session.Db->Selectionner(question, data::fichier::CONTRAT, "0").Vide();
+  using namespace data;
+  Requete requete(fichier::CONTRAT);
+  requete.Avec(Cle, "=", citerDebut(code));
+  if (contexte.convention == ConventionParticuliers) {
+    requete.Avec(Contrat::Employeur, "=", citer(contexte.employeur));
+  } else {
+    requete.Avec(Contrat::Association, "=", citer(contexte.association));
+  }
+  requete.Avec(Contrat::DateDebut, "<=", citer(jour));
+  requete.Avec(Contrat::DateFin, ">=", citer(jour)).Ou("=", citer(""));
+  return !requete.Lire(*session.Db, {Cle}).Vide();
 }
 
 data::CItem ChercherAbsences(session::Session& session, std::string_view code,
                              std::string_view jour) {
-  std::string question = "SSELECT ABSENCESAIDANT AVEC @ID = " + data::citerDebut(code) +
-                         " AND AVEC 2 >= " + data::citer(jour);
-  for (const char* type : TypesJamaisRemplaces) {
-    question += " AND AVEC TypeAbs <> " + data::citer(type);
-  }
-  question += " PAR DebAbsAidant";
-  return session.Db->Selectionner(question, data::fichier::ABSENCESAIDANT, "0 2");
+  using namespace data;
+  Requete requete(fichier::ABSENCESAIDANT);
+  requete.Avec(Cle, "=", citerDebut(code)).Avec(AbsencesAidant::DateFin, ">=", citer(jour));
+  for (const char* type : TypesJamaisRemplaces) requete.Avec("TypeAbs", "<>", citer(type));
+  return requete.Par("DebAbsAidant").Lire(*session.Db, {Cle, AbsencesAidant::DateFin});
 }
 
-std::string LibelleAbsence(const data::Lib& lib, const data::CItem& table, std::string_view cle,
-                           std::string_view dernierJour) {
+std::string LibelleAbsence(const data::Lib& lib, const data::ListeCodes& types,
+                           std::string_view cle, std::string_view dernierJour) {
   using namespace data::AbsencesAidant;
-  const std::string type = data::milieu(cle, PosType, LongueurType);
-  std::string libelle;
-  for (int v = 1; v <= table.DCount(data::Tables::Codes); ++v) {
-    if (table.Vue(data::Tables::Codes, v) != type) continue;
-    libelle = table(data::Tables::Libelles, v);
-    break;
-  }
+  const std::string libelle = types.Libelle(data::milieu(cle, PosType, LongueurType));
   return data::sansBlancs(libelle + " du " + dateCourte(lib, data::milieu(cle, PosDebut)) + " au " +
                           dateCourte(lib, dernierJour));
 }

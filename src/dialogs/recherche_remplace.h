@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "data/citem.h"
+#include "data/liste_codes.h"
 #include "session/session.h"
 
 namespace dialogs {
@@ -39,9 +40,9 @@ bool AUnContrat(session::Session& session, const ContexteMotif& contexte, std::s
 data::CItem ChercherAbsences(session::Session& session, std::string_view code,
                              std::string_view jour);
 
-// "Maladie du 01/02/26 au 15/02/26". `table`: the item of absence types. A type that it does not
-// hold leaves the dates alone.
-std::string LibelleAbsence(const data::Lib& lib, const data::CItem& table, std::string_view cle,
-                           std::string_view dernierJour);
+// "Maladie du 01/02/26 au 15/02/26". `types`: the table of absence types. A type that it does
+// not hold leaves the dates alone.
+std::string LibelleAbsence(const data::Lib& lib, const data::ListeCodes& types,
+                           std::string_view cle, std::string_view dernierJour);
 
 }  // namespace dialogs

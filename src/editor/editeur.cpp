@@ -2,34 +2,21 @@
 
 #include <algorithm>
 
-#include "data/cles.h"
-#include "data/jour.h"
-#include "data/layouts/contrat.h"
-#include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
-#include "data/nombre.h"
-#include "data/question.h"
+#include "screen/attente.h"
 
 namespace editor {
 
 namespace {
 
-// Buttons that only full rights show; the last two also hang on the contract.
-constexpr std::string_view BoutonsDeModification[] = {"Cmd_OK", "Cmd_OKActivite", "Cmd_OKAvenant",
-                                                      "Cmd_AjoutAvenant", "Cmd_SupprimerContrat"};
-constexpr std::size_t BoutonsDesDroitsSeuls = 3;
+using screen::Boutons, screen::Icone, screen::Reponse;
+namespace C = data::Contrat;
 
 // Values of attribute 38 of an entity that uses remote time-tracking.
 constexpr std::string_view ServicesTelegestion[] = {"06", "VESPARIO"};
 
 // The entity whose settings hold for a contract not created yet.
-constexpr std::string_view PremiereEntite = "001";
-
-bool utiliseTelegestion(const data::CItem& association) {
-  const auto service = association.Vue(data::Association::Telegestion);
-  return std::find(std::begin(ServicesTelegestion), std::end(ServicesTelegestion), service) !=
-         std::end(ServicesTelegestion);
-}
+constexpr const char* PremiereEntite = "001";
 
 }  // namespace
 
@@ -37,167 +24,173 @@ Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Se
     : Form(platform, "Frm_ElementsContrat", "Contrat de travail"),
       session_(session),
       aide_(platform.aide) {
-  LierChamps();
-  OuvrirFichiers();
-  if (session_.ModeCreation) {
-    origine.Griser_ComboOng1();
-  } else {
-    InitElementContrat();
-  }
-  session_.F_TABLES.Lire(data::Tables::NatureVoie, session_.ItemTables);
-}
-
-Frm_ElementsContrat::~Frm_ElementsContrat() {
-  DesinitElementContrat();
-}
-
-void Frm_ElementsContrat::LierChamps() {
+  dossier_.emplace(session_);
   Ong_Contrat.Click = [this](int ancien) { Ong_Contrat_Click(ancien); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
-  Mnu_Aide.SetEnabled(false);
-  Mnu_Sommaire.SetEnabled(false);
-  Cmd_ImpContrat.SetEnabled(false);
-  Cmd_DPAE.SetEnabled(false);
+  screen::Activer({&Mnu_Aide, &Mnu_Sommaire, &Cmd_ImpContrat, &Cmd_DPAE}, false);
 }
 
-void Frm_ElementsContrat::OuvrirFichiers() {
-  session_.F_CIVILAIDE = session_.Db->OpenFile(data::fichier::CIVILAIDE);
-  F_PCS_ = session_.Db->OpenFile(data::fichier::PCS);
-  session_.F_RUBCHARGE = session_.Db->OpenFile(data::fichier::RUBCHARGE);
+// Opening.
+
+void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
+  Commencer();
+  dossier_->CleContratCourant = cle;
+  session_.F_CONTRAT.Lire(cle, dossier_->ItemContrat);
+  dossier_->Initial = dossier_->ItemContrat;
+  origine.Afficher();
+  fin.Afficher();
+  SelonDroits();
+  SelonEntite();
 }
 
-void Frm_ElementsContrat::DroitsUtilisateur(const session::Droits& droits) {
-  droits_ = &droits;
-  droit_ = droits.Lookup(session::DroitContrat);
+// A new contract counts as loaded everywhere.
+void Frm_ElementsContrat::Creer() {
+  Commencer();
+  dossier_->ModeCreation = true;
+  for (Onglet* const onglet : onglets_) onglet->Afficher();
+  SelonDroits();
+  SelonEntite();
 }
 
-void Frm_ElementsContrat::InitElementContrat() {
-  session_.F_TABLES.Lire(data::Tables::NatureContrat, origine.ListeNatures);
-  session_.F_TABLES.Lire(data::Tables::CarteOrange, ItemCarteOrange);
-  session_.F_TABLES.Lire(data::Tables::FinContrat, ItemFinContrat);
-  if (!session_.CombosRemplis) Remplir_CombosElement();
-  Afficher_Donnees();
-  if (session_.ModeCreation) {
-    caracteristiques.Bdh_Avenant.SetValue(0);
-  } else {
-    Remplir_Activites();
-  }
+void Frm_ElementsContrat::Commencer() {
+  dossier_.emplace(session_);
+  sortieAccordee_ = cree_ = false;
+  if (!combosRemplis_) origine.Remplir_Combos();
+  combosRemplis_ = true;
+  for (Onglet* const onglet : onglets_) onglet->Vider();
+  Ong_Contrat.SetTab(Origine);
+  Etq_Aidant.SetLibelle("Aidant : " + session_.CodeAidant + " " + session_.NomPrenomAidant);
+  Etq_CodeAidant.SetLibelle(session_.CodeAidant);
+  Etq_NomPrenomAidant.SetLibelle(session_.NomPrenomAidant);
 }
 
-void Frm_ElementsContrat::DesinitElementContrat() {
-  for (data::CItem* item : {&session_.ItemContrat, &session_.ItemAssociation,
-                            &session_.ItemAidantTte, &ClesAvenants, &ListeActivites}) {
-    *item = data::CItem();
-  }
+void Frm_ElementsContrat::SelonDroits() {
+  const bool complet = session_.DroitComplet();
+  Cmd_OK.SetVisible(complet);
+  for (Onglet* const onglet : onglets_) onglet->SelonDroits(complet);
 }
 
-void Frm_ElementsContrat::Remplir_CombosElement() {
-  origine.Remplir_Combos();
-  session_.CombosRemplis = true;
-}
-
-// The activities of the entity; the private employers' ones alone for production staff.
-void Frm_ElementsContrat::Remplir_Activites() {
-  const std::string genre = origine.Opt_Administratif.Value() ? "" : " AND AVEC 12 = \"M\"";
-  ListeActivites = session_.Db->Selectionner(
-      "SSELECT ACTIVITES AVEC 0 = " + data::citerDebut(origine.Txt_AssocContrat.Text()) + genre +
-          " PAR 1",
-      data::fichier::ACTIVITES, "0 1 12");
-  paie.Cbo_Activite.Clear();
-  for (int i = 1; i <= ListeActivites.DCount(); ++i) {
-    paie.Cbo_Activite.AddItem(ListeActivites.Vue(i, 2));
-  }
-}
-
-void Frm_ElementsContrat::Afficher_Donnees() {
-  DateFinRefusee = false;
-  FermetureAutorisee = 0;
-  if (session_.EtatSuppAidant) fin.Txt_DateFinContrat.SetEnabled(false);
-  ClesAvenants = data::CItem();
-  if (session_.ModeCreation) caracteristiques.Cmd_AjoutAvenant.SetVisible(false);
-  origine.Afficher_Ong1();
-  // A new contract counts as loaded everywhere.
-  Ong2Charge = Ong3Charge = Ong4Charge = session_.ModeCreation;
-  Ong5Charge = true;
-  Services().curseur.Attente(false);
-  for (screen::Label* etiquette :
-       {&conges.Etq_Conges_0, &conges.Etq_Conges_1, &conges.Etq_Conges_2, &conges.Etq_Conges_3}) {
-    etiquette->SetVisible(true);
-  }
-}
-
-void Frm_ElementsContrat::init() {
-  for (std::size_t i = 0; i < std::size(BoutonsDeModification); ++i) {
-    if (!DroitComplet() || i < BoutonsDesDroitsSeuls) {
-      Find(BoutonsDeModification[i])->SetVisible(DroitComplet());
-    }
-  }
-  ValidationEnCours = false;
-  EcritureVerifiee = false;
-  SuiviModifie = false;
-  LiensDejaCrees = false;
-  enregistrement_.Commencer();
-  if (session_.ItemAssociation.Vide()) {
-    const std::string cle = session_.ModeCreation
-                                ? std::string(PremiereEntite)
-                                : session_.ItemContrat(data::Contrat::Association);
-    session_.F_ASSOCIATION.Lire(cle, session_.ItemAssociation);
-  }
-  const bool telegestion = utiliseTelegestion(session_.ItemAssociation);
-  paie.Cmd_Telegestion.SetVisible(telegestion);
-  if (telegestion) paie.Cmd_Telegestion.SetEnabled(true);
-  session_.ItemAidantTte = data::CItem();
-  PeriodeBulletinInitiale = session_.ItemContrat(data::Contrat::DernierBulletin);
-  Cmd_DPAE.SetVisible(!session_.ModeCreation);
-  Cmd_DPAE.SetLibelle(data::estParticulierEmployeur(session_.ItemContrat) ? "D.E.F." : "DPAE");
-}
-
-rules::Portee Frm_ElementsContrat::Portee() const {
-  const std::string numero =
-      session_.ModeCreation ? enregistrement_.NumeroContrat() : origine.Txt_NumContrat.Text();
-  return {Etq_CodeAidant.Libelle(), numero, origine.Txt_ConvColContrat.Text(),
-          origine.Txt_AssocContrat.Text(), origine.Txt_EmplEtabContrat.Text()};
-}
-
-rules::Dates Frm_ElementsContrat::Dates() const {
-  rules::Dates dates;
-  dates.debut = session_.Lib.LireDate(origine.Txt_DatDebContrat.Text()).value_or(0);
-  const auto finSurFichier = session_.ItemContrat.Vue(data::Contrat::DateFin);
-  if (!finSurFichier.empty()) dates.fin = data::entier(finSurFichier);
-  return dates;
-}
-
-bool Frm_ElementsContrat::ConventionParticuliers() const {
-  return origine.Txt_ConvColContrat.Text() == data::ConventionParticuliers;
-}
-
-bool Frm_ElementsContrat::AccepterDateFin() {
-  std::optional<rules::Refus> refus;
-  {
-    screen::Attente attente(*this);
-    DateFinRefusee = false;
-    refus = rules::Verif_SuppDateFin(*session_.Db, Portee(), Dates());
-    attente.Finir();
-  }
-  if (!refus) return true;
-  DateFinRefusee = true;
-  MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
-  fin.Txt_DernBullContrat.SetText("");
-  return false;
+// What the settings of the contract's entity and its agreement decide.
+void Frm_ElementsContrat::SelonEntite() {
+  const data::CItem& contrat = dossier_->ItemContrat;
+  data::CItem association;
+  session_.F_ASSOCIATION.Lire(dossier_->ModeCreation ? PremiereEntite : contrat(C::Association),
+                              association);
+  const auto service = association.Vue(data::Association::Telegestion);
+  const auto* const dernier = std::end(ServicesTelegestion);
+  paie.SelonTelegestion(std::find(std::begin(ServicesTelegestion), dernier, service) != dernier);
+  Cmd_DPAE.SetVisible(!dossier_->ModeCreation);
+  Cmd_DPAE.SetLibelle(dossier_->Particuliers() ? "D.E.F." : "DPAE");
 }
 
 void Frm_ElementsContrat::Activate() {
-  EvenementsActifs = true;
-  if (origine.Txt_ConvColContrat.Enabled()) origine.Txt_ConvColContrat.SetFocus();
+  origine.Commencer();
 }
 
 void Frm_ElementsContrat::MouseDown(int bouton) {
   if (bouton != session::BoutonDroit) return;
-  Mnu_Aide.SetEnabled(true);
-  Mnu_Sommaire.SetEnabled(true);
+  screen::Activer({&Mnu_Aide, &Mnu_Sommaire}, true);
   Services().modales.MontrerMenu(*this, Mnu_Aide.Nom());
+}
+
+// Tabs.
+
+void Frm_ElementsContrat::AnnoncerConvention() {
+  const std::string convention = origine.Convention();
+  for (Onglet* const onglet : onglets_) onglet->SelonConvention(convention);
+}
+
+void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
+  if (!origine.DateDebut().empty()) origine.Txt_DatDebContrat_LostFocus();
+  const int choisi = Ong_Contrat.Tab();
+  // The end of a contract looks at how it is paid.
+  if (choisi == FinContrat && !paie.Charge()) paie.Afficher();
+  Onglet& onglet = *onglets_[static_cast<std::size_t>(choisi)];
+  if (!onglet.Admettre()) {
+    Ong_Contrat.SetTab(ancien);
+  } else {
+    if (onglet.AReafficher()) onglet.Afficher();
+    onglet.Entrer();
+  }
+  if (!origine.Administratif() || origine.Particuliers()) return;
+  paie.MontrerParts();
+  caracteristiques.FermerModulation();
+}
+
+rules::Portee Frm_ElementsContrat::Portee() const {
+  return {session_.CodeAidant, dossier_->NumeroContrat(), origine.Convention(), origine.Entite(),
+          origine.Employeur()};
+}
+
+rules::Dates Frm_ElementsContrat::Dates() const {
+  return {origine.Debut().value_or(0), fin.DateFin()};
+}
+
+// Ways out.
+
+void Frm_ElementsContrat::Cmd_Ok_Click() {
+  Avis avis = gardes_.AvantConfirmation();
+  if (avis == Avis::Passe) avis = enregistrement_.Ecrire_Donnees();
+  if (avis == Avis::Reste) return;
+  if (avis == Avis::Passe) {
+    const screen::Attente attente(*this);
+    enregistrement_.Maj_Missions();
+    enregistrement_.Maj_Index();
+    cree_ = dossier_->ModeCreation;
+  } else {
+    enregistrement_.Abandonner();
+  }
+  Refermer();
+}
+
+void Frm_ElementsContrat::Cmd_Retour_Click() {
+  if (dossier_->ModeCreation) {
+    QuitterCreation();
+    return;
+  }
+  {
+    screen::Attente attente(*this);
+    for (Onglet* const onglet : onglets_) onglet->Ecrire(false);
+    attente.Finir();
+  }
+  if (!session_.DroitComplet() || ProposerEnregistrement()) Refermer();
+}
+
+void Frm_ElementsContrat::QuitterCreation() {
+  if (session_.DroitComplet() && MessageBox("Etes-vous sûr de vouloir quitter cette création ?",
+                                            Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+    return;
+  }
+  enregistrement_.Abandonner();
+  Refermer();
+}
+
+bool Frm_ElementsContrat::ProposerEnregistrement() {
+  if (!dossier_->Modifie()) return !paie.RibManquant("paiment");
+  Services().curseur.Bip();
+  switch (MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
+                     Boutons::OuiNonAnnuler, Icone::Exclamation)) {
+    case Reponse::Oui: {
+      if (gardes_.EnQuittant() != Avis::Passe) return false;
+      screen::Attente attente(*this);
+      if (!enregistrement_.Ecrire_Existant()) return false;
+      enregistrement_.Maj_Index();
+      attente.Finir();
+      return true;
+    }
+    case Reponse::Non:
+      return !paie.ModePaiementChange() || !paie.RibManquant("paiment");
+    default:
+      return false;
+  }
+}
+
+void Frm_ElementsContrat::Refermer() {
+  sortieAccordee_ = true;
+  for (Onglet* const onglet : onglets_) onglet->Vider();
+  Hide();
 }
 
 }  // namespace editor

@@ -1,29 +1,30 @@
 #pragma once
-// The modal editor of one contract: the frame round five tabs. It prepares and releases them, loads
-// each tab on its first visit, and decides on OK and Retour what is checked and written. The tabs
-// are objects of their own; saving stands in enregistrement.h.
+// The modal editor of one contract: the frame round a row of five tabs. A caller opens a contract
+// or begins a new one in one call, shows the form, and asks what became of it:
+//
+//   editeur.Ouvrir("00001001");        or   editeur.Creer();
+//   editeur.ShowModal();                    editeur.ShowModal();
+//                                           if (editeur.Cree()) use editeur.Dossier()
 //
 // The editor stays loaded between contracts: its own ways out only clear and hide it. What it works
-// on is the session's ItemContrat.
+// on is its dossier, which stands until the next opening. What is checked on the way out is in
+// gardes.h, what is stored in enregistrement.h.
 //
-// Invariant: FermetureAutorisee is 1 only between a way out that was granted and the next opening;
-// with any other value closing the frame is refused.
+// Invariant: the frame's box closes the editor only after a way out was granted.
 
+#include <array>
+#include <optional>
 #include <string>
 
-#include "data/citem.h"
 #include "editor/enregistrement.h"
+#include "editor/gardes.h"
 #include "editor/onglet_caracteristiques.h"
 #include "editor/onglet_conges.h"
 #include "editor/onglet_fin.h"
 #include "editor/onglet_origine.h"
 #include "editor/onglet_paie.h"
 #include "rules/chevauchement.h"
-#include "screen/attente.h"
-#include "screen/form.h"
 #include "session/aide.h"
-#include "session/droits.h"
-#include "session/session.h"
 
 namespace editor {
 
@@ -31,59 +32,32 @@ namespace editor {
 enum NumeroOnglet { Origine, Caracteristiques, ElementsPaie, DroitsConges, FinContrat };
 
 class Frm_ElementsContrat : public screen::Form {
- public:
-  // Form_Load: acts on the session's ModeCreation.
-  Frm_ElementsContrat(screen::Platform& platform, session::Session& session);
-  ~Frm_ElementsContrat() override;
+  // Before the tabs, which tie their fields to the session while they are made.
+  session::Session& session_;
+  std::optional<session::Dossier> dossier_;
 
-  // What the contract list calls, in its order.
-  void DroitsUtilisateur(const session::Droits& droits);
-  void InitElementContrat();
-  void init();
-  void Afficher_Donnees();
-  void Remplir_CombosElement();
+ public:
+  Frm_ElementsContrat(screen::Platform& platform, session::Session& session);
+
+  // Prepares the editor for the contract of that key; an unknown one opens on an empty contract.
+  // When a StoreError rises the editor is to be let go of: it may show half of the contract.
+  void Ouvrir(const std::string& cle);
+  void Creer();
+  // The creation went through to the end: its contract stands under the dossier's key.
+  bool Cree() const { return cree_; }
 
   session::Session& Session() const { return session_; }
-  const session::Droits& Droits() const { return *droits_; }
-  bool DroitComplet() const { return droit_.Complet(); }
+  session::Dossier& Dossier() { return *dossier_; }
+  const session::Dossier& Dossier() const { return *dossier_; }
 
-  // The contract as it stands on the screen, for the rules. The end date of a contract on file is
-  // the one on file: nothing on the screen changes it.
+  // The contract as it stands on the screen, for the rules.
   rules::Portee Portee() const;
   rules::Dates Dates() const;
-  bool ConventionParticuliers() const;
-  // Verif_SuppDateFin on these: shows the refusal. True when the end date may stand.
-  bool AccepterDateFin();
 
-  // False while the fields are filled or cleared by program: change handlers do nothing then.
-  bool EvenementsActifs = false;
-  // 1: closing may go on.
-  int FermetureAutorisee = 0;
-  // Ecrire_Ong1 and its like check and give messages; otherwise they copy silently.
-  bool EcritureVerifiee = false;
-  bool ValidationEnCours = false;
-  // The last change of the end date was refused.
-  bool DateFinRefusee = false;
-  // The link records of this contract are written already.
-  bool LiensDejaCrees = false;
-  // The follow-up of the contract was changed in this opening.
-  bool SuiviModifie = false;
-  // A tab's fields have been filled from the contract. The first tab always is.
-  bool Ong2Charge = false;
-  bool Ong3Charge = false;
-  bool Ong4Charge = false;
-  bool Ong5Charge = false;
-  // Attribute 58 as it stood at opening.
-  std::string PeriodeBulletinInitiale;
-  // The end of the contract in the way, and the neighbours' dates, from the last overlap check.
-  rules::Voisinage Voisins;
-  // One attribute for each amendment added in this editing.
-  data::CItem ClesAvenants;
-  // Rows of code, label and kind: the activities that Cbo_Activite offers.
-  data::CItem ListeActivites;
-  // Items of TABLES.
-  data::CItem ItemCarteOrange;
-  data::CItem ItemFinContrat;
+  // The tabs in their order, on which OK, leaving, saving and clearing work alike.
+  const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
+  // Tells every tab the agreement that stands in its box.
+  void AnnoncerConvention();
 
   screen::Label Etq_Aidant{*this, "Etq_Aidant"};
   screen::Label Etq_CodeAidant{*this, "Etq_CodeAidant"};
@@ -107,47 +81,31 @@ class Frm_ElementsContrat : public screen::Form {
   screen::MenuItem Mnu_Sommaire{*this, "Mnu_Sommaire", "Aide KORVALDIS"};
 
  protected:
-  bool QueryUnload() override { return FermetureAutorisee == 1; }
+  bool QueryUnload() override { return sortieAccordee_; }
   void Activate() override;
   void MouseDown(int bouton) override;
 
  private:
-  void LierChamps();
-  void OuvrirFichiers();
-  void DesinitElementContrat();
-  void Remplir_Activites();
-  void Vider_Donnees();
-
+  void Commencer();
+  void SelonDroits();
+  void SelonEntite();
   void Ong_Contrat_Click(int ancien);
-  void ActiverActivites();
-  bool BulletinAFacturer();
-  void MontrerParts();
 
   void Cmd_Ok_Click();
-  bool Verifier();
-  // The overlap check: true when the confirmation goes on.
-  bool AccepterDates();
-  void Mnu_Sommaire_Click();
-
   void Cmd_Retour_Click();
   void QuitterCreation();
-  // Gives the new contract up: what an interrupted save has stored of it is cancelled.
-  void AbandonnerCreation();
+  // True when the editor may close.
   bool ProposerEnregistrement();
-  bool ModePaiementChange() const;
-  bool RibManquant(const char* modePaiement);
-  bool EcrireEnQuittant();
-
   // Clears and hides the editor: every granted way out ends here.
   void Refermer();
 
-  session::Session& session_;
-  const session::Droits* droits_ = &session::SansDroits;
-  session::Droit droit_;
+  bool sortieAccordee_ = false;
+  bool cree_ = false;
+  bool combosRemplis_ = false;
+  std::array<Onglet*, 5> onglets_{&origine, &caracteristiques, &paie, &conges, &fin};
   session::AideEnLigne aide_;
-  // The nomenclature of professions, held open by the editor.
-  data::DbFile F_PCS_;
-  Enregistrement enregistrement_{*this};
+  Gardes gardes_{*this};
+  Enregistrement enregistrement_{*this, gardes_};
 };
 
 }  // namespace editor

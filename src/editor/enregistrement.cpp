@@ -1,55 +1,24 @@
 #include "editor/enregistrement.h"
 
-#include <vector>
-
-#include "data/cles.h"
-#include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
+#include "data/requete.h"
+#include "dialogs/frm_reprise.h"
 #include "editor/editeur.h"
+#include "editor/evenement_dsn.h"
+#include "rules/reprise.h"
 
 namespace editor {
 
 namespace {
 
+namespace C = data::Contrat;
+using screen::Boutons, screen::Icone;
+
 constexpr const char* FinSansBulletin =
     "Une date de fin de contrat a été créée, veuillez arrêter de travailler sur cet ordinateur et "
     "merci d'appeler KORVALDIS.";
-
-// Takes the next contract number of a carer: one given back before, else the one after the highest.
-// What stands among those given back and is no number is passed over.
-std::string prendreNumero(data::CItem& aidant) {
-  using namespace data::CivilAidant;
-  while (!aidant.Vue(NumerosLibres, 1).empty()) {
-    const long long libre = data::entier(aidant.Vue(NumerosLibres, 1));
-    aidant.Delete(NumerosLibres, 1);
-    if (libre >= 1 && libre <= data::DernierNumeroPossible) {
-      return data::numeroContrat(static_cast<long>(libre));
-    }
-  }
-  std::string numero =
-      data::numeroContrat(static_cast<long>(data::entier(aidant.Vue(DernierNumero))) + 1);
-  aidant.Set(DernierNumero, numero);
-  return numero;
-}
-
-// The number is taken, whichever way it was given.
-void compterNumero(data::CItem& aidant, const std::string& numero) {
-  using namespace data::CivilAidant;
-  for (int v = aidant.DCount(NumerosLibres); v >= 1; --v) {
-    if (aidant.Vue(NumerosLibres, v) == numero) aidant.Delete(NumerosLibres, v);
-  }
-  if (data::entier(aidant.Vue(DernierNumero)) < data::entier(numero)) {
-    aidant.Set(DernierNumero, numero);
-  }
-}
-
-std::string enumere(const std::vector<std::string>& numeros) {
-  std::string texte;
-  for (const auto& numero : numeros) texte += (texte.empty() ? "" : ", ") + numero;
-  return texte;
-}
 
 // Reads an item, or obtains it when there is none. True when it stood already.
 bool lireOuObtenir(const data::DbFile& fichier, const std::string& cle, data::CItem& item) {
@@ -58,236 +27,230 @@ bool lireOuObtenir(const data::DbFile& fichier, const std::string& cle, data::CI
   return false;
 }
 
+std::string nomIndex(std::string_view prefixe, const data::CItem& contrat) {
+  return std::string(prefixe) + contrat(C::Association) + contrat(C::Convention);
+}
+
 }  // namespace
 
-void Enregistrement::Commencer() {
-  reprise_.reset();
-  numeroEcrit_.clear();
-  numeroTente_.clear();
-  texteTente_.clear();
-}
-
-bool Enregistrement::Ecrire_Donnees() {
-  session::Session& s = editeur_.Session();
-  const auto fin = editeur_.Dates().fin;
-  const std::string finEcran = fin ? std::to_string(*fin) : "";
-  editeur_.DateFinRefusee = false;
-  if (finEcran != s.ItemContrat.Vue(data::Contrat::DateFin) && !editeur_.AccepterDateFin()) {
-    return false;
-  }
-  if (!editeur_.origine.Ecrire_Ong1()) return false;
-  if (s.ModeCreation) return Ecrire_Nouveau();
+Avis Enregistrement::Ecrire_Donnees() {
+  if (const Avis avis = gardes_.AvantEcriture(); avis != Avis::Passe) return avis;
+  if (editeur_.Dossier().ModeCreation) return Ecrire_Nouveau();
   // What is on file stays as written when it does not read back soundly: the user has been told.
   Ecrire_Existant();
-  s.CleContratCourant = editeur_.Etq_CodeAidant.Libelle() + editeur_.origine.Txt_NumContrat.Text();
-  return true;
+  return Avis::Passe;
 }
 
-bool Enregistrement::Ecrire_Nouveau() {
-  session::Session& s = editeur_.Session();
-  const std::string clePrecedent = Proposer_Reprise();
-  // Chosen after the dialog, which may stand for long: other stations give numbers meanwhile.
-  const std::string numero = Choisir_Numero();
-  if (numero.empty()) return false;
-  const std::string cle = editeur_.Etq_CodeAidant.Libelle() + numero;
-  if (reprise_ && reprise_->cle != clePrecedent) Defaire_Reprise();
-  if (!clePrecedent.empty()) Reporter_Conges(clePrecedent, cle);
-  Maj_EvenementDSN(cle);
-  Ecrire_Contrat(cle);
-  numeroEcrit_ = numero;
-  s.CleContratCourant = cle;
-  Marquer_Suivi();
-  s.ItemCivilAidant.DBWriteU();
-  Ecrire_Tte();
-  if (!Relire(cle)) return true;
-  if (data::estParticulierEmployeur(s.ItemContrat) &&
-      s.ItemCivilAidant.Vue(data::CivilAidant::PremiereEmbauche02).empty()) {
-    s.ItemCivilAidant.Set(data::CivilAidant::PremiereEmbauche02,
-                          s.ItemContrat.Vue(data::Contrat::DateDebut));
-    s.ItemCivilAidant.DBWriteU();
+Avis Enregistrement::Ecrire_Nouveau() {
+  const BlocCreation::Reprise reprise = Proposer_Reprise();
+  BlocCreation bloc(editeur_.Dossier(), editeur_.Portee(), editeur_.Dates());
+  if (!bloc.Stocker(reprise)) {
+    if (bloc.Refus().empty()) return gardes_.Chevauchement(bloc.Voisins());
+    editeur_.MessageBox(bloc.Refus(), Boutons::Ok, Icone::Exclamation);
+    return Avis::Reste;
   }
-  return true;
+  if (!bloc.Avis().empty()) editeur_.MessageBox(bloc.Avis(), Boutons::Ok, Icone::Information);
+  Marquer_Suivi();
+  Ecrire_Tte();
+  if (Relire()) Maj_PremiereEmbauche();
+  return Avis::Passe;
 }
 
 bool Enregistrement::Ecrire_Existant() {
-  session::Session& s = editeur_.Session();
-  const std::string cle =
-      editeur_.Etq_CodeAidant.Libelle() + editeur_.origine.Txt_NumContrat.Text();
-  Maj_EvenementDSN(cle);
-  s.ItemContrat.DBWriteU();
+  session::Dossier& dossier = editeur_.Dossier();
+  Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
+  dossier.ItemContrat.DBWriteU();
   Marquer_Suivi();
   Ecrire_Tte();
-  s.CreationAbandonnee = false;
-  s.ConflitContrat = false;
-  return Relire(cle);
+  return Relire();
 }
 
-std::string Enregistrement::Choisir_Numero() {
-  session::Session& s = editeur_.Session();
-  data::CItem& aidant = s.ItemCivilAidant;
-  if (!s.F_CIVILAIDANT.Lire(editeur_.Etq_CodeAidant.Libelle(), aidant)) {
-    editeur_.MessageBox("Cet aidant n'existe pas.", screen::Boutons::Ok,
-                        screen::Icone::Exclamation);
-    return {};
+// The latest contract that ended before the new one starts, with the same employer.
+std::optional<data::CItem> Enregistrement::Chercher_ContratPrecedent() const {
+  using namespace data;
+  const session::Dossier& dossier = editeur_.Dossier();
+  const CItem& contrat = dossier.ItemContrat;
+  const CItem lignes = Requete(fichier::CONTRAT, "SELECT")
+                           .Avec(C::Convention, "<>", citer(ConventionParticuliers))
+                           .Avec(C::DateFin, "<>", citer(""))
+                           .Et("<", citer(contrat.Vue(C::DateDebut)))
+                           .Avec(C::Annule, "=", citer(""))
+                           .Avec(C::Employeur, "=", citer(contrat.Vue(C::Employeur)))
+                           .Avec(Cle, "=", citerDebut(dossier.Session.CodeAidant))
+                           .ParDecr(C::DateFin)
+                           .Lire(*dossier.Session.Db, {Cle});
+  CItem precedent;
+  if (lignes.Vide() || !dossier.Session.F_CONTRAT.Lire(lignes(1, 1), precedent)) {
+    return std::nullopt;
   }
-  if (!numeroEcrit_.empty()) {
-    compterNumero(aidant, numeroEcrit_);
-    return numeroEcrit_;
-  }
-  std::vector<std::string> pris;
-  std::string numero = prendreNumero(aidant);
-  while (numero.size() <= data::LongueurNumero && !NumeroLibre(numero)) {
-    pris.push_back(numero);
-    numero = prendreNumero(aidant);
-  }
-  if (numero.size() > data::LongueurNumero) {
-    editeur_.MessageBox("Cet aidant n'a plus de numéro de contrat libre : 999 ont été donnés.",
-                        screen::Boutons::Ok, screen::Icone::Exclamation);
-    return {};
-  }
-  if (!pris.empty()) {
-    editeur_.MessageBox("Un contrat de cet aidant porte déjà le numéro " + enumere(pris) +
-                            " : le nouveau contrat prend le numéro " + numero + ".",
-                        screen::Boutons::Ok, screen::Icone::Information);
-  }
-  return numero;
+  return precedent;
 }
 
-bool Enregistrement::NumeroLibre(const std::string& numero) const {
-  data::CItem contrat;
-  const std::string cle = editeur_.Etq_CodeAidant.Libelle() + numero;
-  if (!editeur_.Session().F_CONTRAT.Lire(cle, contrat)) return true;
-  return numero == numeroTente_ && contrat.Text() == texteTente_;
-}
+// Shows the previous contract, if any, and what the user takes over of it.
+BlocCreation::Reprise Enregistrement::Proposer_Reprise() {
+  session::Dossier& dossier = editeur_.Dossier();
+  session::Session& s = dossier.Session;
+  if (dossier.Particuliers()) return {};
+  const auto precedent = Chercher_ContratPrecedent();
+  if (!precedent) return {};
+  const rules::Reprise r = rules::proposerReprise(*precedent, dossier.ItemContrat,
+                                                  editeur_.caracteristiques.GrilleChoisie());
+  const auto date = [&](const std::string& jour) { return s.Lib.DateFromInternal(jour); };
+  dialogs::DonneesReprise d;
+  d.aidant = "Aidant : " + s.CodeAidant + " " + s.NomPrenomAidant;
+  d.debut = date((*precedent)(C::DateDebut));
+  d.fin = date((*precedent)(C::DateFin));
+  d.determinee = precedent->Vue(C::Type) == "D";
+  d.departGrille = date(r.grille.jour);
+  d.joursGrille = r.grille.suspension;
+  d.referenceGrille = date(r.grille.reference);
+  d.departAnciennete = date(r.anciennete.jour);
+  d.joursAnciennete = r.anciennete.suspension;
+  d.referenceAnciennete = date(r.anciennete.reference);
+  d.congesAuMois = precedent->Vue(C::CongesAuMois) == "1";
+  d.avecGrille = r.avecGrille;
+  d.grilleProposee = date(r.grille.propose);
+  d.ancienneteProposee = date(r.anciennete.propose);
+  data::CItem calcul;
+  d.congesReprenables =
+      s.F_DETAILCALCUL.Lire((*precedent)(0) + (*precedent)(C::DernierBulletin), calcul);
 
-void Enregistrement::Ecrire_Contrat(const std::string& cle) {
-  session::Session& s = editeur_.Session();
-  const std::string numero = cle.substr(data::LongueurCodeAidant);
-  data::CItem ecriture = s.F_CONTRAT.NewItem(cle);
-  ecriture.SetText(s.ItemContrat.Text());
-  // Test and write in one block: a contract that another station has just stored stays.
-  s.Db->Stockage().EnUnBloc([&] {
-    if (numero != numeroEcrit_ && !NumeroLibre(numero)) {
-      throw data::StoreError(data::NumeroErreur::Occupe,
-                             "Un autre poste vient de donner le numéro " + numero +
-                                 " à un contrat de cet aidant. Validez de nouveau.",
-                             s.F_CONTRAT.Nom(), cle);
-    }
-    numeroTente_ = numero;
-    texteTente_ = ecriture.Text();
-    ecriture.DBWriteU();
-  });
+  dialogs::Frm_Reprise reprise(editeur_.Services(), dossier);
+  reprise.Afficher(d);
+  reprise.ShowModal();
+  if (reprise.RepriseRefusee) return {};
+  return {reprise.RepriseCalcul == "O" ? (*precedent)(0) : "",
+          s.Lib.DateToInternal(reprise.NouvelleDateGrille),
+          s.Lib.DateToInternal(reprise.NouvelleDateAnciennete)};
 }
 
 void Enregistrement::Abandonner() {
-  session::Session& s = editeur_.Session();
-  if (reprise_) Defaire_Reprise();
-  const std::string code = editeur_.Etq_CodeAidant.Libelle();
-  data::CItem contrat;
-  if (numeroTente_.empty() || !s.F_CONTRAT.Lire(code + numeroTente_, contrat)) return;
-  if (numeroTente_ != numeroEcrit_ && contrat.Text() != texteTente_) return;
-  contrat.Set(data::Contrat::Annule, "O");
-  contrat.Set(data::Contrat::CongesReprisDe, "");
-  s.ItemContrat = contrat;
-  Maj_EvenementDSN(contrat(0));
-  contrat.DBWriteU();
-  if (s.F_CIVILAIDANT.Lire(code, s.ItemCivilAidant)) {
-    compterNumero(s.ItemCivilAidant, numeroTente_);
-    s.ItemCivilAidant.DBWriteU();
+  session::Dossier& dossier = editeur_.Dossier();
+  if (dossier.Tente.numero.empty()) return;
+  try {
+    BlocCreation(dossier, editeur_.Portee(), editeur_.Dates()).Annuler();
+  } catch (const data::StoreError& erreur) {
+    editeur_.MessageBox("Le contrat " + dossier.Tente.numero +
+                            " a été enregistré en partie et n'a pas pu être annulé. Il reste dans "
+                            "la liste des contrats : supprimez-le quand l'enregistrement "
+                            "fonctionnera de nouveau.\r\n\r\n" +
+                            erreur.what(),
+                        Boutons::Ok, Icone::Exclamation);
   }
 }
 
 // That the carer stands in the file is the whole information: the follow-up must be refreshed.
 void Enregistrement::Marquer_Suivi() {
-  session::Session& s = editeur_.Session();
-  if (data::estParticulierEmployeur(s.ItemContrat)) return;
-  if (!lireOuObtenir(s.F_ACTUSUIVICONTRAT, editeur_.Etq_CodeAidant.Libelle(),
-                     s.ItemActuSuiviContrat)) {
-    s.ItemActuSuiviContrat.DBWrite();
+  const session::Dossier& dossier = editeur_.Dossier();
+  if (dossier.Particuliers()) return;
+  data::CItem marque;
+  if (!lireOuObtenir(dossier.Session.F_ACTUSUIVICONTRAT, dossier.Session.CodeAidant, marque)) {
+    marque.DBWrite();
   }
 }
 
 void Enregistrement::Ecrire_Tte() {
-  session::Session& s = editeur_.Session();
-  if (s.ItemAidantTte.Vue(0).empty()) return;
+  session::Dossier& dossier = editeur_.Dossier();
+  const data::CItem& suivi = dossier.ItemAidantTte;
+  if (suivi.Vue(0).empty()) return;
   data::CItem ecriture;
-  lireOuObtenir(s.F_AIDANTTTE, s.ItemAidantTte(0), ecriture);
-  ecriture.SetText(s.ItemAidantTte.Text());
+  lireOuObtenir(dossier.Session.F_AIDANTTTE, suivi(0), ecriture);
+  ecriture.SetText(suivi.Text());
   ecriture.DBWrite();
-  s.ItemAidantTte = data::CItem();
+  dossier.ItemAidantTte = data::CItem();
 }
 
 // What was stored is what counts: an end date without the period of the last payslip is never
 // sound.
-bool Enregistrement::Relire(const std::string& cle) {
-  session::Session& s = editeur_.Session();
-  s.ItemContrat = s.F_CONTRAT.Read(cle);
-  if (!s.ItemContrat.Vue(data::Contrat::DernierBulletin).empty() ||
-      s.ItemContrat.Vue(data::Contrat::DateFin).empty()) {
-    return true;
-  }
-  editeur_.MessageBox(FinSansBulletin, screen::Boutons::Ok, screen::Icone::Aucune, "");
+bool Enregistrement::Relire() {
+  const session::Dossier& dossier = editeur_.Dossier();
+  const data::CItem relu = dossier.Session.F_CONTRAT.Read(dossier.CleContratCourant);
+  if (!relu.Vue(C::DernierBulletin).empty() || relu.Vue(C::DateFin).empty()) return true;
+  editeur_.MessageBox(FinSansBulletin, Boutons::Ok, Icone::Aucune, "");
   return false;
 }
 
+void Enregistrement::Maj_PremiereEmbauche() {
+  session::Dossier& dossier = editeur_.Dossier();
+  if (!dossier.Particuliers()) return;
+  dossier.Session.Db->Stockage().EnUnBloc([&] {
+    data::CItem aidant = dossier.Session.F_CIVILAIDANT.Read(dossier.Session.CodeAidant);
+    if (!aidant.Vue(data::CivilAidant::PremiereEmbauche02).empty()) return;
+    dossier.Tente.premiereEmbauche = true;
+    aidant.Set(data::CivilAidant::PremiereEmbauche02, dossier.ItemContrat.Vue(C::DateDebut));
+    aidant.DBWriteU();
+  });
+}
+
 void Enregistrement::Maj_Missions() {
-  session::Session& s = editeur_.Session();
-  const auto fin = editeur_.Dates().fin;
-  if (!fin || s.ItemContrat.Vue(data::Contrat::Type) != "I") return;
-  data::CItem& missions = s.ItemMissionsAidant;
-  if (!s.F_MISSIONSAIDANT.Lire(editeur_.Etq_CodeAidant.Libelle(), missions)) return;
-  const std::string avant = missions.Text();
-  for (int v = 1; !missions.Vue(data::MissionsAidant::Associations, v).empty(); ++v) {
-    const std::string finMission = missions(data::MissionsAidant::Fins, v);
-    if (missions.Vue(data::MissionsAidant::Associations, v) ==
-            s.ItemContrat.Vue(data::Contrat::Association) &&
-        (finMission.empty() || data::entier(finMission) > *fin)) {
-      missions.Set(data::MissionsAidant::Fins, v, std::to_string(*fin));
+  const session::Dossier& dossier = editeur_.Dossier();
+  const auto fin = editeur_.fin.DateFin();
+  if (!fin || dossier.ItemContrat.Vue(C::Type) != "I") return;
+  using namespace data;
+  dossier.Session.Db->Stockage().EnUnBloc([&] {
+    CItem missions;
+    if (!dossier.Session.F_MISSIONSAIDANT.Lire(dossier.Session.CodeAidant, missions)) return;
+    const std::string avant = missions.Text();
+    for (int v = 1; !missions.Vue(MissionsAidant::Associations, v).empty(); ++v) {
+      const std::string finMission = missions(MissionsAidant::Fins, v);
+      if (missions.Vue(MissionsAidant::Associations, v) ==
+              dossier.ItemContrat.Vue(C::Association) &&
+          (finMission.empty() || entier(finMission) > *fin)) {
+        missions.Set(MissionsAidant::Fins, v, std::to_string(*fin));
+      }
     }
+    if (missions.Text() != avant) missions.DBWriteU();
+  });
+}
+
+void Enregistrement::Maj_Index() {
+  if (editeur_.Dossier().ModeCreation) {
+    Maj_IndexCreation();
+  } else {
+    Maj_IndexAvenants();
   }
-  if (missions.Text() != avant) missions.DBWriteU();
 }
 
 void Enregistrement::Maj_IndexCreation() {
-  session::Session& s = editeur_.Session();
-  const data::CItem& contrat = s.ItemContrat;
-  const std::string code = editeur_.Etq_CodeAidant.Libelle();
-  if (data::estParticulierEmployeur(contrat)) {
-    data::CItem& inverse = s.ItemContratInv;
-    lireOuObtenir(s.F_CONTRATINV, code + contrat(data::Contrat::Employeur), inverse);
-    const int nombre = inverse.DCount(data::ContratInv::Numeros);
-    bool present = false;
-    for (int v = 1; v <= nombre && !present; ++v) {
-      present = inverse.Vue(data::ContratInv::Numeros, v) == numeroEcrit_;
-    }
-    if (!present) inverse.Set(data::ContratInv::Numeros, nombre + 1, numeroEcrit_);
-    inverse.DBWriteU();
+  session::Dossier& dossier = editeur_.Dossier();
+  session::Session& s = dossier.Session;
+  const data::CItem& contrat = dossier.ItemContrat;
+  if (dossier.Particuliers()) {
+    dossier.Tente.inverse = s.CodeAidant + contrat(C::Employeur);
+    s.Db->Stockage().EnUnBloc([&] {
+      data::CItem inverse;
+      lireOuObtenir(s.F_CONTRATINV, dossier.Tente.inverse, inverse);
+      const int nombre = inverse.DCount(data::ContratInv::Numeros);
+      int place = 1;
+      while (place <= nombre &&
+             inverse.Vue(data::ContratInv::Numeros, place) != dossier.Tente.numero) {
+        ++place;
+      }
+      inverse.Set(data::ContratInv::Numeros, place, dossier.Tente.numero);
+      inverse.DBWriteU();
+    });
   }
-  if (editeur_.LiensDejaCrees) return;
-  const std::string portee =
-      contrat(data::Contrat::Association) + contrat(data::Contrat::Convention);
-  const std::string index = std::string(data::fichier::PrefixeContrats) + portee;
+  const std::string index = nomIndex(data::fichier::PrefixeContrats, contrat);
   CreationLien(data::fichier::LIENCONTRAT, index);
-  CreationLien(data::fichier::LIENAVENANT, std::string(data::fichier::PrefixeAvenants) + portee);
-  s.Db->OpenFile(index).NewItem(code + numeroEcrit_).DBWrite();
+  CreationLien(data::fichier::LIENAVENANT, nomIndex(data::fichier::PrefixeAvenants, contrat));
+  dossier.Tente.index = index;
+  s.Db->OpenFile(index).NewItem(dossier.CleContratCourant).DBWrite();
 }
 
 void Enregistrement::Maj_IndexAvenants() {
-  session::Session& s = editeur_.Session();
-  const data::CItem& cles = editeur_.ClesAvenants;
+  const session::Dossier& dossier = editeur_.Dossier();
+  const data::CItem& cles = dossier.ClesAvenants;
   if (cles.Vue(1).empty()) return;
-  const std::string index = std::string(data::fichier::PrefixeAvenants) +
-                            s.ItemContrat(data::Contrat::Association) +
-                            s.ItemContrat(data::Contrat::Convention);
+  const std::string index = nomIndex(data::fichier::PrefixeAvenants, dossier.ItemContrat);
   CreationLien(data::fichier::LIENAVENANT, index);
-  const data::DbFile fichier = s.Db->OpenFile(index);
+  const data::DbFile fichier = dossier.Session.Db->OpenFile(index);
   for (int i = 1; !cles.Vue(i).empty(); ++i) fichier.NewItem(cles(i)).DBWrite();
 }
 
 // Says once that the index file of that name exists.
-void Enregistrement::CreationLien(std::string_view fichier, const std::string& nomIndex) {
+void Enregistrement::CreationLien(std::string_view fichier, const std::string& index) {
   data::CItem lien;
-  if (!lireOuObtenir(editeur_.Session().Db->OpenFile(fichier), nomIndex, lien)) lien.DBWrite();
+  if (!lireOuObtenir(editeur_.Session().Db->OpenFile(fichier), index, lien)) lien.DBWrite();
 }
 
 }  // namespace editor

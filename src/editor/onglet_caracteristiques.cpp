@@ -1,5 +1,10 @@
 #include "editor/onglet_caracteristiques.h"
 
+#include <algorithm>
+
+#include "data/layouts/fichiers.h"
+#include "data/layouts/voisins.h"
+#include "data/requete.h"
 #include "editor/editeur.h"
 
 namespace editor {
@@ -9,77 +14,84 @@ namespace {
 // Row n is stored as n + 1.
 constexpr const char* Frequences[] = {"Hebdo", "Quatorzaine", "Mensuelle", "Annuelle"};
 
+constexpr std::string_view ConventionsDroitPublic[] = {"07", "08", "09"};
+
+// The profession proposed: home help, for an entity or for a private employer.
+constexpr const char* CategoriePCS = "56";
+constexpr const char* FonctionEntite = "563b";
+constexpr const char* FonctionParticulier = "563c";
+
 }  // namespace
 
 OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
-    : Onglet(editeur, Caracteristiques, "Cdr_Ong2"),
-      Etq_AvenantContrat(editeur, "Etq_AvenantContrat", "Numéro Avenant", &Page),
-      Txt_AvenantContrat(editeur, "Txt_AvenantContrat", 3, &Page),
-      Bdh_Avenant(editeur, "Bdh_Avenant", &Page),
-      Etq_DatEffetContrat(editeur, "Etq_DatEffetContrat", "Date d'effet", &Page),
-      Txt_DatEffetContrat(editeur, "Txt_DatEffetContrat", 10, &Page),
-      Cmd_AjoutAvenant(editeur, "Cmd_AjoutAvenant", "Ajouter", &Page),
-      Cmd_OKAvenant(editeur, "Cmd_OKAvenant", "OK", &Page),
-      Cmd_AnnulerAvenant(editeur, "Cmd_AnnulerAvenant", "Annuler", &Page),
-      Cmd_ImpAvenant(editeur, "Cmd_ImpAvenant", "Imprimer", &Page),
-      Etq_QualifContrat(editeur, "Etq_QualifContrat", "Qualif. Prof.", &Page),
-      Cbo_QualifContrat(editeur, "Cbo_QualifContrat", true, &Page),
-      Cmd_QualifPro(editeur, "Cmd_QualifPro", "Ajouter Qualification", &Page),
-      Etq_RegroupBudget(editeur, "Etq_RegroupBudget", "Regroup. budget", &Page),
-      Txt_RegroupBudget(editeur, "Txt_RegroupBudget", 0, &Page),
-      Cdr_PCS(editeur, "Cdr_PCS", "Nomenclature P.C.S. ", &Page),
-      Etq_CategPCSContrat(editeur, "Etq_CategPCSContrat", "Catégorie", &Cdr_PCS),
-      Cbo_CategPCSContrat(editeur, "Cbo_CategPCSContrat", true, &Cdr_PCS),
-      Etq_CodPCSContrat(editeur, "Etq_CodPCSContrat", "Code P.C.S.", &Cdr_PCS),
-      Txt_CodPCSContrat(editeur, "Txt_CodPCSContrat", 4, &Cdr_PCS),
-      Etq_FoncPCSContrat(editeur, "Etq_FoncPCSContrat", "Fonction", &Cdr_PCS),
-      Cbo_FoncPCSContrat(editeur, "Cbo_FoncPCSContrat", true, &Cdr_PCS),
-      Etq_DureeWContrat(editeur, "Etq_DureeWContrat", "Durée de travail", &Page),
-      Txt_DureeWContrat(editeur, "Txt_DureeWContrat", 8, &Page),
-      Etq_FreqWContrat(editeur, "Etq_FreqWContrat", "Fréquence", &Page),
-      Cbo_FreqWContrat(editeur, "Cbo_FreqWContrat", false, &Page),
-      Cdr_Lissage(editeur, "Cdr_Lissage", "Accord de modulation", &Page),
-      Cac_Lissage(editeur, "Cac_Lissage", "Lissage des rémunérations", &Cdr_Lissage),
-      Cac_RetraitHeuresNeg(editeur, "Cac_RetraitHeuresNeg", "Retrait des heures négatives",
-                           &Cdr_Lissage),
-      Cac_PaiementHeuresPos(editeur, "Cac_PaiementHeuresPos", "Paiement des heures positives",
-                            &Cdr_Lissage),
-      Cmd_SuiviAnnuel(editeur, "Cmd_SuiviAnnuel", "Suivi Contrat", &Cdr_Lissage),
-      Cdr_Grille(editeur, "Cdr_Grille", "Grille", &Page),
-      Etq_GrilleContrat(editeur, "Etq_GrilleContrat", "Grille déroulement de carrière",
-                        &Cdr_Grille),
-      Cbo_GrilleContrat(editeur, "Cbo_GrilleContrat", true, &Cdr_Grille),
-      Etq_DepartGrilContrat(editeur, "Etq_DepartGrilContrat", "Date départ calcul de grille",
-                            &Cdr_Grille),
-      Txt_DepartGrilContrat(editeur, "Txt_DepartGrilContrat", 10, &Cdr_Grille),
-      Etq_JourSusp(editeur, "Etq_JourSusp", "Jours de suspension", &Cdr_Grille),
-      Txt_JourSusp(editeur, "Txt_JourSusp", 8, &Cdr_Grille),
-      Etq_DatReference(editeur, "Etq_DatReference", "Date référence", &Cdr_Grille),
-      Txt_DatReference(editeur, "Txt_DatReference", 10, &Cdr_Grille),
-      Etq_CoefNivContrat(editeur, "Etq_CoefNivContrat", "Coefficient / Niveau", &Cdr_Grille),
-      Txt_CoefNivContrat(editeur, "Txt_CoefNivContrat", 10, &Cdr_Grille),
-      Etq_TauxHorContrat(editeur, "Etq_TauxHorContrat", "Taux horaire", &Cdr_Grille),
-      Txt_TauxHorContrat(editeur, "Txt_TauxHorContrat", 10, &Cdr_Grille),
-      Etq_Categorie(editeur, "Etq_Categorie", "Catégorie", &Cdr_Grille),
-      Txt_Categorie(editeur, "Txt_Categorie", 10, &Cdr_Grille),
-      Cdr_Anciennete(editeur, "Cdr_Anciennete", "Ancienneté", &Page),
-      Etq_DateAnciennete(editeur, "Etq_DateAnciennete", "Date de départ", &Cdr_Anciennete),
-      Txt_DateAnciennete(editeur, "Txt_DateAnciennete", 10, &Cdr_Anciennete),
-      Etq_JourSuspAnc(editeur, "Etq_JourSuspAnc", "Jours de suspension", &Cdr_Anciennete),
-      Txt_JourSuspAnc(editeur, "Txt_JourSuspAnc", 8, &Cdr_Anciennete),
-      Etq_DatReferenceAnc(editeur, "Etq_DatReferenceAnc", "Date référence", &Cdr_Anciennete),
-      Txt_DatReferenceAnc(editeur, "Txt_DatReferenceAnc", 10, &Cdr_Anciennete),
-      Etq_Commentaire(editeur, "Etq_Commentaire", "Commentaires", &Page),
-      Txt_Commentaire(editeur, "Txt_Commentaire", 0, &Page),
-      Txt_Commentaire2(editeur, "Txt_Commentaire2", 0, &Page),
-      Etq_NormCrc(editeur, "Etq_NormCrc", "Numéro de rattachement retraite DADS-U", &Page),
-      Txt_NormCrc(editeur, "Txt_NormCrc", 0, &Page),
-      Cac_ChgtSitAdm(editeur, "Cac_ChgtSitAdm", "Changement de situation administrative", &Page),
-      Etq_CodePop(editeur, "Etq_CodePop", "Code population rattachement prévoyance", &Page),
-      Txt_CodePop(editeur, "Txt_CodePop", 0, &Page),
-      Cmd_ElemDrtPub(editeur, "Cmd_ElemDrtPub", "Eléments droit public", &Page) {
+    : Onglet(editeur, Caracteristiques, "Cdr_Ong2") {
   for (const char* frequence : Frequences) Cbo_FreqWContrat.AddItem(frequence);
   Page.SetEnabled(false);
+}
+
+void OngletCaracteristiques::Afficher_Ong2() {
+  Cmd_AjoutAvenant.SetVisible(!Creation() && Session().DroitComplet());
+  Cmd_AjoutAvenant.SetEnabled(!Creation());
+  Cmd_SuiviAnnuel.SetEnabled(!Creation());
+  if (Creation()) {
+    Bdh_Avenant.SetValue(0);
+    Cbo_GrilleContrat.Clear();
+  } else {
+    Remplir_Grilles(editeur_.origine.Convention());
+  }
+}
+
+void OngletCaracteristiques::SelonDroits(bool complet) {
+  Cmd_OKAvenant.SetVisible(complet);
+  if (!complet) Cmd_AjoutAvenant.SetVisible(false);
+}
+
+void OngletCaracteristiques::Vider_Ong() {
+  screen::Activer({&Etq_DepartGrilContrat, &Txt_DepartGrilContrat}, false);
+  screen::Activer(
+      {&Etq_CoefNivContrat, &Txt_CoefNivContrat, &Etq_TauxHorContrat, &Txt_TauxHorContrat}, true);
+  Cbo_FoncPCSContrat.Clear();
+  Bdh_Avenant.SetValue(0);
+}
+
+void OngletCaracteristiques::SelonConvention(const std::string& convention) {
+  const auto* const fin = std::end(ConventionsDroitPublic);
+  Cmd_ElemDrtPub.SetVisible(std::find(std::begin(ConventionsDroitPublic), fin, convention) != fin);
+}
+
+void OngletCaracteristiques::ProposerSelonConvention(const std::string& convention) {
+  const session::Sourdine::Silence silence(sourdine_);
+  const data::DbFile pcs = Session().Db->OpenFile(data::fichier::PCS);
+  data::CItem categorie;
+  pcs.Lire(CategoriePCS, categorie);
+  Cbo_CategPCSContrat.SetText(categorie.Vue(data::Pcs::Libelle));
+  const std::string code =
+      convention == data::ConventionParticuliers ? FonctionParticulier : FonctionEntite;
+  data::CItem fonction;
+  Txt_CodPCSContrat.SetText(pcs.Lire(code, fonction) ? code : "");
+  Cbo_FoncPCSContrat.SetText(fonction.Vue(data::Pcs::Libelle));
+  Remplir_Grilles(convention);
+}
+
+void OngletCaracteristiques::Remplir_Grilles(const std::string& convention) {
+  using namespace data;
+  const CItem grilles = Requete(fichier::GRILLESCC)
+                            .Avec(Cle, "=", citerDebut(convention))
+                            .Par(GrillesCC::Libelle)
+                            .Lire(*Session().Db, {Cle, GrillesCC::Libelle});
+  Cbo_GrilleContrat.Clear();
+  for (int i = 1; i <= grilles.DCount(); ++i) Cbo_GrilleContrat.AddItem(grilles.Vue(i, 2));
+}
+
+void OngletCaracteristiques::SelonSalaire(bool mensuel, bool production) {
+  if (!mensuel) Cac_Lissage.SetValue(0);
+  screen::Montrer({&Cdr_Lissage, &Cmd_SuiviAnnuel}, mensuel && production);
+}
+
+void OngletCaracteristiques::DebuterLe(const std::string& date) {
+  Txt_DatEffetContrat.SetText(date);
+  Txt_DatEffetContrat.SetEnabled(false);
+  Txt_AvenantContrat.SetText("0");
 }
 
 }  // namespace editor

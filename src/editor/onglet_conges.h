@@ -1,7 +1,7 @@
 #pragma once
 // Fourth tab, "Droits aux congés": the leave counters of the contract, fed by payroll.
 //
-// The fields alone: they hold no contract data yet, and the page takes no user act.
+// Its page takes no user act yet: what stands here follows the first tab.
 
 #include "editor/onglet.h"
 
@@ -11,62 +11,66 @@ class OngletConges : public Onglet {
  public:
   explicit OngletConges(Frm_ElementsContrat& editeur);
 
+  void SelonConvention(const std::string& convention) override;
+
+ private:
   // Leave to use.
-  screen::Label Etq_Periode;
-  screen::Label Etq_PeriodeConges;
-  screen::Frame Cdr_DroitAcquis;
-  screen::Label Etq_JOAcquis;
-  screen::TextField Txt_CPConsoAcqContrat;
-  screen::Label Etq_JORestants;
-  screen::TextField Txt_CPRestConsoContrat;
-  screen::Frame Cdr_CongesPayes;
-  screen::Label Etq_CFAcquis;
-  screen::TextField Txt_CFConsoAcqContrat;
-  screen::Label Etq_CFRestants;
-  screen::TextField Txt_CFRestConsoContrat;
-  screen::Frame Cdr_ValeurJour;
-  screen::Label Etq_Conges_0;
-  screen::Label Etq_Conges_1;
-  screen::Label Etq_Conges_2;
-  screen::TextField Txt_JrOuvrHContrat;
-  screen::TextField Txt_JrOuvreHContrat;
-  screen::Label Etq_Conges_3;
-  screen::TextField Txt_JrOuvrMContrat;
-  screen::TextField Txt_JrOuvreMContrat;
+  screen::Label Etq_Periode{Page, "Etq_Periode", "Période"};
+  screen::Label Etq_PeriodeConges{Page, "Etq_PeriodeConges", ""};
+  screen::Frame Cdr_DroitAcquis{Page, "Cdr_DroitAcquis", "Droits à consommer "};
+  screen::Label Etq_JOAcquis{Cdr_DroitAcquis, "Etq_JOAcquis", "Jours ouvrables acquis"};
+  screen::TextField Txt_CPConsoAcqContrat{Cdr_DroitAcquis, "Txt_CPConsoAcqContrat", 8};
+  screen::Label Etq_JORestants{Cdr_DroitAcquis, "Etq_JORestants", "Jours ouvrables restants"};
+  screen::TextField Txt_CPRestConsoContrat{Cdr_DroitAcquis, "Txt_CPRestConsoContrat", 8};
+  screen::Frame Cdr_CongesPayes{Page, "Cdr_CongesPayes", "Congés pour fractionnement"};
+  screen::Label Etq_CFAcquis{Cdr_CongesPayes, "Etq_CFAcquis", "Jours ouvrables acquis"};
+  screen::TextField Txt_CFConsoAcqContrat{Cdr_CongesPayes, "Txt_CFConsoAcqContrat", 8};
+  screen::Label Etq_CFRestants{Cdr_CongesPayes, "Etq_CFRestants", "Jours ouvrables restants"};
+  screen::TextField Txt_CFRestConsoContrat{Cdr_CongesPayes, "Txt_CFRestConsoContrat", 8};
+  screen::Frame Cdr_ValeurJour{Page, "Cdr_ValeurJour", "Valeur d'une journée"};
+  screen::Label Etq_Conges_0{Cdr_ValeurJour, "Etq_Conges(0)", "Ouvrable"};
+  screen::Label Etq_Conges_1{Cdr_ValeurJour, "Etq_Conges(1)", "Ouvrée"};
+  screen::Label Etq_Conges_2{Cdr_ValeurJour, "Etq_Conges(2)", "- en Heures"};
+  screen::TextField Txt_JrOuvrHContrat{Cdr_ValeurJour, "Txt_JrOuvrHContrat", 8};
+  screen::TextField Txt_JrOuvreHContrat{Cdr_ValeurJour, "Txt_JrOuvreHContrat", 8};
+  screen::Label Etq_Conges_3{Cdr_ValeurJour, "Etq_Conges(3)", "- en Montant"};
+  screen::TextField Txt_JrOuvrMContrat{Cdr_ValeurJour, "Txt_JrOuvrMContrat", 8};
+  screen::TextField Txt_JrOuvreMContrat{Cdr_ValeurJour, "Txt_JrOuvreMContrat", 8};
 
   // Leave being acquired.
-  screen::Frame Cdr_DroitEnCours;
-  screen::Label Etq_CPCoursJ;
-  screen::TextField Txt_CPCoursJContrat;
-  screen::Label Etq_CPCoursHM;
-  screen::TextField Txt_CPCoursHContrat;
-  screen::TextField Txt_CPCoursMContrat;
-  screen::Label Etq_JourAnticipation;
-  screen::TextField Txt_JourAnticipation;
+  screen::Frame Cdr_DroitEnCours{Page, "Cdr_DroitEnCours", "Droits en cours d'acquisition "};
+  screen::Label Etq_CPCoursJ{Cdr_DroitEnCours, "Etq_CPCoursJ", "Jours ouvrables"};
+  screen::TextField Txt_CPCoursJContrat{Cdr_DroitEnCours, "Txt_CPCoursJContrat", 8};
+  screen::Label Etq_CPCoursHM{Cdr_DroitEnCours, "Etq_CPCoursHM",
+                              "Heures                 Montant brut"};
+  screen::TextField Txt_CPCoursHContrat{Cdr_DroitEnCours, "Txt_CPCoursHContrat", 8};
+  screen::TextField Txt_CPCoursMContrat{Cdr_DroitEnCours, "Txt_CPCoursMContrat", 10};
+  screen::Label Etq_JourAnticipation{Page, "Etq_JourAnticipation", "Jours pris par anticipation"};
+  screen::TextField Txt_JourAnticipation{Page, "Txt_JourAnticipation", 8};
 
   // Seniority, notice period, provision.
-  screen::Frame Cdr_CongesAnc;
-  screen::Label Etq_CAAcquis;
-  screen::TextField Txt_CAncAcqContrat;
-  screen::Label Etq_CARestants;
-  screen::TextField Txt_CAncRestContrat;
-  screen::Frame Cdr_DelaiPrev;
-  screen::Label Etq_CDPAcquis;
-  screen::TextField Txt_CDPAcquis;
-  screen::Label Etq_CDPRestants;
-  screen::TextField Txt_CDPRestants;
-  screen::Button Cmd_Detail;
-  screen::Label Etq_ProvisionCP;
-  screen::TextField Txt_ProvisionCP;
-  screen::Label Etq_ProvisionCours;
-  screen::TextField Txt_ProvisionCours;
+  screen::Frame Cdr_CongesAnc{Page, "Cdr_CongesAnc", "Congés d'ancienneté "};
+  screen::Label Etq_CAAcquis{Cdr_CongesAnc, "Etq_CAAcquis", "Jours ouvrables acquis"};
+  screen::TextField Txt_CAncAcqContrat{Cdr_CongesAnc, "Txt_CAncAcqContrat", 8};
+  screen::Label Etq_CARestants{Cdr_CongesAnc, "Etq_CARestants", "Jours ouvrables restants"};
+  screen::TextField Txt_CAncRestContrat{Cdr_CongesAnc, "Txt_CAncRestContrat", 8};
+  screen::Frame Cdr_DelaiPrev{Page, "Cdr_DelaiPrev", "Congé délai prévenance"};
+  screen::Label Etq_CDPAcquis{Cdr_DelaiPrev, "Etq_CDPAcquis", "Jours ouvrables acquis"};
+  screen::TextField Txt_CDPAcquis{Cdr_DelaiPrev, "Txt_CDPAcquis", 8};
+  screen::Label Etq_CDPRestants{Cdr_DelaiPrev, "Etq_CDPRestants", "Jours ouvrables restants"};
+  screen::TextField Txt_CDPRestants{Cdr_DelaiPrev, "Txt_CDPRestants", 8};
+  screen::Button Cmd_Detail{Cdr_DelaiPrev, "Cmd_Detail", "Détail"};
+  screen::Label Etq_ProvisionCP{Page, "Etq_ProvisionCP", "Provision Employeur"};
+  screen::TextField Txt_ProvisionCP{Page, "Txt_ProvisionCP", 10};
+  screen::Label Etq_ProvisionCours{Page, "Etq_ProvisionCours", "Provision Employeur"};
+  screen::TextField Txt_ProvisionCours{Page, "Txt_ProvisionCours", 10};
 
   // Leave taken over from another contract, or carried over to one.
-  screen::CheckBox Cac_ReportConges;
-  screen::Label Etq_ReportConges;
-  screen::CheckBox Cac_RepriseConges;
-  screen::Label Etq_RepriseConges;
-  screen::Button Cmd_Conges;
+  screen::CheckBox Cac_ReportConges{Page, "Cac_ReportConges", ""};
+  screen::Label Etq_ReportConges{Page, "Etq_ReportConges", ""};
+  screen::CheckBox Cac_RepriseConges{Page, "Cac_RepriseConges", ""};
+  screen::Label Etq_RepriseConges{Page, "Etq_RepriseConges", ""};
+  screen::Button Cmd_Conges{Page, "Cmd_Conges", "Détail décompte"};
 };
 
 }  // namespace editor

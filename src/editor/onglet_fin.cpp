@@ -1,61 +1,111 @@
 #include "editor/onglet_fin.h"
 
+#include "data/jour.h"
+#include "data/layouts/fichiers.h"
+#include "data/layouts/voisins.h"
+#include "data/nombre.h"
+#include "data/requete.h"
 #include "editor/editeur.h"
 
 namespace editor {
 
-OngletFin::OngletFin(Frm_ElementsContrat& editeur)
-    : Onglet(editeur, FinContrat, "Cdr_Ong5"),
-      Etq_DatNotifContrat(editeur, "Etq_DatNotifContrat",
-                          "Date de Notification licenciement / démission", &Page),
-      Txt_DatNotifContrat(editeur, "Txt_DatNotifContrat", 10, &Page),
-      Etq_MotifFinContrat(editeur, "Etq_MotifFinContrat", "Motif", &Page),
-      Cbo_MotifFinContrat(editeur, "Cbo_MotifFinContrat", true, &Page),
-      Etq_CmpltMotif(editeur, "Etq_CmpltMotif", "Complément motif", &Page),
-      Txt_CmpltMotif(editeur, "Txt_CmpltMotif", 0, &Page),
-      Etq_DateSignConvCol(editeur, "Etq_DateSignConvCol",
-                          "Date signature convention rupture conventionnelle", &Page),
-      Txt_DateSignConvCol(editeur, "Txt_DateSignConvCol", 10, &Page),
-      Cac_CalcIndLic(editeur, "Cac_CalcIndLic", "Calcul indemnité licenciement", &Page),
-      Etq_DateFinContrat(editeur, "Etq_DateFinContrat", "Date Fin de Contrat", &Page),
-      Txt_DateFinContrat(editeur, "Txt_DateFinContrat", 10, &Page),
-      Etq_FinReelle(editeur, "Etq_FinReelle", "Date de fin réelle", &Page),
-      Txt_FinReelle(editeur, "Txt_FinReelle", 10, &Page),
-      Etq_DernJrWContrat(editeur, "Etq_DernJrWContrat", "Dernier Jour Travaillé", &Page),
-      Txt_DernJrWContrat(editeur, "Txt_DernJrWContrat", 10, &Page),
-      Etq_DernBullContrat(editeur, "Etq_DernBullContrat", "Période du Dernier Bulletin", &Page),
-      Txt_DernBullContrat(editeur, "Txt_DernBullContrat", 0, &Page),
-      Bdh_Bulletin(editeur, "Bdh_Bulletin", &Page),
-      Cac_PrecaLibContrat(editeur, "Cac_PrecaLibContrat", "Versement prime de précarité", &Page),
-      Cdr_Preavis(editeur, "Cdr_Preavis", "Préavis ", &Page),
-      Opt_Effectue(editeur, "Opt_Effectue", "Effectué", &Cdr_Preavis),
-      Etq_DebEffContrat(editeur, "Etq_DebEffContrat", "Du", &Cdr_Preavis),
-      Txt_DebEffContrat(editeur, "Txt_DebEffContrat", 10, &Cdr_Preavis),
-      Etq_FinEffContrat(editeur, "Etq_FinEffContrat", "Au", &Cdr_Preavis),
-      Txt_FinEffContrat(editeur, "Txt_FinEffContrat", 10, &Cdr_Preavis),
-      Opt_Paye(editeur, "Opt_Paye", "Payé mais non effectué", &Cdr_Preavis),
-      Etq_DebPayeContrat(editeur, "Etq_DebPayeContrat", "Du", &Cdr_Preavis),
-      Txt_DebPayeContrat(editeur, "Txt_DebPayeContrat", 10, &Cdr_Preavis),
-      Etq_FinPayeContrat(editeur, "Etq_FinPayeContrat", "Au", &Cdr_Preavis),
-      Txt_FinPayeContrat(editeur, "Txt_FinPayeContrat", 10, &Cdr_Preavis),
-      Opt_NonEffNonPaye(editeur, "Opt_NonEffNonPaye", "Non effectué et non payé", &Cdr_Preavis),
-      Etq_DebNonEffNonPaye(editeur, "Etq_DebNonEffNonPaye", "Du", &Cdr_Preavis),
-      Txt_DebNonEffNonPaye(editeur, "Txt_DebNonEffNonPaye", 10, &Cdr_Preavis),
-      Etq_FinNonEffNonPaye(editeur, "Etq_FinNonEffNonPaye", "Au", &Cdr_Preavis),
-      Txt_FinNonEffNonPaye(editeur, "Txt_FinNonEffNonPaye", 10, &Cdr_Preavis),
-      Etq_NonVersContrat(editeur, "Etq_NonVersContrat",
-                         "Motif en cas de non versement d'indemnités de préavis ou congés payés",
-                         &Page),
-      Txt_NonVersContrat(editeur, "Txt_NonVersContrat", 0, &Page),
-      Etq_ObsFinContrat(editeur, "Etq_ObsFinContrat", "Observations", &Page),
-      Txt_ObsFinContrat_0(editeur, "Txt_ObsFinContrat(0)", 0, &Page),
-      Txt_ObsFinContrat_1(editeur, "Txt_ObsFinContrat(1)", 0, &Page),
-      Etq_OrgRetraite(editeur, "Etq_OrgRetraite", "Organisme de retraite", &Page),
-      Txt_OrgRetraite(editeur, "Txt_OrgRetraite", 0, &Page),
-      Cbo_OrgRetraite(editeur, "Cbo_OrgRetraite", true, &Page),
-      Etq_InfoComplMotifFin(editeur, "Etq_InfoComplMotifFin", "", &Page),
-      Cmd_SupprimerContrat(editeur, "Cmd_SupprimerContrat", "Supprimer ce contrat", &Page) {
+namespace {
+
+namespace C = data::Contrat;
+
+// The one retirement body of private employers' staff, which is its own code.
+constexpr const char* RetraiteParticuliers = "IRCEM";
+
+}  // namespace
+
+OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat, "Cdr_Ong5") {
   Page.SetEnabled(false);
+}
+
+void OngletFin::Afficher_Ong5() {
+  const auto& origine = editeur_.origine;
+  if (Session().EtatSuppAidant) Txt_DateFinContrat.SetEnabled(false);
+  if (Creation()) {
+    QuitterEntite();
+  } else {
+    RemplirRetraite(origine.Entite(), origine.Particuliers());
+  }
+}
+
+void OngletFin::SelonDroits(bool complet) {
+  if (!complet) Cmd_SupprimerContrat.SetVisible(false);
+}
+
+void OngletFin::Vider_Ong() {
+  Cmd_SupprimerContrat.SetVisible(false);
+  Cbo_OrgRetraite.SetListIndex(-1);
+  Etq_InfoComplMotifFin.SetVisible(false);
+}
+
+// A private employer whose leave is provisioned is billed before the contract may end: refuses the
+// tab while the month's invoice is missing.
+bool OngletFin::Admettre() {
+  const auto& origine = editeur_.origine;
+  const std::string periode = Contrat()(C::DernierCalcul);
+  if (periode.empty() || !origine.Particuliers() || !editeur_.paie.ProvisionFacturee()) return true;
+  data::CItem employeur;
+  Session().Db->OpenFile(data::fichier::ELTSPARTEMP).Lire(origine.Employeur(), employeur);
+  if (employeur.Vue(data::EltsPartEmp::DerniereFacture) == periode) return true;
+  data::CItem calcul;
+  if (!Session().F_DETAILCALCUL.Lire(Dossier().CleContratCourant + periode, calcul) ||
+      calcul.Vue(data::DetailCalcul::Facturation) != "P") {
+    return true;
+  }
+  Message(
+      "Vous ne pouvez pas accéder à l'onglet fin de contrat tant que vous n'avez pas fait la "
+      "facture du mois de " +
+          data::moisAnnee(periode),
+      screen::Icone::Exclamation);
+  return false;
+}
+
+void OngletFin::SelonType(bool determine) {
+  screen::Activer({&Etq_DatNotifContrat, &Txt_DatNotifContrat, &Etq_DateFinContrat}, true);
+  Cac_PrecaLibContrat.SetEnabled(determine);
+  Cac_PrecaLibContrat.SetValue(determine ? 1 : 0);
+}
+
+void OngletFin::ChoisirEntite(const std::string& entite, bool particuliers) {
+  const session::Sourdine::Silence silence(sourdine_);
+  RemplirRetraite(entite, particuliers);
+  Cbo_OrgRetraite.SetListIndex(0);
+  Txt_OrgRetraite.SetText(ListeOrgRetraite_.A(0).code);
+}
+
+void OngletFin::QuitterEntite() {
+  const session::Sourdine::Silence silence(sourdine_);
+  ListeOrgRetraite_ = data::ListeCodes();
+  Cbo_OrgRetraite.Clear();
+  Txt_OrgRetraite.SetText("");
+}
+
+void OngletFin::RemplirRetraite(const std::string& entite, bool particuliers) {
+  using namespace data;
+  if (particuliers) {
+    ListeOrgRetraite_ =
+        ListeCodes(std::vector<ListeCodes::Ligne>{{RetraiteParticuliers, RetraiteParticuliers}});
+  } else {
+    ListeOrgRetraite_ = ListeCodes::DeSelection(
+        Requete(fichier::ORGANISMESOCIAL)
+            .Avec(Cle, "=", citerDebut(entite))
+            .Avec(OrganismeSocial::Genre, "=", citer(OrganismeSocial::GenreRetraite))
+            .Par(OrganismeSocial::Libelle)
+            .Lire(*Session().Db, {Cle, OrganismeSocial::Libelle}));
+  }
+  Cbo_OrgRetraite.Clear();
+  for (const auto& ligne : ListeOrgRetraite_.Lignes()) Cbo_OrgRetraite.AddItem(ligne.libelle);
+  Cbo_OrgRetraite.SetEnabled(!particuliers);
+}
+
+std::optional<long> OngletFin::DateFin() const {
+  const auto fin = Contrat().Vue(C::DateFin);
+  if (fin.empty()) return std::nullopt;
+  return static_cast<long>(data::entier(fin));
 }
 
 }  // namespace editor

@@ -1,19 +1,13 @@
 #pragma once
 // First tab, "Origine": what the contract is. Agreement, legal entity, employer, type, pay basis,
-// status, dates, trial period, nature. The agreement steers the whole editor: with "02" the person
-// helped is the employer.
-//
-// Code boxes and label lists go in pairs: a complete code shows its label, a chosen label its code.
-// A code that is not on file is refused, emptied and focused. One step leads to the next: a new
-// agreement empties the entity, and a new entity the employer, the activities and the retirement
-// body, so that no code outlives what it was chosen for.
+// status, dates, trial period, nature. Its values steer the other tabs, above all the agreement:
+// with "02" the person helped is the employer.
 
 #include <string>
 
-#include "data/citem.h"
+#include "data/liste_codes.h"
 #include "editor/onglet.h"
-#include "editor/origine_paire.h"
-#include "editor/origine_verif.h"
+#include "editor/origine_codes.h"
 
 namespace editor {
 
@@ -21,177 +15,100 @@ class OngletOrigine : public Onglet {
  public:
   explicit OngletOrigine(Frm_ElementsContrat& editeur);
 
-  // Fills the fixed drop-downs, entities and agreements, and reads the lists that stay the same
-  // from contract to contract.
-  void Remplir_Combos();
-  // From ItemContrat to the fields, change handlers being off meanwhile. For a new contract, only
-  // the enabling, and what an earlier contract may have left in the boxes that are not emptied.
   void Afficher_Ong1();
-  // From the fields to ItemContrat. With EcritureVerifiee it checks first; false when it refused.
-  // Run again on other fields, it leaves what a single run on them would; what shows just what it
-  // showed at first keeps the form that it has on file.
-  bool Ecrire_Ong1();
-  // The checks in their order; the first failure is shown and focused. True when all hold.
+  // Run again on other fields, it leaves what a single run on them would.
+  void Ecrire_Ong1();
   bool Verif_Ong1();
-  // Disables or enables entity and employer.
-  void Griser_ComboOng1();
-  void Degriser_ComboOng1();
-
+  void Remplir_Combos() { codes_.Remplir_Combos(); }
+  void SelonConvention(const std::string& convention) override;
+  // The dates of a contract on file are always open; those of a new one until payroll processes it.
+  void RafraichirEmployeur();
   // Run by the frame on every tab change too.
   void Txt_DatDebContrat_LostFocus();
+  // To the first field in which a new contract begins.
+  void Commencer() { codes_.SetFocus(); }
 
-  // The start date on file when the tab was shown, as an internal day text; "" for a new contract.
-  std::string DebutInitial;
-  // Rows of code and label, and for agreements the counting modes and the provident flag.
-  data::CItem ListeAssociations;
-  data::CItem ListeConvCol;
-  // Item NATURECONTRAT of TABLES.
-  data::CItem ListeNatures;
-  // Keys of the charge headings of home help, which the pay tab treats apart: one row each.
-  data::CItem RubriquesAideDomicile;
-  // What stands in the drop-downs of other tabs that follow agreement, entity and employer: rows of
-  // code and label, in the order of Cbo_LibPrevContrat and Cbo_OrgRetraite.
-  data::CItem ListePrev;
-  data::CItem ListeOrgRetraite;
-  // The provident contract of the private employer chosen, which the contract takes whatever the
-  // third tab shows; "" when there is none in force.
-  std::string PrevContratPrecedent;
-
-  screen::Label Etq_NumContrat;
-  screen::TextField Txt_NumContrat;
-  screen::Label Etq_ConvColContrat;
-  screen::TextField Txt_ConvColContrat;
-  screen::ComboBox Cbo_LibConvColContrat;
-  screen::Label Etq_AssocContrat;
-  screen::TextField Txt_AssocContrat;
-  screen::ComboBox Cbo_LibAssocContrat;
-  screen::Label Etq_EmplEtabContrat;
-  screen::TextField Txt_EmplEtabContrat;
-  screen::ComboBox Cbo_LibEmplEtabContrat;
-  screen::Button Cmd_DetailEmpl;
-
-  screen::Frame Cdr_Type;
-  screen::OptionButton Opt_Indetermine;
-  screen::OptionButton Opt_Determine;
-  screen::Frame Cdr_Salaire;
-  screen::OptionButton Opt_Horaire;
-  screen::OptionButton Opt_Mensuel;
-  screen::Frame Cdr_Fonction;
-  screen::OptionButton Opt_Administratif;
-  screen::OptionButton Opt_Production;
-
-  screen::Label Etq_DatDebContrat;
-  screen::TextField Txt_DatDebContrat;
-  screen::Label Etq_DatFinContrat;
-  screen::TextField Txt_DatFinContrat;
-  screen::Label Etq_PerEssaiContrat;
-  screen::TextField Txt_PerEssaiContrat;
-  screen::Label Etq_JoursEssai;
-  screen::CheckBox Cac_RenouvEssaiContrat;
-  screen::Label Etq_DureeMinContrat;
-  screen::TextField Txt_DureeMinContrat;
-  screen::Label Etq_NatureContrat;
-  screen::ComboBox Cbo_NatureContrat;
-  screen::Button Cmd_Stage;
-  screen::Button Cmd_MotifCDD;
-  screen::Label Etq_DateSignConvEmplAide;
-  screen::TextField Txt_DateSignConvEmplAide;
-  screen::Label Etq_NumRef;
-  screen::TextField Txt_NumRef;
-  screen::Label Etq_Contrepartie;
-  screen::ComboBox Cbo_Contrepartie;
+  const std::string& Convention() const { return codes_.Convention(); }
+  const std::string& Entite() const { return codes_.Entite(); }
+  const std::string& Employeur() const { return codes_.Employeur(); }
+  bool Particuliers() const { return codes_.Particuliers(); }
+  bool Administratif() const { return Opt_Administratif.Value(); }
+  bool Production() const { return Opt_Production.Value(); }
+  bool Mensuel() const { return Opt_Mensuel.Value(); }
+  bool Determine() const { return Opt_Determine.Value(); }
+  // The start as displayed, and its internal day; nothing for what is no date.
+  const std::string& DateDebut() const { return Txt_DatDebContrat.Text(); }
+  std::optional<long> Debut() const;
 
  private:
-  // Code lengths, in characters.
-  static constexpr int LongueurConvention = 2;
-  static constexpr int LongueurEntite = 3;
-  static constexpr int LongueurEtablissement = 3;
-  static constexpr int LongueurParticulier = 5;
+  static const rules::Verification<OngletOrigine> Verifications[];
 
-  void LierCodes();
-  void LierOptions();
-  void LierSaisies();
-  // The label list of a pair, which it follows only while change handlers are on.
-  void LierListe(screen::ComboBox& liste, PaireCode& paire);
+  void Afficher_Ong() override { Afficher_Ong1(); }
+  bool Verif_Ong() override { return Verif_Ong1(); }
+  bool Ecrire_Ong(bool) override;
+  void Vider_Ong() override;
 
-  // The agreement is that of private employers.
-  bool Particuliers() const;
-  int LongueurEmployeur() const;
-  void ActiverCodes(bool actifs);
-
-  // Agreement.
-  void Txt_ConvColContrat_Change();
-  void ChoisirConvention();
-  void MontrerSelonConvention();
-  void AdapterConvention();
-  void Proposer_PCS();
-  void Proposer_Conges();
-  void Remplir_Grilles();
-  void Remplir_Prevoyance();
-  void Proposer_Prevoyance();
-  void ViderPrevoyance();
-
-  // Entity.
-  void Txt_AssocContrat_Change();
-  void ViderEntite();
-  std::string QuestionActivites() const;
-  bool Remplir_Activites();
-  void Remplir_Etablissements();
-  void Remplir_OrgRetraite();
-
-  // Employer.
-  void Txt_EmplEtabContrat_Change();
-  void LireParticulier();
-  void LireEtablissement();
-  void LirePrevoyanceEmployeur();
-  void RafraichirEmployeur();
-  void Cbo_LibEmplEtabContrat_KeyPress(char32_t& touche);
-  void Remplir_Aide(const std::string& nom);
-
-  // Options, nature and the other fields.
-  void MontrerTerme(bool determine);
+  void Lier();
+  void SelonType();
+  void SelonStatut();
   void Opt_Determine_Click();
-  void Opt_Horaire_Click();
-  void MontrerLissage();
-  void Opt_Fonction_Click();
-  void MontrerRepartition();
-  void ChargerNatures();
   void Cbo_NatureContrat_DropDown();
   void Cbo_NatureContrat_LostFocus();
   void MontrerStage();
   void AdapterReference();
-  void Cmd_DetailEmpl_Click();
   void Cmd_MotifCDD_Click();
   void Cmd_Stage_Click();
 
-  // Display.
-  void AfficherNouveau();
-  void AfficherExistant();
-  void AfficherCodes();
-  void AfficherEmployeur();
-  void AfficherOptions();
-  void AfficherSaisies();
-
-  // Checks and writing.
-  SaisieOrigine Saisie() const;
-  // The attributes that the fields stand for, dates as they are typed.
-  data::CItem Champs() const;
-  void EcrireChamps();
   void EcrireDebut();
   void EcrireTerme();
   void ViderStage();
   void RendreStage();
-  std::string LibelleNature(std::string_view code) const;
-  std::string CodeNature() const;
 
-  PaireCode convention_{Txt_ConvColContrat, Cbo_LibConvColContrat};
-  PaireCode entite_{Txt_AssocContrat, Cbo_LibAssocContrat};
-  PaireCode employeur_{Txt_EmplEtabContrat, Cbo_LibEmplEtabContrat};
+  std::optional<long> FinPresumee() const;
+  bool DebutDeplace() const;
+  bool BulletinCalcule(const std::string& periode) const;
+  // The nature needs a traineeship agreement.
+  bool StageRequis() const;
 
-  // The contract and the Champs() of its untouched fields when the tab was shown; both empty for a
-  // new one.
-  data::CItem surFichier_;
-  data::CItem montres_;
+  screen::Label Etq_NumContrat{Page, "Etq_NumContrat", "N° Contrat"};
+  screen::TextField Txt_NumContrat{Page, "Txt_NumContrat", 3};
+  CodesOrigine codes_{editeur_, Page, sourdine_};
+
+  screen::Frame Cdr_Type{Page, "Cdr_Type", "Type "};
+  screen::OptionButton Opt_Indetermine{Cdr_Type, "Opt_Indetermine", "Indéterminé"};
+  screen::OptionButton Opt_Determine{Cdr_Type, "Opt_Determine", "Déterminé"};
+  screen::Frame Cdr_Salaire{Page, "Cdr_Salaire", "Salaire "};
+  screen::OptionButton Opt_Horaire{Cdr_Salaire, "Opt_Horaire", "Horaire"};
+  screen::OptionButton Opt_Mensuel{Cdr_Salaire, "Opt_Mensuel", "Mensualisé"};
+  screen::Frame Cdr_Fonction{Page, "Cdr_Fonction", "Statut "};
+  screen::OptionButton Opt_Administratif{Cdr_Fonction, "Opt_Administratif", "Adm / Ssiad"};
+  screen::OptionButton Opt_Production{Cdr_Fonction, "Opt_Production", "Production"};
+
+  screen::Label Etq_DatDebContrat{Page, "Etq_DatDebContrat", "Date début"};
+  screen::TextField Txt_DatDebContrat{Page, "Txt_DatDebContrat", LongueurDate};
+  screen::Label Etq_DatFinContrat{Page, "Etq_DatFinContrat", "Date fin présumée"};
+  screen::TextField Txt_DatFinContrat{Page, "Txt_DatFinContrat", LongueurDate};
+  screen::Label Etq_PerEssaiContrat{Page, "Etq_PerEssaiContrat", "Période Essai"};
+  screen::TextField Txt_PerEssaiContrat{Page, "Txt_PerEssaiContrat", LongueurTexte};
+  screen::Label Etq_JoursEssai{Page, "Etq_JoursEssai", "jours"};
+  screen::CheckBox Cac_RenouvEssaiContrat{Page, "Cac_RenouvEssaiContrat", "Renouvelable"};
+  screen::Label Etq_DureeMinContrat{Page, "Etq_DureeMinContrat", "Durée minimale"};
+  screen::TextField Txt_DureeMinContrat{Page, "Txt_DureeMinContrat", LongueurTexte};
+  screen::Label Etq_NatureContrat{Page, "Etq_NatureContrat", "Nature"};
+  screen::ComboBox Cbo_NatureContrat{Page, "Cbo_NatureContrat", true, LongueurLibelle};
+  screen::Button Cmd_Stage{Page, "Cmd_Stage", "Détails convention stage"};
+  screen::Button Cmd_MotifCDD{Page, "Cmd_MotifCDD", "Motif C.D.D."};
+  screen::Label Etq_DateSignConvEmplAide{Page, "Etq_DateSignConvEmplAide",
+                                         "Date signature convention emploi aidé"};
+  screen::TextField Txt_DateSignConvEmplAide{Page, "Txt_DateSignConvEmplAide", LongueurDate};
+  screen::Label Etq_NumRef{Page, "Etq_NumRef", "N° de référence"};
+  screen::TextField Txt_NumRef{Page, "Txt_NumRef", LongueurTexte};
+  screen::Label Etq_Contrepartie{Page, "Etq_Contrepartie", "Contrepartie pour interruption"};
+  screen::ComboBox Cbo_Contrepartie{Page, "Cbo_Contrepartie", false};
+
+  // The natures of TABLES; the mark "O" of those that can be chosen.
+  data::ListeCodes natures_;
+  session::Zones zones_;
 
   // What a copy of the screen took away, to be put back when the fields are set back: the first
   // values of effect date and grid start before a moved start date changed them, the presumed end

@@ -1,72 +1,266 @@
 #include "editor/onglet_paie.h"
 
+#include <algorithm>
+
+#include "data/layouts/fichiers.h"
+#include "data/layouts/voisins.h"
+#include "data/nombre.h"
+#include "data/requete.h"
 #include "editor/editeur.h"
 
 namespace editor {
 
 namespace {
 
-// Row n is stored as n + 1.
+namespace C = data::Contrat;
+using data::citer, data::citerDebut;
+using screen::Icone;
+
 constexpr const char* ModesPaiement[] = {"Virement bancaire", "Chèque", "Espèces"};
+constexpr int Virement = 0;  // row of Cbo_ModPaieContrat
+
+// Rows that the list of activities shows at a time.
+constexpr int LignesActivites = 6;
+constexpr const char* PartEntiere = "100";
+// The type of the activities of private employers.
+constexpr const char* Mandat = "M";
+
+constexpr const char* SansMandat =
+    "L'entité juridique que vous avez sélectionnée n'a pas d'activité mandataire, veuillez en "
+    "sélectionner une autre.";
+constexpr const char* QueDesMandats =
+    "L'entité juridique que vous avez sélectionnée ne possède que des activités mandataires, "
+    "veuillez en sélectionner une autre.";
+
+// The bar beside a list that shows `lignes` rows at a time.
+void Maj_Bdv(screen::ScrollBar& barre, const screen::ListBox& liste, int lignes) {
+  barre.SetMax(std::max(liste.ListCount() - 1, 0));
+  barre.SetVisible(liste.ListCount() > lignes);
+  barre.SetValue(0);
+}
+
+void remplir(screen::RowsField& champ, const data::ListeCodes& liste) {
+  champ.Clear();
+  for (const auto& ligne : liste.Lignes()) champ.AddItem(ligne.libelle);
+}
 
 }  // namespace
 
-OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
-    : Onglet(editeur, ElementsPaie, "Cdr_Ong3"),
-      Etq_ProfilContrat(editeur, "Etq_ProfilContrat", "Profil n° 1", &Page),
-      Txt_ProfilContrat(editeur, "Txt_ProfilContrat", 3, &Page),
-      Cbo_LibProfilContrat(editeur, "Cbo_LibProfilContrat", true, &Page),
-      Etq_ProfilContrat2(editeur, "Etq_ProfilContrat2", "Profil n° 2", &Page),
-      Txt_ProfilContrat2(editeur, "Txt_ProfilContrat2", 3, &Page),
-      Cbo_LibProfilContrat2(editeur, "Cbo_LibProfilContrat2", true, &Page),
-      Etq_ModPaieContrat(editeur, "Etq_ModPaieContrat", "Mode de Paiement", &Page),
-      Cbo_ModPaieContrat(editeur, "Cbo_ModPaieContrat", false, &Page),
-      Cac_PaieSalContrat(editeur, "Cac_PaieSalContrat", "Paiement du salaire par l'association",
-                         &Page),
-      Cac_CPMoisContrat(editeur, "Cac_CPMoisContrat", "Congés payés au mois", &Page),
-      Cac_ProvCP(editeur, "Cac_ProvCP", "Provision des congés", &Page),
-      Cdr_Mutuelle(editeur, "Cdr_Mutuelle", "Mutuelle ", &Page),
-      Etq_MutSalContrat(editeur, "Etq_MutSalContrat", "Part Salariale", &Cdr_Mutuelle),
-      Txt_MutSalContrat(editeur, "Txt_MutSalContrat", 8, &Cdr_Mutuelle),
-      Etq_MutPatContrat(editeur, "Etq_MutPatContrat", "Part Patronale", &Cdr_Mutuelle),
-      Txt_MutPatContrat(editeur, "Txt_MutPatContrat", 8, &Cdr_Mutuelle),
-      Etq_ChargMutContrat(editeur, "Etq_ChargMutContrat", "Rub. de charge", &Cdr_Mutuelle),
-      Txt_ChargMutContrat(editeur, "Txt_ChargMutContrat", 3, &Cdr_Mutuelle),
-      Cbo_ChargMutContrat(editeur, "Cbo_ChargMutContrat", true, &Cdr_Mutuelle),
-      Cdr_RegimePrev(editeur, "Cdr_RegimePrev", "Regime de prévoyance ", &Page),
-      Etq_PrevContrat(editeur, "Etq_PrevContrat", "Contrat prévoyance", &Cdr_RegimePrev),
-      Txt_PrevContrat(editeur, "Txt_PrevContrat", 2, &Cdr_RegimePrev),
-      Cbo_LibPrevContrat(editeur, "Cbo_LibPrevContrat", true, &Cdr_RegimePrev),
-      Etq_IdentCRCContrat(editeur, "Etq_IdentCRCContrat", "Identification CRC", &Page),
-      Txt_IdentCRCContrat(editeur, "Txt_IdentCRCContrat", 0, &Page),
-      Etq_CartOrangContrat(editeur, "Etq_CartOrangContrat", "Zone carte orange", &Page),
-      Cbo_CartOrangContrat(editeur, "Cbo_CartOrangContrat", true, &Page),
-      Etq_PlafSecu(editeur, "Etq_PlafSecu", "Plaf. sécu. mensuel individualisé", &Page),
-      Txt_PlafSecu(editeur, "Txt_PlafSecu", 10, &Page),
-      Etq_AssietteSecu(editeur, "Etq_AssietteSecu", "Assiette sécurité sociale", &Page),
-      Txt_AssietteSecu(editeur, "Txt_AssietteSecu", 10, &Page),
-      Cdr_AffectActiv(editeur, "Cdr_AffectActiv", "Affectation des activités", &Page),
-      Etq_PeriodeEffet(editeur, "Etq_PeriodeEffet", "Période d'effet", &Cdr_AffectActiv),
-      Cbo_PeriodeEffet(editeur, "Cbo_PeriodeEffet", false, &Cdr_AffectActiv),
-      Cbo_PeriodeEffetAffichage(editeur, "Cbo_PeriodeEffetAffichage", false, &Cdr_AffectActiv),
-      Cmd_AjoutePeriodeEffet(editeur, "Cmd_AjoutePeriodeEffet", "Ajouter", &Cdr_AffectActiv),
-      Etq_ListeActivite(editeur, "Etq_ListeActivite", "Activités", &Cdr_AffectActiv),
-      Cbo_Activite(editeur, "Cbo_Activite", false, &Cdr_AffectActiv),
-      Txt_ActiviteContrat(editeur, "Txt_ActiviteContrat", 0, &Cdr_AffectActiv),
-      Txt_RepartActContrat(editeur, "Txt_RepartActContrat", 6, &Cdr_AffectActiv),
-      Lst_ActiviteContrat(editeur, "Lst_ActiviteContrat", &Cdr_AffectActiv),
-      Lst_RepartActContrat(editeur, "Lst_RepartActContrat", &Cdr_AffectActiv),
-      VS_Bdv(editeur, "VS_Bdv", &Cdr_AffectActiv),
-      Cmd_OKActivite(editeur, "Cmd_OKActivite", "OK", &Cdr_AffectActiv),
-      Cmd_AnnulerActivite(editeur, "Cmd_AnnulerActivite", "Annuler", &Cdr_AffectActiv),
-      Cmd_RubSaisie(editeur, "Cmd_RubSaisie", "Rubriques de saisie", &Page),
-      Cmd_Comment(editeur, "Cmd_Comment", "Commentaires sur bulletin", &Page),
-      Cmd_Telegestion(editeur, "Cmd_Telegestion", "Droits télégestion", &Page),
-      Cmd_TpsIndem(editeur, "Cmd_TpsIndem", "Temps d'indemnisation", &Page) {
+OngletPaie::OngletPaie(Frm_ElementsContrat& editeur) : Onglet(editeur, ElementsPaie, "Cdr_Ong3") {
   for (const char* mode : ModesPaiement) Cbo_ModPaieContrat.AddItem(mode);
   Page.SetEnabled(false);
   // Holds the periods as the record does; Cbo_PeriodeEffetAffichage shows them.
   Cbo_PeriodeEffet.SetVisible(false);
+}
+
+void OngletPaie::Afficher_Ong3() {
+  const auto& origine = editeur_.origine;
+  if (Creation()) {
+    if (!Charge()) OublierPrevoyance();
+    return;
+  }
+  OublierPrevoyance();
+  if (!origine.Particuliers()) RemplirPrevoyance(origine.Convention());
+  ListeActivites_ =
+      data::ListeCodes::DeSelection(Gestion_Activite(origine.Entite(), origine.Particuliers()));
+  remplir(Cbo_Activite, ListeActivites_);
+}
+
+bool OngletPaie::Ecrire_Ong3(bool verifiee) {
+  return !verifiee || !RibManquant("paiement");
+}
+
+void OngletPaie::Entrer() {
+  ActiverActivites();
+}
+
+void OngletPaie::SelonDroits(bool complet) {
+  Cmd_OKActivite.SetVisible(complet);
+}
+
+void OngletPaie::SelonTelegestion(bool utilisee) {
+  Cmd_Telegestion.SetVisible(utilisee);
+  if (utilisee) Cmd_Telegestion.SetEnabled(true);
+}
+
+void OngletPaie::Vider_Ong() {
+  Lst_ActiviteContrat.Clear();
+  Lst_RepartActContrat.Clear();
+  Cbo_Activite.Clear();
+  screen::Montrer({&Txt_PrevContrat, &Cbo_LibPrevContrat}, true);
+}
+
+// Private employers each have a provident contract of their own.
+void OngletPaie::SelonConvention(const std::string& convention) {
+  const bool particuliers = convention == data::ConventionParticuliers;
+  screen::Activer({&Cdr_RegimePrev, &Etq_PrevContrat, &Txt_PrevContrat, &Cbo_LibPrevContrat},
+                  !particuliers);
+  Cac_PaieSalContrat.SetVisible(particuliers);
+}
+
+// The boxes of a new contract of private employers are what the agreement says; their leave is
+// provisioned unless it is paid monthly.
+void OngletPaie::ProposerSelonConvention(const std::string& convention) {
+  const session::Sourdine::Silence silence(sourdine_);
+  const bool particuliers = convention == data::ConventionParticuliers;
+  if (Creation()) {
+    data::CItem defauts;
+    if (particuliers) Session().F_CONVENTIONCOL.Lire(convention, defauts);
+    const bool auMois = defauts.Vue(data::ConventionCol::CongesAuMoisParDefaut) == "1";
+    Cac_CPMoisContrat.SetValue(auMois ? 1 : 0);
+    Cac_ProvCP.SetValue(0);
+    Cac_ProvCP.SetVisible(particuliers && !auMois);
+    Cac_PaieSalContrat.SetValue(
+        defauts.Vue(data::ConventionCol::PaiementParEntiteParDefaut) == "1" ? 1 : 0);
+  }
+  if (particuliers) return;
+  OublierPrevoyance();
+  RemplirPrevoyance(convention);
+  if (ListePrev_.Nombre() != 1) return;
+  Cbo_LibPrevContrat.SetListIndex(0);
+  Txt_PrevContrat.SetText(ListePrev_.A(0).code);
+}
+
+// Activities.
+
+// What the entity offers: all to administrative staff, to production staff what is of the
+// contract's kind.
+data::CItem OngletPaie::Gestion_Activite(const std::string& entite, bool particuliers) const {
+  using namespace data;
+  Requete requete(fichier::ACTIVITES);
+  requete.Avec(Cle, "=", citerDebut(entite));
+  if (!editeur_.origine.Administratif()) {
+    requete.Avec(Activites::Genre, particuliers ? "=" : "<>", citer(Mandat));
+  }
+  return requete.Par(Activites::Libelle)
+      .Lire(*Session().Db, {Cle, Activites::Libelle, Activites::Genre});
+}
+
+bool OngletPaie::ChoisirEntite(const std::string& entite, bool particuliers) {
+  const session::Sourdine::Silence silence(sourdine_);
+  ListeActivites_ = data::ListeCodes::DeSelection(Gestion_Activite(entite, particuliers));
+  if (Creation() && ListeActivites_.Vide()) {
+    Message(particuliers ? SansMandat : QueDesMandats, Icone::Exclamation);
+    return false;
+  }
+  remplir(Cbo_Activite, ListeActivites_);
+  if (ListeActivites_.Nombre() == 1) {
+    Lst_ActiviteContrat.AddItem(ListeActivites_.A(0).libelle);
+    if (Lst_RepartActContrat.Visible()) Lst_RepartActContrat.AddItem(PartEntiere);
+  }
+  return true;
+}
+
+void OngletPaie::ViderActivites() {
+  const session::Sourdine::Silence silence(sourdine_);
+  ListeActivites_ = data::ListeCodes();
+  Cbo_Activite.Clear();
+  Lst_ActiviteContrat.Clear();
+  Lst_RepartActContrat.Clear();
+}
+
+void OngletPaie::SelonStatut(bool administratif, bool particuliers) {
+  screen::Montrer({&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat,
+                   &Etq_PeriodeEffet, &Cbo_PeriodeEffetAffichage, &Cmd_AjoutePeriodeEffet},
+                  administratif && !particuliers);
+}
+
+// The activity group, by agreement, status and mode. Private employers' staff have none;
+// administrative staff split their time from the start of the contract on, so that without one
+// there is nothing to split yet.
+void OngletPaie::ActiverActivites() {
+  const auto& origine = editeur_.origine;
+  const bool entite = !origine.Particuliers();
+  const bool administratif = origine.Administratif();
+  const bool actif = !administratif || !origine.DateDebut().empty();
+  const auto periodes = {static_cast<screen::Field*>(&Cbo_PeriodeEffetAffichage),
+                         static_cast<screen::Field*>(&Etq_PeriodeEffet),
+                         static_cast<screen::Field*>(&Cmd_AjoutePeriodeEffet)};
+  screen::Montrer(periodes, administratif && entite);
+  screen::Activer(periodes, actif);
+  screen::Montrer({&Cbo_Activite, &Etq_ListeActivite, &Cdr_AffectActiv}, entite);
+  screen::Activer({&Cbo_Activite, &Etq_ListeActivite, &Cdr_AffectActiv}, actif);
+  Cmd_OKActivite.SetVisible(entite && Session().DroitComplet());
+  Cmd_AnnulerActivite.SetVisible(entite);
+  screen::Activer({&Cmd_OKActivite, &Cmd_AnnulerActivite}, actif && !Creation());
+  if (entite) return;
+  screen::Montrer({&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat}, false);
+}
+
+// An administrative contract splits its time over its activities: one share for each of them.
+void OngletPaie::MontrerParts() {
+  if (Lst_ActiviteContrat.ListCount() == 0) {
+    Lst_RepartActContrat.Clear();
+  } else if (Lst_RepartActContrat.ListCount() == 0) {
+    for (int i = 0; i < Lst_ActiviteContrat.ListCount(); ++i) Lst_RepartActContrat.AddItem("0");
+  }
+  screen::Montrer(
+      {&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat, &Cmd_AnnulerActivite},
+      true);
+  Cmd_OKActivite.SetVisible(Session().DroitComplet());
+  Maj_Bdv(VS_Bdv, Lst_ActiviteContrat, LignesActivites);
+}
+
+// Provident scheme.
+
+void OngletPaie::OublierPrevoyance() {
+  const session::Sourdine::Silence silence(sourdine_);
+  ListePrev_ = data::ListeCodes();
+  PrevContratPrecedent_.clear();
+  Txt_PrevContrat.SetText("");
+  Cbo_LibPrevContrat.Clear();
+}
+
+void OngletPaie::RemplirPrevoyance(const std::string& convention) {
+  using namespace data;
+  ListePrev_ = ListeCodes::DeSelection(Requete(fichier::CONTRATSPREV)
+                                           .Avec("ConvColPrev", "=", citer(convention))
+                                           .Avec(Cle, "<>", citer(ContratsPrev::CleSans))
+                                           .Par(ContratsPrev::Libelle)
+                                           .Lire(*Session().Db, {Cle, ContratsPrev::Libelle}));
+  remplir(Cbo_LibPrevContrat, ListePrev_);
+}
+
+void OngletPaie::PrevoyanceEmployeur(const std::string& employeur) {
+  const session::Sourdine::Silence silence(sourdine_);
+  data::CItem elements;
+  Session().Db->OpenFile(data::fichier::ELTSPARTEMP).Lire(employeur, elements);
+  const std::string code = elements(data::EltsPartEmp::ContratPrev);
+  const auto fin = elements.Vue(data::EltsPartEmp::DateFinPrev);
+  const long long limite =
+      Creation() ? Session().Poste.Aujourdhui() : data::entier(Contrat().Vue(C::DateDebut));
+  if (!fin.empty() && data::entier(fin) < limite) return;
+  data::CItem prevoyance;
+  if (!Session().F_CONTRATSPREV.Lire(code, prevoyance)) return;
+  ListePrev_ = data::ListeCodes(std::vector<data::ListeCodes::Ligne>{
+      {code, prevoyance(data::ContratsPrev::LibelleParticulier)}});
+  remplir(Cbo_LibPrevContrat, ListePrev_);
+  Cbo_LibPrevContrat.SetListIndex(0);
+  Txt_PrevContrat.SetText(code);
+  PrevContratPrecedent_ = code;
+}
+
+// Payment.
+
+bool OngletPaie::ProvisionFacturee() const {
+  return Cac_PaieSalContrat.Value() != 0 && Cac_ProvCP.Value() != 0;
+}
+
+bool OngletPaie::ModePaiementChange() const {
+  return Dossier().Initial.Vue(C::ModePaiement) !=
+         std::to_string(Cbo_ModPaieContrat.ListIndex() + 1);
+}
+
+bool OngletPaie::RibManquant(const char* modePaiement) {
+  if (Cbo_ModPaieContrat.ListIndex() != Virement) return false;
+  data::CItem rib;
+  if (Session().F_RIBAIDANT.Lire(Session().CodeAidant, rib)) return false;
+  Message("Vous ne pouvez pas sélectionner le mode de " + std::string(modePaiement) +
+              " virement\r\ncar l'aidant ne possède pas de RIB.",
+          Icone::Exclamation);
+  editeur_.Ong_Contrat.SetTab(numero_);
+  Cbo_ModPaieContrat.SetFocus();
+  return true;
 }
 
 }  // namespace editor

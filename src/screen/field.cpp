@@ -6,11 +6,11 @@
 
 namespace screen {
 
-Field::Field(Form& form, Kind genre, std::string nom, Frame* cadre, std::string libelle)
-    : form_(form),
+Field::Field(Place place, Kind genre, std::string nom, std::string libelle)
+    : form_(place.form),
       genre_(genre),
       nom_(std::move(nom)),
-      cadre_(cadre),
+      cadre_(place.cadre),
       libelle_(std::move(libelle)) {
   form_.Register(*this);
 }
@@ -23,6 +23,14 @@ void Field::SetEnabled(bool enabled) {
 void Field::SetVisible(bool visible) {
   visible_ = visible;
   form_.VerifierActif();
+}
+
+void Montrer(std::initializer_list<Field*> champs, bool visibles) {
+  for (Field* champ : champs) champ->SetVisible(visibles);
+}
+
+void Activer(std::initializer_list<Field*> champs, bool actifs) {
+  for (Field* champ : champs) champ->SetEnabled(actifs);
 }
 
 bool Field::Disponible() const {

@@ -13,6 +13,7 @@
 // well, silently: a handler that refills it and wants the text kept sets it again. What the user
 // does comes through screen::User alone.
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,14 @@ namespace screen {
 
 class Form;
 class Frame;
+
+// Where a field stands: on the form itself, or in one of its frames.
+struct Place {
+  Place(Form& surface) : form(surface) {}
+  Place(Frame& groupe);
+  Form& form;
+  Frame* cadre = nullptr;
+};
 
 enum class Kind {
   Texte,
@@ -79,7 +88,7 @@ class Field {
 
  protected:
   // Registers itself in the form; tab order is the order of declaration.
-  Field(Form& form, Kind genre, std::string nom, Frame* cadre, std::string libelle);
+  Field(Place place, Kind genre, std::string nom, std::string libelle = {});
 
  private:
   Form& form_;
@@ -91,24 +100,30 @@ class Field {
   bool visible_ = true;
 };
 
+// Shows or hides, enables or disables, several fields as one.
+void Montrer(std::initializer_list<Field*> champs, bool visibles);
+void Activer(std::initializer_list<Field*> champs, bool actifs);
+
 // A group of fields with a caption. Its enabled and visible count for all that stands in it;
 // options in one frame exclude each other (options outside any frame are one group of the form).
 class Frame : public Field {
  public:
-  Frame(Form& form, std::string nom, std::string libelle = {}, Frame* cadre = nullptr)
-      : Field(form, Kind::Cadre, std::move(nom), cadre, std::move(libelle)) {}
+  Frame(Place place, std::string nom, std::string libelle = {})
+      : Field(place, Kind::Cadre, std::move(nom), std::move(libelle)) {}
 };
+
+inline Place::Place(Frame& groupe) : form(groupe.Forme()), cadre(&groupe) {}
 
 class Label : public Field {
  public:
-  Label(Form& form, std::string nom, std::string libelle = {}, Frame* cadre = nullptr)
-      : Field(form, Kind::Etiquette, std::move(nom), cadre, std::move(libelle)) {}
+  Label(Place place, std::string nom, std::string libelle = {})
+      : Field(place, Kind::Etiquette, std::move(nom), std::move(libelle)) {}
 };
 
 class Button : public Field {
  public:
-  Button(Form& form, std::string nom, std::string libelle, Frame* cadre = nullptr)
-      : Field(form, Kind::Bouton, std::move(nom), cadre, std::move(libelle)) {}
+  Button(Place place, std::string nom, std::string libelle)
+      : Field(place, Kind::Bouton, std::move(nom), std::move(libelle)) {}
   Handler Click;
 };
 
@@ -116,21 +131,20 @@ class Button : public Field {
 class MenuItem : public Field {
  public:
   MenuItem(Form& form, std::string nom, std::string libelle)
-      : Field(form, Kind::Menu, std::move(nom), nullptr, std::move(libelle)) {}
+      : Field(form, Kind::Menu, std::move(nom), std::move(libelle)) {}
   Handler Click;
 };
 
 class Image : public Field {
  public:
-  Image(Form& form, std::string nom, Frame* cadre = nullptr)
-      : Field(form, Kind::Image, std::move(nom), cadre, {}) {}
+  Image(Place place, std::string nom) : Field(place, Kind::Image, std::move(nom)) {}
 };
 
 class TextField : public Field {
  public:
   // `longueur`: most characters that the user can type, 0 for no limit. A program may set more.
-  TextField(Form& form, std::string nom, int longueur = 0, Frame* cadre = nullptr)
-      : Field(form, Kind::Texte, std::move(nom), cadre, {}), longueur_(longueur) {}
+  TextField(Place place, std::string nom, int longueur = 0)
+      : Field(place, Kind::Texte, std::move(nom)), longueur_(longueur) {}
 
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
@@ -139,12 +153,17 @@ class TextField : public Field {
   // pasted.
   bool Multiligne() const { return multiligne_; }
   void SetMultiligne(bool multiligne) { multiligne_ = multiligne; }
+  // What the text holds beside its selection, which the key that KeyPress is shown replaces.
+  const std::string& HorsSelection() const { return selection_ ? horsSelection_ : text_; }
 
   Handler Change;
   KeyHandler KeyPress;
 
  private:
+  friend class User;
   std::string text_;
+  std::string horsSelection_;
+  bool selection_ = false;
   int longueur_;
   bool multiligne_ = false;
 };
@@ -172,8 +191,7 @@ class RowsField : public Field {
   KeyHandler KeyPress;
 
  protected:
-  RowsField(Form& form, Kind genre, std::string nom, Frame* cadre)
-      : Field(form, genre, std::move(nom), cadre, {}) {}
+  RowsField(Place place, Kind genre, std::string nom) : Field(place, genre, std::move(nom)) {}
   // Called when the selected row or its text has changed: a drop-down's text follows.
   virtual void SuivreLigne() {}
   void PerdreLigne() { listIndex_ = -1; }
@@ -185,18 +203,14 @@ class RowsField : public Field {
 
 class ListBox : public RowsField {
  public:
-  ListBox(Form& form, std::string nom, Frame* cadre = nullptr)
-      : RowsField(form, Kind::Liste, std::move(nom), cadre) {}
+  ListBox(Place place, std::string nom) : RowsField(place, Kind::Liste, std::move(nom)) {}
 };
 
 class ComboBox : public RowsField {
  public:
   // `saisie`: text can be typed; otherwise only a row can be chosen. `longueur` as for TextField.
-  ComboBox(Form& form, std::string nom, bool saisie = true, Frame* cadre = nullptr,
-           int longueur = 0)
-      : RowsField(form, Kind::Deroulante, std::move(nom), cadre),
-        saisie_(saisie),
-        longueur_(longueur) {}
+  ComboBox(Place place, std::string nom, bool saisie = true, int longueur = 0)
+      : RowsField(place, Kind::Deroulante, std::move(nom)), saisie_(saisie), longueur_(longueur) {}
 
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
@@ -218,8 +232,8 @@ class ComboBox : public RowsField {
 
 class OptionButton : public Field {
  public:
-  OptionButton(Form& form, std::string nom, std::string libelle, Frame* cadre = nullptr)
-      : Field(form, Kind::Option, std::move(nom), cadre, std::move(libelle)) {}
+  OptionButton(Place place, std::string nom, std::string libelle)
+      : Field(place, Kind::Option, std::move(nom), std::move(libelle)) {}
   bool Value() const { return value_; }
   void SetValue(bool value);
   Handler Click;
@@ -230,8 +244,8 @@ class OptionButton : public Field {
 
 class CheckBox : public Field {
  public:
-  CheckBox(Form& form, std::string nom, std::string libelle, Frame* cadre = nullptr)
-      : Field(form, Kind::Case, std::move(nom), cadre, std::move(libelle)) {}
+  CheckBox(Place place, std::string nom, std::string libelle)
+      : Field(place, Kind::Case, std::move(nom), std::move(libelle)) {}
   // 0 or 1.
   int Value() const { return value_; }
   void SetValue(int value);
@@ -244,7 +258,7 @@ class CheckBox : public Field {
 class TabStrip : public Field {
  public:
   TabStrip(Form& form, std::string nom, std::vector<std::string> onglets)
-      : Field(form, Kind::Onglets, std::move(nom), nullptr, {}), onglets_(std::move(onglets)) {}
+      : Field(form, Kind::Onglets, std::move(nom)), onglets_(std::move(onglets)) {}
   const std::vector<std::string>& Onglets() const { return onglets_; }
   // From 0.
   int Tab() const { return tab_; }
@@ -275,8 +289,8 @@ class RangeField : public Field {
   Handler Change;
 
  protected:
-  RangeField(Form& form, Kind genre, std::string nom, int max, Frame* cadre)
-      : Field(form, genre, std::move(nom), cadre, {}), max_(max) {}
+  RangeField(Place place, Kind genre, std::string nom, int max)
+      : Field(place, genre, std::move(nom)), max_(max) {}
 
  private:
   int value_ = 0;
@@ -288,14 +302,14 @@ class ScrollBar : public RangeField {
  public:
   // The upper bound of a bar that was never given one.
   static constexpr int MaxInitial = 32767;
-  ScrollBar(Form& form, std::string nom, Frame* cadre = nullptr)
-      : RangeField(form, Kind::Barre, std::move(nom), MaxInitial, cadre) {}
+  ScrollBar(Place place, std::string nom)
+      : RangeField(place, Kind::Barre, std::move(nom), MaxInitial) {}
 };
 
 class UpDown : public RangeField {
  public:
-  UpDown(Form& form, std::string nom, Frame* cadre = nullptr)
-      : RangeField(form, Kind::UpDown, std::move(nom), MaxInitial, cadre) {}
+  UpDown(Place place, std::string nom)
+      : RangeField(place, Kind::UpDown, std::move(nom), MaxInitial) {}
   static constexpr int MaxInitial = 10;
 };
 

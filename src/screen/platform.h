@@ -10,6 +10,7 @@
 
 namespace screen {
 
+class Field;
 class Form;
 
 inline const std::string TitreMessage = "Message KORVALDIS";
@@ -32,6 +33,14 @@ class Messages {
   virtual ~Messages() = default;
   // Blocks until the user has answered.
   virtual Reponse Montrer(const Message& message) = 0;
+};
+
+// A hint beside a field, where the screens have no message of their own: what is wrong with the text
+// that holds the user there, and what would be right. It does not wait for an answer.
+class Indications {
+ public:
+  virtual ~Indications() = default;
+  virtual void Montrer(const Field& champ, const std::string& texte) = 0;
 };
 
 class Modales {
@@ -118,6 +127,7 @@ class ControlesHeberges {
 // One of each; the host keeps them alive as long as any form.
 struct Platform {
   Messages& messages;
+  Indications& indications;
   Modales& modales;
   Curseur& curseur;
   Imprimante& imprimante;

@@ -82,24 +82,34 @@ Acte User::Quitter() {
 }
 
 // Shows a key of the active field to its KeyPress. What is left of it.
-char32_t User::Montrer(Field& champ, char32_t touche) {
+char32_t User::Montrer(Field& champ, char32_t touche, std::string_view horsSelection) {
   const KeyHandler* const keyPress = keyPressOf(champ);
   if (keyPress == nullptr) return 0;
+  TextField* const texte = champ.Genre() == Kind::Texte ? static_cast<TextField*>(&champ) : nullptr;
+  if (texte != nullptr) {
+    texte->horsSelection_ = horsSelection;
+    texte->selection_ = true;
+  }
   fire(*keyPress, touche);
+  if (texte != nullptr && !vie_.expired()) texte->selection_ = false;
   return Presente() && champ.Accessible() && form_.Active() == &champ ? touche : 0;
 }
 
-char32_t User::Filtrer(Field& champ, char32_t touche) {
-  return Entrer(champ) == Acte::Fait ? Montrer(champ, touche) : 0;
+char32_t User::Filtrer(Field& champ, char32_t touche, std::string_view horsSelection) {
+  return Entrer(champ) == Acte::Fait ? Montrer(champ, touche, horsSelection) : 0;
 }
 
 // One key into the active field. True when it went into the text.
 bool User::Presser(Field& champ, char32_t touche, bool remplacer) {
-  touche = Montrer(champ, touche);
+  const auto reste = [&] {
+    const Saisie saisie(champ);
+    return remplacer || !saisie.Existe() ? std::string() : saisie.Texte();
+  };
+  touche = Montrer(champ, touche, reste());
   if (touche == 0) return false;
   const Saisie saisie(champ);
   if (!saisie.Existe()) return false;
-  const std::string avant = remplacer ? std::string() : saisie.Texte();
+  const std::string avant = reste();
   if (touche == ToucheRetour) {
     saisie.Ecrire(data::gauche(avant, data::longueur(avant) - 1));
     return true;

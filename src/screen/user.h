@@ -42,7 +42,8 @@ class User {
   // One key about to go into a field whose text the host edits itself, and hands over whole to
   // Coller: focus, then KeyPress. What is left of the key; 0 when it is dropped, when the field
   // takes no keys or no acts, and when the handler took the screen or the focus away.
-  char32_t Filtrer(Field& champ, char32_t touche);
+  // `horsSelection`: what the text holds beside the selection that the key replaces.
+  char32_t Filtrer(Field& champ, char32_t touche, std::string_view horsSelection);
   // The whole new text at once, as a paste or an input method gives it: no KeyPress, one Change.
   // Cut at the field's length; control characters are left out.
   Acte Coller(Field& champ, std::string_view texte);
@@ -67,7 +68,7 @@ class User {
   Acte Entrer(Field& champ);
   // Whether the form still is there for the user.
   bool Presente() const;
-  char32_t Montrer(Field& champ, char32_t touche);
+  char32_t Montrer(Field& champ, char32_t touche, std::string_view horsSelection);
   bool Presser(Field& champ, char32_t touche, bool remplacer);
 
   Form& form_;

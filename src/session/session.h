@@ -1,7 +1,9 @@
 #pragma once
-// The session-wide variables: the channel between the contract list, the editor and the dialogs.
-// One Session lives in one list control, from init to its release, and is handed by reference to
-// every screen above it. The names are the trade's own.
+// What the screens share as long as the contract list stands: the open files, the carer, the rights
+// and the workstation. One Session lives in one list control, from init to its release, and is
+// handed by reference to every screen above it. Nothing of a contract is kept here: what one
+// opening of a contract shares is its dossier (session/dossier.h), and the records of neighbour
+// files are read where they are needed.
 
 #include <array>
 #include <string>
@@ -23,7 +25,9 @@ class Client {
 };
 
 struct Session {
-  explicit Session(const data::Poste& poste) : Lib(poste) {}
+  explicit Session(const data::Poste& donne) : Poste(donne), Lib(donne) {}
+
+  const data::Poste& Poste;
 
   // What the host gave. Both outlive the session.
   data::Db* Db = nullptr;
@@ -37,47 +41,28 @@ struct Session {
       F_DETAILCALCUL, F_GRILLESCC, F_AIDANTTTE, F_LIENAVENANT, F_TPSSANSCONTRAT, F_ACTUSUIVICONTRAT,
       F_DSNEVENEMENT, F_TPSEXCEPTIONS, F_INFOSAIDANT;
 
-  // The record in hand: the dialogs change it in memory and only the editor's save writes it.
-  data::CItem ItemContrat;
   data::CItem ItemPeriodesPaie1;
-  // Result of the association select: a row is code, name.
-  data::CItem ItemAssociations;
-  // The latest record read of each neighbour file. A read that finds nothing leaves the former one
-  // in place.
-  data::CItem ItemCivilAidant, ItemCivilAide, ItemAssociation, ItemEtablissement, ItemTables,
-      ItemProfil, ItemRubCharge, ItemConventionCol, ItemContratsPrev, ItemMissionsAidant,
-      ItemAidantTte, ItemActivitesAide, ItemActivites, ItemHistorIndem, ItemRibAidant,
-      ItemContratInv, ItemDetailCalcul, ItemLienAvenant, ItemAbsencesAidant, ItemActuSuiviContrat,
-      ItemDsnEvenement, ItemInfosAidant, ItemCentreMedical;
 
-  std::string CleContratCourant;
-  // The contract as opened: its whole text, and its end date (internal day).
-  std::string TexteContratInitial;
-  std::string DateFinInitiale;
+  // The carer. The code is the left part of every contract key.
+  std::string CodeAidant;
+  std::string NomPrenomAidant;
+  // The carer is in the deleted state.
+  bool EtatSuppAidant = false;
 
-  bool ModeCreation = false;
-  // An existing contract is being loaded into the editor.
-  bool ChargementContrat = false;
-  // The editor's drop-downs are filled.
-  bool CombosRemplis = false;
-  // A new contract was left without saving.
-  bool CreationAbandonnee = false;
-  // The new contract was not kept after the check of overlapping contracts.
-  bool ConflitContrat = false;
+  const Droits* W_Droits = &SansDroits;
+  bool DroitComplet() const { return W_Droits->Lookup(DroitContrat).Complet(); }
+
   // Planning checks are in force.
   bool OptionCompteur999 = false;
-  bool EtatSuppAidant = false;
-  // The last check of a typed decimal refused its length.
-  bool ErreurZoneNum = false;
-
-  std::string SeparateurDecimal;
-  int SeparateurDecimalAnsi = 0;
 
   // Opens the files of the session in their fixed order and reads the current pay period. A
   // StoreError rises to the host; the files opened before it stay open until Liberer.
   void OuvrirFichiers();
-  // Drops every item and every file, and last the database. Writes nothing.
+  // Drops every file, and last the database. Writes nothing.
   void Liberer();
+
+  // The current pay period.
+  std::string PeriodePaie() const;
 };
 
 struct FichierSession {

@@ -35,6 +35,12 @@ class Ouverture : public essai::Liste {
       actes(dynamic_cast<Frm_ElementsContrat&>(form), user);
     });
   }
+  // What stands in a field with a text.
+  static std::string texte(const Frm_ElementsContrat& f, const char* nom) {
+    const screen::Field* champ = f.Find(nom);
+    if (const auto* liste = dynamic_cast<const screen::ComboBox*>(champ)) return liste->Text();
+    return dynamic_cast<const screen::TextField&>(*champ).Text();
+  }
   // Rows as "number start end", parted by "|".
   std::string lignes() const {
     std::string texte;
@@ -65,7 +71,7 @@ TEST_F(Ouverture, LaLigneOuverteSuitLArticle) {
   };
   for (const auto& [nom, debut, annule, apres] : cas) {
     dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-      EXPECT_EQ(f.origine.Txt_NumContrat.Text(), "002");
+      EXPECT_EQ(texte(f, "Txt_NumContrat"), "002");
       data::CItem contrat = db.OpenFile("CONTRAT").Read("00001002");
       contrat.Set(C::DateDebut, jour(debut));
       contrat.Set(C::Annule, annule);
@@ -84,10 +90,10 @@ TEST_F(Ouverture, UneCreationSeMetEnTete) {
   // From the choice of filters: list mode, with just this contract.
   montrer(false);
   dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-    user.Taper(f.origine.Txt_ConvColContrat, "01");
-    user.Taper(f.origine.Txt_AssocContrat, "001");
-    user.Taper(f.origine.Txt_EmplEtabContrat, "001");
-    user.Taper(f.origine.Txt_DatDebContrat, "01/07/2023");
+    user.Taper(*f.Find("Txt_ConvColContrat"), "01");
+    user.Taper(*f.Find("Txt_AssocContrat"), "001");
+    user.Taper(*f.Find("Txt_EmplEtabContrat"), "001");
+    user.Taper(*f.Find("Txt_DatDebContrat"), "01/07/2023");
     hote.modales.Prevoir(
         [](screen::Form& reprise) { screen::User(reprise).Cliquer(*reprise.Find("Cmd_Annuler")); });
     EXPECT_EQ(user.Cliquer(f.Cmd_OK), Acte::Fait);
@@ -108,8 +114,8 @@ TEST_F(Ouverture, UneCreationQuitteeNAjouteRien) {
   EXPECT_EQ(lignes(), Depart);
   // The editor stays loaded: an opening right after shows the contract and nothing of the creation.
   dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-    EXPECT_EQ(f.origine.Txt_DatDebContrat.Text(), "01/01/2023");
-    EXPECT_EQ(f.origine.Cbo_LibEmplEtabContrat.Text(), "Siège");
+    EXPECT_EQ(texte(f, "Txt_DatDebContrat"), "01/01/2023");
+    EXPECT_EQ(texte(f, "Cbo_LibEmplEtabContrat"), "Siège");
     user.Cliquer(f.Cmd_Retour);
   });
   screen::User(*controle).DoubleCliquer(controle->Lst_Type, 0);
@@ -120,7 +126,7 @@ TEST_F(Ouverture, UnContratDonneSOuvreDEmblee) {
   for (const char* cle : {"00001002", "00001099"}) {
     std::string montre;
     dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-      montre = f.origine.Txt_NumContrat.Text() + " " + f.origine.Txt_DatDebContrat.Text();
+      montre = texte(f, "Txt_NumContrat") + " " + texte(f, "Txt_DatDebContrat");
       user.Cliquer(f.Cmd_Retour);
     });
     hote.messages.Repondre(screen::Reponse::Non);

@@ -8,7 +8,7 @@
 
 #include "screen/headless/hote.h"
 #include "screen/user.h"
-#include "session/session.h"
+#include "session/dossier.h"
 #include "storage/memory.h"
 #include "support/faulty_storage.h"
 
@@ -41,16 +41,16 @@ class EssaiDialogue : public ::testing::Test {
     item.DBWrite();
   }
   void contrat(const Attributs& attributs) {
-    session.ItemContrat = data::CItem();
-    for (const auto& [a, texte] : attributs) session.ItemContrat.Set(a, valeurs(texte));
+    dossier.ItemContrat = data::CItem();
+    for (const auto& [a, texte] : attributs) dossier.ItemContrat.Set(a, valeurs(texte));
   }
   // Those attributes of the contract in hand, "9=a^b 113=B".
   std::string lu(const std::vector<int>& attributs) {
     std::string texte;
     for (const int a : attributs) {
-      if (session.ItemContrat.Vue(a).empty()) continue;
+      if (dossier.ItemContrat.Vue(a).empty()) continue;
       texte +=
-          (texte.empty() ? "" : " ") + std::to_string(a) + "=" + lisible(session.ItemContrat(a));
+          (texte.empty() ? "" : " ") + std::to_string(a) + "=" + lisible(dossier.ItemContrat(a));
     }
     return texte;
   }
@@ -90,6 +90,7 @@ class EssaiDialogue : public ::testing::Test {
   std::shared_ptr<support::FaultyStorage> store = std::make_shared<support::FaultyStorage>(memoire);
   data::Db db{store};
   session::Session session{hote.poste};
+  session::Dossier dossier{session};
   session::DroitsUniformes droits{2};
   session::DroitsUniformes lecture{1};
 };

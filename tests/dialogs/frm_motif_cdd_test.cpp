@@ -39,13 +39,10 @@ class MotifCDD : public EssaiDialogue {
 
   std::unique_ptr<Frm_MotifCDD> creer(const session::Droits& d, const char* debut = Debut,
                                       const char* convention = "01") {
-    auto form = std::make_unique<Frm_MotifCDD>(hote.platform, session);
-    form->DroitsUtilisateur(d);
-    form->Etq_CodeAidant.SetLibelle("00001");
-    form->DateDebut = debut;
-    form->Contexte = {convention, "001", "00007"};
-    form->init();
-    return form;
+    session.CodeAidant = "00001";
+    session.W_Droits = &d;
+    return std::make_unique<Frm_MotifCDD>(hote.platform, dossier, debut,
+                                          ContexteMotif{convention, "001", "00007"});
   }
   static std::string saisie(const Frm_MotifCDD& f) {
     return f.Txt_CodeAidant.Text() + "|" + f.Cbo_AidantRemplace.Text() + "|" +

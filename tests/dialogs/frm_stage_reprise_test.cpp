@@ -8,10 +8,8 @@ namespace {
 class StageEtReprise : public EssaiDialogue {
  protected:
   std::unique_ptr<Frm_Stage> stage(const session::Droits& d) {
-    auto form = std::make_unique<Frm_Stage>(hote.platform, session);
-    form->DroitsUtilisateur(d);
-    form->init();
-    return form;
+    session.W_Droits = &d;
+    return std::make_unique<Frm_Stage>(hote.platform, dossier);
   }
 };
 
@@ -65,7 +63,7 @@ TEST_F(StageEtReprise, LeSeuilEstEnCentiemes) {
       hote.messages.Repondre(Reponse::Non);
       user.Cliquer(f->Cmd_Retour);
     });
-    EXPECT_EQ(session.ItemContrat(142), c.ecrit);
+    EXPECT_EQ(dossier.ItemContrat(142), c.ecrit);
   }
 }
 
@@ -111,7 +109,7 @@ TEST_F(StageEtReprise, LaRepriseRendCeQuiEstProposeOuSaisi) {
   for (const auto& c : cas) {
     donnees.avecGrille = c.avecGrille;
     donnees.congesReprenables = c.reprenables;
-    Frm_Reprise f(hote.platform, session);
+    Frm_Reprise f(hote.platform, dossier);
     f.Afficher(donnees);
     EXPECT_EQ(f.Txt_DebGrille.Text(), c.avecGrille ? "01/01/2020" : "");
     EXPECT_TRUE(f.Opt_Cdd.Value() && !f.Opt_Cdi.Value() && f.Cac_CpMois.Value() == 1);
@@ -132,7 +130,7 @@ TEST_F(StageEtReprise, LaRepriseRendCeQuiEstProposeOuSaisi) {
 }
 
 TEST_F(StageEtReprise, UneDateFausseRetientEtAnnulerRefuse) {
-  Frm_Reprise f(hote.platform, session);
+  Frm_Reprise f(hote.platform, dossier);
   f.Afficher({});
   montrer(f, [&](screen::User& user) {
     user.Cliquer(f.Cac_CpPerenne);

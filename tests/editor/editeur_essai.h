@@ -3,7 +3,7 @@
 // "03" and "07", two private employers; the day is 22/11/2026 and the pay period November 2026.
 //
 //   creer();                               a new contract, as from the list's Ajouter
-//   taper(o().Txt_ConvColContrat, "01");
+//   taper(txt("ConvColContrat"), "01");
 //   EXPECT_EQ(messages(), "");             the boxes shown since, parted by "|"
 //   contrat("00001001", {{...}});          a stored contract: the basic one with other attributes
 //   ouvrir("00001001");                    as from a double click
@@ -55,7 +55,7 @@ class Editeur : public ::testing::Test {
     article("CIVILAIDANT", Aidant, {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
     libelles("ASSOCIATION", {{"001", "Aide du Val"}, {"002", "Bien Chez Soi"}});
     libelles("CONVENTIONCOL", {{"01", "Branche"}, {"03", "Collectif"}, {"07", "Public"}});
-    article("CONVENTIONCOL", "02", {{1, "Particuliers"}, {22, "1"}});
+    article("CONVENTIONCOL", "02", {{1, "Particuliers"}, {77, "1"}});
     libelles("ETABLISSEMENT", {{"001001", "Siège"}, {"002001", "Nord"}, {"002002", "Est"}});
     article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
     article("ACTIVITES", "001MAN", {{1, "Mandat"}, {12, "M"}});
@@ -74,8 +74,6 @@ class Editeur : public ::testing::Test {
     article("CIVILAIDE", "00009", {{3, "Sans nom"}});
     article("ELTSPARTEMP", "00007", {{13, "20"}});
     article("ELTSPARTEMP", "00008", {{2, "R"}});
-    article("RUBCHARGE", "AD1", {{28, "1"}});
-    article("RUBCHARGE", "AD2", {{28, "1"}, {30, "x"}});
     libelles("PCS",
              {{"56", "Services"}, {"563b", "Aide à domicile"}, {"563c", "Employé de maison"}});
     data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
@@ -116,22 +114,14 @@ class Editeur : public ::testing::Test {
   }
 
   void creer() {
-    session.ModeCreation = true;
-    session.ItemContrat = data::CItem();
-    session.TexteContratInitial.clear();
     if (!editeur) charger();
-    editeur->Afficher_Donnees();
-    if (!session.CombosRemplis) editeur->Remplir_CombosElement();
-    montrer();
+    editeur->Creer();
+    editeur->Show();
   }
   void ouvrir(const std::string& cle) {
-    session.ModeCreation = false;
-    session.ItemContrat = session.F_CONTRAT.Read(cle);
-    session.TexteContratInitial = session.ItemContrat.Text();
-    session.DateFinInitiale = session.ItemContrat(C::DateFin);
     if (!editeur) charger();
-    editeur->InitElementContrat();
-    montrer();
+    editeur->Ouvrir(cle);
+    editeur->Show();
   }
 
   void ouvrirContrat(const Attributs& autres = {}) {
@@ -143,8 +133,25 @@ class Editeur : public ::testing::Test {
     cliquer(editeur->Cmd_Retour);
   }
 
-  editor::OngletOrigine& o() { return editeur->origine; }
-  const data::CItem& c() { return session.ItemContrat; }
+  const data::CItem& c() { return editeur->Dossier().ItemContrat; }
+  // Key of the contract that stands on the screen, or was just created.
+  const std::string& cle() { return editeur->Dossier().CleContratCourant; }
+
+  // Fields by name; one that does not exist ends the test.
+  template <class Champ>
+  Champ& champ(const std::string& nom) {
+    return dynamic_cast<Champ&>(*editeur->Find(nom));
+  }
+  screen::TextField& txt(const std::string& nom) { return champ<screen::TextField>("Txt_" + nom); }
+  screen::ComboBox& cbo(const std::string& nom) { return champ<screen::ComboBox>("Cbo_" + nom); }
+  screen::OptionButton& opt(const std::string& nom) {
+    return champ<screen::OptionButton>("Opt_" + nom);
+  }
+  screen::CheckBox& cac(const std::string& nom) { return champ<screen::CheckBox>("Cac_" + nom); }
+  screen::Button& cmd(const std::string& nom) { return champ<screen::Button>("Cmd_" + nom); }
+  screen::ListBox& lst(const std::string& nom) { return champ<screen::ListBox>("Lst_" + nom); }
+  screen::Field& etq(const std::string& nom) { return champ<screen::Field>("Etq_" + nom); }
+  screen::Frame& cdr(const std::string& nom) { return champ<screen::Frame>("Cdr_" + nom); }
   Acte taper(screen::Field& champ, const std::string& texte) {
     return screen::User(*editeur).Taper(champ, texte);
   }
@@ -182,14 +189,10 @@ class Editeur : public ::testing::Test {
 
  private:
   void charger() {
+    session.W_Droits = &droits;
+    session.CodeAidant = Aidant;
+    session.NomPrenomAidant = "DURAND Anne";
     editeur = std::make_unique<editor::Frm_ElementsContrat>(hote.platform, session);
-  }
-  void montrer() {
-    editeur->Etq_CodeAidant.SetLibelle(Aidant);
-    editeur->Etq_NomPrenomAidant.SetLibelle("DURAND Anne");
-    editeur->DroitsUtilisateur(droits);
-    editeur->init();
-    editeur->Show();
   }
 };
 

@@ -17,10 +17,10 @@ class Enregistre : public essai::Editeur {
   void saisir(const std::string& debut, const char* convention = "01",
               const char* employeur = "001") {
     creer();
-    taper(o().Txt_ConvColContrat, convention);
-    taper(o().Txt_AssocContrat, "001");
-    taper(o().Txt_EmplEtabContrat, employeur);
-    remplir(o().Txt_DatDebContrat, debut);
+    taper(txt("ConvColContrat"), convention);
+    taper(txt("AssocContrat"), "001");
+    taper(txt("EmplEtabContrat"), employeur);
+    remplir(txt("DatDebContrat"), debut);
   }
   // The record's text with visible separators, "-" for none.
   std::string lu(const std::string& fichier, const std::string& cle) {
@@ -50,7 +50,6 @@ class Enregistre : public essai::Editeur {
   void vider() {
     stockage->EchouerEcriture(0);
     editeur.reset();
-    session.CombosRemplis = false;
     for (const char* fichier : {"CONTRAT", "CONTRATINV", "ACTUSUIVICONTRAT", "LIENCONTRAT",
                                 "LIENAVENANT", "CONTRAT00101", "CONTRAT00102", "DSNEVENEMENT"}) {
       std::vector<std::string> cles;
@@ -100,13 +99,22 @@ TEST_F(Enregistre, ChoisitLeNumero) {
       {"", "", {}, "001", "001^", ""},
       {"009", "", {}, "010", "010^", ""},
       {"009", "005|007", {}, "005", "009^007", ""},
-      // Numbers given again by an interrupted save.
+      // The record of a cancelled contract does not keep its number from being given back; the
+      // counter's own numbers never fall on a record.
+      {"009", "005", {"005-"}, "005", "009^", ""},
+      {"009",
+       "005|007",
+       {"005"},
+       "007",
+       "009^",
+       "Un contrat de cet aidant porte déjà le numéro 005 : le nouveau contrat prend le numéro "
+       "007."},
       {"009",
        "005",
-       {"005", "010"},
+       {"005", "010-"},
        "011",
        "011^",
-       "Un contrat de cet aidant porte déjà le numéro 005, 010 : le nouveau contrat prend le "
+       "Des contrats de cet aidant portent déjà les numéros 005, 010 : le nouveau contrat prend le "
        "numéro 011."},
       // What was given back is a number, however it was written.
       {"009", "x|5", {}, "005", "009^", ""},
@@ -121,20 +129,23 @@ TEST_F(Enregistre, ChoisitLeNumero) {
     vider();
     article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, dernier}, {42, valeurs(libres)}});
     for (const char* present : presents) {
-      contrat("00001" + std::string(present), {{C::Annule, "O"}, {C::Employeur, "001009"}});
+      contrat("00001" + std::string(present, 3), {{C::Annule, present[3] == '-' ? "O" : ""},
+                                                  {C::Association, "002"},
+                                                  {C::Employeur, "002001"}});
     }
     saisir("01/12/2026");
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), message) << dernier << libres;
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41) + "^" + attribut("CIVILAIDANT", "00001", 42),
               apres);
     if (*numero != '\0') {
-      EXPECT_EQ(session.CleContratCourant, "00001" + std::string(numero));
-      EXPECT_EQ(attribut("CONTRAT", session.CleContratCourant, C::DateDebut), "21520");
-      EXPECT_EQ(attribut("CONTRAT", session.CleContratCourant, C::Annule), "");
+      EXPECT_EQ(cle(), "00001" + std::string(numero));
+      EXPECT_EQ(attribut("CONTRAT", cle(), C::DateDebut), "21520");
+      EXPECT_EQ(attribut("CONTRAT", cle(), C::Annule), "");
     }
-    for (const char* present : presents) {
-      EXPECT_EQ(attribut("CONTRAT", "00001" + std::string(present), C::Employeur), "001009");
+    for (const std::string present : presents) {
+      if (present.substr(0, 3) == numero) continue;
+      EXPECT_EQ(attribut("CONTRAT", "00001" + present.substr(0, 3), C::Employeur), "002001");
     }
   }
 }
@@ -164,7 +175,7 @@ TEST_F(Enregistre, ProposeCeQuiVientDuContratPrecedent) {
       EXPECT_EQ(user.Cliquer(f.Cac_CpPerenne), Acte::Fait);
       user.Cliquer(f.Cmd_Ok);
     });
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), "");
     EXPECT_EQ(montre, "01/01/2025 " + std::string(fin) + " 01/06/2024 2,5 03/06/2024");
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), jour(anciennete));
@@ -179,7 +190,7 @@ TEST_F(Enregistre, LaRepriseSeLimiteAuxDates) {
   precedent("30/11/2026");
   saisir("01/12/2026");
   accepterReprise(false);
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), jour("01/01/2025"));
   EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");
   EXPECT_EQ(attribut("CONTRAT", "00001001", C::CongesReportesSur), "");
@@ -231,8 +242,8 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
                {2, place == std::string::npos ? "" : avant.substr(place + 1)}});
     }
     ouvrir("00001001");
-    if (finChangee) session.DateFinInitiale = "";
-    cliquer(editeur->Cmd_OK);
+    if (finChangee) editeur->Dossier().Initial.Set(C::DateFin, "");
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), "") << nom;
     EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << nom;
   }
@@ -244,7 +255,7 @@ TEST_F(Enregistre, LaRepriseMarqueLEvenementEnvoyeDuPrecedent) {
   article("DSNEVENEMENT", "00001001", {{1, "E"}, {2, "1"}});
   saisir("01/12/2026");
   accepterReprise(true);
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), "E^1");
 }
 
@@ -253,7 +264,7 @@ TEST_F(Enregistre, UneFinSansDernierBulletinSeDitEtFinitLesMissions) {
   article("MISSIONSAIDANT", "00001",
           {{3, valeurs("|21000|22000|22000")}, {13, valeurs("001|001|001|002")}});
   ouvrirContrat({{C::DateFin, jour("30/06/2026")}});
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_EQ(messages(),
             "Une date de fin de contrat a été créée, veuillez arrêter de travailler sur cet "
             "ordinateur et merci d'appeler KORVALDIS.");
@@ -269,45 +280,46 @@ TEST_F(Enregistre, UnChevauchementRetientUnContratSurFichier) {
   contrat("00001002", {{C::DateDebut, jour("01/01/2027")}});
   const std::string avant = tout();
   ouvrir("00001002");
-  remplir(o().Txt_DatDebContrat, "31/12/2026");
-  cliquer(editeur->Cmd_OK);
+  remplir(txt("DatDebContrat"), "31/12/2026");
+  cliquer(cmd("OK"));
   EXPECT_TRUE(editeur->Visible() && editeur->Enabled());
   EXPECT_FALSE(hote.curseur.EnAttente());
   EXPECT_EQ(tout(), avant);
 }
 
-// The writes of a road, each failed in turn: the error names file and key, nothing later is there,
-// the screen is the user's again, and saving again ends as if nothing had happened.
+// The writes of a road, each failed in turn: the error names file and key, nothing later is there
+// and nothing at all while the contract itself does not stand, the screen is the user's again, and
+// saving again ends as if nothing had happened.
 class Panne : public Enregistre {
  protected:
   void eprouver(const std::function<void()>& preparer, const std::function<void()>& dialogues) {
     preparer();
     dialogues();
     stockage->EchouerEcriture(0);
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     const int ecritures = stockage->Ecritures();
     const std::string attendu = tout();
     ASSERT_GT(ecritures, 3);
     for (int n = 1; n <= ecritures; ++n) {
       preparer();
-      const std::string saisie = o().Txt_DatDebContrat.Text();
+      const std::string saisie = txt("DatDebContrat").Text();
       const std::string avant = tout();
       dialogues();
       stockage->EchouerEcriture(n);
       try {
-        cliquer(editeur->Cmd_OK);
+        cliquer(cmd("OK"));
         FAIL() << "write " << n << " did not fail";
       } catch (const data::StoreError& e) {
         EXPECT_FALSE(e.Fichier().empty() || e.Cle().empty()) << n;
       }
       EXPECT_EQ(stockage->Ecritures(), n) << "written after the failure";
-      EXPECT_EQ(tout() == avant, n == 1);
+      EXPECT_EQ(tout() == avant, cle().empty()) << "half a contract after write " << n;
       EXPECT_TRUE(editeur->Visible() && editeur->Enabled()) << n;
       EXPECT_FALSE(hote.curseur.EnAttente()) << n;
-      EXPECT_EQ(o().Txt_DatDebContrat.Text(), saisie) << n;
+      EXPECT_EQ(txt("DatDebContrat").Text(), saisie) << n;
       stockage->EchouerEcriture(0);
       dialogues();
-      cliquer(editeur->Cmd_OK);
+      cliquer(cmd("OK"));
       EXPECT_EQ(messages(), "") << n;
       EXPECT_FALSE(editeur->Visible()) << n;
       EXPECT_EQ(tout(), attendu) << n;
@@ -332,16 +344,16 @@ TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
     saisirUneSuite();
     const std::string avant = lu("CONTRAT", "00001001");
     accepterReprise(true);
-    // Previous contract, its event, the contract, then the mark of the follow-up.
-    stockage->EchouerEcriture(4);
-    EXPECT_THROW(cliquer(editeur->Cmd_OK), data::StoreError);
+    // Previous contract, its event, the contract and the counter; then the mark of the follow-up.
+    stockage->EchouerEcriture(5);
+    EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
     EXPECT_NE(lu("CONTRAT", "00001001"), avant);
     stockage->EchouerEcriture(0);
     if (abandonner) {
       quitter(screen::Reponse::Oui);
     } else {
       repondreReprise([](dialogs::Frm_Reprise& f) { screen::User(f).Cliquer(f.Cmd_Annuler); });
-      cliquer(editeur->Cmd_OK);
+      cliquer(cmd("OK"));
     }
     EXPECT_FALSE(editeur->Visible());
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::Annule), abandonner ? "O" : "");
@@ -361,8 +373,8 @@ TEST_F(Enregistre, UnAutrePostePrendLeNumeroPendantLaReprise) {
     EXPECT_FALSE(hote.curseur.EnAttente());
     screen::User(f).Cliquer(f.Cmd_Annuler);
   });
-  cliquer(editeur->Cmd_OK);
-  EXPECT_EQ(session.CleContratCourant, "00001003");
+  cliquer(cmd("OK"));
+  EXPECT_EQ(cle(), "00001003");
   EXPECT_EQ(attribut("CONTRAT", "00001002", C::Association), "002");
   EXPECT_EQ(attribut("CIVILAIDANT", "00001", 2), "DURAND-PETIT");
 }

@@ -12,20 +12,19 @@ class Codes : public essai::Editeur {
     const auto paire = [](const screen::TextField& code, const screen::ComboBox& libelle) {
       return "[" + code.Text() + (libelle.Text().empty() ? "" : " " + libelle.Text()) + "]";
     };
-    return paire(o().Txt_ConvColContrat, o().Cbo_LibConvColContrat) +
-           paire(o().Txt_AssocContrat, o().Cbo_LibAssocContrat) +
-           paire(o().Txt_EmplEtabContrat, o().Cbo_LibEmplEtabContrat);
+    return paire(txt("ConvColContrat"), cbo("LibConvColContrat")) +
+           paire(txt("AssocContrat"), cbo("LibAssocContrat")) +
+           paire(txt("EmplEtabContrat"), cbo("LibEmplEtabContrat"));
   }
-  // Provident contract shown, kept and offered.
+  // Provident contract shown and offered.
   std::string prevoyance() {
-    auto& paie = editeur->paie;
-    return paie.Txt_PrevContrat.Text() + " " + paie.Cbo_LibPrevContrat.Text() + " | " +
-           o().PrevContratPrecedent + " | " + lignes(paie.Cbo_LibPrevContrat);
+    return txt("PrevContrat").Text() + " " + cbo("LibPrevContrat").Text() + " | " +
+           lignes(cbo("LibPrevContrat"));
   }
   void particulier() {
     creer();
-    taper(o().Txt_ConvColContrat, "02");
-    taper(o().Txt_AssocContrat, "001");
+    taper(txt("ConvColContrat"), "02");
+    taper(txt("AssocContrat"), "001");
   }
 };
 
@@ -58,15 +57,17 @@ TEST_F(Codes, UnCodeConnuMontreSonLibelleEtUnAutreEstRefuse) {
        "Cbo_LibEmplEtabContrat"},
       {"c02 e001 p00009", "[02 Particuliers][001 Aide du Val][]", "Cet employeur n'existe pas.",
        "Txt_EmplEtabContrat"},
-      {"c02 e001 p7 e002", "[02 Particuliers][][]", sansMandat, "Txt_AssocContrat"},
+      // A private employer does not hang on the entity that is typed.
+      {"c02 e001 p7 e002", "[02 Particuliers][][00007 Rose MARTIN]", sansMandat,
+       "Txt_AssocContrat"},
   };
   for (const auto& [actes, attendus, message, focus] : cas) {
     editeur.reset();
     creer();
     for (const std::string& acte : data::mots(actes)) {
-      auto& champ = acte[0] == 'c'   ? o().Txt_ConvColContrat
-                    : acte[0] == 'e' ? o().Txt_AssocContrat
-                                     : o().Txt_EmplEtabContrat;
+      auto& champ = acte[0] == 'c'   ? txt("ConvColContrat")
+                    : acte[0] == 'e' ? txt("AssocContrat")
+                                     : txt("EmplEtabContrat");
       taper(champ, acte.substr(1));
       // A complete code may have moved on by itself already, and a refused one keeps the focus.
       if (actif() == champ.Nom() && hote.messages.Restants() == 0) User(*editeur).Quitter();
@@ -79,51 +80,56 @@ TEST_F(Codes, UnCodeConnuMontreSonLibelleEtUnAutreEstRefuse) {
 
 TEST_F(Codes, UnLibelleChoisiDonneSonCodeUnLibelleTapeNEnDonnePas) {
   creer();
-  EXPECT_EQ(lignes(o().Cbo_LibConvColContrat), "Branche|Collectif|Particuliers|Public");
-  EXPECT_EQ(choisir(o().Cbo_LibAssocContrat, 0), Acte::Inaccessible);
-  choisir(o().Cbo_LibConvColContrat, 1);
-  choisir(o().Cbo_LibAssocContrat, 1);
-  choisir(o().Cbo_LibEmplEtabContrat, 0);
+  EXPECT_EQ(lignes(cbo("LibConvColContrat")), "Branche|Collectif|Particuliers|Public");
+  EXPECT_EQ(choisir(cbo("LibAssocContrat"), 0), Acte::Inaccessible);
+  choisir(cbo("LibConvColContrat"), 1);
+  choisir(cbo("LibAssocContrat"), 1);
+  choisir(cbo("LibEmplEtabContrat"), 0);
   EXPECT_EQ(codes(), "[03 Collectif][002 Bien Chez Soi][002 Est]");
-  choisir(o().Cbo_LibAssocContrat, 0);
+  choisir(cbo("LibAssocContrat"), 0);
   EXPECT_EQ(codes(), "[03 Collectif][001 Aide du Val][001 Siège]");
-  taper(o().Cbo_LibEmplEtabContrat, "Siège bis");
+  taper(cbo("LibEmplEtabContrat"), "Siège bis");
   EXPECT_EQ(codes(), "[03 Collectif][001 Aide du Val][ Siège bis]");
-  taper(o().Cbo_LibAssocContrat, "Val");
+  taper(cbo("LibAssocContrat"), "Val");
   EXPECT_EQ(codes(), "[03 Collectif][ Val][]");
-  taper(o().Cbo_LibConvColContrat, "");
+  taper(cbo("LibConvColContrat"), "");
   EXPECT_EQ(codes(), "[][][]");
-  EXPECT_FALSE(o().Txt_AssocContrat.Enabled());
+  EXPECT_FALSE(txt("AssocContrat").Enabled());
+  choisir(cbo("LibConvColContrat"), 2);
+  choisir(cbo("LibAssocContrat"), 0);
+  taper(txt("EmplEtabContrat"), "00007");
+  choisir(cbo("LibAssocContrat"), 0);  // the same one
+  EXPECT_EQ(codes(), "[02 Particuliers][001 Aide du Val][00007 Rose MARTIN]");
+  article("ACTIVITES", "002MAN", {{1, "Mandat"}, {12, "M"}});
+  choisir(cbo("LibAssocContrat"), 1);
+  EXPECT_EQ(codes(), "[02 Particuliers][002 Bien Chez Soi][]");
   EXPECT_EQ(messages(), "");
 }
 
 TEST_F(Codes, UneConventionDEntiteRemplitLesAutresOnglets) {
   creer();
-  auto& carac = editeur->caracteristiques;
-  auto& paie = editeur->paie;
   const auto remplis = [&](const char* convention) {
-    taper(o().Txt_ConvColContrat, convention);
-    return lignes(carac.Cbo_GrilleContrat) + " / " + prevoyance() + " / " +
-           (o().Cbo_Contrepartie.Visible() ? "C" : "") + o().Cbo_Contrepartie.Text() +
-           (carac.Cmd_ElemDrtPub.Visible() ? "P" : "");
+    taper(txt("ConvColContrat"), convention);
+    return lignes(cbo("GrilleContrat")) + " / " + prevoyance() + " / " +
+           (cbo("Contrepartie").Visible() ? "C" : "") + cbo("Contrepartie").Text() +
+           (cmd("ElemDrtPub").Visible() ? "P" : "");
   };
-  EXPECT_EQ(remplis("01"), "Grille A|Grille B /   |  | Autres|Cadres / C");
-  choisir(o().Cbo_Contrepartie, 1);  // it belongs to agreement "01" alone
+  EXPECT_EQ(remplis("01"), "Grille A|Grille B /   | Autres|Cadres / C");
+  choisir(cbo("Contrepartie"), 1);  // it belongs to agreement "01" alone
   // The only provident contract is taken; "99" is never offered.
-  EXPECT_EQ(remplis("03"), "Grille C / 20 Tous |  | Tous / ");
-  EXPECT_EQ(o().Etq_EmplEtabContrat.Libelle() + carac.Txt_CodPCSContrat.Text(),
-            "Etablissement563b");
-  EXPECT_EQ(remplis("07"), " /   |  |  / P");
+  EXPECT_EQ(remplis("03"), "Grille C / 20 Tous | Tous / ");
+  EXPECT_EQ(etq("EmplEtabContrat").Libelle() + txt("CodPCSContrat").Text(), "Etablissement563b");
+  EXPECT_EQ(remplis("07"), " /   |  / P");
 
   const auto activites = [&] {
-    taper(o().Txt_AssocContrat, "001");
-    return lignes(paie.Cbo_Activite) + "/" + lignes(paie.Lst_ActiviteContrat) + "/" +
-           lignes(paie.Lst_RepartActContrat) + "/" + lignes(editeur->fin.Cbo_OrgRetraite) + "/" +
-           editeur->fin.Txt_OrgRetraite.Text();
+    taper(txt("AssocContrat"), "001");
+    return lignes(cbo("Activite")) + "/" + lignes(lst("ActiviteContrat")) + "/" +
+           lignes(lst("RepartActContrat")) + "/" + lignes(cbo("OrgRetraite")) + "/" +
+           txt("OrgRetraite").Text();
   };
   EXPECT_EQ(activites(), "Domicile/Domicile//Retraite A|Retraite B/001A");
   db.OpenFile("ACTIVITES").DeleteItem("001MAN");
-  cliquer(o().Opt_Administratif);
+  cliquer(opt("Administratif"));
   EXPECT_EQ(activites(), "Domicile/Domicile/100/Retraite A|Retraite B/001A");
   db.OpenFile("ACTIVITES").DeleteItem("001DOM");
   EXPECT_EQ(activites(), "////");
@@ -134,16 +140,13 @@ TEST_F(Codes, UneConventionDEntiteRemplitLesAutresOnglets) {
 
 TEST_F(Codes, UnParticulierEmployeurChangeTouteLaFiche) {
   particulier();
-  const auto& paie = editeur->paie;
-  EXPECT_FALSE(o().Txt_ConvColContrat.Enabled() || paie.Cdr_RegimePrev.Enabled() ||
-               paie.Txt_PrevContrat.Enabled() || editeur->fin.Cbo_OrgRetraite.Enabled());
-  EXPECT_TRUE(paie.Cac_PaieSalContrat.Visible() && paie.Cac_ProvCP.Visible() &&
-              editeur->conges.Txt_ProvisionCP.Visible() && o().Cmd_DetailEmpl.Visible());
-  EXPECT_EQ(o().Etq_EmplEtabContrat.Libelle() + "|" +
-                editeur->caracteristiques.Txt_CodPCSContrat.Text() + "|" +
-                editeur->caracteristiques.Cbo_FoncPCSContrat.Text() + "|" +
-                lignes(paie.Lst_ActiviteContrat) + "|" + lignes(editeur->fin.Cbo_OrgRetraite) +
-                "|" + editeur->fin.Cbo_OrgRetraite.Text(),
+  EXPECT_FALSE(txt("ConvColContrat").Enabled() || cdr("RegimePrev").Enabled() ||
+               txt("PrevContrat").Enabled() || cbo("OrgRetraite").Enabled());
+  EXPECT_TRUE(cac("PaieSalContrat").Visible() && cac("ProvCP").Visible() &&
+              txt("ProvisionCP").Visible() && cmd("DetailEmpl").Visible());
+  EXPECT_EQ(etq("EmplEtabContrat").Libelle() + "|" + txt("CodPCSContrat").Text() + "|" +
+                cbo("FoncPCSContrat").Text() + "|" + lignes(lst("ActiviteContrat")) + "|" +
+                lignes(cbo("OrgRetraite")) + "|" + cbo("OrgRetraite").Text(),
             "Employeur|563c|Employé de maison|Mandat|IRCEM|IRCEM");
 }
 
@@ -152,14 +155,14 @@ TEST_F(Codes, LaPrevoyanceDUnParticulierDoitEtreEnCours) {
     const char* code;
     const char* fin;
     const char* attendu;
-  } cas[] = {{"20", "22/11/2026", "20 Employés | 20 | Employés"},
-             {"20", "21/11/2026", "  |  | "},
-             {"", "", "  |  | "},
-             {"77", "", "  |  | "}};  // a contract that is not on file
+  } cas[] = {{"20", "22/11/2026", "20 Employés | Employés"},
+             {"20", "21/11/2026", "  | "},
+             {"", "", "  | "},
+             {"77", "", "  | "}};  // a contract that is not on file
   particulier();
   for (const auto& [code, fin, attendu] : cas) {
     article("ELTSPARTEMP", "00007", {{13, code}, {14, jour(fin)}});
-    taper(o().Txt_EmplEtabContrat, "00007");
+    taper(txt("EmplEtabContrat"), "00007");
     EXPECT_EQ(prevoyance(), attendu) << code << fin;
   }
 }
@@ -181,11 +184,11 @@ TEST_F(Codes, RechercheUnEmployeurParSonNom) {
       {"[\"", "", " [\"", "Au moins le premier caractère du nom doit être saisi."},
   };
   for (const auto& [nom, trouves, attendus, message] : cas) {
-    taper(o().Cbo_LibEmplEtabContrat, "");
-    o().Cbo_LibEmplEtabContrat.Clear();
-    taper(o().Cbo_LibEmplEtabContrat, nom);
-    User(*editeur).Touche(o().Cbo_LibEmplEtabContrat, screen::ToucheEntree);
-    EXPECT_EQ(lignes(o().Cbo_LibEmplEtabContrat), trouves) << nom;
+    taper(cbo("LibEmplEtabContrat"), "");
+    cbo("LibEmplEtabContrat").Clear();
+    taper(cbo("LibEmplEtabContrat"), nom);
+    User(*editeur).Touche(cbo("LibEmplEtabContrat"), screen::ToucheEntree);
+    EXPECT_EQ(lignes(cbo("LibEmplEtabContrat")), trouves) << nom;
     EXPECT_EQ(codes(), std::string("[02 Particuliers][001 Aide du Val][") + attendus + "]") << nom;
     EXPECT_EQ(messages(), message) << nom;
   }
@@ -195,12 +198,12 @@ TEST_F(Codes, RechercheUnEmployeurParSonNom) {
 
 TEST_F(Codes, LeDetailDeLEmployeurVientDUnControleDeLaSuite) {
   particulier();
-  taper(o().Txt_EmplEtabContrat, "00007");
-  cliquer(o().Cmd_DetailEmpl);
+  taper(txt("EmplEtabContrat"), "00007");
+  cliquer(cmd("DetailEmpl"));
   EXPECT_EQ(messages().substr(0, 52), "Le détail de l'employeur ne peut pas être affiché");
   auto& controle = hote.controles.Ajouter("Ctr_CivilAide");
   hote.modales.Prevoir([](screen::Form& forme) { User(forme).Fermer(); });
-  cliquer(o().Cmd_DetailEmpl);
+  cliquer(cmd("DetailEmpl"));
   EXPECT_EQ(controle.Lire("W_CodeAide"), "00007");
 }
 

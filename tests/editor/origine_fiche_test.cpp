@@ -18,12 +18,12 @@ class Fiche : public essai::Editeur {
   }
   void nouveau(const char* convention, const char* entite) {
     creer();
-    taper(o().Txt_ConvColContrat, convention);
-    taper(o().Txt_AssocContrat, entite);
+    taper(txt("ConvColContrat"), convention);
+    taper(txt("AssocContrat"), entite);
   }
   void determine(const char* fin) {
-    cliquer(o().Opt_Determine);
-    remplir(o().Txt_DatFinContrat, fin);
+    cliquer(opt("Determine"));
+    remplir(txt("DatFinContrat"), fin);
   }
   // Those attributes of the contract in hand, parted by blanks.
   std::string lu(const std::vector<int>& attributs) {
@@ -31,7 +31,7 @@ class Fiche : public essai::Editeur {
     for (const int a : attributs) texte += (texte.empty() ? "" : " ") + c()(a);
     return texte;
   }
-  void debuter(const char* debut) { remplir(o().Txt_DatDebContrat, debut); }
+  void debuter(const char* debut) { remplir(txt("DatDebContrat"), debut); }
 };
 
 // Acts: agreement "c", entity "e", fixed term to "t", start "d", signature "s", trial "p", payslip
@@ -87,12 +87,12 @@ TEST_F(Fiche, VerifieDansLOrdre) {
       {"15 before", avenant, "d01/04/2026", "", ""},
   };
   const std::map<char, std::function<void(const std::string&)>> actes{
-      {'c', [&](auto& texte) { taper(o().Txt_ConvColContrat, texte); }},
-      {'e', [&](auto& texte) { taper(o().Txt_AssocContrat, texte); }},
+      {'c', [&](auto& texte) { taper(txt("ConvColContrat"), texte); }},
+      {'e', [&](auto& texte) { taper(txt("AssocContrat"), texte); }},
       {'t', [&](auto& texte) { determine(texte.c_str()); }},
       {'d', [&](auto& texte) { debuter(texte.c_str()); }},
-      {'s', [&](auto& texte) { remplir(o().Txt_DateSignConvEmplAide, texte); }},
-      {'p', [&](auto& texte) { remplir(o().Txt_PerEssaiContrat, texte); }},
+      {'s', [&](auto& texte) { remplir(txt("DateSignConvEmplAide"), texte); }},
+      {'p', [&](auto& texte) { remplir(txt("PerEssaiContrat"), texte); }},
       {'k',
        [&](auto& mois) {
          article("DETAILCALCUL", "00001001" + mois, {{1, "x"}});
@@ -105,7 +105,7 @@ TEST_F(Fiche, VerifieDansLOrdre) {
     if (suite[0] != '+') ouvrirContrat(attributs);
     for (const std::string& acte : data::mots(suite)) actes.at(acte[0])(acte.substr(1));
     messages();
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), message) << nom;
     EXPECT_EQ(actif(), focus) << nom;
     EXPECT_EQ(editeur->Visible(), *message != '\0') << nom;
@@ -118,7 +118,7 @@ TEST_F(Fiche, UnMotifSaisiAussitotSuffitUneConventionDeStageNon) {
   determine("31/12/2026");
   hote.messages.Repondre(screen::Reponse::Non);
   hote.modales.Prevoir([](screen::Form& f) { User(f).Cliquer(*f.Find("Cmd_Retour")); });
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_EQ(hote.messages.Prendre()->texte, motif);
   messages();
 
@@ -130,10 +130,10 @@ TEST_F(Fiche, UnMotifSaisiAussitotSuffitUneConventionDeStageNon) {
   };
   saisir({"Txt_MotifEmbContrat(0)"});
   saisir({"Txt_Etab", "Txt_SujetStage", "Txt_Tuteur", "Txt_Service", "Txt_Seuil"});
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_EQ(messages(), motif + "|La saisie du détail de la convention de stage est obligatoire.");
   EXPECT_TRUE(editeur->Visible());
-  cliquer(editeur->Cmd_OK);
+  cliquer(cmd("OK"));
   EXPECT_FALSE(editeur->Visible());
   EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::StageEcole), "3");
 }
@@ -165,16 +165,16 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
                         {C::ContrepartieInterruption, "9"}};
   for (const Attributs& autres : {Attributs{}, avec, particulier, perdus, avec, vides}) {
     ouvrirContrat(autres);  // the same editor, over what the contract before has left
-    User(*editeur).Derouler(o().Cbo_NatureContrat);
-    EXPECT_EQ(lignes(o().Cbo_NatureContrat),
+    User(*editeur).Derouler(cbo("NatureContrat"));
+    EXPECT_EQ(lignes(cbo("NatureContrat")),
               autres == avec ? "Normal|Stagiaire|Ancien" : "Normal|Stagiaire");
-    EXPECT_FALSE(editeur->caracteristiques.Cdr_Lissage.Visible());  // hourly or administrative
+    EXPECT_FALSE(cdr("Lissage").Visible());  // hourly or administrative
     const bool rose = autres == particulier;
-    EXPECT_EQ(editeur->paie.Cac_PaieSalContrat.Visible(), rose);
-    EXPECT_EQ(o().Cbo_LibEmplEtabContrat.Text(), rose               ? "MARTIN Rose"
-                                                 : autres == perdus ? ""
-                                                                    : "Siège");
-    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(cac("PaieSalContrat").Visible(), rose);
+    EXPECT_EQ(cbo("LibEmplEtabContrat").Text(), rose               ? "MARTIN Rose"
+                                                : autres == perdus ? ""
+                                                                   : "Siège");
+    cliquer(cmd("Retour"));
     EXPECT_EQ(messages(), "");
     EXPECT_FALSE(editeur->Visible());
   }
@@ -182,42 +182,40 @@ TEST_F(Fiche, CeQuiEstMontreEtNonTouchePasseSansQuestion) {
 
 TEST_F(Fiche, UnNouveauContratNeGardeRienDuPrecedent) {
   ouvrirContrat({{C::EssaiRenouvelable, "1"}, {C::DateConventionAidee, "20000"}});
-  cliquer(editeur->Cmd_Retour);
+  cliquer(cmd("Retour"));
   nouveau("02", "001");
-  taper(o().Txt_EmplEtabContrat, "00007");
+  taper(txt("EmplEtabContrat"), "00007");
   quitter(screen::Reponse::Oui);
   creer();
-  const auto& paie = editeur->paie;
-  EXPECT_FALSE(o().Txt_AssocContrat.Enabled() || o().Txt_NumRef.Enabled() ||
-               o().Cmd_DetailEmpl.Visible() || paie.Cac_PaieSalContrat.Visible() ||
-               o().Cac_RenouvEssaiContrat.Value() == 1 || !paie.Cdr_RegimePrev.Enabled());
-  EXPECT_EQ(actif() + o().PrevContratPrecedent + lignes(paie.Cbo_LibPrevContrat) +
-                lignes(editeur->fin.Cbo_OrgRetraite),
+  EXPECT_FALSE(txt("AssocContrat").Enabled() || txt("NumRef").Enabled() ||
+               cmd("DetailEmpl").Visible() || cac("PaieSalContrat").Visible() ||
+               cac("RenouvEssaiContrat").Value() == 1 || !cdr("RegimePrev").Enabled());
+  EXPECT_EQ(actif() + lignes(cbo("LibPrevContrat")) + lignes(cbo("OrgRetraite")),
             "Txt_ConvColContrat");
 }
 
 TEST_F(Fiche, EcritChaqueChampASaPlace) {
   ouvrirContrat();
   determine("31122027");
-  cliquer(o().Opt_Mensuel);
-  cliquer(o().Opt_Administratif);
-  remplir(o().Txt_PerEssaiContrat, "2x1");
-  EXPECT_EQ(o().Txt_PerEssaiContrat.Text(), "21");
-  User(*editeur).Coller(o().Txt_PerEssaiContrat, "2 mois");
-  cliquer(o().Cac_RenouvEssaiContrat);
-  remplir(o().Txt_DureeMinContrat, "6 mois");
-  User(*editeur).Derouler(o().Cbo_NatureContrat);
-  choisir(o().Cbo_NatureContrat, 1);
-  remplir(o().Txt_DateSignConvEmplAide, "15-2-26");
-  remplir(o().Txt_NumRef, "R1");
-  choisir(o().Cbo_Contrepartie, 2);
+  cliquer(opt("Mensuel"));
+  cliquer(opt("Administratif"));
+  remplir(txt("PerEssaiContrat"), "2x1");
+  EXPECT_EQ(txt("PerEssaiContrat").Text(), "21");
+  User(*editeur).Coller(txt("PerEssaiContrat"), "2 mois");
+  cliquer(cac("RenouvEssaiContrat"));
+  remplir(txt("DureeMinContrat"), "6 mois");
+  User(*editeur).Derouler(cbo("NatureContrat"));
+  choisir(cbo("NatureContrat"), 1);
+  remplir(txt("DateSignConvEmplAide"), "15-2-26");
+  remplir(txt("NumRef"), "R1");
+  choisir(cbo("Contrepartie"), 2);
   copier();
   EXPECT_EQ(
       lu({C::Employeur, C::Type, C::Salaire, C::Statut, C::PeriodeEssai, C::EssaiRenouvelable,
           C::DureeMinimale, C::Nature, C::ReferenceConventionAidee, C::ContrepartieInterruption,
           C::DateFinPresumee, C::DateConventionAidee}),
       "001001 D M A 2 mois 1 6 mois STG R1 3 " + jour("31/12/2027") + " " + jour("15/02/2026"));
-  remplir(o().Txt_DateSignConvEmplAide, "");  // takes the reference along
+  remplir(txt("DateSignConvEmplAide"), "");  // takes the reference along
   copier();
   EXPECT_EQ(lu({C::ReferenceConventionAidee, C::DateConventionAidee}), "");
 }
@@ -228,26 +226,26 @@ TEST_F(Fiche, CeQuUneCopieARetireRevientAvecLesChamps) {
                  {C::Nature, "STG"},
                  {C::StageEcole, "Lycée"},
                  {C::StageSeuil, "375"}});
-  EXPECT_TRUE(o().Cmd_Stage.Visible());
-  remplir(o().Cbo_NatureContrat, "Ancien");  // on file, but no longer offered
+  EXPECT_TRUE(cmd("Stage").Visible());
+  remplir(cbo("NatureContrat"), "Ancien");  // on file, but no longer offered
   EXPECT_EQ(messages() + actif(),
             "La nature saisie n'existe pas, veuillez la ressaisir.Cbo_NatureContrat");
-  remplir(o().Cbo_NatureContrat, "Normal");
-  EXPECT_FALSE(o().Cmd_Stage.Visible());
-  cliquer(o().Opt_Indetermine);
+  remplir(cbo("NatureContrat"), "Normal");
+  EXPECT_FALSE(cmd("Stage").Visible());
+  cliquer(opt("Indetermine"));
   for (int copie = 1; copie <= 2; ++copie) {
     copier();
     EXPECT_EQ(lu({C::Nature, C::StageEcole, C::StageSeuil, C::DateFinPresumee}) +
-                  o().Txt_DatFinContrat.Text(),
+                  txt("DatFinContrat").Text(),
               "CDI   ");
   }
   messages();
-  remplir(o().Cbo_NatureContrat, "Stagiaire");
+  remplir(cbo("NatureContrat"), "Stagiaire");
   hote.modales.Prevoir([](screen::Form& f) { User(f).Cliquer(*f.Find("Cmd_Retour")); });
-  cliquer(o().Cmd_Stage);
+  cliquer(cmd("Stage"));
   EXPECT_EQ(c()(C::StageEcole), "Lycée");
-  cliquer(o().Opt_Determine);
-  cliquer(editeur->Cmd_Retour);
+  cliquer(opt("Determine"));
+  cliquer(cmd("Retour"));
   EXPECT_EQ(messages(), "");
   EXPECT_FALSE(editeur->Visible());
 }
@@ -260,7 +258,7 @@ TEST_F(Fiche, UnDebutDeplaceEntraineLeContratSigne) {
                    {C::DepartGrille, valeurs(depart + "|" + juin)}});
     for (const std::string& debut : {avril, mai, mars, avril}) {
       debuter(session.Lib.DateFromInternal(debut).c_str());
-      remplir(o().Txt_PerEssaiContrat, debut == mars ? "1" : "2");
+      remplir(txt("PerEssaiContrat"), debut == mars ? "1" : "2");
       copier();
       EXPECT_EQ(lu({C::DateDebut, C::DateEffet, C::DepartGrille}),
                 debut + " " + valeurs(debut + "|" + juin) + " " +
@@ -269,7 +267,7 @@ TEST_F(Fiche, UnDebutDeplaceEntraineLeContratSigne) {
     debuter("01/06/2026");
     EXPECT_EQ(messages().substr(0, 60),
               "Voulez-vous enregistrer les modifications apportées à cet ");
-    EXPECT_EQ(o().Txt_DatDebContrat.Text(), "");
+    EXPECT_EQ(txt("DatDebContrat").Text(), "");
     quitter(screen::Reponse::Non);
     messages();
   }
@@ -287,45 +285,41 @@ TEST_F(Fiche, QuitterEnEnregistrantCompareAuDebutSurFichier) {
 // Term, minimum length, insecurity bonus open and ticked; modulation shown and ticked; shares.
 TEST_F(Fiche, LesOptionsMontrentCeQuiLesConcerne) {
   ouvrirContrat();
-  auto& carac = editeur->caracteristiques;
   const auto apres = [&](screen::OptionButton& option) {
     cliquer(option);
-    const screen::CheckBox& precarite = editeur->fin.Cac_PrecaLibContrat;
+    const screen::CheckBox& precarite = cac("PrecaLibContrat");
     std::string etats;
-    for (const bool etat :
-         {o().Txt_DatFinContrat.Visible(), o().Txt_DureeMinContrat.Visible(), precarite.Enabled(),
-          precarite.Value() == 1, carac.Cdr_Lissage.Visible(), carac.Cac_Lissage.Value() == 1,
-          editeur->paie.Lst_RepartActContrat.Visible()}) {
+    for (const bool etat : {txt("DatFinContrat").Visible(), txt("DureeMinContrat").Visible(),
+                            precarite.Enabled(), precarite.Value() == 1, cdr("Lissage").Visible(),
+                            cac("Lissage").Value() == 1, lst("RepartActContrat").Visible()}) {
       etats += etat ? '1' : '0';
     }
     return etats;
   };
-  EXPECT_EQ(apres(o().Opt_Determine), "1111000");
-  EXPECT_EQ(apres(o().Opt_Indetermine), "0000000");
-  EXPECT_EQ(apres(o().Opt_Mensuel), "0000100");
-  EXPECT_EQ(apres(o().Opt_Administratif), "0000001");  // they have no modulation
-  EXPECT_EQ(apres(o().Opt_Production), "0000100");
-  carac.Cac_Lissage.SetValue(1);
-  EXPECT_EQ(apres(o().Opt_Horaire), "0000000");
-  EXPECT_EQ(o().RubriquesAideDomicile.Text(), "AD1");
+  EXPECT_EQ(apres(opt("Determine")), "1111000");
+  EXPECT_EQ(apres(opt("Indetermine")), "0000000");
+  EXPECT_EQ(apres(opt("Mensuel")), "0000100");
+  EXPECT_EQ(apres(opt("Administratif")), "0000101");  // modulation follows the pay basis
+  EXPECT_EQ(apres(opt("Production")), "0000100");
+  cac("Lissage").SetValue(1);
+  EXPECT_EQ(apres(opt("Horaire")), "0000000");
 }
 
 TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
   // Period, activities, group, OK, Annuler, shares: "o" open, "x" disabled, "-" hidden.
   const auto groupe = [&] {
     User(*editeur).Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
-    auto& p = editeur->paie;
     std::string etats;
     for (const screen::Field* champ : std::initializer_list<const screen::Field*>{
-             &p.Cbo_PeriodeEffetAffichage, &p.Cbo_Activite, &p.Cdr_AffectActiv, &p.Cmd_OKActivite,
-             &p.Cmd_AnnulerActivite, &p.Lst_RepartActContrat}) {
+             &cbo("PeriodeEffetAffichage"), &cbo("Activite"), &cdr("AffectActiv"),
+             &cmd("OKActivite"), &cmd("AnnulerActivite"), &lst("RepartActContrat")}) {
       etats += !champ->Visible() ? '-' : champ->Enabled() ? 'o' : 'x';
     }
     User(*editeur).Onglet(editeur->Ong_Contrat, editor::Origine);
     return etats;
   };
   nouveau("01", "001");
-  cliquer(o().Opt_Administratif);
+  cliquer(opt("Administratif"));
   EXPECT_EQ(groupe(), "xxxxxo");
   debuter("05/01/2027");
   EXPECT_EQ(groupe(), "oooxxo");
@@ -334,22 +328,22 @@ TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
     Attributs contrat;
     int droit;
     const char* attendu;
-  } cas[] = {{{{C::Convention, "02"}, {C::Employeur, "00007"}}, 2, "------"},
-             {{}, 2, "-oooo-"},
-             {administratif, 1, "ooo-oo"},
-             {administratif, 2, "oooooo"}};
+  } cas[] = {{{{C::Convention, "02"}, {C::Employeur, "00007"}}, 2, "------ Mandat"},
+             {{}, 2, "-oooo- Domicile"},
+             {administratif, 1, "ooo-oo Domicile|Mandat"},
+             {administratif, 2, "oooooo Domicile|Mandat"}};
   for (const auto& [autres, droit, attendu] : cas) {
     if (droit == 1) editeur.reset();
     droits = session::DroitsUniformes(droit);
     ouvrirContrat(autres);
-    EXPECT_EQ(groupe(), attendu);
+    const std::string etats = groupe();
+    EXPECT_EQ(etats + " " + lignes(cbo("Activite")), attendu);
   }
-  auto& paie = editeur->paie;
   for (const int n : {6, 7}) {
-    while (paie.Lst_ActiviteContrat.ListCount() < n) paie.Lst_ActiviteContrat.AddItem("Domicile");
+    while (lst("ActiviteContrat").ListCount() < n) lst("ActiviteContrat").AddItem("Domicile");
     groupe();
-    EXPECT_EQ(paie.VS_Bdv.Visible(), n > 6);
-    EXPECT_EQ(paie.VS_Bdv.Max(), n - 1);
+    EXPECT_EQ(champ<screen::ScrollBar>("VS_Bdv").Visible(), n > 6);
+    EXPECT_EQ(champ<screen::ScrollBar>("VS_Bdv").Max(), n - 1);
   }
 }
 
@@ -365,13 +359,13 @@ TEST_F(Fiche, NImporteQuoiDansChaqueChampNeCasseRien) {
   contrat("00001001");
   for (const char* cle : {"", "00001001"}) {
     *cle == '\0' ? nouveau("02", "001") : ouvrir(cle);
-    cliquer(o().Opt_Determine);
+    cliquer(opt("Determine"));
     const std::string avant = c().Text();
     stockage->EchouerEcriture(0);
     for (screen::Field* champ : editeur->Fields()) {
       const bool saisie =
           champ->Genre() == screen::Kind::Texte || champ->Genre() == screen::Kind::Deroulante;
-      if (champ->Cadre() != &o().Page || !saisie || !champ->Accessible()) continue;
+      if (champ->Cadre() != &cdr("Ong1") || !saisie || !champ->Accessible()) continue;
       for (const std::string& texte : insultes) {
         User user(*editeur);
         user.Taper(*champ, texte);
@@ -387,7 +381,6 @@ TEST_F(Fiche, NImporteQuoiDansChaqueChampNeCasseRien) {
     EXPECT_EQ(c().Text(), avant);
     EXPECT_EQ(stockage->Ecritures(), 0);
     editeur.reset();
-    session.CombosRemplis = false;
   }
 }
 
@@ -395,14 +388,14 @@ TEST_F(Fiche, UneErreurDeLectureNeLaissePasDeCodeNonVerifie) {
   nouveau("02", "001");
   for (int appel = 1; appel <= 3; ++appel) {
     stockage->EchouerAppel(appel);
-    EXPECT_THROW(taper(o().Txt_EmplEtabContrat, "00007"), data::StoreError) << appel;
-    EXPECT_EQ(o().Txt_EmplEtabContrat.Text() + o().Cbo_LibEmplEtabContrat.Text() +
-                  editeur->paie.Txt_PrevContrat.Text(),
+    EXPECT_THROW(taper(txt("EmplEtabContrat"), "00007"), data::StoreError) << appel;
+    EXPECT_EQ(txt("EmplEtabContrat").Text() + cbo("LibEmplEtabContrat").Text() +
+                  txt("PrevContrat").Text(),
               "");
   }
-  taper(o().Cbo_LibEmplEtabContrat, "mar");
+  taper(cbo("LibEmplEtabContrat"), "mar");
   stockage->EchouerAppel(1);
-  EXPECT_THROW(User(*editeur).Touche(o().Cbo_LibEmplEtabContrat, screen::ToucheEntree),
+  EXPECT_THROW(User(*editeur).Touche(cbo("LibEmplEtabContrat"), screen::ToucheEntree),
                data::StoreError);
   EXPECT_TRUE(editeur->Enabled() && !hote.curseur.EnAttente());
 }

@@ -87,12 +87,13 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   session::Session session(poste);
   session.Db = &db;
   session.OuvrirFichiers();
+  session::Dossier dossierContrat(session);
   control::Ctr_Contrat liste(bureau.Plateforme());
   editor::Frm_ElementsContrat editeur(bureau.Plateforme(), session);
-  dialogs::Frm_MotifCDD motif(bureau.Plateforme(), session);
-  dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme(), session);
-  dialogs::Frm_Stage stage(bureau.Plateforme(), session);
-  dialogs::Frm_Reprise reprise(bureau.Plateforme(), session);
+  dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossierContrat, "", {});
+  dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme());
+  dialogs::Frm_Stage stage(bureau.Plateforme(), dossierContrat);
+  dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossierContrat);
   for (screen::Form* forme :
        std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs, &stage, &reprise}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();

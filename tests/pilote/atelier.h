@@ -68,7 +68,7 @@ class Ecran : public screen::Form {
   screen::ComboBox Cbo_Nature{*this, "Cbo_Nature", false};
   screen::TabStrip Ong{*this, "Ong", {"a", "b"}};
   screen::Frame Cdr_Ferme{*this, "Cdr_Ferme", "Fermé"};
-  screen::OptionButton Opt_A{*this, "Opt_A", "A", &Cdr_Ferme};
+  screen::OptionButton Opt_A{Cdr_Ferme, "Opt_A", "A"};
   screen::CheckBox Cac_A{*this, "Cac_A", "Cocher"};
   screen::TextField Txt_Fige{*this, "Txt_Fige"};
   screen::ScrollBar Bdv_A{*this, "Bdv_A"};

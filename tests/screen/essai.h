@@ -52,9 +52,9 @@ class Essai : public Form {
   ComboBox Cbo_Fixe{*this, "Cbo_Fixe", false};
   ListBox Lst_A{*this, "Lst_A"};
   Frame Cdr_A{*this, "Cdr_A"};
-  Frame Cdr_B{*this, "Cdr_B", "", &Cdr_A};
-  OptionButton Opt_1{*this, "Opt_1", "", &Cdr_B};
-  OptionButton Opt_2{*this, "Opt_2", "", &Cdr_B};
+  Frame Cdr_B{Cdr_A, "Cdr_B", ""};
+  OptionButton Opt_1{Cdr_B, "Opt_1", ""};
+  OptionButton Opt_2{Cdr_B, "Opt_2", ""};
   OptionButton Opt_3{*this, "Opt_3", ""};
   OptionButton Opt_4{*this, "Opt_4", ""};
   CheckBox Cac_A{*this, "Cac_A", ""};

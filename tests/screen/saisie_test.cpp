@@ -120,7 +120,7 @@ TEST_F(Saisie, ToucheFiltree) {
     if (c.surTouche) {
       essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = [&](char32_t&) { c.surTouche(); };
     }
-    EXPECT_EQ(user.Filtrer(c.champ, c.touche), c.reste);
+    EXPECT_EQ(user.Filtrer(c.champ, c.touche, ""), c.reste);
     EXPECT_EQ(essai.Actif(), c.actif);
     essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = filtre;
   }

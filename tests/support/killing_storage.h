@@ -60,7 +60,11 @@ class KillingStorage : public data::Storage {
   }
   void Finir(const std::string& ligne) {
     enAttente_ += ligne + '\n';
-    if (!enBloc_) Acquitter();
+    if (!enBloc_) {
+      Acquitter();
+    } else if (quand_ == Quand::Apres) {
+      Tuer();
+    }
   }
   void Acquitter() {
     journal_ << enAttente_ << std::flush;

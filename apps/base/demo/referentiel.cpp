@@ -57,7 +57,9 @@ void ecrireConventions(Sortie& sortie) {
     item.Set(C::Libelle, convention.libelle);
     item.Set(C::ModeCP, convention.modeCP);
     item.Set(C::ModeAnciennete, convention.modeCP);
-    item.Set(C::VirementParDefaut, std::string_view(convention.code) == "02" ? "1" : "");
+    const bool particuliers = std::string_view(convention.code) == "02";
+    item.Set(C::VirementParDefaut, particuliers ? "1" : "");
+    item.Set(C::PaiementParEntiteParDefaut, particuliers ? "1" : "");
     item.Set(C::CategorieLibre, convention.categorieLibre);
     item.Set(C::PrevoyanceObligatoire, convention.prevoyance);
     item.Set(C::SuiviTte, convention.suivi);

@@ -149,27 +149,27 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   session::Session session(bureau.Plateforme().poste);
   session.Db = liste.Etat().Db;
   session.OuvrirFichiers();
-  session.F_CONTRAT.Lire(liste.ClesContrats()(1), session.ItemContrat);
   const session::DroitsUniformes droits(session::Droit::Plein);
+  session.W_Droits = &droits;
+  session.CodeAidant = liste.W_Code;
+  session.NomPrenomAidant = liste.W_NomPrenom;
+  session::Dossier dossier(session);
+  session.F_CONTRAT.Lire(liste.ClesContrats()(1), dossier.ItemContrat);
+  const auto jour = [&](int attribut) {
+    return session.Lib.DateFromInternal(dossier.ItemContrat.Vue(attribut));
+  };
 
-  dialogs::Frm_MotifCDD motif(bureau.Plateforme(), session);
-  motif.DroitsUtilisateur(droits);
-  motif.Etq_CodeAidant.SetLibelle(liste.W_Code);
-  motif.Etq_NomPrenomAidant.SetLibelle(liste.W_NomPrenom);
-  motif.init();
+  dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossier, jour(data::Contrat::DateDebut), {});
   capturer(album, bureau, motif, "motif-cdd");
 
-  dialogs::Frm_Stage stage(bureau.Plateforme(), session);
-  stage.DroitsUtilisateur(droits);
-  stage.Etq_Aidant.SetLibelle(liste.W_Code + " " + liste.W_NomPrenom);
-  stage.init();
+  dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
   capturer(album, bureau, stage, "stage");
 
-  dialogs::Frm_Reprise reprise(bureau.Plateforme(), session);
+  dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossier);
   dialogs::DonneesReprise donnees;
   donnees.aidant = "Aidant : " + liste.W_Code + " " + liste.W_NomPrenom;
-  donnees.debut = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateDebut));
-  donnees.fin = session.Lib.DateFromInternal(session.ItemContrat.Vue(data::Contrat::DateFin));
+  donnees.debut = jour(data::Contrat::DateDebut);
+  donnees.fin = jour(data::Contrat::DateFin);
   reprise.Afficher(donnees);
   capturer(album, bureau, reprise, "reprise");
 }

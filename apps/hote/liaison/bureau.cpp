@@ -18,17 +18,20 @@ struct Bureau::Services {
                                                      "KORVALDIS", "contrats")),
         curseur(bureau),
         messages(bureau, curseur),
+        indications(bureau),
         modales(bureau, curseur),
         imprimante(bureau),
         reglages(*magasin),
         aide(bureau),
-        platform{messages, modales, curseur,   imprimante,
-                 reglages, aide,    controles, posteDonne != nullptr ? *posteDonne : systeme} {}
+        platform{messages, indications, modales,
+                 curseur,  imprimante,  reglages,
+                 aide,     controles,   posteDonne != nullptr ? *posteDonne : systeme} {}
 
   data::PosteSysteme systeme;
   std::unique_ptr<QSettings> magasin;
   CurseurQt curseur;
   MessagesQt messages;
+  IndicationsQt indications;
   ModalesQt modales;
   ImprimantePdf imprimante;
   ReglagesQt reglages;

@@ -212,19 +212,20 @@ char32_t toucheDe(const QKeyEvent& evenement) {
 }
 
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
-                       char32_t touche) {
+                       char32_t touche, const QString& horsSelection) {
   if (!filtre) return touche;
   char32_t gardee = 0;
-  liaison.Jouer([&](screen::User& user) { gardee = user.Filtrer(champ, touche); });
+  const std::string reste = versModele(horsSelection);
+  liaison.Jouer([&](screen::User& user) { gardee = user.Filtrer(champ, touche, reste); });
   return gardee;
 }
 
 QString filtrerTexte(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
-                     const QString& texte) {
+                     const QString& texte, const QString& horsSelection) {
   if (!filtre) return texte;
   QString garde;
   for (const uint point : texte.toUcs4()) {
-    const char32_t touche = filtrerTouche(liaison, champ, filtre, point);
+    const char32_t touche = filtrerTouche(liaison, champ, filtre, point, horsSelection + garde);
     if (screen::estCaractere(touche)) garde += versQt(screen::texteDe(touche));
   }
   return garde;

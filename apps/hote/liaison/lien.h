@@ -58,11 +58,11 @@ std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QW
 // window's: no field may keep it from closing.
 char32_t toucheDe(const QKeyEvent& evenement);
 // Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is
-// dropped.
+// dropped. `horsSelection`: what the widget's text holds beside its selection.
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
-                       char32_t touche);
+                       char32_t touche, const QString& horsSelection);
 // The text of an input method, key by key through KeyPress.
 QString filtrerTexte(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
-                     const QString& texte);
+                     const QString& texte, const QString& horsSelection);
 
 }  // namespace hote

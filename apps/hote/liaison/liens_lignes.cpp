@@ -55,7 +55,8 @@ class LienListe : public Lien {
       if (!evenement.isAutoRepeat()) Entrer();
       return true;
     }
-    if (touche != 0) return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche) != touche;
+    if (touche != 0)
+      return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, {}) != touche;
     return modele_.ListIndex() < 0 && Entamer(evenement.key());
   }
 
@@ -140,7 +141,7 @@ class LienDeroulante : public Lien {
       Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
       return true;
     }
-    const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche);
+    const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, {});
     if (gardee == touche) return false;
     QLineEdit* const ligne = combo_.lineEdit();
     if (ligne != nullptr && screen::estCaractere(gardee)) {
@@ -149,7 +150,7 @@ class LienDeroulante : public Lien {
     return true;
   }
   QString Filtrer(const QString& texte) override {
-    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte);
+    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte, {});
   }
 
  protected:

@@ -25,17 +25,19 @@ class LienSaisie : public Lien {
       Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
       return true;
     }
-    const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche);
+    const char32_t gardee =
+        filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, HorsSelection());
     if (gardee == touche) return screen::estCaractere(touche) && Pleine();
     if (screen::estCaractere(gardee) && !Pleine()) Inserer(versQt(screen::texteDe(gardee)));
     return true;
   }
   QString Filtrer(const QString& texte) override {
-    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte);
+    return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte, HorsSelection());
   }
 
  protected:
   virtual void Inserer(const QString& texte) = 0;
+  virtual QString HorsSelection() const = 0;
   // No character more can be typed.
   virtual bool Pleine() const { return false; }
   // The whole text as the user has left it, by keys, a paste or an input method.
@@ -57,6 +59,11 @@ class LienLigne : public LienSaisie {
  protected:
   // Signals its edit as a key does.
   void Inserer(const QString& texte) override { ligne_.insert(texte); }
+  QString HorsSelection() const override {
+    const qsizetype debut = ligne_.selectionStart();
+    QString texte = ligne_.text();
+    return debut < 0 ? texte : texte.remove(debut, ligne_.selectedText().size());
+  }
   void PousserEtat() override {
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
@@ -84,6 +91,10 @@ class LienTexteLong : public LienSaisie {
 
  protected:
   void Inserer(const QString& texte) override { page_.insertPlainText(texte); }
+  QString HorsSelection() const override {
+    const QTextCursor curseur = page_.textCursor();
+    return Texte().remove(curseur.selectionStart(), curseur.selectedText().size());
+  }
   bool Pleine() const override {
     return modele_.Longueur() > 0 && !page_.textCursor().hasSelection() &&
            Texte().toUcs4().size() >= modele_.Longueur();

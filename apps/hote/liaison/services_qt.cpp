@@ -6,9 +6,11 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSettings>
+#include <QToolTip>
 
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
+#include "screen/field.h"
 
 namespace hote {
 
@@ -116,6 +118,14 @@ Reponse MessagesQt::Montrer(const screen::Message& message) {
     if (bouton == boite.clickedButton()) return reponse;
   }
   return echappe;
+}
+
+void IndicationsQt::Montrer(const screen::Field& champ, const std::string& texte) {
+  QWidget* const fenetre = bureau_.FenetreCourante();
+  auto* const widget =
+      fenetre == nullptr ? nullptr : fenetre->findChild<QWidget*>(versQt(champ.Nom()));
+  if (widget == nullptr) return;
+  QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), versQt(texte), widget);
 }
 
 std::string ReglagesQt::Lire(const std::string& section, const std::string& cle,

@@ -51,6 +51,16 @@ class MessagesQt : public screen::Messages {
   CurseurQt& curseur_;
 };
 
+// A hint that stands beside its field until the user goes on.
+class IndicationsQt : public screen::Indications {
+ public:
+  explicit IndicationsQt(Bureau& bureau) : bureau_(bureau) {}
+  void Montrer(const screen::Field& champ, const std::string& texte) override;
+
+ private:
+  Bureau& bureau_;
+};
+
 // A modal form gets a window of its own for the time of its show.
 class ModalesQt : public screen::Modales {
  public:

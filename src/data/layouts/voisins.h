@@ -149,6 +149,9 @@ inline constexpr int CategorieLibre = 36;         // "VRAI": category typed by h
 inline constexpr int PrevoyanceObligatoire = 44;  // "1"
 inline constexpr int SuiviTte = 45;               // "T": the follow-up opens on its second tab
 inline constexpr int ModeDelaiPrev = 76;          // 1 ouvres, 2 ouvrables
+// What a new contract begins with, agreement "02" only.
+inline constexpr int PaiementParEntiteParDefaut = 77;  // "1"
+inline constexpr int CongesAuMoisParDefaut = 78;       // "1"
 }  // namespace ConventionCol
 
 // Results of the payroll. The period stands in the key.

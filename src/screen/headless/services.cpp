@@ -2,7 +2,13 @@
 
 #include <stdexcept>
 
+#include "screen/field.h"
+
 namespace screen::headless {
+
+void IndicationsNotees::Montrer(const Field& champ, const std::string& texte) {
+  notees_.push_back(champ.Nom() + " : " + texte);
+}
 
 void CurseurCompte::Attente(bool attente) {
   if (attente) ++attentes_;

@@ -11,6 +11,16 @@
 
 namespace screen::headless {
 
+class IndicationsNotees : public Indications {
+ public:
+  void Montrer(const Field& champ, const std::string& texte) override;
+  // Those shown since the last call, each "<field> : <text>".
+  std::vector<std::string> Prendre() { return std::exchange(notees_, {}); }
+
+ private:
+  std::vector<std::string> notees_;
+};
+
 class CurseurCompte : public Curseur {
  public:
   // What happens while pending events are processed.

@@ -1,0 +1,108 @@
+#include "editor/gardes.h"
+
+#include "data/layouts/fichiers.h"
+#include "data/layouts/voisins.h"
+#include "data/nombre.h"
+#include "editor/editeur.h"
+#include "screen/attente.h"
+
+namespace editor {
+
+namespace {
+
+namespace C = data::Contrat;
+
+constexpr const char* QuestionChevauchement =
+    "Souhaitez-vous annuler l'ajout ou changer les dates du contrat pour remédier à ce "
+    "chevauchement ?\r\n\r\n - Pour remédier au problème, cliquer sur OUI\r\n - Sinon cliquer sur "
+    "NON.";
+
+}  // namespace
+
+const Gardes::Garde Gardes::Confirmation[3] = {&Gardes::Onglets, &Gardes::Preparation,
+                                               &Gardes::AutresContrats};
+const Gardes::Garde Gardes::Ecriture[2] = {&Gardes::DateFinModifiee, &Gardes::CopieSimple};
+const Gardes::Garde Gardes::Depart[2] = {&Gardes::DateFin, &Gardes::CopieVerifiee};
+
+Avis Gardes::Passer(std::span<const Garde> chaine) {
+  for (const Garde garde : chaine) {
+    if (const Avis avis = (this->*garde)(); avis != Avis::Passe) return avis;
+  }
+  return Avis::Passe;
+}
+
+Avis Gardes::Onglets() {
+  for (Onglet* const onglet : editeur_.Onglets()) {
+    if (!onglet->Verif()) return Avis::Reste;
+  }
+  return Avis::Passe;
+}
+
+Avis Gardes::Preparation() {
+  session::Dossier& dossier = editeur_.Dossier();
+  if (!dossier.ModeCreation) return Avis::Passe;
+  if (editeur_.origine.Particuliers()) {
+    data::CItem employeur;
+    dossier.Session.Db->OpenFile(data::fichier::ELTSPARTEMP)
+        .Lire(editeur_.origine.Employeur(), employeur);
+    const auto debutPrev = employeur.Vue(data::EltsPartEmp::DateDebutPrev);
+    if (!debutPrev.empty() && data::entier(debutPrev) < editeur_.Dates().debut) {
+      editeur_.paie.QuitterPrevoyance();
+    }
+  }
+  dossier.ItemContrat.Set(C::Annule, "");
+  dossier.ItemContrat.Set(C::DelaiPrevAcquis, "0");
+  dossier.ItemContrat.Set(C::DelaiPrevRestants, "0");
+  return Avis::Passe;
+}
+
+Avis Gardes::AutresContrats() {
+  rules::Voisinage voisins;
+  {
+    screen::Attente attente(editeur_);
+    voisins = rules::VerifContratExist(*editeur_.Session().Db, editeur_.Portee(), editeur_.Dates());
+    attente.Finir();
+  }
+  return Chevauchement(voisins);
+}
+
+Avis Gardes::Chevauchement(const rules::Voisinage& voisins) {
+  if (!voisins.conflit) return Avis::Passe;
+  editeur_.MessageBox(voisins.conflit->texte, screen::Boutons::Ok, voisins.conflit->icone);
+  if (!editeur_.Dossier().ModeCreation) return Avis::Reste;
+  const bool changerLesDates =
+      !voisins.finContratConflit.empty() &&
+      editeur_.MessageBox(QuestionChevauchement, screen::Boutons::OuiNon,
+                          screen::Icone::Information) == screen::Reponse::Oui;
+  return changerLesDates ? Avis::Reste : Avis::Abandonne;
+}
+
+Avis Gardes::DateFinModifiee() {
+  const auto fin = editeur_.fin.DateFin();
+  const std::string finEcran = fin ? std::to_string(*fin) : "";
+  return finEcran == editeur_.Dossier().ItemContrat.Vue(C::DateFin) ? Avis::Passe : DateFin();
+}
+
+// Verif_SuppDateFin. A start that is no date is the first tab's to refuse, which checks next.
+Avis Gardes::DateFin() {
+  if (!editeur_.origine.Debut()) return Avis::Passe;
+  std::optional<rules::Refus> refus;
+  {
+    screen::Attente attente(editeur_);
+    refus = rules::Verif_SuppDateFin(*editeur_.Session().Db, editeur_.Portee(), editeur_.Dates());
+    attente.Finir();
+  }
+  if (!refus) return Avis::Passe;
+  editeur_.MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
+  editeur_.fin.RefuserDateFin();
+  return Avis::Reste;
+}
+
+Avis Gardes::Copie(bool verifiee) {
+  for (Onglet* const onglet : editeur_.Onglets()) {
+    if (!onglet->Ecrire(verifiee)) return Avis::Reste;
+  }
+  return Avis::Passe;
+}
+
+}  // namespace editor

@@ -1,0 +1,51 @@
+#pragma once
+// What stands between the user's OK, or his leaving with a save, and the first write: a chain of
+// guards in a fixed order, each of which lets pass, keeps the user on the screen after a message,
+// or, after a question, gives a new contract up. A further guard is one line in its chain.
+
+#include <span>
+
+#include "rules/chevauchement.h"
+
+namespace editor {
+
+class Frm_ElementsContrat;
+
+enum class Avis { Passe, Reste, Abandonne };
+
+class Gardes {
+ public:
+  explicit Gardes(Frm_ElementsContrat& editeur) : editeur_(editeur) {}
+
+  // Cmd_OK, before anything is copied: the tabs' checks, then the other contracts.
+  Avis AvantConfirmation() { return Passer(Confirmation); }
+  // Before the first write of a confirmed contract.
+  Avis AvantEcriture() { return Passer(Ecriture); }
+  // Cmd_Retour with a save: the same where something could have changed; the tabs check again.
+  Avis EnQuittant() { return Passer(Depart); }
+
+  // Two contracts overlap: the message, and for a new contract the question what to do. Another
+  // contract without an end leaves no date to choose: the creation is given up at once.
+  Avis Chevauchement(const rules::Voisinage& voisins);
+
+ private:
+  using Garde = Avis (Gardes::*)();
+  static const Garde Confirmation[3];
+  static const Garde Ecriture[2];
+  static const Garde Depart[2];
+  Avis Passer(std::span<const Garde> chaine);
+
+  Avis Onglets();
+  // What a confirmed new contract begins with.
+  Avis Preparation();
+  Avis AutresContrats();
+  Avis DateFinModifiee();
+  Avis DateFin();
+  Avis CopieSimple() { return Copie(false); }
+  Avis CopieVerifiee() { return Copie(true); }
+  Avis Copie(bool verifiee);
+
+  Frm_ElementsContrat& editeur_;
+};
+
+}  // namespace editor
