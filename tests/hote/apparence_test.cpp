@@ -5,6 +5,7 @@
 #include "widget/apparence.h"
 
 #include <QDir>
+#include <QScrollArea>
 
 #include "essai.h"
 #include "widget/formes.h"
@@ -14,8 +15,10 @@ namespace {
 
 constexpr const char* Formes[] = {"Ctr_Contrat",        "Frm_ElementsContrat", "Frm_MotifCDD",
                                   "Frm_MotifsEmbauche", "Frm_Stage",           "Frm_Reprise"};
-// A screen less its title bar, its task bar and the host's menu.
-constexpr QSize Place{1280, 660};
+// A screen of 1366x768 at a scale of one and a half, less its title bar, its task bar and the host's
+// menu; and the width in which a page stands without scrolling sideways, on a screen of 1024.
+constexpr QSize Place{904, 426};
+constexpr int LargeurPage = 980;
 
 class Apparence : public ::testing::TestWithParam<double> {
  protected:
@@ -101,6 +104,10 @@ TEST_P(Apparence, NothingIsCutNorLaidOver) {
     for (int i = 0; i < (onglets == nullptr ? 1 : onglets->count()); ++i) {
       if (onglets != nullptr) onglets->setCurrentIndex(i);
       QCoreApplication::processEvents();
+      if (onglets != nullptr) {
+        const auto& zone = dynamic_cast<const QScrollArea&>(*onglets->currentWidget());
+        EXPECT_LE(zone.widget()->minimumSizeHint().width(), LargeurPage * GetParam()) << i;
+      }
       EXPECT_EQ(defauts(*racine), "") << forme << " page " << i;
       capturer(*racine, QString("%1-%2-%3").arg(forme).arg(i).arg(GetParam()));
     }

@@ -88,6 +88,7 @@ class Visite : public QObject {
       Refuser(*boite);
     } else if (fenetre != nullptr && !vue_) {
       vue_ = true;
+      fenetre->resize(TailleControle);
       auto* const onglets = fenetre->findChild<QTabWidget*>("Ong_Contrat");
       for (int i = 0; onglets != nullptr && i < onglets->count(); ++i) {
         onglets->setCurrentIndex(i);

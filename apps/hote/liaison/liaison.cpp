@@ -5,6 +5,7 @@
 #include <QButtonGroup>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 #include <utility>
@@ -208,6 +209,9 @@ void Liaison::PousserFocus() {
   if (!cible.isEnabled() || !cible.isVisibleTo(&racine_)) return;
   const Compte pousse(*this, poussees_);
   cible.setFocus(Qt::TabFocusReason);
+  for (QWidget* parent = cible.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+    if (auto* const zone = qobject_cast<QScrollArea*>(parent)) zone->ensureWidgetVisible(&cible);
+  }
 }
 
 QStringList Liaison::Ecarts() const {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTabBar>
@@ -35,14 +36,22 @@ class LienEtiquette : public Lien {
   }
 };
 
+// The page of a tab, in the area in which it scrolls.
+bool estPage(const QWidget& widget) {
+  const QWidget* const vue = widget.parentWidget();
+  const auto* const zone =
+      vue == nullptr ? nullptr : qobject_cast<const QScrollArea*>(vue->parentWidget());
+  return zone != nullptr && zone->widget() == &widget && zone->parentWidget() != nullptr &&
+         qobject_cast<const QTabWidget*>(zone->parentWidget()->parentWidget()) != nullptr;
+}
+
 // A frame: a box with a caption, a plain one, or the page of a tab, which the tabs show and hide.
 class LienCadre : public Lien {
  public:
   LienCadre(Liaison& liaison, screen::Field& champ, QWidget& widget)
-      : Lien(liaison, champ, widget), boite_(qobject_cast<QGroupBox*>(&widget)) {
-    const QWidget* const parent = widget.parentWidget();
-    page_ = parent != nullptr && qobject_cast<QTabWidget*>(parent->parentWidget()) != nullptr;
-  }
+      : Lien(liaison, champ, widget),
+        boite_(qobject_cast<QGroupBox*>(&widget)),
+        page_(estPage(widget)) {}
 
  protected:
   void PousserEtat() override {
@@ -57,7 +66,7 @@ class LienCadre : public Lien {
 
  private:
   QGroupBox* boite_;
-  bool page_ = false;
+  bool page_;
 };
 
 class LienOnglets : public Lien {

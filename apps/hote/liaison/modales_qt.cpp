@@ -3,8 +3,10 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QPointer>
+#include <QScreen>
 #include <QSettings>
 #include <QWindow>
+#include <algorithm>
 
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
@@ -45,10 +47,16 @@ void ModalesQt::Placer(QWidget& fenetre, QWidget* parente, const QString& cle) {
     fenetre.windowHandle()->setTransientParent(parente->windowHandle());
   }
   if (fenetre.restoreGeometry(bureau_.Reglages().value(cle).toByteArray())) return;
-  fenetre.adjustSize();
-  if (parente == nullptr) return;
+  const QRect ecran = fenetre.screen()->availableGeometry();
+  const QSize bords = fenetre.frameGeometry().size() - fenetre.size();
+  fenetre.resize(fenetre.sizeHint().boundedTo(ecran.size() - bords));
   QRect cadre = fenetre.frameGeometry();
-  cadre.moveCenter(parente->frameGeometry().center());
+  cadre.moveCenter((parente == nullptr ? ecran : parente->frameGeometry()).center());
+  // Where it is larger than the screen, its upper left corner is in sight.
+  cadre.moveRight(std::min(cadre.right(), ecran.right()));
+  cadre.moveBottom(std::min(cadre.bottom(), ecran.bottom()));
+  cadre.moveLeft(std::max(cadre.left(), ecran.left()));
+  cadre.moveTop(std::max(cadre.top(), ecran.top()));
   fenetre.move(cadre.topLeft());
 }
 

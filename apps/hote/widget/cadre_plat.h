@@ -18,16 +18,14 @@ class CadrePlat : public QGroupBox {
     option.subControls = QStyle::SC_GroupBoxLabel;
     pinceau.drawComplexControl(QStyle::CC_GroupBox, option);
   }
-  void resizeEvent(QResizeEvent* evenement) override {
-    QGroupBox::resizeEvent(evenement);
-    Aligner();
-  }
-  void changeEvent(QEvent* evenement) override {
-    QGroupBox::changeEvent(evenement);
-    Aligner();
-  }
-
- private:
   // The box takes room for its frame; without one, what it holds begins under the caption.
-  void Aligner() { setContentsMargins(0, contentsMargins().top(), 0, 0); }
+  bool event(QEvent* evenement) override {
+    if (evenement->type() == QEvent::ContentsRectChange) {
+      setContentsMargins(0, contentsMargins().top(), 0, 0);
+    }
+    return QGroupBox::event(evenement);
+  }
+  // The room for the frame does not hang on the size: to take it anew here, in the midst of a layout,
+  // leaves the page with the width of a frame that is not there.
+  void resizeEvent(QResizeEvent* evenement) override { QWidget::resizeEvent(evenement); }
 };

@@ -1,6 +1,7 @@
 #include "widget/formes.h"
 
 #include <QDialog>
+#include <QScrollArea>
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
@@ -9,6 +10,11 @@
 #include "ui_Frm_MotifsEmbauche.h"
 #include "ui_Frm_Reprise.h"
 #include "ui_Frm_Stage.h"
+#include "ui_OngletCaracteristiques.h"
+#include "ui_OngletConges.h"
+#include "ui_OngletFin.h"
+#include "ui_OngletOrigine.h"
+#include "ui_OngletPaie.h"
 #include "widget/apparence.h"
 
 namespace hote {
@@ -29,11 +35,55 @@ std::unique_ptr<QWidget> construire() {
   return racine;
 }
 
+// The page of a tab scrolls where the screen is smaller than it; the buttons below stay.
+class PageDefilante : public QScrollArea {
+ public:
+  explicit PageDefilante(QWidget& page) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(&page);
+    // The ground is the tabs' own.
+    viewport()->setAutoFillBackground(false);
+    page.setAutoFillBackground(false);
+  }
+  // The toolkit stops at a size that no page has.
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+
+ protected:
+  // A page that was sized while it was hidden keeps the layout of its former width.
+  void showEvent(QShowEvent* evenement) override {
+    QScrollArea::showEvent(evenement);
+    widget()->layout()->invalidate();
+    widget()->layout()->activate();
+  }
+};
+
+template <typename Page>
+void ajouterPage(QTabWidget& onglets) {
+  auto* const page = new QWidget;
+  Page().setupUi(page);
+  onglets.addTab(new PageDefilante(*page), {});
+}
+
+std::unique_ptr<QWidget> construireEditeur() {
+  auto racine = std::make_unique<Fenetre>();
+  Ui::Frm_ElementsContrat cadre;
+  cadre.setupUi(racine.get());
+  ajouterPage<Ui::OngletOrigine>(*cadre.Ong_Contrat);
+  ajouterPage<Ui::OngletCaracteristiques>(*cadre.Ong_Contrat);
+  ajouterPage<Ui::OngletPaie>(*cadre.Ong_Contrat);
+  ajouterPage<Ui::OngletConges>(*cadre.Ong_Contrat);
+  ajouterPage<Ui::OngletFin>(*cadre.Ong_Contrat);
+  appliquerApparence(*racine);
+  return racine;
+}
+
 }  // namespace
 
 void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
-  bureau.Enregistrer("Frm_ElementsContrat", construire<Ui::Frm_ElementsContrat, Fenetre>);
+  bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);
