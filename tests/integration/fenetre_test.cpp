@@ -94,6 +94,9 @@ TEST_F(Hote, OpensACarerFromTheKeyboardAndSaysSo) {
             "DURAND Gwenaëlle (00001) – a.contrats – droits complets – Contrats de travail");
   ASSERT_NE(fenetre_.Ecran(), nullptr);
   EXPECT_TRUE(fenetre_.Ecran()->Controle().Cmd_Ajouter.Visible());
+  // A screen of 1366x768 at a scale of one and a half, less title bar and task bar.
+  EXPECT_LE(fenetre_.minimumSizeHint().width(), 904);
+  EXPECT_LE(fenetre_.minimumSizeHint().height(), 442);
 
   fenetre_.ChangerDroits(1);
   EXPECT_EQ(Titre(), "DURAND Gwenaëlle (00001) – a.contrats – consultation – Contrats de travail");

@@ -34,6 +34,7 @@ namespace {
 
 constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show and to leave
 constexpr QSize TailleControle{1010, 690};
+constexpr QSize TailleFenetre{1280, 720};
 
 class Album {
  public:
@@ -192,6 +193,8 @@ void capturerSelection(Album& album, Bureau& bureau, const control::Ctr_Contrat&
 void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::string aidant) {
   FenetreHote fenetre(bureau);
   fenetre.show();
+  // The screen that the pictures are made on is smaller than any real one.
+  fenetre.resize(TailleFenetre);
   if (!fenetre.OuvrirFichier(copie)) throw std::runtime_error("Le fichier ne s'ouvre pas.");
   album.Prendre(fenetre, "fenetre");
   const data::PosteSysteme poste;

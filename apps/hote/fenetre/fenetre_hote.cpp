@@ -69,7 +69,7 @@ FenetreHote::~FenetreHote() {
 
 void FenetreHote::FaireCentre() {
   setCentralWidget(partage_);
-  recherche_->setMinimumWidth(180);
+  recherche_->setMinimumWidth(140);
   recherche_->setEnabled(false);
   centre_->addWidget(accueil_);
   partage_->setStretchFactor(1, 1);
@@ -295,7 +295,8 @@ void FenetreHote::RetenirPlace() {
 void FenetreHote::RetrouverPlace() {
   partage_->setSizes({LargeurRecherche, TaillePremiere.width() - LargeurRecherche});
   partage_->restoreState(bureau_.Reglages().value(ClePartage).toByteArray());
-  if (!restoreGeometry(bureau_.Reglages().value(CleFenetre).toByteArray())) resize(TaillePremiere);
+  if (restoreGeometry(bureau_.Reglages().value(CleFenetre).toByteArray())) return;
+  resize(TaillePremiere.boundedTo(screen()->availableSize()));
 }
 
 bool FenetreHote::eventFilter(QObject* objet, QEvent* evenement) {
