@@ -15,7 +15,7 @@
 namespace {
 
 std::string document() {
-  std::ifstream fichier(std::string(CONTRATS_SOURCE_DIR) + "/docs/donnees.md");
+  std::ifstream fichier(CONTRATS_SOURCE_DIR "/docs/donnees.md");
   return {std::istreambuf_iterator<char>(fichier), {}};
 }
 
