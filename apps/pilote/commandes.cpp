@@ -81,6 +81,7 @@ constexpr Definition Definitions[] = {
     {"repondre", "repondre OUI|NON|ANNULER|OK", 1, 1, repondre, exigerReponse},
     {"message", "message \"début du texte\"", 1, 1, verifierMessage},
     {"aucun-message", "aucun-message", 0, 0, verifierAucunMessage},
+    {"indication", "indication \"texte\"", 1, 1, verifierIndication},
     {"forme", "forme Frm_X", 1, 1, verifierForme},
     {"verifier", "verifier NOM PROPRIETE ATTENDU", 3, 3, verifierChamp, exigerPropriete},
     {"article", "article FICHIER CLE [A [V [S]]] = TEXTE", 4, 7, verifierArticle, exigerArticle},

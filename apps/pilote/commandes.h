@@ -46,6 +46,7 @@ void repondre(Pilote& pilote, const Commande& commande);
 // What must hold.
 void verifierMessage(Pilote& pilote, const Commande& commande);
 void verifierAucunMessage(Pilote& pilote, const Commande& commande);
+void verifierIndication(Pilote& pilote, const Commande& commande);
 void verifierForme(Pilote& pilote, const Commande& commande);
 void verifierChamp(Pilote& pilote, const Commande& commande);
 void verifierArticle(Pilote& pilote, const Commande& commande);

@@ -48,6 +48,13 @@ void verifierAucunMessage(Pilote& pilote, const Commande&) {
   }
 }
 
+// The last hint since the one before was checked.
+void verifierIndication(Pilote& pilote, const Commande& c) {
+  const auto notees = pilote.Indications().Prendre();
+  const std::string derniere = notees.empty() ? "aucune indication" : notees.back();
+  if (derniere.find(c.Texte(0)) == std::string::npos) pilote.Echouer(c.Texte(0), derniere);
+}
+
 void verifierForme(Pilote& pilote, const Commande& c) {
   const std::string& nom = pilote.Sommet().Nom();
   if (nom != c.Texte(0)) pilote.Echouer(c.Texte(0), nom);

@@ -59,6 +59,7 @@ class Pilote {
   // The answer to the next question; `ligne` is blamed if it is never used.
   void Prevoir(screen::Reponse reponse);
   screen::headless::MessagesEnFile& Messages() { return hote_.messages; }
+  screen::headless::IndicationsNotees& Indications() { return hote_.indications; }
   data::Db& Base() { return base_; }
   std::ostream& Sortie() { return sortie_; }
 

@@ -133,6 +133,13 @@ TEST_F(Ouverture, UnContratDonneSOuvreDEmblee) {
     ouvrir(cle);
     EXPECT_EQ(montre, cle == std::string("00001002") ? "002 01/01/2022" : " ");
   }
+  // From then on a row opens its own contract, the first one included.
+  screen::User(*controle).Cliquer(controle->Cmd_Recherche);
+  dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
+    EXPECT_EQ(texte(f, "Txt_NumContrat"), "003");
+    user.Cliquer(f.Cmd_Retour);
+  });
+  screen::User(*controle).DoubleCliquer(controle->Lst_Type, 0);
 }
 
 }  // namespace

@@ -379,6 +379,88 @@ TEST_F(Enregistre, UnAutrePostePrendLeNumeroPendantLaReprise) {
   EXPECT_EQ(attribut("CIVILAIDANT", "00001", 2), "DURAND-PETIT");
 }
 
+// The test of the other contracts is made once more with the write.
+TEST_F(Enregistre, UnAutrePosteCreeLeMemeContratPendantLaReprise) {
+  precedent("30/11/2026");
+  saisir("01/12/2026");
+  std::string avant;
+  repondreReprise([&](dialogs::Frm_Reprise& f) {
+    contrat("00001002", {{C::DateDebut, jour("01/12/2026")}});
+    avant = tout();
+    screen::User(f).Cliquer(f.Cmd_Ok);
+  });
+  hote.messages.Repondre(Reponse::Ok);
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages().substr(0, 25), "Création impossible car ");
+  EXPECT_EQ(tout(), avant);
+}
+
+// What the steps before have put into the contract stays, unless the user takes over a date.
+TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
+  for (const bool acceptee : {false, true}) {
+    precedent("30/11/2026", {{C::DateAnciennete, jour("01/02/2024")}});
+    saisir("01/12/2026");
+    for (const int a : {C::DepartGrille, C::DateAnciennete}) {
+      editeur->Dossier().ItemContrat.Set(a, "20000");
+    }
+    repondreReprise([&](dialogs::Frm_Reprise& f) {
+      screen::User(f).Cliquer(acceptee ? f.Cmd_Ok : f.Cmd_Annuler);
+    });
+    cliquer(cmd("OK"));
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::DepartGrille), "20000");
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete),
+              acceptee ? jour("01/02/2024") : "20000");
+  }
+}
+
+// Every attempt starts from the records as they were before the first one.
+TEST_F(Panne, UneSecondeTentativeOublieLaPremiere) {
+  saisirUneSuite();
+  article("ETABLISSEMENT", "001002", {{1, "Annexe"}});
+  const std::string avant = lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001");
+  accepterReprise(true);
+  stockage->EchouerEcriture(5);
+  EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
+  stockage->EchouerEcriture(0);
+  EXPECT_NE(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
+  // Another establishment has no contract before.
+  remplir(txt("EmplEtabContrat"), "002");
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::Employeur), "001002");
+  EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");
+}
+
+// A contract of a private employer given up after its last write failed: but for its own record,
+// which is a cancelled one, nothing of it is left. While the store goes on failing, the user is told
+// what stands, and gets out.
+TEST_F(Panne, UneCreationAMoitieSeQuitte) {
+  const auto preparer = [&] {
+    vider();
+    saisir("01/12/2026", "02", "00007");
+  };
+  preparer();
+  stockage->EchouerEcriture(0);
+  cliquer(cmd("OK"));
+  const int derniere = stockage->Ecritures();
+  for (const bool encore : {false, true}) {
+    preparer();
+    stockage->EchouerEcriture(derniere);
+    EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
+    EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), jour("01/12/2026"));
+    stockage->EchouerEcriture(encore ? 1 : 0);
+    quitter(Reponse::Oui);
+    EXPECT_FALSE(editeur->Visible());
+    const std::string vus = messages();
+    EXPECT_EQ(vus.find("Le contrat 002 a été enregistré en partie") != std::string::npos, encore);
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::Annule), encore ? "" : "O");
+    EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), encore ? jour("01/12/2026") : "");
+    EXPECT_EQ(lu("CONTRATINV", "0000100007"), encore ? "002" : "-");
+    EXPECT_EQ(lu("CONTRAT00102", "00001002"), "-");
+  }
+}
+
 TEST_F(Panne, CreationPourUnParticulier) {
   eprouver(
       [&] {

@@ -280,6 +280,17 @@ TEST_F(Fiche, QuitterEnEnregistrantCompareAuDebutSurFichier) {
   quitter(screen::Reponse::Oui);
   EXPECT_TRUE(editeur->Visible());
   EXPECT_EQ(session.F_CONTRAT.Read("00001001")(C::DateDebut), jour("01/03/2026"));
+
+  // An emptied start is the first tab's to refuse.
+  ouvrirContrat({{C::DateFin, jour("30/06/2026")}});
+  messages();
+  remplir(txt("DatDebContrat"), "");
+  quitter(screen::Reponse::Oui);
+  EXPECT_TRUE(editeur->Visible());
+  EXPECT_EQ(actif(), "Txt_DatDebContrat");
+  EXPECT_EQ(messages(),
+            "Voulez-vous enregistrer les modifications apportées à cet article ?|La date de début "
+            "de contrat est obligatoire.");
 }
 
 // Term, minimum length, insecurity bonus open and ticked; modulation shown and ticked; shares.

@@ -1,6 +1,7 @@
 // The forms of the component on their real windows.
 
 #include <QDir>
+#include <QToolTip>
 
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
@@ -131,6 +132,14 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     remplir("Txt_AssocContrat", "1");
     touche(Qt::Key_Tab);
     remplir("Txt_EmplEtabContrat", "001");
+    // What is no date holds the keyboard, and says what one is.
+    remplir("Txt_DatDebContrat", "31/11/26");
+    touche(Qt::Key_Tab);
+    EXPECT_EQ(forme->Active()->Nom(), "Txt_DatDebContrat");
+    EXPECT_TRUE(QToolTip::text().contains("JJ/MM/AAAA"));
+    EXPECT_TRUE(QToolTip::isVisible());
+    capturer(fenetre, "indication.png");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
     remplir("Txt_DatDebContrat", "1/12/26");
     remplir("Txt_PerEssaiContrat", "60");
     aller("Cac_RenouvEssaiContrat");

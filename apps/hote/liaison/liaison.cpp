@@ -65,8 +65,7 @@ Liaison::~Liaison() {
 void Liaison::Lier() {
   QWidget* precedent = nullptr;
   for (screen::Field* const champ : forme_.Fields()) {
-    auto* const widget =
-        racine_.findChild<QWidget*>(versQt(champ->Nom()).replace("(", "_").remove(")"));
+    auto* const widget = racine_.findChild<QWidget*>(nomDuWidget(champ->Nom()));
     if (widget == nullptr) continue;
     const Compte pousse(*this, poussees_);
     auto lien = creerLien(*this, *champ, *widget);

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSettings>
+#include <QTimer>
 #include <QToolTip>
 
 #include "liaison/bureau.h"
@@ -18,6 +19,8 @@ namespace {
 
 using screen::Boutons;
 using screen::Reponse;
+
+constexpr int DureeIndication = 15000;  // milliseconds
 
 struct BoutonMessage {
   Boutons boutons;
@@ -123,9 +126,13 @@ Reponse MessagesQt::Montrer(const screen::Message& message) {
 void IndicationsQt::Montrer(const screen::Field& champ, const std::string& texte) {
   QWidget* const fenetre = bureau_.FenetreCourante();
   auto* const widget =
-      fenetre == nullptr ? nullptr : fenetre->findChild<QWidget*>(versQt(champ.Nom()));
+      fenetre == nullptr ? nullptr : fenetre->findChild<QWidget*>(nomDuWidget(champ.Nom()));
   if (widget == nullptr) return;
-  QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), versQt(texte), widget);
+  // The focus that comes back to the field takes away what stands beside it.
+  QTimer::singleShot(0, widget, [widget, texte = versQt(texte)] {
+    QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), texte, widget, {},
+                       DureeIndication);
+  });
 }
 
 std::string ReglagesQt::Lire(const std::string& section, const std::string& cle,
