@@ -1,6 +1,6 @@
 #pragma once
-// One of the five tabs of the contract editor: a room with one door. A tab alone touches its fields;
-// what happens elsewhere reaches it through functions that bear names of the trade
+// One of the five tabs of the contract editor: a room with one door. A tab alone touches its
+// fields; what happens elsewhere reaches it through functions that bear names of the trade
 // (paie.SelonConvention(...)). The frame works on the five as a row, through the acts below.
 //
 // A tab's handlers are silent while it is filled, cleared or adapted by program.

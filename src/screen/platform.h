@@ -35,8 +35,8 @@ class Messages {
   virtual Reponse Montrer(const Message& message) = 0;
 };
 
-// A hint beside a field, where the screens have no message of their own: what is wrong with the text
-// that holds the user there, and what would be right. It does not wait for an answer.
+// A hint beside a field, where the screens have no message of their own: what is wrong with the
+// text that holds the user there, and what would be right. It does not wait for an answer.
 class Indications {
  public:
   virtual ~Indications() = default;

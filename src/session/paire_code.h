@@ -1,8 +1,8 @@
 #pragma once
 // A code box and its label list: a complete code shows its label, a label chosen in the list writes
 // its code; what a label typed by hand means is the pair's own affair. The pair owns the code's
-// length and padding, where its label comes from, what is said of an unknown code, and what a choice
-// leads to.
+// length and padding, where its label comes from, what is said of an unknown code, and what a
+// choice leads to.
 //
 //   PaireCode entite_{Txt_AssocContrat, Cbo_LibAssocContrat, sourdine_,
 //                     {.longueur = 3,

@@ -433,8 +433,8 @@ TEST_F(Panne, UneSecondeTentativeOublieLaPremiere) {
 }
 
 // A contract of a private employer given up after its last write failed: but for its own record,
-// which is a cancelled one, nothing of it is left. While the store goes on failing, the user is told
-// what stands, and gets out.
+// which is a cancelled one, nothing of it is left. While the store goes on failing, the user is
+// told what stands, and gets out.
 TEST_F(Panne, UneCreationAMoitieSeQuitte) {
   const auto preparer = [&] {
     vider();

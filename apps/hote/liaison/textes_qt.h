@@ -22,7 +22,7 @@ inline std::string versModele(const QString& texte) {
   return texte.toStdString();
 }
 
-// The name of the widget that shows a field: those of a row, "Txt_X(0)", are "Txt_X_0" in a form file.
+// The name of the widget that shows a field: "Txt_X(0)", one of a row, is "Txt_X_0" in a form file.
 inline QString nomDuWidget(std::string_view champ) {
   return versQt(champ).replace("(", "_").remove(")");
 }

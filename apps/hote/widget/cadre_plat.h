@@ -25,7 +25,7 @@ class CadrePlat : public QGroupBox {
     }
     return QGroupBox::event(evenement);
   }
-  // The room for the frame does not hang on the size: to take it anew here, in the midst of a layout,
-  // leaves the page with the width of a frame that is not there.
+  // The room for the frame does not hang on the size: to take it anew here, in the midst of a
+  // layout, leaves the page with the width of a frame that is not there.
   void resizeEvent(QResizeEvent* evenement) override { QWidget::resizeEvent(evenement); }
 };
