@@ -7,6 +7,7 @@
 #include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
+#include "data/requete.h"
 #include "data/texte.h"
 
 namespace data {
@@ -100,11 +101,13 @@ std::string jourEnCle(long jour) {
 
 CItem remplacements(Db& db, ListesSauvees& listes, const CItem& parametres) {
   const Demande demande = lireDemande(listes, parametres);
-  const CItem trouvees =
-      db.Selectionner("SSELECT TPSEXCEPTIONS AVEC 1 = \"" + demande.intervention +
-                          "\" AND AVEC DateDebExcep >= \"" + jourEnCle(demande.debut) +
-                          "\" AND <= \"" + jourEnCle(demande.fin) + "\" PAR DateDebExcep PAR 0",
-                      fichier::TPSEXCEPTIONS, "0");
+  const CItem trouvees = Requete(fichier::TPSEXCEPTIONS)
+                             .Avec(TpsExceptions::Intervention, "=", citer(demande.intervention))
+                             .Avec("DateDebExcep", ">=", citer(jourEnCle(demande.debut)))
+                             .Et("<=", citer(jourEnCle(demande.fin)))
+                             .Par("DateDebExcep")
+                             .Par(Cle)
+                             .Lire(db, {Cle});
 
   CItem tpsParam;
   db.OpenFile(fichier::TPSPARAM).Lire(TpsParam::Cle, tpsParam);

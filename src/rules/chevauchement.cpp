@@ -1,15 +1,19 @@
 #include "rules/chevauchement.h"
 
+#include <algorithm>
+
 #include "data/cles.h"
 #include "data/jour.h"
+#include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/nombre.h"
-#include "data/question.h"
+#include "data/requete.h"
 
 namespace rules {
 
 namespace {
 
+namespace C = data::Contrat;
 using data::citer;
 using data::citerDebut;
 
@@ -38,25 +42,33 @@ Refus refus(const char* titre, const Autre& autre, const std::string& fin) {
   return {titre + std::string(EnTeteDates) + data::dateAffichee(autre.debut) + "       " + fin};
 }
 
+// The carer's other contracts of the same kind with the same entity and, for private employers, the
+// same employer.
+data::Requete& porter(data::Requete& requete, const Portee& p) {
+  requete.Avec(C::Association, "=", citer(p.association));
+  if (particulier(p)) requete.Avec(C::Employeur, "=", citer(p.employeur));
+  return requete;
+}
+
 data::CItem autresParEmployeur(data::Db& db, const Portee& p) {
-  const std::string cle = p.codeAidant + p.numero;
-  const std::string fin = " AND AVEC 2 = " + citer(p.association) +
-                          (particulier(p) ? " AND AVEC 3 = " + citer(p.employeur) : "") +
-                          " AND AVEC 0 = " + citerDebut(p.codeAidant) +
-                          " AND SANS 0 = " + citer(cle) + " AND AVEC 65 <> \"O\" PAR 3";
-  return particulier(p)
-             ? db.Selectionner("SSELECT CONTRAT AVEC 1 = \"02\"" + fin, "CONTRAT", "7 8 51")
-             : db.Selectionner("SSELECT CONTRAT AVEC 1 <> \"02\"" + fin, "CONTRAT", "7 8");
+  data::Requete requete(data::fichier::CONTRAT);
+  requete.Avec(C::Convention, particulier(p) ? "=" : "<>", citer(data::ConventionParticuliers));
+  return porter(requete, p)
+      .Avec(data::Cle, "=", citerDebut(p.codeAidant))
+      .Sans(data::Cle, "=", citer(p.codeAidant + p.numero))
+      .Avec(C::Annule, "<>", citer(C::MarqueAnnule))
+      .Par(C::Employeur)
+      .Lire(db, {C::DateDebut, C::DateFin});
 }
 
 data::CItem autresParCle(data::Db& db, const Portee& p) {
-  const std::string cle = p.codeAidant + p.numero;
-  return db.Selectionner("SSELECT CONTRAT AVEC 0 = " + citerDebut(p.codeAidant) + " AND AVEC 1 " +
-                             (particulier(p) ? "=" : "<>") +
-                             " \"02\" AND AVEC 2 = " + citer(p.association) +
-                             (particulier(p) ? " AND AVEC 3 = " + citer(p.employeur) : "") +
-                             " AND AVEC 0 <> " + citer(cle) + " AND AVEC 65 <> \"O\"",
-                         "CONTRAT", "0 7 8");
+  data::Requete requete(data::fichier::CONTRAT);
+  requete.Avec(data::Cle, "=", citerDebut(p.codeAidant))
+      .Avec(C::Convention, particulier(p) ? "=" : "<>", citer(data::ConventionParticuliers));
+  return porter(requete, p)
+      .Avec(data::Cle, "<>", citer(p.codeAidant + p.numero))
+      .Avec(C::Annule, "<>", citer(C::MarqueAnnule))
+      .Lire(db, {data::Cle, C::DateDebut, C::DateFin});
 }
 
 }  // namespace
@@ -74,8 +86,8 @@ Voisinage VerifContratExist(data::Db& db, const Portee& portee, const Dates& dat
                 resultat.finContratConflit);
       return resultat;
     }
-    if (autre.fin && *autre.fin<dates.debut&& * autre.fin> resultat.derniereFinAvant) {
-      resultat.derniereFinAvant = *autre.fin;
+    if (const long avant = autre.Fin(); avant < dates.debut) {
+      resultat.derniereFinAvant = std::max(resultat.derniereFinAvant, avant);
     }
     if (dates.fin && autre.debut > *dates.fin && autre.debut < resultat.prochainDebutApres) {
       resultat.prochainDebutApres = autre.debut;
