@@ -159,8 +159,9 @@ void Frm_ElementsContrat::Cmd_Retour_Click() {
 }
 
 void Frm_ElementsContrat::QuitterCreation() {
-  if (session_.DroitComplet() && MessageBox("Etes-vous sûr de vouloir quitter cette création ?",
-                                            Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+  if (session_.DroitComplet() &&
+      Demander("Etes-vous sûr de vouloir quitter cette création ?", Boutons::OuiNon,
+               Icone::Exclamation, Reponse::Non) != Reponse::Oui) {
     return;
   }
   enregistrement_.Abandonner();

@@ -72,8 +72,8 @@ Avis Gardes::Chevauchement(const rules::Voisinage& voisins) {
   if (!editeur_.Dossier().ModeCreation) return Avis::Reste;
   const bool changerLesDates =
       !voisins.finContratConflit.empty() &&
-      editeur_.MessageBox(QuestionChevauchement, screen::Boutons::OuiNon,
-                          screen::Icone::Information) == screen::Reponse::Oui;
+      editeur_.Demander(QuestionChevauchement, screen::Boutons::OuiNon, screen::Icone::Information,
+                        screen::Reponse::Oui) == screen::Reponse::Oui;
   return changerLesDates ? Avis::Reste : Avis::Abandonne;
 }
 
