@@ -317,6 +317,18 @@ TEST_F(Focus, EscapePutsBackWhatTheFieldHeld) {
   EXPECT_EQ(actif(), "Txt_Num");
 }
 
+// Keys that every form understands, wherever the keyboard is; a hidden or grey button has none.
+TEST_F(Focus, CommandKeysPressTheirButtons) {
+  aller("Txt_Num");
+  taper("1");
+  forme.Prendre();
+  touche(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Num Cmd_OK");
+  forme.Find("Cmd_OK")->SetEnabled(false);
+  touche(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(forme.Prendre(), "");
+}
+
 // Esc and Enter on a question give the answer that loses nothing, where the screen names one.
 TEST_F(Focus, HastyAnswersLoseNothing) {
   using screen::Boutons, screen::Icone, screen::Reponse;
