@@ -61,6 +61,12 @@ bool aDesIndex(std::string_view fichier) {
                      [&](const Index& index) { return index.fichier == fichier; });
 }
 
+std::set<std::string_view> fichiersIndexes() {
+  std::set<std::string_view> fichiers;
+  for (const Index& index : IndexTenus) fichiers.insert(index.fichier);
+  return fichiers;
+}
+
 std::string formeCherchee(std::string_view texte) {
   const Number nombre = readNumber(texte);
   if (!nombre.valid || nombre.leadingZero) return std::string(texte);

@@ -11,6 +11,7 @@
 //   TPSMOI 1, attribute 4 "00001001" and "+7"             4: "00001001", "+7", "7"
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,8 @@ std::string champIndex(const Index& index);
 // Null when nothing is looked up by that field.
 const Index* indexDe(std::string_view fichier, const Field& champ);
 bool aDesIndex(std::string_view fichier);
+// The files that have indexes, each once, by name.
+std::set<std::string_view> fichiersIndexes();
 
 // The shortest text of that number; `texte` itself for what does not compare as a number.
 std::string formeCherchee(std::string_view texte);

@@ -85,8 +85,8 @@ KeyRange valueRange(const Comparison& comparison) {
   return rangeOf(comparison);
 }
 
-// The values that satisfy a row of comparisons joined by AND, or more. An index holds a number under
-// its text and under its shortest form, so that ranges of the two do not narrow each other.
+// The values that satisfy a row of comparisons joined by AND, or more. An index holds a number by
+// its text and by its shortest form, so that ranges of the two do not narrow each other.
 KeyRange valuesOf(const Comparison* begin, const Comparison* end) {
   KeyRange texts = KeyRange::Tout();
   for (const Comparison* comparison = begin; comparison != end; ++comparison) {

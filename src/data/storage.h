@@ -81,8 +81,8 @@ class Storage {
                                              std::size_t /*plafond*/) {
     return std::nullopt;
   }
-  // A scan of the records to which one of the roads leads: each once, in ascending order of the keys,
-  // all from one state of the store.
+  // A scan of the records to which one of the roads leads: each once, in ascending order of the
+  // keys, all from one state of the store.
   virtual bool ScanChemins(std::string_view /*fichier*/, const std::vector<Chemin>& /*chemins*/,
                            const Visiteur& /*visiteur*/) {
     return false;

@@ -176,7 +176,7 @@ class IndexedStoreTest : public testing::TestWithParam<std::string> {
   std::unique_ptr<Storage> store_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Stores, IndexedStoreTest, testing::Values("memory"),
+INSTANTIATE_TEST_SUITE_P(Stores, IndexedStoreTest, testing::Values("memory", "sqlite"),
                          [](const auto& test) { return test.param; });
 
 TEST_P(IndexedStoreTest, RoadsFindWhatAScanFinds) {
