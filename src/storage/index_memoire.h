@@ -23,7 +23,7 @@ class IndexMemoire {
   void Suivre(std::string_view fichier, std::string_view cle,
               const std::optional<std::string_view>& avant,
               const std::optional<std::string_view>& apres);
-  // The keys at the first `plafond` places of a road by an index, a key once for each of its values.
+  // The keys at the first `plafond` places of a road by an index, once for each of their values.
   std::vector<std::string> Cles(
       const data::Chemin& chemin,
       std::size_t plafond = std::numeric_limits<std::size_t>::max()) const;

@@ -44,8 +44,8 @@ std::string_view finDe(const data::KeyRange& valeurs) {
   return valeurs.sansFin ? kFin : std::string_view(valeurs.fin);
 }
 
-// Every letter that a name may be written with, and numbers in several forms: what an index takes of
-// them differently than before gives another signature.
+// Every letter that a name may be written with, and numbers in several forms: what an index takes
+// of them differently than before gives another signature.
 std::string exemples() {
   std::string texte;
   for (char c = ' '; c <= '~'; ++c) texte += c;

@@ -62,6 +62,50 @@ TEST(IndexTest, HoldsEveryValueOfARecord) {
   }
 }
 
+// "[a;b] [c;", each range with its bounds, or "none" where no index can answer.
+std::string ranges(const char* comparisons) {
+  const std::string text = std::string("SELECT TPSMOI AVEC 4 ") + comparisons;
+  const Query query = parseQuery(text);
+  const auto found = valueRanges(query, query.clauses.front());
+  if (!found) return "none";
+  std::string shown;
+  for (const KeyRange& range : *found) {
+    if (!shown.empty()) shown += ' ';
+    shown += '[' + range.debut + ';' + (range.sansFin ? "" : range.fin + ']');
+  }
+  std::replace(shown.begin(), shown.end(), '\0', '~');
+  return shown;
+}
+
+TEST(IndexTest, AnswersForTheValuesThatCanSatisfyAClause) {
+  const struct {
+    const char* comparisons;
+    const char* expected;
+  } cases[] = {
+      {R"(= "A")", "[A;A~]"},
+      {R"(= "A" OR = "Z]")", "[A;A~] [Z;[]"},
+      {R"(= "A]" AND > "AB" AND <= "AD")", "[AB~;AD~]"},
+      {R"(= "A" AND = "B")", ""},
+      // Numbers are found by their shortest form, which begins and orders otherwise than the text.
+      {R"(= "+12.0")", "[12;12~]"},
+      {R"(= "12" AND = "12.]")", "[12;12~]"},
+      {R"(= "012")", "[012;012~]"},
+      {R"(> "12")", "none"},
+      // What an empty value can satisfy.
+      {R"(= "")", "none"},
+      {R"(= "A" OR = "")", "none"},
+      {R"(< "B")", "none"},
+      {R"(<> "A")", "none"},
+      {R"(= "]")", "none"},
+      {R"(= "[A")", "none"},
+      {R"(<> "")", "[~;"},
+      {"", "[~;"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(ranges(c.comparisons), c.expected) << c.comparisons;
+  const Query without = parseQuery(R"(SELECT TPSMOI SANS 4 = "A")");
+  EXPECT_FALSE(valueRanges(without, without.clauses.front()));
+}
+
 class Random {
  public:
   explicit Random(unsigned seed) : engine_(seed) {}
