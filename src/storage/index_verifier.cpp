@@ -21,10 +21,6 @@ constexpr const char* kNombre = "SELECT count(*) FROM entree";
 constexpr const char* kArticles = "SELECT cle, texte, controle FROM article WHERE fichier = ?1";
 constexpr const char* kTexte = "SELECT texte FROM article WHERE fichier = ?1 AND cle = ?2";
 
-std::string nom(const data::Index& index) {
-  return "l'index " + data::champIndex(index) + " du fichier " + std::string(index.fichier);
-}
-
 class Comparaison {
  public:
   Comparaison(Connexion& connexion, const std::function<void(const Dommage&)>& signaler,
@@ -79,7 +75,10 @@ class Comparaison {
 
   void Entree(std::int64_t indice, std::string valeur, std::string_view cle) {
     if (indice < 0 || indice >= static_cast<std::int64_t>(std::size(data::IndexTenus))) {
-      signaler_({{}, {}, "Les index tiennent des valeurs qui ne sont d'aucun index."});
+      signaler_({{},
+                 {},
+                 "Les index tiennent des valeurs qui ne sont d'aucun d'eux : la commande reparer "
+                 "les refait."});
       return;
     }
     const data::EntreeIndex entree{&data::IndexTenus[indice], std::move(valeur)};
@@ -94,9 +93,9 @@ class Comparaison {
   }
 
   void Signaler(const data::EntreeIndex& entree, std::string_view cle, const char* quoi) {
-    signaler_(
-        {std::string(entree.index->fichier), std::string(cle),
-         nom(*entree.index) + quoi + entree.valeur + " ». La commande reparer refait les index"});
+    signaler_({std::string(entree.index->fichier), std::string(cle),
+               "l'index " + data::champIndex(*entree.index) + quoi + entree.valeur +
+                   " » : la commande reparer refait les index"});
   }
 
   void Avancer() {

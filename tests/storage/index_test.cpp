@@ -127,17 +127,17 @@ TEST_F(IndexSqlite, TheCheckFindsWhatDiffersAndRebuildingMendsIt) {
     const char* constat;
   } cas[] = {
       {"DELETE FROM entree WHERE cle = '00001003'",
-       "CONTRAT 00001003: l'index 116 du fichier CONTRAT ne mène pas à cet article par "
+       "CONTRAT 00001003: l'index 116 ne mène pas à cet article par "
        "« 00001009 »"},
       {"INSERT INTO entree VALUES(0, '00001009', '00001002')",
-       "CONTRAT 00001002: l'index 116 du fichier CONTRAT mène à cet article par une valeur qu'il "
+       "CONTRAT 00001002: l'index 116 mène à cet article par une valeur qu'il "
        "n'a pas, « 00001009 »"},
       {"INSERT INTO entree VALUES(0, '00001009', '99999001')",
-       "CONTRAT 99999001: l'index 116 du fichier CONTRAT mène à cet article par"},
+       "CONTRAT 99999001: l'index 116 mène à cet article par"},
       {"INSERT INTO entree VALUES(99, 'x', 'y')", " : Les index tiennent des valeurs"},
       // As many entries as values, and not the same.
       {"UPDATE entree SET valeur = 'MARTINE ROSE' WHERE cle = '00001'",
-       "CIVILAIDANT 00001: l'index NomPrenomAidant du fichier CIVILAIDANT ne mène pas à cet "
+       "CIVILAIDANT 00001: l'index NomPrenomAidant ne mène pas à cet "
        "article par « MARTIN ROSE »"},
   };
   for (const auto& c : cas) {
