@@ -11,7 +11,7 @@ namespace {
 // Records of a scan that take as long as one that is fetched by itself.
 constexpr std::size_t fetchCost = 3;
 // So few that looking for something cheaper would cost more.
-constexpr std::size_t handful = 16;
+constexpr std::size_t handful = 64;
 // How much further each round of counting goes, and where it stops: past that many candidates a
 // scan is taken.
 constexpr std::size_t roundFactor = 8;

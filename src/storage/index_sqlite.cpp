@@ -24,12 +24,15 @@ constexpr const char* kEtat = "SELECT signature FROM indice";
 constexpr const char* kAjouter =
     "INSERT OR IGNORE INTO entree(indice, valeur, cle) VALUES(?1, ?2, ?3)";
 constexpr const char* kOter = "DELETE FROM entree WHERE indice = ?1 AND valeur = ?2 AND cle = ?3";
+// Counted only under the signature ?5, in the one statement: each takes and lets go of a lock.
 constexpr const char* kCompterEntrees =
-    "SELECT count(*) FROM (SELECT 1 FROM entree "
-    "WHERE indice = ?1 AND valeur >= ?2 AND valeur < ?3 LIMIT ?4)";
+    "SELECT CASE (SELECT signature FROM indice) WHEN ?5 THEN (SELECT count(*) FROM ("
+    "SELECT 1 FROM entree WHERE indice = ?1 AND valeur >= ?2 AND valeur < ?3 LIMIT ?4)) "
+    "ELSE -1 END";
 constexpr const char* kCompterCles =
-    "SELECT count(*) FROM (SELECT 1 FROM article "
-    "WHERE fichier = ?1 AND cle >= ?2 AND cle < ?3 LIMIT ?4)";
+    "SELECT CASE (SELECT signature FROM indice) WHEN ?5 THEN (SELECT count(*) FROM ("
+    "SELECT 1 FROM article WHERE fichier = ?1 AND cle >= ?2 AND cle < ?3 LIMIT ?4)) "
+    "ELSE -1 END";
 constexpr const char* kClesParValeur =
     "SELECT cle FROM entree WHERE indice = ?1 AND valeur >= ?2 AND valeur < ?3";
 constexpr const char* kCles =
@@ -167,11 +170,15 @@ void IndexSqlite::Suivre(const Acte& acte, const std::optional<std::string_view>
 
 std::optional<std::size_t> IndexSqlite::Compter(const Acte& acte, const data::Chemin& chemin,
                                                 std::size_t plafond) {
-  if (!Tenu(acte)) return std::nullopt;
+  if (!Tables(acte)) return std::nullopt;
   const Usage compter(chemin.index == nullptr ? requetes_->compterCles : requetes_->compterEntrees);
   lierChemin(compter, acte.fichier, chemin);
   compter->Lier(4, static_cast<std::int64_t>(plafond));
-  return compter->Avancer(acte) ? static_cast<std::size_t>(compter->Nombre(0)) : 0;
+  compter->Lier(5, signatureVoulue());
+  compter->Avancer(acte);
+  const std::int64_t compte = compter->Nombre(0);
+  if (compte < 0) return std::nullopt;
+  return static_cast<std::size_t>(compte);
 }
 
 std::optional<std::vector<std::string>> IndexSqlite::Cles(

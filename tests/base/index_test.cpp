@@ -22,7 +22,7 @@ class IndexOutilTest : public testing::Test {
     Outil({"ecrire", "CONTRAT", "00001001", "--item", "[]"});
     // More than are worth an index when all of them are asked for.
     auto store = storage::SqliteStorage::Ouvrir(base_, data::PosteFixe(21511));
-    for (int i = 100; i < 130; ++i) {
+    for (int i = 100; i < 200; ++i) {
       store->Put("TPSMOI", "00001" + std::to_string(i),
                  "\x1e\x1e\x1e"
                  "0000100" +
@@ -57,9 +57,9 @@ TEST_F(IndexOutilTest, PlanDitCommentLaQuestionSeraitTraitee) {
     const char* plan;
   } cas[] = {
       {R"(SELECT TPSMOI AVEC 4 = "00001001")",
-       "index 4 : « 00001001 »\n3 articles à regarder au plus\n"},
+       "index 4 : « 00001001 »\n10 articles à regarder au plus\n"},
       {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC @ID = "00002]")",
-       "index 4 : « 00001001 »\nclés : commençant par « 00002 »\n3 articles à regarder au plus\n"},
+       "index 4 : « 00001001 »\nclés : commençant par « 00002 »\n10 articles à regarder au plus\n"},
       {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC 1 = "x")",
        "parcours du fichier TPSMOI, clés : toutes\n"},
       {R"(SELECT TPSMOI AVEC 4 = "00001]")", "parcours du fichier TPSMOI, clés : toutes\n"},
