@@ -1,5 +1,6 @@
 // What the store's engine does with its indexes.
 
+#include "storage/parcours.h"
 #include "storage/sqlite_moteur.h"
 
 namespace storage {
@@ -7,18 +8,6 @@ namespace storage {
 namespace {
 
 constexpr Acte kIndexation{"Indexation de"};
-
-// A scan under way, for as long as it lives.
-class Parcours {
- public:
-  explicit Parcours(int& compte) : compte_(compte) { ++compte_; }
-  ~Parcours() { --compte_; }
-  Parcours(const Parcours&) = delete;
-  Parcours& operator=(const Parcours&) = delete;
-
- private:
-  int& compte_;
-};
 
 }  // namespace
 

@@ -17,6 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using data::NumeroErreur;
 
+static_assert(kVersion == kVersionIndex);
+
 constexpr Acte kOuverture{"Ouverture de"};
 constexpr Acte kCreation{"Création de"};
 constexpr int kModes = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
