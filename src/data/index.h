@@ -38,7 +38,10 @@ struct EntreeIndex {
   const Index* index = nullptr;
   std::string valeur;
 
-  auto operator<=>(const EntreeIndex&) const = default;
+  bool operator==(const EntreeIndex& autre) const = default;
+  bool operator<(const EntreeIndex& autre) const {
+    return index != autre.index ? index < autre.index : valeur < autre.valeur;
+  }
 };
 
 // What the indexes hold of one record: in order, each once.

@@ -98,7 +98,7 @@ class Planner {
   }
 
  private:
-  bool takeCheapest(std::vector<Way> ways) {
+  bool takeCheapest(const std::vector<Way>& ways) {
     if (ways.empty()) return false;
     for (std::size_t limit = handful + 1; limit <= mostCandidates; limit *= roundFactor) {
       const Way* best = nullptr;
