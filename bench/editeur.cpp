@@ -79,10 +79,14 @@ void brutOuvrirContrat(benchmark::State& state) {
   }
 }
 
-// Carers without a contract, one for each creation, past those of the file.
+// Carers without a contract, one for each creation, past those of the file and of former runs.
 std::string aidantNeuf(Base& base) {
   static int numero = 300'000;
-  const std::string code = demo::codePersonne(++numero);
+  std::string code;
+  std::string texte;
+  do {
+    code = demo::codePersonne(++numero);
+  } while (base.stockage->Get(data::fichier::CIVILAIDANT, code, texte));
   data::CItem aidant;
   aidant.Set(data::CivilAidant::Nom, "NOUVEAU");
   base.stockage->Put(data::fichier::CIVILAIDANT, code, aidant.Text());
@@ -127,6 +131,7 @@ void brutEnregistrerContrat(benchmark::State& state) {
   Base& base = bench::base(Contrats);
   Poste poste(base, aidantNeuf(base));
   creerUnContrat(poste, base, nullptr);
+  if (poste.journal.ecritures.empty()) throw std::runtime_error("the new contract was not written");
   bench::EcritureBrute brut(base.chemin);
   static int tour = 0;
   for (auto _ : state) {
