@@ -109,10 +109,9 @@ std::optional<AvisHeures> Verif_NbHeures(data::Db& db, const std::string& codeAi
   if (!db.OpenFile(data::fichier::CONSTANTESPAIE).Lire(data::ConstantesPaie::Cle, constantes)) {
     return AvisHeures{SansConstantes, false};
   }
-  const long long total =
-      hebdomadaire(temps.duree, temps.frequence).value_or(temps.duree) +
-      autresContrats(db, codeAidant, numero, temps.effet) +
-      indisponibilites(db, codeAidant, temps.debut);
+  const long long total = hebdomadaire(temps.duree, temps.frequence).value_or(temps.duree) +
+                          autresContrats(db, codeAidant, numero, temps.effet) +
+                          indisponibilites(db, codeAidant, temps.debut);
   if (total <= data::entier(constantes.Vue(data::ConstantesPaie::MaximumHebdo))) {
     return std::nullopt;
   }

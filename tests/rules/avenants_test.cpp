@@ -28,10 +28,8 @@ TEST(Avenants, SeSuiventParNumeroEtParPlace) {
     int place;
     const char *apres, *effet;
   } cas[] = {
-      {"", "01", 2, "0", "20000"},
-      {"0", "01", 2, "0", ""},
-      {"0|01|02", "03", 4, "0|01|02", ""},
-      {"0|09", "10", 3, "0|09", ""},
+      {"", "01", 2, "0", "20000"},         {"0", "01", 2, "0", ""},
+      {"0|01|02", "03", 4, "0|01|02", ""}, {"0|09", "10", 3, "0|09", ""},
       {"0|99", "100", 3, "0|99", ""},
   };
   for (const auto& [numeros, suivant, place, apres, effet] : cas) {
@@ -48,8 +46,12 @@ TEST(Avenants, LeDroitPublicContinueJusquAuDernier) {
   const struct {
     const char *numeros, *avant, *apres;
   } cas[] = {
-      {"", "40", "40"},          {"0", "", ""},          {"0|01|02", "40", "40|40|40"},
-      {"0|01|02", "|43", "|43|43"}, {"0|01|02", "", ""}, {"0|01", "40|43|40", "40|43|40"},
+      {"", "40", "40"},
+      {"0", "", ""},
+      {"0|01|02", "40", "40|40|40"},
+      {"0|01|02", "|43", "|43|43"},
+      {"0|01|02", "", ""},
+      {"0|01", "40|43|40", "40|43|40"},
   };
   for (const auto& [numeros, avant, apres] : cas) {
     data::CItem item = contrat(numeros);
@@ -70,8 +72,8 @@ TEST(Avenants, PrennentEffetDansLOrdre) {
     long effet;
     const char* avant;
     const char* refus;
-  } cas[] = {{20100, "20100", ""},       {20099, "20100", precedent}, {20000, "", ""},
-             {19999, "", debut},         {19999, "20100", precedent}, {20000, "19000", ""},
+  } cas[] = {{20100, "20100", ""},   {20099, "20100", precedent}, {20000, "", ""},
+             {19999, "", debut},     {19999, "20100", precedent}, {20000, "19000", ""},
              {19999, "19000", debut}};
   for (const auto& [effet, avant, refus] : cas) {
     EXPECT_EQ(rules::refusDateEffet(effet, avant, 20000), refus) << effet << " " << avant;
