@@ -134,8 +134,10 @@ bool GrilleCarriere::Choisir() {
   return true;
 }
 
-// A grid typed in full is one chosen; the focus stays in the box until it is left.
+// A grid typed in full is one chosen; the focus stays in the box until it is left. The date of an
+// emptied one closes at once, so that Tab goes past it.
 void GrilleCarriere::Cbo_GrilleContrat_Change() {
+  if (!Choisie()) ActiverSelon(false);
   if (!Choisie() || Connue()) Choisir();
 }
 

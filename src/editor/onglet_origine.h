@@ -116,6 +116,7 @@ class OngletOrigine : public Onglet {
   // values of effect date and grid start before a moved start date changed them, the presumed end
   // of a contract made open-ended, the traineeship of a nature changed.
   bool debutDeplace_ = false;
+  std::string debutPose_;
   std::string effetAvant_;
   std::string departGrilleAvant_;
   std::string finAvant_;

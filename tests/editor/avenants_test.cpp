@@ -109,6 +109,27 @@ TEST_F(Avenant, LaBarrePasseDUnEtatALAutreEtGardeCeQuiAChange) {
       "Secrétaire|Cadre 12000|14000 " + jour("01/03/2026") + "|" + jour("01/06/2026") + " 30");
 }
 
+// The copy that a leaving given up again has made of the moved start does not undo what is typed
+// afterwards in the state that it moved.
+TEST_F(Avenant, UnDebutDeplaceNEffacePasCeQuiEstSaisiEnsuite) {
+  visiter(deuxEtats({{C::Grille, valeurs("01A|01A")},
+                     {C::DepartGrille, valeurs(jour("01/03/2026") + "|" + jour("01/06/2026"))},
+                     {C::PeriodeTraitee, "202602"}}));
+  onglet(editor::Origine);
+  remplir(txt("DatDebContrat"), "02/03/2026");
+  quitter(Reponse::Annuler);
+  messages();
+  onglet(editor::Caracteristiques);
+  aller(0);
+  remplir(txt("DepartGrilContrat"), "10/03/2026");
+  aller(1);
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(stocke({C::DateEffet, C::DepartGrille}), jour("02/03/2026") + "|" + jour("01/06/2026") +
+                                                         " " + jour("10/03/2026") + "|" +
+                                                         jour("01/06/2026"));
+}
+
 TEST_F(Avenant, UnEtatIncompletNeSeQuittePas) {
   visiter(deuxEtats());
   taper(cbo("QualifContrat"), "");

@@ -376,6 +376,53 @@ TEST_F(Tab, UnNouveauContratEstEcritEnEntier) {
   EXPECT_EQ(texte, "0 21520 Agent 01A 21520 0 0 3500 1 0  A 0 ");
 }
 
+// Every field of the tab, for a new contract, one on file and an amendment being entered: nothing is
+// stored, and the user can always clear the box and go on.
+TEST_F(Tab, NImporteQuoiDansChaqueChampNeCasseRien) {
+  const std::string insultes[] = {std::string(10000, '9'),
+                                  std::string("\x01\x1c\x1d\x1e\x7f\0x", 7),
+                                  "]\"[",
+                                  "0\" OR AVEC 0 = \"",
+                                  "99/99/9999",
+                                  "-,",
+                                  "é€𝄞\xc3"};
+  contrat("00001001", complet({{C::Convention, "03"}}));
+  for (const int etat : {0, 1, 2}) {
+    editeur.reset();
+    if (etat == 0) {
+      creer();
+      taper(txt("ConvColContrat"), "01");
+      remplir(txt("DatDebContrat"), "01/12/2026");
+    } else {
+      ouvrir("00001001");
+    }
+    onglet(editor::Caracteristiques);
+    if (etat == 2) cliquer(cmd("AjoutAvenant"));
+    stockage->EchouerEcriture(0);
+    int essayes = 0;
+    for (screen::Field* champ : editeur->Fields()) {
+      const bool saisie =
+          champ->Genre() == screen::Kind::Texte || champ->Genre() == screen::Kind::Deroulante;
+      if (!saisie || !champ->Accessible()) continue;
+      ++essayes;
+      for (const std::string& texte : insultes) {
+        User user(*editeur);
+        user.Taper(*champ, texte);
+        user.Touche(*champ, screen::ToucheEntree);
+        user.Quitter();
+        user.Coller(*champ, texte);
+        user.Quitter();
+        if (!champ->Accessible()) break;
+        user.Taper(*champ, "");
+        EXPECT_EQ(user.Quitter(), Acte::Fait) << champ->Nom() << " " << etat;
+        EXPECT_EQ(editeur->Ong_Contrat.Tab(), editor::Caracteristiques) << champ->Nom();
+      }
+    }
+    EXPECT_GT(essayes, 12);
+    EXPECT_EQ(stockage->Ecritures(), 0);
+  }
+}
+
 TEST_F(Tab, QualificationAjouteeParLEcranDesTables) {
   visiter();
   cliquer(cmd("QualifPro"));
