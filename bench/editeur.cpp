@@ -104,6 +104,11 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
     user.Taper(*editeur.Find("Txt_AssocContrat"), Entite);
     user.Taper(*editeur.Find("Txt_EmplEtabContrat"), etablissement);
     user.Taper(*editeur.Find("Txt_DatDebContrat"), "01/12/2026");
+    user.Onglet(editeur.Ong_Contrat, editor::Caracteristiques);
+    user.Taper(*editeur.Find("Cbo_QualifContrat"), "Agent à domicile");
+    user.Taper(*editeur.Find("Txt_DureeWContrat"), "20");
+    user.Choisir(*editeur.Find("Cbo_FreqWContrat"), 0);
+    user.Taper(*editeur.Find("Txt_TauxHorContrat"), "12,02");
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();
     user.Cliquer(editeur.Cmd_OK);

@@ -157,6 +157,11 @@ void OngletOrigine::Txt_DatDebContrat_LostFocus() {
   Txt_DatDebContrat.SetFocus();
 }
 
+void OngletOrigine::DemanderDebut() {
+  Refuser({"Vous devez renseigner la date de début du contrat.", Icone::Exclamation,
+           Txt_DatDebContrat.Nom()});
+}
+
 void OngletOrigine::Cmd_MotifCDD_Click() {
   dialogs::Frm_MotifCDD(editeur_.Services(), Dossier(), Txt_DatDebContrat.Text(),
                         {Convention(), Entite(), Employeur()})
@@ -201,10 +206,14 @@ void OngletOrigine::EcrireDebut() {
   data::CItem& contrat = Contrat();
   const std::string debut = contrat(C::DateDebut);
   const std::string debutInitial = Dossier().Initial(C::DateDebut);
-  if (debutDeplace_) {
+  // What was typed in their place since stays.
+  if (debutDeplace_ && contrat.Vue(C::DateEffet, 1) == debutPose_) {
     contrat.Set(C::DateEffet, 1, effetAvant_);
+  }
+  if (debutDeplace_ && contrat.Vue(C::DepartGrille, 1) == debutPose_) {
     contrat.Set(C::DepartGrille, 1, departGrilleAvant_);
   }
+  debutPose_ = debut;
   debutDeplace_ = debut != debutInitial;
   if (!debutDeplace_) return;
   effetAvant_ = contrat(C::DateEffet, 1);

@@ -25,6 +25,8 @@ class OngletOrigine : public Onglet {
   void RafraichirEmployeur();
   // Run by the frame on every tab change too.
   void Txt_DatDebContrat_LostFocus();
+  // The start of the contract is missing for what was to be done: says so, and goes to its box.
+  void DemanderDebut();
   // To the first field in which a new contract begins.
   void Commencer() { codes_.SetFocus(); }
 
@@ -102,6 +104,7 @@ class OngletOrigine : public Onglet {
   // values of effect date and grid start before a moved start date changed them, the presumed end
   // of a contract made open-ended.
   bool debutDeplace_ = false;
+  std::string debutPose_;
   std::string effetAvant_;
   std::string departGrilleAvant_;
   std::string finAvant_;

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <sstream>
 
 #include "base/executer.h"
@@ -77,6 +78,16 @@ class Pannes : public ::testing::Test {
       ligne->setFocus();
       QTest::keyClicks(ligne, saisie.texte);
     }
+    editeur.findChild<QTabWidget*>("Ong_Contrat")->setCurrentIndex(1);
+    const auto taper = [&](const char* nom, const char* texte) {
+      auto* const champ = editeur.findChild<QWidget*>(nom);
+      champ->setFocus();
+      QTest::keyClicks(champ, texte);
+    };
+    taper("Cbo_QualifContrat", "Agent administratif");
+    taper("Txt_DureeWContrat", "20");
+    taper("Cbo_FreqWContrat", "H");
+    taper("Txt_TauxHorContrat", "12");
   }
   static std::string Texte(QWidget& fenetre, const char* champ) {
     return fenetre.findChild<QLineEdit*>(champ)->text().toStdString();

@@ -5,9 +5,11 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_ElemDroitPublic.h"
 #include "ui_Frm_ElementsContrat.h"
 #include "ui_Frm_MotifCDD.h"
 #include "ui_Frm_MotifsEmbauche.h"
+#include "ui_Frm_QualifPro.h"
 #include "ui_Frm_Reprise.h"
 #include "ui_Frm_Stage.h"
 #include "ui_OngletCaracteristiques.h"
@@ -86,6 +88,8 @@ void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
+  bureau.Enregistrer("Frm_QualifPro", construire<Ui::Frm_QualifPro, Fenetre>);
+  bureau.Enregistrer("Frm_ElemDroitPublic", construire<Ui::Frm_ElemDroitPublic, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);
   bureau.Enregistrer("Frm_Reprise", construire<Ui::Frm_Reprise, Fenetre>);
 }
