@@ -52,6 +52,8 @@ class Repartition {
   bool Connait(std::string_view periode) const { return Rang(periode) < tranches_.size(); }
   // The split of that period; nothing for one that is not known.
   Parts A(std::string_view periode) const;
+  // The split in force, with or without a period.
+  const Parts& EnVigueur() const { return tranches_.front().parts; }
 
   // Other parts for a period that stands already. False, and nothing changes, when it does not or
   // when they do not add up.

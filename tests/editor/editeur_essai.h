@@ -74,6 +74,8 @@ class Editeur : public ::testing::Test {
     article("CIVILAIDE", "00009", {{3, "Sans nom"}});
     article("ELTSPARTEMP", "00007", {{13, "20"}});
     article("ELTSPARTEMP", "00008", {{2, "R"}});
+    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
+    article("PROFIL", "P02", {{1, "Mandataire"}, {4, "1"}});
     libelles("PCS",
              {{"56", "Services"}, {"563b", "Aide à domicile"}, {"563c", "Employé de maison"}});
     data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
@@ -131,6 +133,14 @@ class Editeur : public ::testing::Test {
   void quitter(screen::Reponse reponse) {
     hote.messages.Repondre(reponse);
     cliquer(editeur->Cmd_Retour);
+  }
+
+  // What a new contract needs on the pay tab, which proposes the rest.
+  void payer() {
+    screen::User user(*editeur);
+    user.Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
+    taper(txt("ProfilContrat"), editeur->origine.Particuliers() ? "P02" : "P01");
+    user.Onglet(editeur->Ong_Contrat, editor::Origine);
   }
 
   const data::CItem& c() { return editeur->Dossier().ItemContrat; }
