@@ -100,6 +100,9 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
     user.Taper(*editeur.Find("Txt_AssocContrat"), Entite);
     user.Taper(*editeur.Find("Txt_EmplEtabContrat"), etablissement);
     user.Taper(*editeur.Find("Txt_DatDebContrat"), "01/12/2026");
+    user.Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+    user.Taper(*editeur.Find("Txt_ProfilContrat"), "110");
+    user.Choisir(*editeur.Find("Cbo_Activite"), 0);
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();
     user.Cliquer(editeur.Cmd_OK);
