@@ -72,6 +72,7 @@ OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
               session::drapeau(Cac_ProvCP, C::ProvisionConges)}) {
   for (const char* mode : ModesPaiement) Cbo_ModPaieContrat.AddItem(mode);
   Lier();
+  LierDialogues();
 }
 
 void OngletPaie::Lier() {

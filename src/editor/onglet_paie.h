@@ -78,6 +78,10 @@ class OngletPaie : public Onglet {
   void Cbo_ModPaieContrat_LostFocus();
   void Cbo_CartOrangContrat_LostFocus();
   void GriserSaufActivite(bool actif);
+  // The dialogs: paie_dialogues.cpp.
+  void LierDialogues();
+  void Cmd_RubSaisie_Click();
+  void Cmd_Telegestion_Click();
   bool PrevoyanceObligatoire() const;
   // An activity of the entry headings is not among the contract's.
   bool RubriqueSansActivite() const;

@@ -269,8 +269,12 @@ bool PaieActivites::TotalFaux() {
   return editeur_.origine.Administratif() && lignes_.Total() != rules::Repartition::Tout;
 }
 
-std::vector<std::string> PaieActivites::Codes() const {
-  return lignes_.Codes();
+std::vector<data::ListeCodes::Ligne> PaieActivites::Activites() const {
+  std::vector<data::ListeCodes::Ligne> activites;
+  for (int i = 0; i < lignes_.Nombre(); ++i) {
+    activites.push_back({Codes()[static_cast<std::size_t>(i)], lignes_.Libelle(i)});
+  }
+  return activites;
 }
 
 std::string PaieActivites::Type() const {

@@ -41,7 +41,9 @@ class PaieActivites {
   bool PeriodeManque();
   bool TotalFaux();
   // The activities that the contract will have.
-  std::vector<std::string> Codes() const;
+  const std::vector<std::string>& Codes() const { return lignes_.Codes(); }
+  // The same with their labels.
+  std::vector<data::ListeCodes::Ligne> Activites() const;
   // The type of the first one, "M" for a private employer's; "" without any.
   std::string Type() const;
 
