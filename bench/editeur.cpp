@@ -109,6 +109,9 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
     user.Taper(*editeur.Find("Txt_DureeWContrat"), "20");
     user.Choisir(*editeur.Find("Cbo_FreqWContrat"), 0);
     user.Taper(*editeur.Find("Txt_TauxHorContrat"), "12,02");
+    user.Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+    user.Taper(*editeur.Find("Txt_ProfilContrat"), "110");
+    user.Choisir(*editeur.Find("Cbo_Activite"), 0);
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();
     user.Cliquer(editeur.Cmd_OK);

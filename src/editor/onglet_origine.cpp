@@ -56,7 +56,10 @@ void OngletOrigine::Lier() {
   Opt_Indetermine.Click = sourdine_.SiAudible([this] { SelonType(); });
   Opt_Horaire.Click = Opt_Mensuel.Click = sourdine_.SiAudible(
       [this] { editeur_.caracteristiques.SelonSalaire(Mensuel(), Production()); });
-  Opt_Production.Click = Opt_Administratif.Click = sourdine_.SiAudible([this] { SelonStatut(); });
+  Opt_Production.Click = Opt_Administratif.Click = sourdine_.SiAudible([this] {
+    SelonStatut();
+    editeur_.paie.ChangerStatut();
+  });
   Txt_DatDebContrat.LostFocus = [this] { Txt_DatDebContrat_LostFocus(); };
   Txt_PerEssaiContrat.KeyPress = chiffresSeuls;
   Txt_DateSignConvEmplAide.Change = sourdine_.SiAudible([this] { AdapterReference(); });

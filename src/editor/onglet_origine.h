@@ -33,6 +33,7 @@ class OngletOrigine : public Onglet {
   const std::string& Convention() const { return codes_.Convention(); }
   const std::string& Entite() const { return codes_.Entite(); }
   const std::string& Employeur() const { return codes_.Employeur(); }
+  const std::string& LibelleEmployeur() const { return codes_.LibelleEmployeur(); }
   bool Particuliers() const { return codes_.Particuliers(); }
   bool Administratif() const { return Opt_Administratif.Value(); }
   bool Production() const { return Opt_Production.Value(); }

@@ -17,6 +17,7 @@ class Ouverture : public essai::Liste {
     article("CONSTANTESPAIE", "1", {{10, "4800"}});
     article("PCS", "56", {{1, "Services"}});
     article("PCS", "563b", {{1, "Aide à domicile"}});
+    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
     for (int n = 1; n <= 3; ++n) {
       const std::string annee = std::to_string(2020 + n);
       contrat(n, "01/01/" + annee, "30/06/" + annee,
@@ -103,6 +104,8 @@ TEST_F(Ouverture, UneCreationSeMetEnTete) {
     user.Taper(*f.Find("Txt_DureeWContrat"), "20");
     user.Choisir(*f.Find("Cbo_FreqWContrat"), 0);
     user.Taper(*f.Find("Txt_TauxHorContrat"), "12");
+    user.Onglet(f.Ong_Contrat, editor::ElementsPaie);
+    user.Taper(*f.Find("Txt_ProfilContrat"), "P01");
     hote.modales.Prevoir(
         [](screen::Form& reprise) { screen::User(reprise).Cliquer(*reprise.Find("Cmd_Annuler")); });
     EXPECT_EQ(user.Cliquer(f.Cmd_OK), Acte::Fait);

@@ -75,6 +75,8 @@ class Editeur : public ::testing::Test {
     article("CIVILAIDE", "00009", {{3, "Sans nom"}});
     article("ELTSPARTEMP", "00007", {{13, "20"}});
     article("ELTSPARTEMP", "00008", {{2, "R"}});
+    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
+    article("PROFIL", "P02", {{1, "Mandataire"}, {4, "1"}});
     libelles("PCS",
              {{"56", "Services"}, {"563b", "Aide à domicile"}, {"563c", "Employé de maison"}});
     article("TABLES", "QUALIF", {{2, valeurs("Agent|Secrétaire|Cadre")}, {4, valeurs("10|20")}});
@@ -143,6 +145,14 @@ class Editeur : public ::testing::Test {
   void quitter(screen::Reponse reponse) {
     hote.messages.Repondre(reponse);
     cliquer(editeur->Cmd_Retour);
+  }
+
+  // What a new contract needs on the pay tab, which proposes the rest.
+  void payer() {
+    screen::User user(*editeur);
+    user.Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
+    taper(txt("ProfilContrat"), editeur->origine.Particuliers() ? "P02" : "P01");
+    user.Onglet(editeur->Ong_Contrat, editor::Origine);
   }
 
   const data::CItem& c() { return editeur->Dossier().ItemContrat; }

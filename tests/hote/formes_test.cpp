@@ -6,12 +6,16 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_qualif_pro.h"
 #include "dialogs/frm_reprise.h"
+#include "dialogs/frm_rub_saisie.h"
 #include "dialogs/frm_stage.h"
+#include "dialogs/frm_tps_indem.h"
+#include "dialogs/frm_vespamoi.h"
 #include "editor/editeur.h"
 #include "essai.h"
 #include "storage/memory.h"
@@ -40,6 +44,7 @@ class Formes : public ::testing::Test {
     article("ETABLISSEMENT", "001001", {{1, "Siège"}});
     article("ETABLISSEMENT", "001002", {{1, "Antenne"}});
     article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
+    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
     article("GRILLESCC", "01A", {{1, "Grille A"}});
     article("CONTRATSPREV", "10", {{1, "Cadres"}, {3, "01"}});
     article("PCS", "563b", {{1, "Aide à domicile"}});
@@ -101,8 +106,13 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossierContrat);
   dialogs::Frm_QualifPro qualif(bureau.Plateforme());
   dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), dossierContrat, 1);
+  dialogs::Frm_RubSaisie rubriques(bureau.Plateforme(), dossierContrat, {});
+  dialogs::Frm_CommentBull commentaires(bureau.Plateforme(), dossierContrat);
+  dialogs::Frm_TpsIndem indemnisation(bureau.Plateforme(), dossierContrat, "");
+  dialogs::Frm_VESPAMOI telegestion(bureau.Plateforme(), {});
   for (screen::Form* forme : std::initializer_list<screen::Form*>{
-           &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic}) {
+           &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic, &rubriques,
+           &commentaires, &indemnisation, &telegestion}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }
@@ -158,6 +168,10 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     aller("Cbo_FreqWContrat");
     touche(Qt::Key_Down);
     remplir("Txt_TauxHorContrat", "12,02");
+    // The pay tab: the only activity has been taken.
+    aller("Ong_Contrat");
+    touche(Qt::Key_Right);
+    remplir("Txt_ProfilContrat", "P01");
     aller("Cmd_OK");
     capturer(fenetre, "creation.png");
     touche(Qt::Key_Return);
