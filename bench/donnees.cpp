@@ -197,6 +197,8 @@ const std::vector<bench::Rapport> Rapports{
     {"list of 999 contracts / its raw reads", "rechercheContrat", "brutRecherche", 2},
     {"open a contract to its first tab / reads and selects", "ouvrirContrat", "brutOuvrirContrat",
      2},
+    {"first visit to the pay tab / reads and selects", "visiterPaie", "brutVisiterPaie", 2},
+    {"splits of 60 periods of 20 activities / of 6", "repartir60", "repartir6", 15},
     {"save a new contract / durable writes", "enregistrerContrat", "brutEnregistrerContrat", 1.3},
     {"200,000 contracts sorted / 10,000", "trierMoyenne", "trierPetite", 60},
     {"50,000 rows walked and filtered / ten times 5,000", "resultat50000", "resultat5000", 15},

@@ -5,11 +5,13 @@
 
 #include "bases.h"
 #include "control/ctr_contrat.h"
+#include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "demo/generateur.h"
 #include "journal.h"
+#include "rules/repartition.h"
 #include "screen/headless/hote.h"
 #include "screen/user.h"
 
@@ -77,6 +79,75 @@ void brutOuvrirContrat(benchmark::State& state) {
       }
     }
   }
+}
+
+// The first visit to the pay tab, alone: what is done before it is not counted.
+void visiter(Poste& poste, const std::function<void(bool)>& compter) {
+  poste.acte = [&](screen::Form& form) {
+    auto& editeur = dynamic_cast<Frm_ElementsContrat&>(form);
+    compter(true);
+    screen::User(form).Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+    compter(false);
+    form.Hide();
+  };
+  poste.controle.Appel_Contrat();
+}
+
+void visiterPaie(benchmark::State& state) {
+  Base& base = bench::base(Contrats);
+  const std::string cle = contratOuvert(base);
+  Poste poste(base, cle.substr(0, 5));
+  poste.controle.W_CodeContrat = cle;
+  visiter(poste, [](bool) {});
+  for (auto _ : state) {
+    state.PauseTiming();
+    visiter(poste, [&](bool debut) { debut ? state.ResumeTiming() : state.PauseTiming(); });
+    state.ResumeTiming();
+  }
+}
+
+// The same reads and key ranges, under the same clock.
+void brutVisiterPaie(benchmark::State& state) {
+  Base& base = bench::base(Contrats);
+  const std::string cle = contratOuvert(base);
+  Poste poste(base, cle.substr(0, 5));
+  poste.controle.W_CodeContrat = cle;
+  visiter(poste, [&](bool debut) { poste.journal.noter = debut; });
+  bench::Brut brut(base.chemin);
+  for (auto _ : state) {
+    state.PauseTiming();
+    poste.acte = [](screen::Form& form) { form.Hide(); };
+    poste.controle.Appel_Contrat();
+    state.ResumeTiming();
+    for (const auto& [fichier, debut, fin] : poste.journal.lectures) {
+      if (fin.empty()) {
+        benchmark::DoNotOptimize(brut.lire(fichier, debut));
+      } else {
+        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
+      }
+    }
+  }
+}
+
+// Reading and storing the splits of a contract, of that many periods of 20 activities.
+void repartir(benchmark::State& state, int periodes) {
+  rules::Repartition::Parts parts;
+  for (int i = 0; i < 20; ++i) parts.push_back({"001" + std::to_string(100 + i), "500"});
+  rules::Repartition repartition;
+  for (int p = 0; p < periodes; ++p) {
+    repartition.Ajouter(data::decalePeriode("202001", p), parts);
+  }
+  data::CItem contrat;
+  for (auto _ : state) {
+    repartition.Ecrire(contrat);
+    benchmark::DoNotOptimize(rules::Repartition::DuContrat(contrat));
+  }
+}
+void repartir60(benchmark::State& state) {
+  repartir(state, 60);
+}
+void repartir6(benchmark::State& state) {
+  repartir(state, 6);
 }
 
 // Carers without a contract, one for each creation, past those of the file and of former runs.
@@ -152,6 +223,10 @@ void brutEnregistrerContrat(benchmark::State& state) {
 
 BENCHMARK(ouvrirContrat)->Unit(benchmark::kMicrosecond);
 BENCHMARK(brutOuvrirContrat)->Unit(benchmark::kMicrosecond);
+BENCHMARK(visiterPaie)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(brutVisiterPaie)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(repartir60)->Unit(benchmark::kMicrosecond);
+BENCHMARK(repartir6)->Unit(benchmark::kMicrosecond);
 BENCHMARK(enregistrerContrat)->Unit(benchmark::kMicrosecond)->Iterations(200)->UseRealTime();
 BENCHMARK(brutEnregistrerContrat)->Unit(benchmark::kMicrosecond)->Iterations(200)->UseRealTime();
 

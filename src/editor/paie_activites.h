@@ -1,8 +1,8 @@
 #pragma once
-// The activities of the contract: what its entity offers, what it has. Production staff have a plain
-// list of activities of one kind; administrative staff split their time over theirs, which
-// paie_repartition.h enters. A private employer's contract has his activity, which stands beside
-// nothing to choose unless he has several.
+// The activities of the contract: what its entity offers, what it has. Production staff have a
+// plain list of activities of one kind; administrative staff split their time over theirs, which
+// paie_repartition.h enters. A private employer's contract has his activity; there is something to
+// choose only where he has several.
 
 #include "data/liste_codes.h"
 #include "editor/paie_repartition.h"

@@ -445,4 +445,38 @@ TEST_F(FichePaie, NImporteQuoiDansChaqueChampNeCasseRien) {
   }
 }
 
+// A visit that a read interrupts is made anew, and leaves nothing half shown behind.
+TEST_F(FichePaie, UneVisiteInterrompueSeReprend) {
+  const Attributs reparti = sain({{C::Statut, "A"},
+                                  {C::Profil2, "P02"},
+                                  {C::ChargeMutuelle, "999"},
+                                  {C::Activites, multiple("001BUR|001ZZZ")},
+                                  {C::PartsActivites, multiple("7500|2500")},
+                                  {C::PeriodeEffet, "202611"}});
+  for (int n = 1;; ++n) {
+    ouvrirContrat(reparti);
+    const std::string avant = range() + paieRangee();
+    stockage->EchouerAppel(n);
+    bool interrompue = false;
+    try {
+      onglet(editor::ElementsPaie);
+    } catch (const data::StoreError&) {
+      interrompue = true;
+    }
+    stockage->EchouerAppel(0);
+    if (!interrompue) {
+      EXPECT_GT(n, 5);
+      break;
+    }
+    onglet(editor::Origine);
+    onglet(editor::ElementsPaie);
+    EXPECT_EQ(repartition(), "Bureau 75,00|001ZZZ 25,00 [novembre 2026]") << n;
+    EXPECT_EQ(profils(), "P01 Intervenant / P02 Mandataire o") << n;
+    cliquer(cmd("Retour"));
+    EXPECT_EQ(messages(), "") << n;
+    EXPECT_FALSE(editeur->Visible()) << n;
+    EXPECT_EQ(range() + paieRangee(), avant) << n;
+  }
+}
+
 }  // namespace

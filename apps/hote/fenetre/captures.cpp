@@ -16,9 +16,11 @@
 #include "control/ctr_contrat.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
+#include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_reprise.h"
+#include "dialogs/frm_rub_saisie.h"
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
 #include "fenetre/fenetre_hote.h"
@@ -170,6 +172,11 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
 
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
   capturer(album, bureau, stage, "stage");
+
+  dialogs::Frm_RubSaisie rubriques(bureau.Plateforme(), dossier, {});
+  capturer(album, bureau, rubriques, "rubriques");
+  dialogs::Frm_CommentBull commentaires(bureau.Plateforme(), dossier);
+  capturer(album, bureau, commentaires, "commentaires");
 
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossier);
   dialogs::DonneesReprise donnees;
