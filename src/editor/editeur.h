@@ -18,6 +18,7 @@
 
 #include "editor/enregistrement.h"
 #include "editor/gardes.h"
+#include "editor/impression.h"
 #include "editor/onglet_caracteristiques.h"
 #include "editor/onglet_conges.h"
 #include "editor/onglet_fin.h"
@@ -56,6 +57,8 @@ class Frm_ElementsContrat : public screen::Form {
 
   // The tabs in their order, on which OK, leaving, saving and clearing work alike.
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
+  // The hiring declaration of the contract, which stands on file.
+  void ImprimerDeclaration() { impression_.Declaration(); }
   // Tells every tab the agreement that stands in its box.
   void AnnoncerConvention();
 
@@ -106,6 +109,7 @@ class Frm_ElementsContrat : public screen::Form {
   session::AideEnLigne aide_;
   Gardes gardes_{*this};
   Enregistrement enregistrement_{*this, gardes_};
+  Impression impression_{*this};
 };
 
 }  // namespace editor

@@ -69,9 +69,9 @@ class ErreurImpression : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Paper. Coordinates are twips, 567 to the centimetre, from the page's top left corner. Any of the
-// calls that put something on paper may raise ErreurImpression: nothing of the document stands then,
-// and the next call begins another one.
+// Paper. Coordinates are twips, 567 to the centimetre, from the page's top left corner. Each call
+// that puts something on paper may raise ErreurImpression: nothing of the document stands then, and
+// the next call begins another one.
 class Imprimante {
  public:
   virtual ~Imprimante() = default;
