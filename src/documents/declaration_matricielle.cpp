@@ -17,7 +17,7 @@ using Z = ZonesDeclaration;
 constexpr const char* Croix = "X";
 constexpr double PointsMatriciels = 11;
 // Where the paper ends, short of the printer's margin.
-constexpr double BordDroit = 20.7;
+constexpr double BordDroit = 20.5;
 // The boxes of the number of the establishment: 14 digits, each with its blank.
 constexpr int LargeurSiret = 28;
 
@@ -122,6 +122,25 @@ std::string aujourdhui(const Z& z) {
   return dateAffichee(z.dossier.aujourdhui);
 }
 
+// Puts a line on the page. One that is too long for the paper keeps its columns: its last zone is
+// drawn narrower, or all of it when even that zone would begin off the paper.
+void poser(Page& page, double x, double y, const std::string& ligne) {
+  constexpr double Chasse = ChasseFixe * PointsMatriciels / PointsParCentimetre;
+  const Police police{.points = PointsMatriciels};
+  const auto trou = ligne.rfind("   ");
+  if (x + longueur(ligne) * Chasse > BordDroit && trou != std::string::npos) {
+    const std::string debut = ligne.substr(0, trou + 3);
+    const double fin = x + longueur(debut) * Chasse;
+    if (fin < BordDroit) {
+      page.elements.emplace_back(Texte{x, y, debut, police});
+      page.elements.emplace_back(
+          Texte{fin, y, ligne.substr(debut.size()), police, BordDroit - fin});
+      return;
+    }
+  }
+  page.elements.emplace_back(Texte{x, y, ligne, police, BordDroit - x});
+}
+
 }  // namespace
 
 ZonesDeclaration::ZonesDeclaration(const DossierDeclaration& d)
@@ -167,11 +186,9 @@ Page declarationMatricielle(const DossierDeclaration& d) {
   const ZonesDeclaration zones(d);
   Page page;
   page.elements.emplace_back(fond(d, FondDue));
-  const Police police{.points = PointsMatriciels};
   for (const LigneMatricielle& ligne : lignesMatricielles()) {
     const std::string texte = ligne.texte(zones);
-    if (texte.empty()) continue;
-    page.elements.emplace_back(Texte{ligne.x, ligne.y, texte, police, BordDroit - ligne.x});
+    if (!texte.empty()) poser(page, ligne.x, ligne.y, texte);
   }
   signer(page, d);
   return page;

@@ -1,8 +1,8 @@
 #pragma once
 // What a hiring declaration is made from: the contract, the parties and the code tables, read once
-// What a hiring declaration is made from: the contract, the parties and the code tables, read once
 // at the start of the job. A record that does not stand is an empty item, and its places stay
 // blank.
+
 #include <string>
 #include <vector>
 
