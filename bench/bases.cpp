@@ -32,20 +32,18 @@ void ajouterAidantCharge(data::Storage& stockage) {
     modele = texte;
     return false;
   });
-  stockage.EnUnBloc([&] {
-    data::CItem aidant;
-    aidant.Set(data::CivilAidant::Nom, "BENOIT");
-    aidant.Set(data::CivilAidant::DernierNumero, "999");
-    stockage.Put(data::fichier::CIVILAIDANT, AidantCharge, aidant.Text());
-    for (int numero = 1; numero <= 999; ++numero) {
-      data::CItem contrat(modele);
-      contrat.Set(data::Contrat::Annule, "");
-      // Scattered start dates, so that rows are inserted all over the list.
-      contrat.Set(data::Contrat::DateDebut, std::to_string(15000 + numero * 617 % 5000));
-      contrat.Set(data::Contrat::DateFin, numero % 3 == 0 ? "" : "21600");
-      stockage.Put(data::fichier::CONTRAT, data::cleContrat(AidantCharge, numero), contrat.Text());
-    }
-  });
+  data::CItem aidant;
+  aidant.Set(data::CivilAidant::Nom, "BENOIT");
+  aidant.Set(data::CivilAidant::DernierNumero, "999");
+  stockage.Put(data::fichier::CIVILAIDANT, AidantCharge, aidant.Text());
+  for (int numero = 1; numero <= 999; ++numero) {
+    data::CItem contrat(modele);
+    contrat.Set(data::Contrat::Annule, "");
+    // Scattered start dates, so that rows are inserted all over the list.
+    contrat.Set(data::Contrat::DateDebut, std::to_string(15000 + numero * 617 % 5000));
+    contrat.Set(data::Contrat::DateFin, numero % 3 == 0 ? "" : "21600");
+    stockage.Put(data::fichier::CONTRAT, data::cleContrat(AidantCharge, numero), contrat.Text());
+  }
 }
 
 // The first carer from `debut` on with as many contracts as in every other file.
@@ -66,7 +64,9 @@ void choisirAidant(Base& b, const std::string& debut) {
   });
 }
 
-Base ouvrir(const std::string& nom, long contrats, bool charge) {
+}  // namespace
+
+Base ouvrirBase(const std::string& nom, const std::function<void(data::Storage&)>& remplir) {
   Base b;
   std::filesystem::create_directories(dossier());
   b.chemin = dossier() + "/" + nom + ".contrats";
@@ -75,15 +75,24 @@ Base ouvrir(const std::string& nom, long contrats, bool charge) {
     const std::string enCours = b.chemin + ".encours";
     std::filesystem::remove(enCours);
     auto neuf = storage::SqliteStorage::Creer(enCours, poste());
-    demo::OptionsDemo options;
-    options.aidants = static_cast<int>(contrats / ContratsParAidant);
-    neuf->EnUnBloc([&] { demo::genererDemo(*neuf, options); });
-    if (charge) ajouterAidantCharge(*neuf);
+    neuf->EnUnBloc([&] { remplir(*neuf); });
     neuf.reset();
     std::filesystem::rename(enCours, b.chemin);
   }
   b.stockage = storage::SqliteStorage::Ouvrir(b.chemin, poste());
   b.db = std::make_unique<data::Db>(b.stockage);
+  return b;
+}
+
+namespace {
+
+Base ouvrir(const std::string& nom, long contrats, bool charge) {
+  Base b = ouvrirBase(nom, [&](data::Storage& stockage) {
+    demo::OptionsDemo options;
+    options.aidants = static_cast<int>(contrats / ContratsParAidant);
+    demo::genererDemo(stockage, options);
+    if (charge) ajouterAidantCharge(stockage);
+  });
   choisirAidant(b, demo::codePersonne(static_cast<int>(contrats / ContratsParAidant / 2)));
   return b;
 }

@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,9 @@ Base& base(long contrats);
 // The same data as the smallest file, with a carer "99998" who has 999 contracts.
 Base& baseAidantCharge();
 constexpr const char* AidantCharge = "99998";
+
+// A file of its own, made by `remplir` in one block and opened once; without carers.
+Base ouvrirBase(const std::string& nom, const std::function<void(data::Storage&)>& remplir);
 
 class Brut {
  public:

@@ -79,10 +79,14 @@ void brutOuvrirContrat(benchmark::State& state) {
   }
 }
 
-// Carers without a contract, one for each creation, past those of the file.
+// Carers without a contract, one for each creation, past those of the file and of former runs.
 std::string aidantNeuf(Base& base) {
   static int numero = 300'000;
-  const std::string code = demo::codePersonne(++numero);
+  std::string code;
+  std::string texte;
+  do {
+    code = demo::codePersonne(++numero);
+  } while (base.stockage->Get(data::fichier::CIVILAIDANT, code, texte));
   data::CItem aidant;
   aidant.Set(data::CivilAidant::Nom, "NOUVEAU");
   base.stockage->Put(data::fichier::CIVILAIDANT, code, aidant.Text());
@@ -100,6 +104,14 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
     user.Taper(*editeur.Find("Txt_AssocContrat"), Entite);
     user.Taper(*editeur.Find("Txt_EmplEtabContrat"), etablissement);
     user.Taper(*editeur.Find("Txt_DatDebContrat"), "01/12/2026");
+    user.Onglet(editeur.Ong_Contrat, editor::Caracteristiques);
+    user.Taper(*editeur.Find("Cbo_QualifContrat"), "Agent à domicile");
+    user.Taper(*editeur.Find("Txt_DureeWContrat"), "20");
+    user.Choisir(*editeur.Find("Cbo_FreqWContrat"), 0);
+    user.Taper(*editeur.Find("Txt_TauxHorContrat"), "12,02");
+    user.Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+    user.Taper(*editeur.Find("Txt_ProfilContrat"), "110");
+    user.Choisir(*editeur.Find("Cbo_Activite"), 0);
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();
     user.Cliquer(editeur.Cmd_OK);
@@ -127,6 +139,7 @@ void brutEnregistrerContrat(benchmark::State& state) {
   Base& base = bench::base(Contrats);
   Poste poste(base, aidantNeuf(base));
   creerUnContrat(poste, base, nullptr);
+  if (poste.journal.ecritures.empty()) throw std::runtime_error("the new contract was not written");
   bench::EcritureBrute brut(base.chemin);
   static int tour = 0;
   for (auto _ : state) {

@@ -46,6 +46,15 @@ class Journal : public data::Storage {
     }
     dessous_.Scan(fichier, cles, visiteur);
   }
+  // Roads are followed as they are: no act that is measured here takes one.
+  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
+                                     std::size_t plafond) override {
+    return dessous_.Compter(fichier, chemin, plafond);
+  }
+  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                   const Visiteur& visiteur) override {
+    return dessous_.ScanChemins(fichier, chemins, visiteur);
+  }
   std::vector<data::FichierCompte> Fichiers() override { return dessous_.Fichiers(); }
   std::vector<data::AncienTexte> Historique(std::string_view fichier,
                                             std::string_view cle) override {

@@ -4,7 +4,8 @@ target_compile_options(contrats_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Werror
   # g++ 12 sees overlapping and overlong copies inside std::string that are not there (GCC bug 105651).
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overflow>)
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overflow
+    -Wno-stringop-overread>)
 target_include_directories(contrats_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(CONTRATS_SANITIZE)
   target_compile_options(contrats_options INTERFACE

@@ -10,6 +10,7 @@ namespace base {
 int creer(Contexte& contexte, const Arguments& arguments);
 int fichiers(Contexte& contexte, const Arguments& arguments);
 int verifierBase(Contexte& contexte, const Arguments& arguments);
+int reparer(Contexte& contexte, const Arguments& arguments);
 int demo(Contexte& contexte, const Arguments& arguments);
 // JSON Lines.
 int importer(Contexte& contexte, const Arguments& arguments);

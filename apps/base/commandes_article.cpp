@@ -86,7 +86,7 @@ int ecrire(Contexte& contexte, const Arguments& arguments) {
                             std::to_string(refus.Colonne()) + " : " + refus.what() +
                             ". Rien n'a été écrit.");
   }
-  Base base(arguments, Acces::Ecriture);
+  Base base(arguments, Acces::Ecriture, &contexte);
   base.Stockage().Put(arguments.Texte("FICHIER"), arguments.Texte("CLE"), texte);
   contexte.Ecrit(nomArticle(arguments) + " est écrit.\n");
   return Fait;
@@ -112,7 +112,7 @@ int historique(Contexte& contexte, const Arguments& arguments) {
 
 int retablir(Contexte& contexte, const Arguments& arguments) {
   const long numero = arguments.Entier("N", 1, 0);
-  Base base(arguments, Acces::Ecriture);
+  Base base(arguments, Acces::Ecriture, &contexte);
   // One block, so that no other station writes the record in between.
   base.Stockage().EnUnBloc([&] {
     const auto ancien = ancienTexte(base.Stockage(), arguments, numero);

@@ -9,6 +9,7 @@
 
 #include "base/affichage.h"
 #include "base/commandes.h"
+#include "base/controle_index.h"
 #include "base/ouverture.h"
 #include "base/progres.h"
 #include "base/verification.h"
@@ -110,6 +111,10 @@ int verifierBase(Contexte& contexte, const Arguments& arguments) {
   base.Sqlite().Verifier([&](const storage::Dommage& dommage) { constats.Dommage(dommage); },
                          [&](long lus) { pages.Avance(lus); });
   pages.Efface();
+  Progres index(contexte.erreurs, contexte.terminal, "Vérification des index, articles lus");
+  constats.Pendant(index);
+  controlerIndex(contexte, base.Sqlite(), index,
+                 [&](const Constat& constat) { constats.Constate(constat); });
   Progres articles(contexte.erreurs, contexte.terminal, "Vérification des articles");
   constats.Pendant(articles);
   const Bilan bilan = verifier(

@@ -160,7 +160,7 @@ int importer(Contexte& contexte, const Arguments& arguments) {
   if (std::error_code ignoree; source != "-" && std::filesystem::is_directory(source, ignoree)) {
     throw Echec(Panne, source + " est un dossier. Donnez un fichier JSON Lines.");
   }
-  Base base(arguments, Acces::Ecriture);
+  Base base(arguments, Acces::Ecriture, &contexte);
   if (source == "-") {
     return importerDepuis(contexte, base.Stockage(), "entrée standard", contexte.entree);
   }

@@ -4,6 +4,7 @@
 #include "base/article_json.h"
 #include "base/commandes.h"
 #include "base/ouverture.h"
+#include "base/plan.h"
 #include "data/db.h"
 #include "data/query.h"
 
@@ -35,6 +36,12 @@ bool vide(data::Storage& stockage, const std::string& fichier) {
   return vide;
 }
 
+int montrerPlan(Contexte& contexte, data::Storage& stockage, const std::string& question) {
+  const data::Query demande = data::parseQuery(question);
+  contexte.Ecrit(decrirePlan(demande, data::planQuery(stockage, demande)));
+  return Fait;
+}
+
 }  // namespace
 
 int select(Contexte& contexte, const Arguments& arguments) {
@@ -43,7 +50,11 @@ int select(Contexte& contexte, const Arguments& arguments) {
   // Both are read before the file is opened: a mistyped query needs no data to be refused.
   const std::string fichier(data::parseQuery(question).file);
   const int colonnes = static_cast<int>(data::parseFieldList(fichier, champs).size());
+  if (arguments.Donne("--plan") && arguments.Donne("--json")) {
+    throw Echec(MauvaisUsage, "--plan et --json ne se donnent pas ensemble.");
+  }
   Base base(arguments, Acces::Lecture);
+  if (arguments.Donne("--plan")) return montrerPlan(contexte, base.Stockage(), question);
   data::Db db(base.Partage());
   // The key goes before the columns asked for, so that no row is empty: an item cuts empty ends.
   const data::CItem rangees = db.Selectionner(question, fichier, "0 " + champs);

@@ -16,8 +16,9 @@ enum class Acces { Lecture, Ecriture };
 class Base {
  public:
   // Opens the file named by the argument BASE. StoreError when it is absent or no data file. A
-  // command that only reads works on a place that cannot be written, too.
-  Base(const Arguments& arguments, Acces acces);
+  // command that only reads works on a place that cannot be written, too. With `contexte`, the
+  // progress of a file that gets its indexes shows there.
+  Base(const Arguments& arguments, Acces acces, Contexte* contexte = nullptr);
 
   data::Storage& Stockage() { return *stockage_; }
   storage::SqliteStorage& Sqlite() { return *stockage_; }

@@ -104,7 +104,8 @@ CItem Db::Selectionner(std::string_view question, std::string_view fichier,
                          std::string(fichier) + " ».",
                      std::string(fichier));
   }
-  return runQuery(*storage_, query, parseFieldList(query.file, champs), keyRange(query));
+  return runQuery(*storage_, query, parseFieldList(query.file, champs),
+                  planQuery(*storage_, query));
 }
 
 }  // namespace data

@@ -59,12 +59,12 @@ const Definition* findDefinition(std::string_view fichier, std::string_view nom)
 
 // Null when there is no such record. The same key may be asked of two files.
 const std::string* DictionaryReader::record(std::string_view fichier, std::string_view cle) {
-  if (cle.empty()) return nullptr;
+  if (cle.empty() || storage_ == nullptr) return nullptr;
   std::string name(fichier);
   (name += SepAttribut) += cle;
   const auto [place, fresh] = kept_.try_emplace(std::move(name));
   Kept& kept = place->second;
-  if (fresh) kept.found = storage_.Get(fichier, cle, kept.text);
+  if (fresh) kept.found = storage_->Get(fichier, cle, kept.text);
   return kept.found ? &kept.text : nullptr;
 }
 

@@ -37,7 +37,9 @@ const Definition* findDefinition(std::string_view fichier, std::string_view nom)
 // its end, so that 10,000 interventions on 20 activities read 20 records.
 class DictionaryReader {
  public:
-  explicit DictionaryReader(Storage& storage) : storage_(storage) {}
+  explicit DictionaryReader(Storage& storage) : storage_(&storage) {}
+  // For fields that are made of their record alone; one that is not reads empty.
+  DictionaryReader() = default;
 
   // The field's content for the record under `cle`; `a` and `b` are the contents of the attributes
   // that the definition names, when they are its record's own. The view lives until the next call.
@@ -52,7 +54,7 @@ class DictionaryReader {
     std::string text;
   };
 
-  Storage& storage_;
+  Storage* storage_ = nullptr;
   std::string buffer_;
   std::unordered_map<std::string, Kept> kept_;
 };

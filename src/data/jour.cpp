@@ -68,6 +68,7 @@ std::string periodText(const Periode& p) {
 std::vector<std::string> typedParts(std::string_view texte) {
   std::string saisie = sansBlancs(texte);
   if (onlyDigits(saisie)) {
+    if (saisie.size() == 4) return {saisie.substr(0, 2), saisie.substr(2)};
     if (saisie.size() != 6 && saisie.size() != 8) return {};
     return {saisie.substr(0, 2), saisie.substr(2, 2), saisie.substr(4)};
   }
@@ -137,8 +138,11 @@ std::optional<long> lireDateAffichee(std::string_view texte) {
                  smallNumber(texte.substr(0, 2))});
 }
 
-std::optional<long> lireDateSaisie(std::string_view texte) {
-  const std::vector<std::string> parties = typedParts(texte);
+std::optional<long> lireDateSaisie(std::string_view texte, int anneeCourante) {
+  std::vector<std::string> parties = typedParts(texte);
+  if (parties.size() == 2) parties.push_back(std::to_string(anneeCourante));
+  // As other programs write it: AAAA-MM-JJ.
+  if (parties.size() == 3 && parties[0].size() == 4) std::swap(parties[0], parties[2]);
   if (parties.size() != 3 || parties[0].size() > 2 || parties[1].size() > 2) return std::nullopt;
   const std::string& anneeSaisie = parties[2];
   if (anneeSaisie.size() != 2 && anneeSaisie.size() != 4) return std::nullopt;

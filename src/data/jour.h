@@ -36,9 +36,10 @@ std::string dateAffichee(long jour);
 std::optional<long> lireDateAffichee(std::string_view texte);
 // What a clerk types: day, month and year parted by "/", "-", "." or blanks ("1/5/26",
 // "01-05-2026", "1 5 26"), or digits alone, JJMMAA or JJMMAAAA. Two digits of a year mean 2000 to
-// 2049, then 1950 to 1999. Nothing for another form, a date that does not exist, or a year outside
-// 1900 to 2199.
-std::optional<long> lireDateSaisie(std::string_view texte);
+// 2049, then 1950 to 1999; day and month alone ("1/5", "0105") are of the current year; a year in
+// front turns the order round ("2026-05-01"). Nothing for another form, a date that does not exist,
+// or a year outside 1900 to 2199.
+std::optional<long> lireDateSaisie(std::string_view texte, int anneeCourante);
 
 // First and last day of a period, a period moved by months (negative: back), the period of a day.
 // Nothing, or "", for a text that is no period.

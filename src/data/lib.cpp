@@ -42,7 +42,7 @@ std::string Lib::DateToInternal(std::string_view date) const {
 
 std::optional<long> Lib::LireDate(std::string_view date) const {
   const auto affichee = lireDateAffichee(sansBlancs(date));
-  return affichee ? affichee : lireDateSaisie(date);
+  return affichee ? affichee : lireDateSaisie(date, AnneeCourante());
 }
 
 std::string Lib::DateFromInternal(std::string_view interne) const {
@@ -51,8 +51,12 @@ std::string Lib::DateFromInternal(std::string_view interne) const {
   return date.empty() ? std::string(interne) : date;
 }
 
+int Lib::AnneeCourante() const {
+  return dateDe(poste_.Aujourdhui()).annee;
+}
+
 std::string Lib::NormaliseDateText(std::string_view saisie) {
-  const auto jour = lireDateSaisie(saisie);
+  const auto jour = lireDateSaisie(saisie, AnneeCourante());
   dateError_ = !jour;
   return jour ? dateAffichee(*jour) : std::string(saisie);
 }

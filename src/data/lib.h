@@ -64,6 +64,8 @@ class Lib {
   std::string DecimalSeparator() const { return poste_.SeparateurDecimal(); }
 
  private:
+  int AnneeCourante() const;
+
   const Poste& poste_;
   bool dateError_ = false;
 };

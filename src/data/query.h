@@ -127,5 +127,11 @@ std::vector<Field> parseFieldList(std::string_view file, std::string_view text);
 
 // Keys outside the range cannot satisfy the query; keys inside it may not either.
 KeyRange keyRange(const Query& query);
+// The same for one clause alone; every key for a clause that is about another field.
+KeyRange keyRange(const Query& query, const Clause& clause);
+
+// Where an index of the clause's field holds every record that satisfies it, and maybe others.
+// Nothing when empty values may satisfy it, which an index does not hold.
+std::optional<std::vector<KeyRange>> valueRanges(const Query& query, const Clause& clause);
 
 }  // namespace data

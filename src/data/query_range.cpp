@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "data/index.h"
 #include "data/query.h"
 
 namespace data {
@@ -71,7 +72,36 @@ class Fold {
   KeyRange group_ = KeyRange::Tout();
 };
 
-KeyRange rangeOf(const Query& query, const Clause& clause) {
+bool comparesNumbers(const Comparison& comparison) {
+  return comparison.mark == Mark::None && comparison.number.valid && !comparison.number.leadingZero;
+}
+
+KeyRange valueRange(const Comparison& comparison) {
+  // Different from "" is above it; no other difference leaves a place out.
+  if (comparison.mark == Mark::None && comparison.op == Operator::Different &&
+      comparison.value.empty()) {
+    return ordered(Operator::Greater, KeyRange::Une({}));
+  }
+  return rangeOf(comparison);
+}
+
+// The values that satisfy a row of comparisons joined by AND, or more. An index holds a number by
+// its text and by its shortest form, so that ranges of the two do not narrow each other.
+KeyRange valuesOf(const Comparison* begin, const Comparison* end) {
+  KeyRange texts = KeyRange::Tout();
+  for (const Comparison* comparison = begin; comparison != end; ++comparison) {
+    if (!comparesNumbers(*comparison)) {
+      texts = texts.Avec(valueRange(*comparison));
+    } else if (comparison->op == Operator::Equal) {
+      return KeyRange::Une(formeCherchee(comparison->value));
+    }
+  }
+  return texts;
+}
+
+}  // namespace
+
+KeyRange keyRange(const Query& query, const Clause& clause) {
   if (!clause.field.isKey() || clause.without) return KeyRange::Tout();
   Fold fold;
   for (std::size_t i = clause.first; i < clause.end; ++i) {
@@ -80,13 +110,26 @@ KeyRange rangeOf(const Query& query, const Clause& clause) {
   return fold.result();
 }
 
-}  // namespace
-
 KeyRange keyRange(const Query& query) {
   Fold fold;
-  for (const Clause& clause : query.clauses) fold.add(clause.orBefore, rangeOf(query, clause));
+  for (const Clause& clause : query.clauses) fold.add(clause.orBefore, keyRange(query, clause));
   const KeyRange keys = fold.result();
-  return query.restriction ? keys.Avec(rangeOf(query, *query.restriction)) : keys;
+  return query.restriction ? keys.Avec(keyRange(query, *query.restriction)) : keys;
+}
+
+std::optional<std::vector<KeyRange>> valueRanges(const Query& query, const Clause& clause) {
+  if (clause.without) return std::nullopt;
+  std::vector<KeyRange> ranges;
+  const Comparison* const end = query.comparisons.data() + clause.end;
+  for (const Comparison* begin = query.comparisons.data() + clause.first; begin != end;) {
+    const Comparison* const next =
+        std::find_if(begin + 1, end, [](const Comparison& c) { return c.orBefore; });
+    KeyRange values = valuesOf(begin, next);
+    if (values.Contient({})) return std::nullopt;
+    if (!values.Vide()) ranges.push_back(std::move(values));
+    begin = next;
+  }
+  return ranges;
 }
 
 }  // namespace data

@@ -266,9 +266,16 @@ class Evaluator {
   std::vector<std::size_t> sortEnds_;
 };
 
-bool isOneKey(const KeyRange& keys) {
-  return !keys.sansFin && keys.fin.size() == keys.debut.size() + 1 && keys.fin.back() == '\0' &&
-         keys.fin.starts_with(keys.debut);
+void scan(Storage& storage, const Query& query, const KeyRange& keys, Evaluator& evaluator) {
+  if (keys.EstUneCle()) {
+    std::string text;
+    if (storage.Get(query.file, keys.debut, text)) evaluator.visit(keys.debut, text);
+  } else if (!keys.Vide()) {
+    storage.Scan(query.file, keys, [&evaluator](std::string_view key, std::string_view text) {
+      evaluator.visit(key, text);
+      return true;
+    });
+  }
 }
 
 }  // namespace
@@ -289,14 +296,20 @@ void AttributeReader::advance() {
 CItem runQuery(Storage& storage, const Query& query, const std::vector<Field>& columns,
                const KeyRange& keys) {
   Evaluator evaluator(storage, query, columns);
-  if (isOneKey(keys)) {
-    std::string text;
-    if (storage.Get(query.file, keys.debut, text)) evaluator.visit(keys.debut, text);
-  } else if (!keys.Vide()) {
-    storage.Scan(query.file, keys, [&evaluator](std::string_view key, std::string_view text) {
-      evaluator.visit(key, text);
-      return true;
-    });
+  scan(storage, query, keys, evaluator);
+  return evaluator.result();
+}
+
+CItem runQuery(Storage& storage, const Query& query, const std::vector<Field>& columns,
+               const Plan& plan) {
+  Evaluator evaluator(storage, query, columns);
+  const auto visit = [&evaluator](std::string_view key, std::string_view text) {
+    evaluator.visit(key, text);
+    return true;
+  };
+  // The indexes can have gone since the plan was made.
+  if (plan.scan || !storage.ScanChemins(query.file, plan.roads, visit)) {
+    scan(storage, query, plan.keys, evaluator);
   }
   return evaluator.result();
 }

@@ -8,6 +8,7 @@
 
 #include "data/citem.h"
 #include "data/query.h"
+#include "data/query_plan.h"
 
 namespace data {
 
@@ -51,5 +52,8 @@ class AttributeReader {
 // always the same for the same rows.
 CItem runQuery(Storage& storage, const Query& query, const std::vector<Field>& columns,
                const KeyRange& keys);
+// The same rows by the roads of a plan that planQuery made for this query and store.
+CItem runQuery(Storage& storage, const Query& query, const std::vector<Field>& columns,
+               const Plan& plan);
 
 }  // namespace data

@@ -23,6 +23,10 @@ KeyRange KeyRange::Une(std::string_view cle) {
   return cles;
 }
 
+bool KeyRange::EstUneCle() const {
+  return !sansFin && fin.size() == debut.size() + 1 && fin.back() == '\0' && fin.starts_with(debut);
+}
+
 KeyRange KeyRange::Avec(const KeyRange& autre) const {
   KeyRange cles = *this;
   if (autre.debut > cles.debut) cles.debut = autre.debut;

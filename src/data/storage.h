@@ -6,7 +6,9 @@
 // Every write is whole, durable and final when it returns. Every failure is a StoreError that names
 // the file and the key; no call passes over a damaged record.
 
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +28,7 @@ struct KeyRange {
 
   bool Vide() const { return !sansFin && fin <= debut; }
   bool Contient(std::string_view cle) const { return cle >= debut && (sansFin || cle < fin); }
+  bool EstUneCle() const;
   // The keys that both ranges hold.
   KeyRange Avec(const KeyRange& autre) const;
 };
@@ -45,6 +48,15 @@ struct FichierCompte {
   long articles = 0;
 };
 
+struct Index;
+
+// A road to records: the keys that hold a value of `valeurs` in an index, or without an index the
+// keys of `valeurs` themselves.
+struct Chemin {
+  const Index* index = nullptr;  // of data/layouts/recherches.h
+  KeyRange valeurs;
+};
+
 class Storage {
  public:
   // Called for each record in ascending byte order of the keys; the views live until it returns.
@@ -60,6 +72,21 @@ class Storage {
   // False when there was no such record. The former text goes to the history.
   virtual bool Erase(std::string_view fichier, std::string_view cle) = 0;
   virtual void Scan(std::string_view fichier, const KeyRange& cles, const Visiteur& visiteur) = 0;
+
+  // Roads to records, where the store keeps indexes. One that keeps none, or cannot trust them now,
+  // answers nothing and false, and is scanned instead.
+  //
+  // How many places of the road there are, at most `plafond`: one for each pair of value and key.
+  virtual std::optional<std::size_t> Compter(std::string_view /*fichier*/, const Chemin& /*chemin*/,
+                                             std::size_t /*plafond*/) {
+    return std::nullopt;
+  }
+  // A scan of the records to which one of the roads leads: each once, in ascending order of the
+  // keys, all from one state of the store.
+  virtual bool ScanChemins(std::string_view /*fichier*/, const std::vector<Chemin>& /*chemins*/,
+                           const Visiteur& /*visiteur*/) {
+    return false;
+  }
 
   // The files that hold at least one record, by name.
   virtual std::vector<FichierCompte> Fichiers() = 0;

@@ -215,15 +215,16 @@ void Frm_MotifCDD::Cmd_OkAidant_Click() {
 }
 
 void Frm_MotifCDD::Cmd_AnnulerAidant_Click() {
-  if (enCreationAidant_ && MessageBox(QuitterCreation, Boutons::OuiNon, Icone::Question,
-                                      SansTitre) != screen::Reponse::Oui) {
+  if (enCreationAidant_ && Demander(QuitterCreation, Boutons::OuiNon, Icone::Question,
+                                    screen::Reponse::Non, SansTitre) != screen::Reponse::Oui) {
     return;
   }
   Grise_Liste();
 }
 
 void Frm_MotifCDD::Cmd_SupprimerAidant_Click() {
-  if (MessageBox(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation) != screen::Reponse::Oui) {
+  if (Demander(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation, screen::Reponse::Non) !=
+      screen::Reponse::Oui) {
     return;
   }
   Lst_AidantRemplace.RemoveItem(ligneAidant_);

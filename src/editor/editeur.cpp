@@ -120,6 +120,10 @@ void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
   caracteristiques.FermerModulation();
 }
 
+void Frm_ElementsContrat::ReserverSaisie(bool saisie) {
+  screen::Activer({&Ong_Contrat, &Cmd_OK, &Cmd_Retour}, !saisie);
+}
+
 rules::Portee Frm_ElementsContrat::Portee() const {
   return {session_.CodeAidant, dossier_->NumeroContrat(), origine.Convention(), origine.Entite(),
           origine.Employeur()};
@@ -160,8 +164,9 @@ void Frm_ElementsContrat::Cmd_Retour_Click() {
 }
 
 void Frm_ElementsContrat::QuitterCreation() {
-  if (session_.DroitComplet() && MessageBox("Etes-vous sûr de vouloir quitter cette création ?",
-                                            Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+  if (session_.DroitComplet() &&
+      Demander("Etes-vous sûr de vouloir quitter cette création ?", Boutons::OuiNon,
+               Icone::Exclamation, Reponse::Non) != Reponse::Oui) {
     return;
   }
   enregistrement_.Abandonner();

@@ -59,6 +59,8 @@ class Frm_ElementsContrat : public screen::Form {
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
   // The hiring declaration of the contract, which stands on file.
   void ImprimerDeclaration() { impression_.Declaration(); }
+  // While an amendment is entered, no other tab can be reached and no way out is open.
+  void ReserverSaisie(bool saisie);
   // Tells every tab the agreement that stands in its box.
   void AnnoncerConvention();
 

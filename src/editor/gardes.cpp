@@ -19,10 +19,11 @@ constexpr const char* QuestionChevauchement =
 
 }  // namespace
 
-const Gardes::Garde Gardes::Confirmation[3] = {&Gardes::Onglets, &Gardes::Preparation,
-                                               &Gardes::AutresContrats};
+const Gardes::Garde Gardes::Confirmation[4] = {&Gardes::Onglets, &Gardes::Preparation,
+                                               &Gardes::Heures, &Gardes::AutresContrats};
 const Gardes::Garde Gardes::Ecriture[2] = {&Gardes::DateFinModifiee, &Gardes::CopieSimple};
-const Gardes::Garde Gardes::Depart[2] = {&Gardes::DateFin, &Gardes::CopieVerifiee};
+const Gardes::Garde Gardes::Depart[3] = {&Gardes::HeuresEnQuittant, &Gardes::DateFin,
+                                         &Gardes::CopieVerifiee};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -56,6 +57,14 @@ Avis Gardes::Preparation() {
   return Avis::Passe;
 }
 
+Avis Gardes::Heures() {
+  return editeur_.caracteristiques.Verif_NbHeures() ? Avis::Passe : Avis::Abandonne;
+}
+
+Avis Gardes::HeuresEnQuittant() {
+  return editeur_.caracteristiques.Verif_NbHeures() ? Avis::Passe : Avis::Reste;
+}
+
 Avis Gardes::AutresContrats() {
   rules::Voisinage voisins;
   {
@@ -72,8 +81,8 @@ Avis Gardes::Chevauchement(const rules::Voisinage& voisins) {
   if (!editeur_.Dossier().ModeCreation) return Avis::Reste;
   const bool changerLesDates =
       !voisins.finContratConflit.empty() &&
-      editeur_.MessageBox(QuestionChevauchement, screen::Boutons::OuiNon,
-                          screen::Icone::Information) == screen::Reponse::Oui;
+      editeur_.Demander(QuestionChevauchement, screen::Boutons::OuiNon, screen::Icone::Information,
+                        screen::Reponse::Oui) == screen::Reponse::Oui;
   return changerLesDates ? Avis::Reste : Avis::Abandonne;
 }
 

@@ -2,15 +2,12 @@
 
 #include "editor/onglet_origine.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "data/cles.h"
-#include "data/layouts/voisins.h"
 #include "data/nombre.h"
 #include "data/texte.h"
 #include "dialogs/frm_motif_cdd.h"
-#include "dialogs/frm_stage.h"
 #include "editor/editeur.h"
 
 namespace editor {
@@ -40,7 +37,7 @@ OngletOrigine::OngletOrigine(Frm_ElementsContrat& editeur)
               session::jour(Txt_DatDebContrat, C::DateDebut),
               session::texte(Txt_PerEssaiContrat, C::PeriodeEssai),
               session::drapeau(Cac_RenouvEssaiContrat, C::EssaiRenouvelable),
-              session::code(Cbo_NatureContrat, C::Nature, natures_),
+              session::code(nature_.Champ(), C::Nature, nature_.Natures()),
               session::jour(Txt_DatFinContrat, C::DateFinPresumee),
               session::jour(Txt_DateSignConvEmplAide, C::DateConventionAidee),
               session::texte(Txt_NumRef, C::ReferenceConventionAidee),
@@ -59,14 +56,13 @@ void OngletOrigine::Lier() {
   Opt_Indetermine.Click = sourdine_.SiAudible([this] { SelonType(); });
   Opt_Horaire.Click = Opt_Mensuel.Click = sourdine_.SiAudible(
       [this] { editeur_.caracteristiques.SelonSalaire(Mensuel(), Production()); });
-  Opt_Production.Click = Opt_Administratif.Click = sourdine_.SiAudible([this] { SelonStatut(); });
+  Opt_Production.Click = Opt_Administratif.Click = sourdine_.SiAudible([this] {
+    SelonStatut();
+    editeur_.paie.ChangerStatut();
+  });
   Txt_DatDebContrat.LostFocus = [this] { Txt_DatDebContrat_LostFocus(); };
   Txt_PerEssaiContrat.KeyPress = chiffresSeuls;
   Txt_DateSignConvEmplAide.Change = sourdine_.SiAudible([this] { AdapterReference(); });
-  Cbo_NatureContrat.DropDown = [this] { Cbo_NatureContrat_DropDown(); };
-  Cbo_NatureContrat.LostFocus = [this] { Cbo_NatureContrat_LostFocus(); };
-  Cbo_NatureContrat.Click = Cbo_NatureContrat.Change = [this] { MontrerStage(); };
-  Cmd_Stage.Click = [this] { Cmd_Stage_Click(); };
   Cmd_MotifCDD.Click = [this] { Cmd_MotifCDD_Click(); };
 }
 
@@ -75,12 +71,7 @@ void OngletOrigine::Lier() {
 void OngletOrigine::Afficher_Ong1() {
   debutDeplace_ = false;
   finAvant_.clear();
-  stageAvant_ = data::CItem();
-  Cbo_NatureContrat.Clear();
-  data::CItem natures;
-  Session().F_TABLES.Lire(data::Tables::NatureContrat, natures);
-  natures_ = data::ListeCodes::DeTable(natures, data::Tables::Codes, data::Tables::Libelles,
-                                       data::Tables::NatureChoisissables);
+  nature_.Preparer();
   if (Creation()) {
     zones_.Oublier();
     Txt_NumContrat.SetText("");
@@ -96,7 +87,7 @@ void OngletOrigine::Afficher_Ong1() {
   SelonType();
   SelonStatut();
   editeur_.caracteristiques.SelonSalaire(Mensuel(), Production());
-  MontrerStage();
+  nature_.MontrerStage();
   AdapterReference();
   if (!Creation()) zones_.Retenir(Contrat());
 }
@@ -105,7 +96,7 @@ void OngletOrigine::Vider_Ong() {
   Opt_Indetermine.SetValue(true);
   Opt_Horaire.SetValue(true);
   Opt_Production.SetValue(true);
-  Cmd_Stage.SetVisible(false);
+  nature_.Vider();
 }
 
 void OngletOrigine::SelonConvention(const std::string& convention) {
@@ -146,31 +137,6 @@ void OngletOrigine::SelonStatut() {
   editeur_.paie.SelonStatut(Administratif(), Particuliers());
 }
 
-// Natures that can be chosen, and the one that a contract on file has already.
-void OngletOrigine::Cbo_NatureContrat_DropDown() {
-  if (Cbo_NatureContrat.ListCount() > 0) return;
-  const std::string actuelle = Creation() ? "" : Contrat()(C::Nature);
-  for (const auto& nature : natures_.Lignes()) {
-    const bool dejaLa = !nature.code.empty() && nature.code == actuelle;
-    if (nature.suite.front() == "O" || dejaLa) Cbo_NatureContrat.AddItem(nature.libelle);
-  }
-}
-
-void OngletOrigine::Cbo_NatureContrat_LostFocus() {
-  if (Cbo_NatureContrat.Text().empty()) return;
-  Cbo_NatureContrat_DropDown();
-  const auto& natures = Cbo_NatureContrat.Rows();
-  if (std::find(natures.begin(), natures.end(), Cbo_NatureContrat.Text()) != natures.end()) return;
-  Message("La nature saisie n'existe pas, veuillez la ressaisir.", Icone::Exclamation);
-  Cbo_NatureContrat.SetText("");
-  editeur_.Ong_Contrat.SetTab(numero_);
-  Cbo_NatureContrat.SetFocus();
-}
-
-void OngletOrigine::MontrerStage() {
-  Cmd_Stage.SetVisible(StageRequis());
-}
-
 // A subsidised employment has a reference; without its date there is nothing to refer to.
 void OngletOrigine::AdapterReference() {
   const bool aide = !Txt_DateSignConvEmplAide.Text().empty();
@@ -194,15 +160,15 @@ void OngletOrigine::Txt_DatDebContrat_LostFocus() {
   Txt_DatDebContrat.SetFocus();
 }
 
+void OngletOrigine::DemanderDebut() {
+  Refuser({"Vous devez renseigner la date de début du contrat.", Icone::Exclamation,
+           Txt_DatDebContrat.Nom()});
+}
+
 void OngletOrigine::Cmd_MotifCDD_Click() {
   dialogs::Frm_MotifCDD(editeur_.Services(), Dossier(), Txt_DatDebContrat.Text(),
                         {Convention(), Entite(), Employeur()})
       .ShowModal();
-}
-
-void OngletOrigine::Cmd_Stage_Click() {
-  RendreStage();
-  dialogs::Frm_Stage(editeur_.Services(), Dossier()).ShowModal();
 }
 
 // What the checks ask.
@@ -234,8 +200,7 @@ void OngletOrigine::Ecrire_Ong1() {
   zones_.Ecrire(Session().Lib, Contrat());
   EcrireDebut();
   EcrireTerme();
-  RendreStage();
-  if (Contrat().Vue(C::Nature) != C::NatureStage) ViderStage();
+  nature_.EcrireStage();
 }
 
 // A moved start takes along the effect date of the contract as signed, and its grid start where
@@ -244,10 +209,14 @@ void OngletOrigine::EcrireDebut() {
   data::CItem& contrat = Contrat();
   const std::string debut = contrat(C::DateDebut);
   const std::string debutInitial = Dossier().Initial(C::DateDebut);
-  if (debutDeplace_) {
+  // What was typed in their place since stays.
+  if (debutDeplace_ && contrat.Vue(C::DateEffet, 1) == debutPose_) {
     contrat.Set(C::DateEffet, 1, effetAvant_);
+  }
+  if (debutDeplace_ && contrat.Vue(C::DepartGrille, 1) == debutPose_) {
     contrat.Set(C::DepartGrille, 1, departGrilleAvant_);
   }
+  debutPose_ = debut;
   debutDeplace_ = debut != debutInitial;
   if (!debutDeplace_) return;
   effetAvant_ = contrat(C::DateEffet, 1);
@@ -264,21 +233,6 @@ void OngletOrigine::EcrireTerme() {
   if (!Txt_DatFinContrat.Text().empty()) finAvant_ = Txt_DatFinContrat.Text();
   Txt_DatFinContrat.SetText("");
   Contrat().Set(C::DateFinPresumee, "");
-}
-
-// Only a trainee has a traineeship.
-void OngletOrigine::ViderStage() {
-  if (Contrat().Vue(C::StageEcole).empty()) return;
-  for (const int a : C::GroupeStage) {
-    stageAvant_.Set(a, Contrat().Vue(a));
-    Contrat().Set(a, "");
-  }
-}
-
-void OngletOrigine::RendreStage() {
-  if (stageAvant_.Vide()) return;
-  for (const int a : C::GroupeStage) Contrat().Set(a, stageAvant_.Vue(a));
-  stageAvant_ = data::CItem();
 }
 
 }  // namespace editor

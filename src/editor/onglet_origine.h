@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "data/liste_codes.h"
 #include "editor/onglet.h"
 #include "editor/origine_codes.h"
+#include "editor/origine_nature.h"
 
 namespace editor {
 
@@ -25,12 +25,15 @@ class OngletOrigine : public Onglet {
   void RafraichirEmployeur();
   // Run by the frame on every tab change too.
   void Txt_DatDebContrat_LostFocus();
+  // The start of the contract is missing for what was to be done: says so, and goes to its box.
+  void DemanderDebut();
   // To the first field in which a new contract begins.
   void Commencer() { codes_.SetFocus(); }
 
   const std::string& Convention() const { return codes_.Convention(); }
   const std::string& Entite() const { return codes_.Entite(); }
   const std::string& Employeur() const { return codes_.Employeur(); }
+  const std::string& LibelleEmployeur() const { return codes_.LibelleEmployeur(); }
   bool Particuliers() const { return codes_.Particuliers(); }
   bool Administratif() const { return Opt_Administratif.Value(); }
   bool Production() const { return Opt_Production.Value(); }
@@ -52,23 +55,15 @@ class OngletOrigine : public Onglet {
   void SelonType();
   void SelonStatut();
   void Opt_Determine_Click();
-  void Cbo_NatureContrat_DropDown();
-  void Cbo_NatureContrat_LostFocus();
-  void MontrerStage();
   void AdapterReference();
   void Cmd_MotifCDD_Click();
-  void Cmd_Stage_Click();
 
   void EcrireDebut();
   void EcrireTerme();
-  void ViderStage();
-  void RendreStage();
 
   std::optional<long> FinPresumee() const;
   bool DebutDeplace() const;
   bool BulletinCalcule(const std::string& periode) const;
-  // The nature needs a traineeship agreement.
-  bool StageRequis() const;
 
   screen::Label Etq_NumContrat{Page, "Etq_NumContrat", "N° Contrat"};
   screen::TextField Txt_NumContrat{Page, "Txt_NumContrat", 3};
@@ -94,9 +89,7 @@ class OngletOrigine : public Onglet {
   screen::CheckBox Cac_RenouvEssaiContrat{Page, "Cac_RenouvEssaiContrat", "Renouvelable"};
   screen::Label Etq_DureeMinContrat{Page, "Etq_DureeMinContrat", "Durée minimale"};
   screen::TextField Txt_DureeMinContrat{Page, "Txt_DureeMinContrat", LongueurTexte};
-  screen::Label Etq_NatureContrat{Page, "Etq_NatureContrat", "Nature"};
-  screen::ComboBox Cbo_NatureContrat{Page, "Cbo_NatureContrat", true, LongueurLibelle};
-  screen::Button Cmd_Stage{Page, "Cmd_Stage", "Détails convention stage"};
+  NatureOrigine nature_{editeur_, Page};
   screen::Button Cmd_MotifCDD{Page, "Cmd_MotifCDD", "Motif C.D.D."};
   screen::Label Etq_DateSignConvEmplAide{Page, "Etq_DateSignConvEmplAide",
                                          "Date signature convention emploi aidé"};
@@ -106,18 +99,16 @@ class OngletOrigine : public Onglet {
   screen::Label Etq_Contrepartie{Page, "Etq_Contrepartie", "Contrepartie pour interruption"};
   screen::ComboBox Cbo_Contrepartie{Page, "Cbo_Contrepartie", false};
 
-  // The natures of TABLES; the mark "O" of those that can be chosen.
-  data::ListeCodes natures_;
   session::Zones zones_;
 
   // What a copy of the screen took away, to be put back when the fields are set back: the first
   // values of effect date and grid start before a moved start date changed them, the presumed end
-  // of a contract made open-ended, the traineeship of a nature changed.
+  // of a contract made open-ended.
   bool debutDeplace_ = false;
+  std::string debutPose_;
   std::string effetAvant_;
   std::string departGrilleAvant_;
   std::string finAvant_;
-  data::CItem stageAvant_;
 };
 
 }  // namespace editor

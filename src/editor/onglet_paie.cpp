@@ -5,7 +5,6 @@
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
-#include "data/requete.h"
 #include "editor/editeur.h"
 
 namespace editor {
@@ -13,69 +12,138 @@ namespace editor {
 namespace {
 
 namespace C = data::Contrat;
-using data::citer, data::citerDebut;
 using screen::Icone;
 
 constexpr const char* ModesPaiement[] = {"Virement bancaire", "Chèque", "Espèces"};
 constexpr int Virement = 0;  // row of Cbo_ModPaieContrat
+constexpr int Cheque = 1;
 
-// Rows that the list of activities shows at a time.
-constexpr int LignesActivites = 6;
-constexpr const char* PartEntiere = "100";
-// The type of the activities of private employers.
-constexpr const char* Mandat = "M";
+// Closed while a split is being entered, so that it is finished first.
+constexpr const char* HorsActivites[] = {"Cbo_PeriodeEffet",
+                                         "Cbo_PeriodeEffetAffichage",
+                                         "Cdr_Mutuelle",
+                                         "Cdr_RegimePrev",
+                                         "Cmd_OK",
+                                         "Cmd_Retour",
+                                         "Ong_Contrat",
+                                         "Cmd_AjoutePeriodeEffet",
+                                         "Cmd_Telegestion",
+                                         "Cmd_Comment",
+                                         "Cmd_RubSaisie",
+                                         "Cmd_ImpContrat",
+                                         "Txt_PlafSecu",
+                                         "Txt_AssietteSecu",
+                                         "Cac_CPMoisContrat",
+                                         "Cac_ProvCP",
+                                         "Txt_ProfilContrat",
+                                         "Cbo_LibProfilContrat",
+                                         "Txt_ProfilContrat2",
+                                         "Cbo_LibProfilContrat2",
+                                         "Cbo_ModPaieContrat",
+                                         "Cac_PaieSalContrat"};
 
-constexpr const char* SansMandat =
-    "L'entité juridique que vous avez sélectionnée n'a pas d'activité mandataire, veuillez en "
-    "sélectionner une autre.";
-constexpr const char* QueDesMandats =
-    "L'entité juridique que vous avez sélectionnée ne possède que des activités mandataires, "
-    "veuillez en sélectionner une autre.";
-
-// The bar beside a list that shows `lignes` rows at a time.
-void Maj_Bdv(screen::ScrollBar& barre, const screen::ListBox& liste, int lignes) {
-  barre.SetMax(std::max(liste.ListCount() - 1, 0));
-  barre.SetVisible(liste.ListCount() > lignes);
-  barre.SetValue(0);
-}
-
-void remplir(screen::RowsField& champ, const data::ListeCodes& liste) {
-  champ.Clear();
-  for (const auto& ligne : liste.Lignes()) champ.AddItem(ligne.libelle);
+// A text typed into a list is one of its rows, which is chosen, or nothing. False when it is not.
+bool reconnaitre(screen::ComboBox& champ) {
+  if (champ.Text().empty() || champ.ListIndex() >= 0) return true;
+  const auto& lignes = champ.Rows();
+  const auto trouvee = std::find(lignes.begin(), lignes.end(), champ.Text());
+  if (trouvee == lignes.end()) return false;
+  champ.SetListIndex(static_cast<int>(trouvee - lignes.begin()));
+  return true;
 }
 
 }  // namespace
 
-OngletPaie::OngletPaie(Frm_ElementsContrat& editeur) : Onglet(editeur, ElementsPaie, "Cdr_Ong3") {
+OngletPaie::OngletPaie(Frm_ElementsContrat& editeur)
+    : Onglet(editeur, ElementsPaie, "Cdr_Ong3"),
+      zones_({session::texte(profils_.Premier(), C::Profil),
+              session::texte(profils_.Second(), C::Profil2),
+              session::ligne(Cbo_ModPaieContrat, C::ModePaiement),
+              session::drapeau(Cac_PaieSalContrat, C::PaiementParEntite),
+              session::texte(cotisations_.Prevoyance(), C::ContratPrevoyance),
+              session::drapeau(Cac_CPMoisContrat, C::CongesAuMois),
+              session::nombre(cotisations_.PartSalariale(), C::MutuelleSalariale, Montant, 2),
+              session::nombre(cotisations_.PartPatronale(), C::MutuellePatronale, Montant, 2),
+              session::texte(cotisations_.Charge(), C::ChargeMutuelle),
+              session::texte(Txt_IdentCRCContrat, C::IdentificationCRC),
+              session::code(Cbo_CartOrangContrat, C::ZoneTransport, zonesTransport_),
+              session::nombre(Txt_PlafSecu, C::PlafondSecu, Plafond, 2),
+              session::nombre(Txt_AssietteSecu, C::AssietteSecu, Plafond, 2),
+              session::drapeau(Cac_ProvCP, C::ProvisionConges)}) {
   for (const char* mode : ModesPaiement) Cbo_ModPaieContrat.AddItem(mode);
-  Page.SetEnabled(false);
-  // Holds the periods as the record does; Cbo_PeriodeEffetAffichage shows them.
-  Cbo_PeriodeEffet.SetVisible(false);
+  Lier();
+  LierDialogues();
 }
+
+void OngletPaie::Lier() {
+  zones_.Lier(Session());
+  Cbo_ModPaieContrat.LostFocus = [this] { Cbo_ModPaieContrat_LostFocus(); };
+  Cbo_CartOrangContrat.DropDown = [this] {
+    if (Cbo_CartOrangContrat.ListCount() > 0) return;
+    for (const auto& zone : zonesTransport_.Lignes()) Cbo_CartOrangContrat.AddItem(zone.libelle);
+  };
+  Cbo_CartOrangContrat.LostFocus = [this] { Cbo_CartOrangContrat_LostFocus(); };
+  Cac_CPMoisContrat.Click = sourdine_.SiAudible([this] { MontrerProvision(); });
+}
+
+// Display.
 
 void OngletPaie::Afficher_Ong3() {
-  const auto& origine = editeur_.origine;
-  if (Creation()) {
-    if (!Charge()) OublierPrevoyance();
-    return;
+  if (!Charge()) {
+    data::CItem zones;
+    Session().F_TABLES.Lire(data::Tables::CarteOrange, zones);
+    zonesTransport_ = data::ListeCodes::DeTable(zones);
+    Cbo_CartOrangContrat.Clear();
   }
-  OublierPrevoyance();
-  if (!origine.Particuliers()) RemplirPrevoyance(origine.Convention());
-  ListeActivites_ =
-      data::ListeCodes::DeSelection(Gestion_Activite(origine.Entite(), origine.Particuliers()));
-  remplir(Cbo_Activite, ListeActivites_);
+  Creation() ? AfficherNouveau() : AfficherExistant();
 }
 
-bool OngletPaie::Ecrire_Ong3(bool verifiee) {
-  return !verifiee || !RibManquant("paiement");
+void OngletPaie::AfficherNouveau() {
+  const auto& origine = editeur_.origine;
+  if (!Charge()) {
+    cotisations_.OublierPrevoyance();
+    for (auto* const boite : {&Cac_PaieSalContrat, &Cac_CPMoisContrat, &Cac_ProvCP}) {
+      boite->SetValue(0);
+    }
+    Cac_ProvCP.SetVisible(false);
+    modePropose_.clear();
+    zones_.Oublier();
+  }
+  if (origine.Particuliers()) profils_.Proposer(origine.Employeur());
+  ProposerModePaiement();
+  activites_.AfficherNouveau();
+}
+
+void OngletPaie::AfficherExistant() {
+  zones_.Montrer(Session().Lib, Contrat());
+  profils_.Afficher();
+  cotisations_.Afficher();
+  activites_.Afficher();
+  MontrerProvision();
+  zones_.Retenir(Contrat());
+}
+
+// What is chosen by hand stays; otherwise a carer with an account is paid by transfer, where the
+// entity pays or the agreement of private employers says so.
+void OngletPaie::ProposerModePaiement() {
+  const std::string& choisi = Cbo_ModPaieContrat.Text();
+  if (!choisi.empty() && choisi != modePropose_) return;
+  data::CItem convention;
+  data::CItem rib;
+  if (editeur_.origine.Particuliers()) {
+    Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
+  }
+  const bool parVirement = !editeur_.origine.Particuliers() ||
+                           convention.Vue(data::ConventionCol::VirementParDefaut) == "1";
+  const bool compte = parVirement && Session().F_RIBAIDANT.Lire(Session().CodeAidant, rib) &&
+                      !rib.Vue(data::RibAidant::Compte).empty();
+  Cbo_ModPaieContrat.SetListIndex(compte ? Virement : Cheque);
+  modePropose_ = Cbo_ModPaieContrat.Text();
 }
 
 void OngletPaie::Entrer() {
-  ActiverActivites();
-}
-
-void OngletPaie::SelonDroits(bool complet) {
-  Cmd_OKActivite.SetVisible(complet);
+  profils_.ProfilContrat();
+  activites_.Activer();
 }
 
 void OngletPaie::SelonTelegestion(bool utilisee) {
@@ -84,17 +152,13 @@ void OngletPaie::SelonTelegestion(bool utilisee) {
 }
 
 void OngletPaie::Vider_Ong() {
-  Lst_ActiviteContrat.Clear();
-  Lst_RepartActContrat.Clear();
-  Cbo_Activite.Clear();
-  screen::Montrer({&Txt_PrevContrat, &Cbo_LibPrevContrat}, true);
+  activites_.Oublier();
+  cotisations_.Vider();
 }
 
-// Private employers each have a provident contract of their own.
 void OngletPaie::SelonConvention(const std::string& convention) {
   const bool particuliers = convention == data::ConventionParticuliers;
-  screen::Activer({&Cdr_RegimePrev, &Etq_PrevContrat, &Txt_PrevContrat, &Cbo_LibPrevContrat},
-                  !particuliers);
+  cotisations_.SelonConvention(particuliers);
   Cac_PaieSalContrat.SetVisible(particuliers);
 }
 
@@ -109,138 +173,64 @@ void OngletPaie::ProposerSelonConvention(const std::string& convention) {
     const bool auMois = defauts.Vue(data::ConventionCol::CongesAuMoisParDefaut) == "1";
     Cac_CPMoisContrat.SetValue(auMois ? 1 : 0);
     Cac_ProvCP.SetValue(0);
-    Cac_ProvCP.SetVisible(particuliers && !auMois);
     Cac_PaieSalContrat.SetValue(
         defauts.Vue(data::ConventionCol::PaiementParEntiteParDefaut) == "1" ? 1 : 0);
+    MontrerProvision();
   }
-  if (particuliers) return;
-  OublierPrevoyance();
-  RemplirPrevoyance(convention);
-  if (ListePrev_.Nombre() != 1) return;
-  Cbo_LibPrevContrat.SetListIndex(0);
-  Txt_PrevContrat.SetText(ListePrev_.A(0).code);
+  profils_.ChangerConvention();
+  if (!particuliers) cotisations_.Proposer(convention);
 }
 
-// Activities.
-
-// What the entity offers: all to administrative staff, to production staff what is of the
-// contract's kind.
-data::CItem OngletPaie::Gestion_Activite(const std::string& entite, bool particuliers) const {
-  using namespace data;
-  Requete requete(fichier::ACTIVITES);
-  requete.Avec(Cle, "=", citerDebut(entite));
-  if (!editeur_.origine.Administratif()) {
-    requete.Avec(Activites::Genre, particuliers ? "=" : "<>", citer(Mandat));
+// A contract on file that has the other status is shown anew, as a contract of that status.
+void OngletPaie::ChangerStatut() {
+  const std::string statut = editeur_.origine.Administratif() ? "A" : "P";
+  if (!Creation() && Charge() && Contrat().Vue(C::Statut) != statut) {
+    profils_.ProfilContrat();
+    Afficher();
+  } else {
+    activites_.ChangerStatut();
   }
-  return requete.Par(Activites::Libelle)
-      .Lire(*Session().Db, {Cle, Activites::Libelle, Activites::Genre});
 }
 
-bool OngletPaie::ChoisirEntite(const std::string& entite, bool particuliers) {
-  const session::Sourdine::Silence silence(sourdine_);
-  ListeActivites_ = data::ListeCodes::DeSelection(Gestion_Activite(entite, particuliers));
-  if (Creation() && ListeActivites_.Vide()) {
-    Message(particuliers ? SansMandat : QueDesMandats, Icone::Exclamation);
-    return false;
+// Leave is provisioned for private employers alone, unless it is paid monthly.
+void OngletPaie::MontrerProvision() {
+  const bool provision = editeur_.origine.Particuliers() && Cac_CPMoisContrat.Value() == 0;
+  Cac_ProvCP.SetVisible(provision);
+  if (!provision) Cac_ProvCP.SetValue(0);
+}
+
+void OngletPaie::GriserSaufActivite(bool actif) {
+  if (actif == !grise_) return;
+  grise_ = !actif;
+  if (grise_) fermes_.clear();
+  for (const char* const nom : HorsActivites) {
+    screen::Field& champ = *editeur_.Find(nom);
+    if (grise_ && !champ.Enabled()) fermes_.push_back(&champ);
+    const bool ferme = std::find(fermes_.begin(), fermes_.end(), &champ) != fermes_.end();
+    champ.SetEnabled(actif && !ferme);
   }
-  remplir(Cbo_Activite, ListeActivites_);
-  if (ListeActivites_.Nombre() == 1) {
-    Lst_ActiviteContrat.AddItem(ListeActivites_.A(0).libelle);
-    if (Lst_RepartActContrat.Visible()) Lst_RepartActContrat.AddItem(PartEntiere);
-  }
-  return true;
-}
-
-void OngletPaie::ViderActivites() {
-  const session::Sourdine::Silence silence(sourdine_);
-  ListeActivites_ = data::ListeCodes();
-  Cbo_Activite.Clear();
-  Lst_ActiviteContrat.Clear();
-  Lst_RepartActContrat.Clear();
-}
-
-void OngletPaie::SelonStatut(bool administratif, bool particuliers) {
-  screen::Montrer({&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat,
-                   &Etq_PeriodeEffet, &Cbo_PeriodeEffetAffichage, &Cmd_AjoutePeriodeEffet},
-                  administratif && !particuliers);
-}
-
-// The activity group, by agreement, status and mode. Private employers' staff have none;
-// administrative staff split their time from the start of the contract on, so that without one
-// there is nothing to split yet.
-void OngletPaie::ActiverActivites() {
-  const auto& origine = editeur_.origine;
-  const bool entite = !origine.Particuliers();
-  const bool administratif = origine.Administratif();
-  const bool actif = !administratif || !origine.DateDebut().empty();
-  const auto periodes = {static_cast<screen::Field*>(&Cbo_PeriodeEffetAffichage),
-                         static_cast<screen::Field*>(&Etq_PeriodeEffet),
-                         static_cast<screen::Field*>(&Cmd_AjoutePeriodeEffet)};
-  screen::Montrer(periodes, administratif && entite);
-  screen::Activer(periodes, actif);
-  screen::Montrer({&Cbo_Activite, &Etq_ListeActivite, &Cdr_AffectActiv}, entite);
-  screen::Activer({&Cbo_Activite, &Etq_ListeActivite, &Cdr_AffectActiv}, actif);
-  Cmd_OKActivite.SetVisible(entite && Session().DroitComplet());
-  Cmd_AnnulerActivite.SetVisible(entite);
-  screen::Activer({&Cmd_OKActivite, &Cmd_AnnulerActivite}, actif && !Creation());
-  if (entite) return;
-  screen::Montrer({&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat}, false);
-}
-
-// An administrative contract splits its time over its activities: one share for each of them.
-void OngletPaie::MontrerParts() {
-  if (Lst_ActiviteContrat.ListCount() == 0) {
-    Lst_RepartActContrat.Clear();
-  } else if (Lst_RepartActContrat.ListCount() == 0) {
-    for (int i = 0; i < Lst_ActiviteContrat.ListCount(); ++i) Lst_RepartActContrat.AddItem("0");
-  }
-  screen::Montrer(
-      {&Lst_RepartActContrat, &Txt_RepartActContrat, &Txt_ActiviteContrat, &Cmd_AnnulerActivite},
-      true);
-  Cmd_OKActivite.SetVisible(Session().DroitComplet());
-  Maj_Bdv(VS_Bdv, Lst_ActiviteContrat, LignesActivites);
-}
-
-// Provident scheme.
-
-void OngletPaie::OublierPrevoyance() {
-  const session::Sourdine::Silence silence(sourdine_);
-  ListePrev_ = data::ListeCodes();
-  PrevContratPrecedent_.clear();
-  Txt_PrevContrat.SetText("");
-  Cbo_LibPrevContrat.Clear();
-}
-
-void OngletPaie::RemplirPrevoyance(const std::string& convention) {
-  using namespace data;
-  ListePrev_ = ListeCodes::DeSelection(Requete(fichier::CONTRATSPREV)
-                                           .Avec("ConvColPrev", "=", citer(convention))
-                                           .Avec(Cle, "<>", citer(ContratsPrev::CleSans))
-                                           .Par(ContratsPrev::Libelle)
-                                           .Lire(*Session().Db, {Cle, ContratsPrev::Libelle}));
-  remplir(Cbo_LibPrevContrat, ListePrev_);
-}
-
-void OngletPaie::PrevoyanceEmployeur(const std::string& employeur) {
-  const session::Sourdine::Silence silence(sourdine_);
-  data::CItem elements;
-  Session().Db->OpenFile(data::fichier::ELTSPARTEMP).Lire(employeur, elements);
-  const std::string code = elements(data::EltsPartEmp::ContratPrev);
-  const auto fin = elements.Vue(data::EltsPartEmp::DateFinPrev);
-  const long long limite =
-      Creation() ? Session().Poste.Aujourdhui() : data::entier(Contrat().Vue(C::DateDebut));
-  if (!fin.empty() && data::entier(fin) < limite) return;
-  data::CItem prevoyance;
-  if (!Session().F_CONTRATSPREV.Lire(code, prevoyance)) return;
-  ListePrev_ = data::ListeCodes(std::vector<data::ListeCodes::Ligne>{
-      {code, prevoyance(data::ContratsPrev::LibelleParticulier)}});
-  remplir(Cbo_LibPrevContrat, ListePrev_);
-  Cbo_LibPrevContrat.SetListIndex(0);
-  Txt_PrevContrat.SetText(code);
-  PrevContratPrecedent_ = code;
 }
 
 // Payment.
+
+void OngletPaie::Cbo_ModPaieContrat_LostFocus() {
+  if (reconnaitre(Cbo_ModPaieContrat)) return;
+  Message("Le mode de paiement saisi n'existe pas, veuillez le ressaisir.", Icone::Exclamation);
+  Cbo_ModPaieContrat.SetText("");
+  editeur_.Ong_Contrat.SetTab(numero_);
+  Cbo_ModPaieContrat.SetFocus();
+}
+
+void OngletPaie::Cbo_CartOrangContrat_LostFocus() {
+  if (Cbo_CartOrangContrat.Text().empty() ||
+      zonesTransport_.ParLibelle(Cbo_CartOrangContrat.Text()) != nullptr) {
+    return;
+  }
+  Message("La zone carte orange saisie n'existe pas, veuillez la ressaisir.", Icone::Exclamation);
+  Cbo_CartOrangContrat.SetText("");
+  editeur_.Ong_Contrat.SetTab(numero_);
+  Cbo_CartOrangContrat.SetFocus();
+}
 
 bool OngletPaie::ProvisionFacturee() const {
   return Cac_PaieSalContrat.Value() != 0 && Cac_ProvCP.Value() != 0;
@@ -255,12 +245,40 @@ bool OngletPaie::RibManquant(const char* modePaiement) {
   if (Cbo_ModPaieContrat.ListIndex() != Virement) return false;
   data::CItem rib;
   if (Session().F_RIBAIDANT.Lire(Session().CodeAidant, rib)) return false;
+  editeur_.Ong_Contrat.SetTab(numero_);
   Message("Vous ne pouvez pas sélectionner le mode de " + std::string(modePaiement) +
               " virement\r\ncar l'aidant ne possède pas de RIB.",
           Icone::Exclamation);
-  editeur_.Ong_Contrat.SetTab(numero_);
   Cbo_ModPaieContrat.SetFocus();
   return true;
+}
+
+// Writing.
+
+bool OngletPaie::Ecrire_Ong(bool) {
+  Ecrire_Ong3();
+  return true;
+}
+
+// A mutual insurance part that is left empty is none; one that is empty on file stays so.
+void OngletPaie::Ecrire_Ong3() {
+  const session::Sourdine::Silence silence(sourdine_);
+  const std::pair<screen::TextField&, int> parts[] = {
+      {cotisations_.PartSalariale(), C::MutuelleSalariale},
+      {cotisations_.PartPatronale(), C::MutuellePatronale}};
+  for (const auto& [champ, attribut] : parts) {
+    const bool surFichier = !Dossier().Initial.Vue(attribut).empty();
+    if (champ.Text().empty() && (Creation() || surFichier)) champ.SetText("0");
+  }
+  data::CItem& contrat = Contrat();
+  zones_.Ecrire(Session().Lib, contrat);
+  if (editeur_.origine.Particuliers()) {
+    contrat.Set(C::ContratPrevoyance, cotisations_.ContratPrevoyance());
+  } else {
+    contrat.Set(C::PaiementParEntite, "1");
+  }
+  contrat.Set(C::ConstanteB, "B");
+  activites_.Ecrire(contrat);
 }
 
 }  // namespace editor

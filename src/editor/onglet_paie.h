@@ -1,11 +1,15 @@
 #pragma once
-// Third tab, "Elements de paie": profiles, payment, mutual insurance, provident scheme, ceilings
-// and activities.
-//
-// Its page takes no user act yet: what stands here follows the first tab.
+// Third tab, "Elements de paie": how the contract is paid. Profiles, payment mode, ceilings and
+// transport zone stand here; mutual insurance and provident scheme are in paie_cotisations.h, the
+// activities and their split by period in paie_activites.h.
+
+#include <vector>
 
 #include "data/liste_codes.h"
 #include "editor/onglet.h"
+#include "editor/paie_activites.h"
+#include "editor/paie_cotisations.h"
+#include "editor/paie_profils.h"
 
 namespace editor {
 
@@ -14,28 +18,34 @@ class OngletPaie : public Onglet {
   explicit OngletPaie(Frm_ElementsContrat& editeur);
 
   void Afficher_Ong3();
-  bool Ecrire_Ong3(bool verifiee);
+  void Ecrire_Ong3();
+  bool Verif_Ong3();
   void Entrer() override;
   void SelonConvention(const std::string& convention) override;
   void ProposerSelonConvention(const std::string& convention);
   // Administrative staff alone split their time over activities by share and period.
-  void SelonStatut(bool administratif, bool particuliers);
-  // One share for each activity of an administrative contract.
-  void MontrerParts();
+  void SelonStatut(bool administratif, bool particuliers) {
+    activites_.SelonStatut(administratif, particuliers);
+  }
+  // The user has given the contract the other status.
+  void ChangerStatut();
+  void MontrerParts() { activites_.MontrerParts(); }
   // A new contract begins anew on every visit, by what the first tab says meanwhile.
   bool AReafficher() const override { return Onglet::AReafficher() || Creation(); }
   // Remote time-tracking is in use in the entity of the contract.
   void SelonTelegestion(bool utilisee);
 
-  // The activities that the entity offers to a contract of its kind. False when a new contract
-  // finds none: the user has been told.
-  bool ChoisirEntite(const std::string& entite, bool particuliers);
-  void ViderActivites();
-  // The provident contract of a private employer, unless it has run out, is the contract's own.
-  void PrevoyanceEmployeur(const std::string& employeur);
-  void OublierPrevoyance();
-  // The employer had no provident scheme yet when the contract starts.
-  void QuitterPrevoyance() { Txt_PrevContrat.SetText(""); }
+  bool ChoisirEntite(const std::string& entite, bool particuliers) {
+    return activites_.ChoisirEntite(entite, particuliers);
+  }
+  void ViderActivites() { activites_.Oublier(); }
+  // The type of the contract's activities, "M" for a private employer's.
+  std::string TypeActivite() const { return activites_.Type(); }
+  void PrevoyanceEmployeur(const std::string& employeur) {
+    cotisations_.PrevoyanceEmployeur(employeur);
+  }
+  void OublierPrevoyance() { cotisations_.OublierPrevoyance(); }
+  void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
   // The private employer is billed for leave that is provisioned.
   bool ProvisionFacturee() const;
@@ -46,79 +56,69 @@ class OngletPaie : public Onglet {
   bool RibManquant(const char* modePaiement);
 
  private:
+  // Ceilings, in euros a month.
+  static constexpr session::FormeNombre Plafond{
+      .avant = 5, .apres = 2, .affichage = session::FormeNombre::Milliers};
+  static constexpr session::FormeNombre Montant{.avant = 5, .apres = 2};
+
+  static const rules::Verification<OngletPaie> Verifications[];
+
   void Afficher_Ong() override { Afficher_Ong3(); }
-  bool Ecrire_Ong(bool verifiee) override { return Ecrire_Ong3(verifiee); }
+  bool Verif_Ong() override { return Verif_Ong3(); }
+  bool VerifFerme() override { return profils_.Verif_Profil(); }
+  bool Ecrire_Ong(bool) override;
   void Vider_Ong() override;
-  void SelonDroits(bool complet) override;
-  data::CItem Gestion_Activite(const std::string& entite, bool particuliers) const;
-  void RemplirPrevoyance(const std::string& convention);
-  void ActiverActivites();
+  void SelonDroits(bool complet) override { activites_.SelonDroits(complet); }
 
-  // The activities that Cbo_Activite offers; the mark is their type.
-  data::ListeCodes ListeActivites_;
-  // The provident contracts that Cbo_LibPrevContrat offers.
-  data::ListeCodes ListePrev_;
-  // The provident contract of the private employer, which the contract takes whatever is shown;
-  // "" when there is none in force.
-  std::string PrevContratPrecedent_;
+  void Lier();
+  void AfficherNouveau();
+  void AfficherExistant();
+  void ProposerModePaiement();
+  void MontrerProvision();
+  void Cbo_ModPaieContrat_LostFocus();
+  void Cbo_CartOrangContrat_LostFocus();
+  void GriserSaufActivite(bool actif);
+  // The dialogs: paie_dialogues.cpp.
+  void LierDialogues();
+  void Cmd_RubSaisie_Click();
+  void Cmd_Telegestion_Click();
+  bool PrevoyanceObligatoire() const;
+  // An activity of the entry headings is not among the contract's.
+  bool RubriqueSansActivite() const;
 
-  // Profiles and payment.
-  screen::Label Etq_ProfilContrat{Page, "Etq_ProfilContrat", "Profil n° 1"};
-  screen::TextField Txt_ProfilContrat{Page, "Txt_ProfilContrat", 3};
-  screen::ComboBox Cbo_LibProfilContrat{Page, "Cbo_LibProfilContrat", true};
-  screen::Label Etq_ProfilContrat2{Page, "Etq_ProfilContrat2", "Profil n° 2"};
-  screen::TextField Txt_ProfilContrat2{Page, "Txt_ProfilContrat2", 3};
-  screen::ComboBox Cbo_LibProfilContrat2{Page, "Cbo_LibProfilContrat2", true};
+  PaieProfils profils_{editeur_, Page, sourdine_};
   screen::Label Etq_ModPaieContrat{Page, "Etq_ModPaieContrat", "Mode de Paiement"};
-  screen::ComboBox Cbo_ModPaieContrat{Page, "Cbo_ModPaieContrat", false};
+  screen::ComboBox Cbo_ModPaieContrat{Page, "Cbo_ModPaieContrat", true, LongueurTexte};
   screen::CheckBox Cac_PaieSalContrat{Page, "Cac_PaieSalContrat",
                                       "Paiement du salaire par l'association"};
   screen::CheckBox Cac_CPMoisContrat{Page, "Cac_CPMoisContrat", "Congés payés au mois"};
   screen::CheckBox Cac_ProvCP{Page, "Cac_ProvCP", "Provision des congés"};
-
-  // Mutual insurance and provident scheme.
-  screen::Frame Cdr_Mutuelle{Page, "Cdr_Mutuelle", "Mutuelle "};
-  screen::Label Etq_MutSalContrat{Cdr_Mutuelle, "Etq_MutSalContrat", "Part Salariale"};
-  screen::TextField Txt_MutSalContrat{Cdr_Mutuelle, "Txt_MutSalContrat", 8};
-  screen::Label Etq_MutPatContrat{Cdr_Mutuelle, "Etq_MutPatContrat", "Part Patronale"};
-  screen::TextField Txt_MutPatContrat{Cdr_Mutuelle, "Txt_MutPatContrat", 8};
-  screen::Label Etq_ChargMutContrat{Cdr_Mutuelle, "Etq_ChargMutContrat", "Rub. de charge"};
-  screen::TextField Txt_ChargMutContrat{Cdr_Mutuelle, "Txt_ChargMutContrat", 3};
-  screen::ComboBox Cbo_ChargMutContrat{Cdr_Mutuelle, "Cbo_ChargMutContrat", true};
-  screen::Frame Cdr_RegimePrev{Page, "Cdr_RegimePrev", "Regime de prévoyance "};
-  screen::Label Etq_PrevContrat{Cdr_RegimePrev, "Etq_PrevContrat", "Contrat prévoyance"};
-  screen::TextField Txt_PrevContrat{Cdr_RegimePrev, "Txt_PrevContrat", 2};
-  screen::ComboBox Cbo_LibPrevContrat{Cdr_RegimePrev, "Cbo_LibPrevContrat", true};
+  PaieCotisations cotisations_{editeur_, Page, sourdine_};
   screen::Label Etq_IdentCRCContrat{Page, "Etq_IdentCRCContrat", "Identification CRC"};
-  screen::TextField Txt_IdentCRCContrat{Page, "Txt_IdentCRCContrat", 0};
+  screen::TextField Txt_IdentCRCContrat{Page, "Txt_IdentCRCContrat", LongueurTexte};
   screen::Label Etq_CartOrangContrat{Page, "Etq_CartOrangContrat", "Zone carte orange"};
-  screen::ComboBox Cbo_CartOrangContrat{Page, "Cbo_CartOrangContrat", true};
+  screen::ComboBox Cbo_CartOrangContrat{Page, "Cbo_CartOrangContrat", true, LongueurLibelle};
   screen::Label Etq_PlafSecu{Page, "Etq_PlafSecu", "Plaf. sécu. mensuel individualisé"};
   screen::TextField Txt_PlafSecu{Page, "Txt_PlafSecu", 10};
   screen::Label Etq_AssietteSecu{Page, "Etq_AssietteSecu", "Assiette sécurité sociale"};
   screen::TextField Txt_AssietteSecu{Page, "Txt_AssietteSecu", 10};
-
-  // Activities by effect period.
-  screen::Frame Cdr_AffectActiv{Page, "Cdr_AffectActiv", "Affectation des activités"};
-  screen::Label Etq_PeriodeEffet{Cdr_AffectActiv, "Etq_PeriodeEffet", "Période d'effet"};
-  screen::ComboBox Cbo_PeriodeEffet{Cdr_AffectActiv, "Cbo_PeriodeEffet", false};
-  screen::ComboBox Cbo_PeriodeEffetAffichage{Cdr_AffectActiv, "Cbo_PeriodeEffetAffichage", false};
-  screen::Button Cmd_AjoutePeriodeEffet{Cdr_AffectActiv, "Cmd_AjoutePeriodeEffet", "Ajouter"};
-  screen::Label Etq_ListeActivite{Cdr_AffectActiv, "Etq_ListeActivite", "Activités"};
-  screen::ComboBox Cbo_Activite{Cdr_AffectActiv, "Cbo_Activite", false};
-  screen::TextField Txt_ActiviteContrat{Cdr_AffectActiv, "Txt_ActiviteContrat", 0};
-  screen::TextField Txt_RepartActContrat{Cdr_AffectActiv, "Txt_RepartActContrat", 6};
-  screen::ListBox Lst_ActiviteContrat{Cdr_AffectActiv, "Lst_ActiviteContrat"};
-  screen::ListBox Lst_RepartActContrat{Cdr_AffectActiv, "Lst_RepartActContrat"};
-  screen::ScrollBar VS_Bdv{Cdr_AffectActiv, "VS_Bdv"};
-  screen::Button Cmd_OKActivite{Cdr_AffectActiv, "Cmd_OKActivite", "OK"};
-  screen::Button Cmd_AnnulerActivite{Cdr_AffectActiv, "Cmd_AnnulerActivite", "Annuler"};
+  PaieActivites activites_{editeur_, Page, sourdine_,
+                           [this](bool actif) { GriserSaufActivite(actif); }};
 
   // Dialogs.
   screen::Button Cmd_RubSaisie{Page, "Cmd_RubSaisie", "Rubriques de saisie"};
   screen::Button Cmd_Comment{Page, "Cmd_Comment", "Commentaires sur bulletin"};
   screen::Button Cmd_Telegestion{Page, "Cmd_Telegestion", "Droits télégestion"};
   screen::Button Cmd_TpsIndem{Page, "Cmd_TpsIndem", "Temps d'indemnisation"};
+
+  // TABLES item.
+  data::ListeCodes zonesTransport_;
+  session::Zones zones_;
+  // The payment mode that was proposed for a new contract.
+  std::string modePropose_;
+  // A split is being entered; what was closed already when it began.
+  bool grise_ = false;
+  std::vector<const screen::Field*> fermes_;
 };
 
 }  // namespace editor

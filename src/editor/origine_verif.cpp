@@ -15,7 +15,6 @@ using screen::Icone;
 constexpr const char* DateIncorrecte = "La date saisie est incorrecte, veuillez la ressaisir.";
 constexpr const char* BulletinDejaCalcule =
     "Impossible de modifier la date de début : un bulletin a déjà été calculé pour ce contrat.";
-constexpr std::string_view NatureStagiaire = "Stagiaire";
 
 // Whether a fixed term of that nature must say when it is presumed to end: each of them must.
 constexpr bool NatureExigeFin(std::string_view /*nature*/) {
@@ -72,7 +71,7 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
      "contrat.",
      Icone::Information, "Txt_DatFinContrat"},
     {[](OngletOrigine& o) {
-       return o.Determine() && NatureExigeFin(o.Cbo_NatureContrat.Text()) &&
+       return o.Determine() && NatureExigeFin(o.nature_.Libelle()) &&
               o.Txt_DatFinContrat.Text().empty();
      },
      "La date de fin présumée est obligatoire pour un CDD.", Icone::Information,
@@ -80,9 +79,9 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
     {[](OngletOrigine& o) { return o.Determine() && sansMotif(o.Contrat()); },
      "La saisie d'un motif d'embauche est obligatoire.", Icone::Exclamation, "",
      [](OngletOrigine& o) { o.Cmd_MotifCDD_Click(); }, true},
-    {[](OngletOrigine& o) { return o.StageRequis() && stageIncomplet(o.Contrat()); },
+    {[](OngletOrigine& o) { return o.nature_.StageRequis() && stageIncomplet(o.Contrat()); },
      "La saisie du détail de la convention de stage est obligatoire.", Icone::Exclamation, "",
-     [](OngletOrigine& o) { o.Cmd_Stage_Click(); }},
+     [](OngletOrigine& o) { o.nature_.Cmd_Stage_Click(); }},
     {[](OngletOrigine& o) {
        const auto depart = o.Contrat().Vue(C::DepartGrille, 2);
        return o.DebutDeplace() && !depart.empty() && *o.Debut() > data::entier(depart);
@@ -117,13 +116,9 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
 };
 
 bool OngletOrigine::Verif_Ong1() {
-  RendreStage();
+  nature_.RendreStage();
   return rules::Verifier<OngletOrigine>(Verifications, *this,
                                         [this](const rules::Refus& refus) { Refuser(refus); });
-}
-
-bool OngletOrigine::StageRequis() const {
-  return Cbo_NatureContrat.Text() == NatureStagiaire;
 }
 
 }  // namespace editor

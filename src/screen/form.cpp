@@ -87,6 +87,12 @@ Reponse Form::MessageBox(const std::string& texte, Boutons boutons, Icone icone,
   return platform_.messages.Montrer({texte, boutons, icone, titre});
 }
 
+Reponse Form::Demander(const std::string& texte, Boutons boutons, Icone icone, Reponse prudente,
+                       const std::string& titre) {
+  ++interruptions;
+  return platform_.messages.Montrer({texte, boutons, icone, titre, prudente});
+}
+
 unsigned long Form::Interruptions() {
   return interruptions;
 }

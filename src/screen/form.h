@@ -65,6 +65,9 @@ class Form {
   // MessageBox with the title that all of the system's messages bear, or another.
   Reponse MessageBox(const std::string& texte, Boutons boutons = Boutons::Ok,
                      Icone icone = Icone::Aucune, const std::string& titre = TitreMessage);
+  // A question whose hasty answer must lose nothing.
+  Reponse Demander(const std::string& texte, Boutons boutons, Icone icone, Reponse prudente,
+                   const std::string& titre = TitreMessage);
 
   // Moves the focus to `champ`, with LostFocus and GotFocus. False when the move did not happen: a
   // handler kept or redirected the focus or hid the form, or `champ` is or became unable to take

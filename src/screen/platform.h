@@ -2,6 +2,7 @@
 // What a host gives to the screens: small services, each replaceable. The headless versions stand
 // in screen/headless and serve tests and the scenario pilot; a desktop host gives its own.
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ struct Message {
   Boutons boutons = Boutons::Ok;
   Icone icone = Icone::Aucune;
   std::string titre;
+  // The answer that loses nothing of what was typed, where it is not the usual one (Annuler, else
+  // Non, for Échap; the first button for Enter): both keys give it.
+  std::optional<Reponse> prudente = {};
   // A notice has one answer; anything else asks.
   bool Demande() const { return boutons != Boutons::Ok; }
 };

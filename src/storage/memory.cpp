@@ -2,21 +2,11 @@
 
 #include <stdexcept>
 
+#include "storage/parcours.h"
+
 namespace storage {
 
 namespace {
-
-// Counts a scan as under way for as long as it lives, also when the visitor throws.
-class Parcours {
- public:
-  explicit Parcours(int& compte) : compte_(compte) { ++compte_; }
-  ~Parcours() { --compte_; }
-  Parcours(const Parcours&) = delete;
-  Parcours& operator=(const Parcours&) = delete;
-
- private:
-  int& compte_;
-};
 
 void interdire(bool faute, const char* quoi) {
   if (faute) throw std::logic_error(quoi);
@@ -58,6 +48,7 @@ void MemoryStorage::Remplacer(std::string_view fichier, std::string_view cle,
     anciens.push_back({static_cast<long>(anciens.size()) + 1, *retour.avant, poste_.Horodatage(),
                        poste_.NomUtilisateur(), !texte});
   }
+  index_.Suivre(fichier, cle, retour.avant, texte);
   if (texte) {
     fichiers_[retour.fichier][retour.cle] = *texte;
   } else {
@@ -69,6 +60,10 @@ void MemoryStorage::Remplacer(std::string_view fichier, std::string_view cle,
 }
 
 void MemoryStorage::Annuler(const Retour& retour) {
+  std::string present;
+  const bool trouve = Get(retour.fichier, retour.cle, present);
+  index_.Suivre(retour.fichier, retour.cle, trouve ? std::optional(present) : std::nullopt,
+                retour.avant);
   if (retour.avant) {
     anciens_[retour.fichier][retour.cle].pop_back();
     fichiers_[retour.fichier][retour.cle] = *retour.avant;
@@ -87,6 +82,37 @@ void MemoryStorage::Scan(std::string_view fichier, const data::KeyRange& cles,
   for (auto it = articles->second.lower_bound(cles.debut); it != articles->second.end(); ++it) {
     if (!cles.Contient(it->first) || !visiteur(it->first, it->second)) return;
   }
+}
+
+std::optional<std::size_t> MemoryStorage::Compter(std::string_view fichier,
+                                                  const data::Chemin& chemin, std::size_t plafond) {
+  if (chemin.index != nullptr) return index_.Cles(chemin, plafond).size();
+  std::size_t compte = 0;
+  if (plafond == 0) return compte;
+  Scan(fichier, chemin.valeurs,
+       [&](std::string_view, std::string_view) { return ++compte < plafond; });
+  return compte;
+}
+
+bool MemoryStorage::ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                                const Visiteur& visiteur) {
+  std::set<std::string> cles;
+  for (const data::Chemin& chemin : chemins) {
+    if (chemin.index != nullptr) {
+      for (auto& cle : index_.Cles(chemin)) cles.insert(std::move(cle));
+      continue;
+    }
+    Scan(fichier, chemin.valeurs, [&](std::string_view cle, std::string_view) {
+      cles.emplace(cle);
+      return true;
+    });
+  }
+  const Parcours parcours(parcours_);
+  std::string texte;
+  for (const std::string& cle : cles) {
+    if (Get(fichier, cle, texte) && !visiteur(cle, texte)) break;
+  }
+  return true;
 }
 
 std::vector<data::FichierCompte> MemoryStorage::Fichiers() {

@@ -7,6 +7,7 @@
 
 #include "data/poste.h"
 #include "data/storage.h"
+#include "storage/index_memoire.h"
 
 namespace storage {
 
@@ -23,6 +24,10 @@ class MemoryStorage : public data::Storage {
   std::vector<data::FichierCompte> Fichiers() override;
   std::vector<data::AncienTexte> Historique(std::string_view fichier,
                                             std::string_view cle) override;
+  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
+                                     std::size_t plafond) override;
+  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                   const Visiteur& visiteur) override;
   // A nested block, or a write from a scan's visitor, is a programmer's error (std::logic_error).
   void EnUnBloc(const std::function<void()>& travail) override;
 
@@ -44,6 +49,7 @@ class MemoryStorage : public data::Storage {
   // A file without records is absent from `fichiers_`.
   std::map<std::string, Articles, std::less<>> fichiers_;
   std::map<std::string, Anciens, std::less<>> anciens_;
+  IndexMemoire index_;
   std::vector<Retour> retours_;  // of the block under way, oldest first
   bool enBloc_ = false;
   int parcours_ = 0;  // scans under way

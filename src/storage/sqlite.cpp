@@ -12,8 +12,10 @@ SqliteStorage::~SqliteStorage() = default;
 std::unique_ptr<SqliteStorage> SqliteStorage::Ouvrir(const std::string& chemin,
                                                      const data::Poste& poste,
                                                      const SqliteOptions& options) {
-  return std::unique_ptr<SqliteStorage>(new SqliteStorage(
+  std::unique_ptr<SqliteStorage> stockage(new SqliteStorage(
       std::make_unique<Moteur>(ouvrirFichier(chemin, options.attenteMs), poste, options)));
+  stockage->moteur_->PreparerIndex(options.avanceIndex);
+  return stockage;
 }
 
 std::unique_ptr<SqliteStorage> SqliteStorage::OuvrirEnLecture(const std::string& chemin,
@@ -52,6 +54,16 @@ void SqliteStorage::Scan(std::string_view fichier, const data::KeyRange& cles,
   if (!cles.Vide()) moteur_->Parcourir({"Parcours", fichier}, cles, visiteur);
 }
 
+std::optional<std::size_t> SqliteStorage::Compter(std::string_view fichier,
+                                                  const data::Chemin& chemin, std::size_t plafond) {
+  return moteur_->Index().Compter({"Parcours", fichier}, chemin, plafond);
+}
+
+bool SqliteStorage::ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                                const Visiteur& visiteur) {
+  return moteur_->ParcourirChemins({"Parcours", fichier}, chemins, visiteur);
+}
+
 std::vector<data::FichierCompte> SqliteStorage::Fichiers() {
   return moteur_->Compter();
 }
@@ -69,6 +81,17 @@ void SqliteStorage::Verifier(const std::function<void(const Dommage&)>& signaler
                              const std::function<void(long)>& avance) {
   moteur_->ExigerRepos();
   verifierFichier(moteur_->Lien(), signaler, avance);
+}
+
+bool SqliteStorage::VerifierIndex(const std::function<void(const Dommage&)>& signaler,
+                                  const std::function<void(long)>& avance) {
+  moteur_->ExigerRepos();
+  return moteur_->Index().Verifier(signaler, avance);
+}
+
+void SqliteStorage::RefaireIndex(const std::function<void(long)>& avance) {
+  moteur_->ExigerRepos();
+  moteur_->RefaireIndex(avance);
 }
 
 }  // namespace storage

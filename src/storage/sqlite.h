@@ -18,6 +18,8 @@ namespace storage {
 struct SqliteOptions {
   int attenteMs = 5000;  // how long a write waits for another process before StoreError Occupe
   long pagesMax = 0;     // 8 KB pages that the file may grow to (then DisquePlein), 0 without bound
+  // Told now and then, while a file from before gets its indexes, how many records have been read.
+  std::function<void(long)> avanceIndex = {};
 };
 
 // A place of the file that does not read back as it was written.
@@ -30,7 +32,8 @@ struct Dommage {
 class SqliteStorage : public data::Storage {
  public:
   // Of an existing data file. StoreError when it is absent, a directory, no data file, of another
-  // version, damaged, or on a place that cannot be written. `poste` must outlive the store.
+  // version, damaged, or on a place that cannot be written. `poste` must outlive the store. A file
+  // from before gets its indexes now; where that fails it is used without them.
   static std::unique_ptr<SqliteStorage> Ouvrir(const std::string& chemin, const data::Poste& poste,
                                                const SqliteOptions& options = {});
   // The same to consult: every write is a StoreError LectureSeule. It also opens a file on a place
@@ -54,6 +57,10 @@ class SqliteStorage : public data::Storage {
   std::vector<data::FichierCompte> Fichiers() override;
   std::vector<data::AncienTexte> Historique(std::string_view fichier,
                                             std::string_view cle) override;
+  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
+                                     std::size_t plafond) override;
+  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                   const Visiteur& visiteur) override;
   // One transaction. A write of the block that failed takes the whole block with it, even when
   // `travail` passes over the failure. A nested block, or a write from a scan's visitor, is a
   // programmer's error (std::logic_error).
@@ -64,6 +71,13 @@ class SqliteStorage : public data::Storage {
   // and then how many records and former texts have been read. Others may go on working.
   void Verifier(const std::function<void(const Dommage&)>& signaler,
                 const std::function<void(long)>& avance = {});
+
+  // Compares the indexes with the records, and reports where they differ. False, and no report, for
+  // a file without indexes that this program can use. Others may go on working.
+  bool VerifierIndex(const std::function<void(const Dommage&)>& signaler,
+                     const std::function<void(long)>& avance = {});
+  // Makes all indexes anew from the records; others wait to write.
+  void RefaireIndex(const std::function<void(long)>& avance = {});
 
  private:
   class Moteur;

@@ -106,6 +106,7 @@ SqliteStorage::Moteur::Moteur(std::unique_ptr<Connexion> connexion, const data::
       oter_(*connexion_, kOter, kOuverture),
       archiver_(*connexion_, kArchiver, kOuverture),
       dernierNumero_(*connexion_, kDernierNumero, kOuverture),
+      index_(*connexion_),
       scans_(*connexion_, kScan),
       scansSansFin_(*connexion_, kScanSansFin) {}
 
@@ -168,10 +169,12 @@ std::vector<data::AncienTexte> SqliteStorage::Moteur::Anciens(const Acte& acte) 
 
 void SqliteStorage::Moteur::Poser(const Acte& acte, std::string_view texte) {
   std::string avant;
-  if (Lire(acte, avant)) {
+  const bool present = Lire(acte, avant);
+  if (present) {
     if (avant == texte) return;
     Archiver(acte, avant, false);
   }
+  index_.Suivre(acte, present ? std::optional<std::string_view>(avant) : std::nullopt, texte);
   poser_.Lier(1, acte.fichier);
   poser_.Lier(2, acte.cle);
   poser_.Lier(3, texte);
@@ -183,6 +186,7 @@ bool SqliteStorage::Moteur::Oter(const Acte& acte) {
   std::string avant;
   if (!Lire(acte, avant)) return false;
   Archiver(acte, avant, true);
+  index_.Suivre(acte, avant, std::nullopt);
   oter_.Lier(1, acte.fichier);
   oter_.Lier(2, acte.cle);
   oter_.Executer(acte);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "storage/index_sqlite.h"
 #include "storage/sqlite.h"
 #include "storage/sqlite_connexion.h"
 
@@ -47,6 +48,9 @@ class SqliteStorage::Moteur {
 
   bool Lire(const Acte& acte, std::string& texte);
   void Parcourir(const Acte& acte, const data::KeyRange& cles, const Visiteur& visiteur);
+  // As Storage::ScanChemins.
+  bool ParcourirChemins(const Acte& acte, const std::vector<data::Chemin>& chemins,
+                        const Visiteur& visiteur);
   std::vector<data::FichierCompte> Compter();
   std::vector<data::AncienTexte> Anciens(const Acte& acte);
 
@@ -57,7 +61,12 @@ class SqliteStorage::Moteur {
   void Ecrire(const Acte& acte, const std::function<void()>& ecriture);
   void EnUnBloc(const std::function<void()>& travail);
 
+  // Makes the indexes of a file that has none of this program's; leaves it without when it cannot.
+  void PreparerIndex(const std::function<void(long)>& avance);
+  void RefaireIndex(const std::function<void(long)>& avance);
+
   Connexion& Lien() { return *connexion_; }
+  IndexSqlite& Index() { return index_; }
   // Throws std::logic_error when a block or a scan is under way.
   void ExigerRepos() const;
 
@@ -72,6 +81,7 @@ class SqliteStorage::Moteur {
   Requete oter_;
   Requete archiver_;
   Requete dernierNumero_;
+  IndexSqlite index_;
   ReserveRequetes scans_;
   ReserveRequetes scansSansFin_;
   bool enBloc_ = false;

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "storage/index_sqlite.h"
 #include "storage/sqlite_pages.h"
 
 namespace storage {
@@ -15,6 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using data::NumeroErreur;
+
+static_assert(kVersion == kVersionIndex);
 
 constexpr Acte kOuverture{"Ouverture de"};
 constexpr Acte kCreation{"Création de"};
@@ -105,7 +108,7 @@ Entete lireEntete(const Connexion& connexion) {
 }
 
 void verifierVersion(const Connexion& connexion, std::int64_t version) {
-  if (version == kVersion) return;
+  if (version == kVersion || version == kVersionSansIndex) return;
   const std::string versions = "le fichier est de la version " + std::to_string(version) +
                                ", ce programme lit la version " + std::to_string(kVersion) + ". ";
   refuser(
@@ -241,7 +244,7 @@ std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attente
   const std::string tables =
       "PRAGMA auto_vacuum = NONE; BEGIN IMMEDIATE; PRAGMA application_id = " +
       std::to_string(kApplication) + "; PRAGMA user_version = " + std::to_string(kVersion) + ";" +
-      kTables + " COMMIT;";
+      kTables + sqlTablesIndex() + " COMMIT;";
   connexion->Executer(tables.c_str(), kCreation);
   passerAuJournal(*connexion, kCreation);
   verifierEntete(*connexion);

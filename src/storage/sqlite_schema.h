@@ -5,7 +5,8 @@
 //   article  the current text of each record, in the order of file and key
 //   ancien   the former texts, in the order of file, key and number
 //
-// Both carry the checksum of all their other columns (see storage/controle.h).
+// Both carry the checksum of all their other columns (see storage/controle.h). The tables of the
+// indexes stand in storage/index_sqlite.h.
 
 #include <memory>
 #include <string>
@@ -17,7 +18,8 @@ namespace storage {
 // Written in the file's header: what tells our files from other SQLite files, and the version of
 // the tables above.
 inline constexpr std::int64_t kApplication = 0x43545254;  // "CTRT"
-inline constexpr std::int64_t kVersion = 1;
+inline constexpr std::int64_t kVersion = 2;
+inline constexpr std::int64_t kVersionSansIndex = 1;  // the same without indexes
 
 // Of an existing data file, to read and write.
 std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, int attenteMs);

@@ -339,7 +339,10 @@ TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
     Attributs contrat;
     int droit;
     const char* attendu;
-  } cas[] = {{{{C::Convention, "02"}, {C::Employeur, "00007"}}, 2, "------ Mandat"},
+  } cas[] = {{{{C::Convention, "02"}, {C::Employeur, "00007"}}, 2, "-oo--- Mandat"},
+             {{{C::Convention, "02"}, {C::Employeur, "00007"}, {C::Activites, "001MAN"}},
+              2,
+              "------ Mandat"},
              {{}, 2, "-oooo- Domicile"},
              {administratif, 1, "ooo-oo Domicile|Mandat"},
              {administratif, 2, "oooooo Domicile|Mandat"}};
@@ -349,12 +352,6 @@ TEST_F(Fiche, LesActivitesSuiventConventionStatutEtDebut) {
     ouvrirContrat(autres);
     const std::string etats = groupe();
     EXPECT_EQ(etats + " " + lignes(cbo("Activite")), attendu);
-  }
-  for (const int n : {6, 7}) {
-    while (lst("ActiviteContrat").ListCount() < n) lst("ActiviteContrat").AddItem("Domicile");
-    groupe();
-    EXPECT_EQ(champ<screen::ScrollBar>("VS_Bdv").Visible(), n > 6);
-    EXPECT_EQ(champ<screen::ScrollBar>("VS_Bdv").Max(), n - 1);
   }
 }
 

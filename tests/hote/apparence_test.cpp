@@ -14,7 +14,9 @@
 namespace {
 
 constexpr const char* Formes[] = {"Ctr_Contrat",        "Frm_ElementsContrat", "Frm_MotifCDD",
-                                  "Frm_MotifsEmbauche", "Frm_Stage",           "Frm_Reprise"};
+                                  "Frm_MotifsEmbauche", "Frm_Stage",           "Frm_Reprise",
+                                  "Frm_QualifPro",      "Frm_ElemDroitPublic", "Frm_RubSaisie",
+                                  "Frm_CommentBull"};
 // A screen of 1366x768 at a scale of one and a half, less its title bar, its task bar and the
 // host's menu; and the width in which a page stands without scrolling sideways on a screen of
 // 1024.

@@ -303,6 +303,53 @@ TEST_F(Focus, SharedAccessKeyOnlyMovesTheFocus) {
   EXPECT_EQ(actif(), focus());
 }
 
+// The first Esc gives back what the field held when it was entered; the form stays.
+TEST_F(Focus, EscapePutsBackWhatTheFieldHeld) {
+  aller("Txt_Num");
+  taper("12");
+  aller("Txt_Date");
+  aller("Txt_Num");
+  taper("345");
+  EXPECT_NE(w<QLineEdit>("Txt_Num").text(), "12");
+  touche(Qt::Key_Escape);
+  EXPECT_EQ(w<QLineEdit>("Txt_Num").text(), "12");
+  EXPECT_TRUE(forme.Visible());
+  EXPECT_EQ(actif(), "Txt_Num");
+}
+
+// Keys that every form understands, wherever the keyboard is; a hidden or grey button has none.
+TEST_F(Focus, CommandKeysPressTheirButtons) {
+  aller("Txt_Num");
+  taper("1");
+  forme.Prendre();
+  touche(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(forme.Prendre(), "-Txt_Num Cmd_OK");
+  forme.Find("Cmd_OK")->SetEnabled(false);
+  touche(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(forme.Prendre(), "");
+}
+
+// Esc and Enter on a question give the answer that loses nothing, where the screen names one.
+TEST_F(Focus, HastyAnswersLoseNothing) {
+  using screen::Boutons, screen::Icone, screen::Reponse;
+  const struct {
+    std::optional<Reponse> prudente;
+    Reponse echap, entree;
+  } cas[] = {{std::nullopt, Reponse::Non, Reponse::Oui},
+             {Reponse::Non, Reponse::Non, Reponse::Non},
+             {Reponse::Oui, Reponse::Oui, Reponse::Oui}};
+  for (const auto& [prudente, echap, entree] : cas) {
+    for (const auto& [cle, attendue] :
+         {std::pair(Qt::Key_Escape, echap), {Qt::Key_Return, entree}}) {
+      Apres clerc([cle = cle](QWidget& boite) { QTest::keyClick(&boite, cle); });
+      const Reponse reponse =
+          prudente ? forme.Demander("Quitter ?", Boutons::OuiNon, Icone::Question, *prudente)
+                   : forme.MessageBox("Quitter ?", Boutons::OuiNon, Icone::Question);
+      EXPECT_EQ(reponse, attendue);
+    }
+  }
+}
+
 TEST_F(Focus, StoreErrorIsToldAndTheFormGoesOn) {
   forme.SurOk = [] {
     throw data::StoreError(data::NumeroErreur::DisquePlein, "Le disque est plein.", "CONTRAT",

@@ -6,10 +6,16 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_comment_bull.h"
+#include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
+#include "dialogs/frm_qualif_pro.h"
 #include "dialogs/frm_reprise.h"
+#include "dialogs/frm_rub_saisie.h"
 #include "dialogs/frm_stage.h"
+#include "dialogs/frm_tps_indem.h"
+#include "dialogs/frm_vespamoi.h"
 #include "editor/editeur.h"
 #include "essai.h"
 #include "storage/memory.h"
@@ -38,9 +44,12 @@ class Formes : public ::testing::Test {
     article("ETABLISSEMENT", "001001", {{1, "Siège"}});
     article("ETABLISSEMENT", "001002", {{1, "Antenne"}});
     article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
+    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
     article("GRILLESCC", "01A", {{1, "Grille A"}});
     article("CONTRATSPREV", "10", {{1, "Cadres"}, {3, "01"}});
     article("PCS", "563b", {{1, "Aide à domicile"}});
+    article("PCS", "56", {{1, "Services"}});
+    article("CONSTANTESPAIE", "1", {{10, "4800"}});
     data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
     natures.Set(2, 1, "CDI");
     natures.Set(3, 1, "Normal");
@@ -95,8 +104,15 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme());
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossierContrat);
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossierContrat);
-  for (screen::Form* forme :
-       std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs, &stage, &reprise}) {
+  dialogs::Frm_QualifPro qualif(bureau.Plateforme());
+  dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), dossierContrat, 1);
+  dialogs::Frm_RubSaisie rubriques(bureau.Plateforme(), dossierContrat, {});
+  dialogs::Frm_CommentBull commentaires(bureau.Plateforme(), dossierContrat);
+  dialogs::Frm_TpsIndem indemnisation(bureau.Plateforme(), dossierContrat, "");
+  dialogs::Frm_VESPAMOI telegestion(bureau.Plateforme(), {});
+  for (screen::Form* forme : std::initializer_list<screen::Form*>{
+           &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic, &rubriques,
+           &commentaires, &indemnisation, &telegestion}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }
@@ -145,6 +161,17 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     aller("Cac_RenouvEssaiContrat");
     touche(Qt::Key_Space);
     remplir("Cbo_NatureContrat", "Normal");
+    aller("Ong_Contrat");
+    touche(Qt::Key_Right);
+    remplir("Cbo_QualifContrat", "Agent");
+    remplir("Txt_DureeWContrat", "20");
+    aller("Cbo_FreqWContrat");
+    touche(Qt::Key_Down);
+    remplir("Txt_TauxHorContrat", "12,02");
+    // The pay tab: the only activity has been taken.
+    aller("Ong_Contrat");
+    touche(Qt::Key_Right);
+    remplir("Txt_ProfilContrat", "P01");
     aller("Cmd_OK");
     capturer(fenetre, "creation.png");
     touche(Qt::Key_Return);
@@ -159,8 +186,9 @@ TEST_F(Formes, WholeCreationByKeyboard) {
   ASSERT_TRUE(db.OpenFile("CONTRAT").Lire("00001001", contrat));
   namespace C = data::Contrat;
   EXPECT_EQ(contrat(C::Convention) + " " + contrat(C::Association) + " " + contrat(C::Employeur) +
-                " " + contrat(C::DateDebut) + " " + contrat(C::Nature),
-            "01 001 001001 21520 CDI");
+                " " + contrat(C::DateDebut) + " " + contrat(C::Nature) + " " +
+                contrat(C::DureeTravail) + " " + contrat(C::Frequence),
+            "01 001 001001 21520 CDI 2000 1");
   auto* const debuts = ecran->findChild<QListWidget*>("Lst_DatDebContrat");
   ASSERT_EQ(debuts->count(), 1);
   EXPECT_EQ(debuts->item(0)->text(), "01/12/2026");

@@ -3,8 +3,10 @@
 
 #include <QAbstractScrollArea>
 #include <QClipboard>
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <sstream>
 
 #include "base/executer.h"
@@ -77,6 +79,29 @@ class Pannes : public ::testing::Test {
       ligne->setFocus();
       QTest::keyClicks(ligne, saisie.texte);
     }
+    editeur.findChild<QTabWidget*>("Ong_Contrat")->setCurrentIndex(1);
+    const auto taper = [&](const char* nom, const char* texte) {
+      auto* const champ = editeur.findChild<QWidget*>(nom);
+      champ->setFocus();
+      QTest::keyClicks(champ, texte);
+    };
+    taper("Cbo_QualifContrat", "Agent administratif");
+    taper("Txt_DureeWContrat", "20");
+    taper("Cbo_FreqWContrat", "H");
+    taper("Txt_TauxHorContrat", "12");
+    Payer(editeur);
+  }
+  // The pay tab of that contract.
+  static void Payer(QWidget& editeur) {
+    auto* const onglets = editeur.findChild<QTabWidget*>("Ong_Contrat");
+    onglets->setCurrentIndex(2);
+    auto* const profil = editeur.findChild<QLineEdit*>("Txt_ProfilContrat");
+    profil->setFocus();
+    QTest::keyClicks(profil, "101");
+    auto* const activites = editeur.findChild<QComboBox*>("Cbo_Activite");
+    activites->setFocus();
+    QTest::keyClick(activites, Qt::Key_Down);
+    onglets->setCurrentIndex(0);
   }
   static std::string Texte(QWidget& fenetre, const char* champ) {
     return fenetre.findChild<QLineEdit*>(champ)->text().toStdString();

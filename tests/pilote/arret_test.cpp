@@ -37,26 +37,38 @@ struct Route {
   std::string Contrat() const { return "CONTRAT " + aidant + numero; }
 };
 
+// What an amendment can change, and every contract must have.
+const std::string Caracteristiques =
+    "onglet 1\nchoisir Cbo_QualifContrat #0\ntaper Txt_DureeWContrat 20\n"
+    "choisir Cbo_FreqWContrat Hebdo\ntaper Txt_TauxHorContrat 12,02\n";
+
 const Route Reprise = {"00003",
                        "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
                        "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 001\n"
-                       "taper Txt_DatDebContrat 03/12/2026\ncliquer Cmd_OK\n",
+                       "taper Txt_DatDebContrat 03/12/2026\n" +
+                           Caracteristiques +
+                           "onglet 2\ntaper Txt_ProfilContrat 101\nchoisir Cbo_Activite #0\n"
+                           "cliquer Cmd_OK\n",
                        "forme Frm_Reprise\ncliquer Cac_CpPerenne\ncliquer Cmd_Ok\n",
                        "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
-                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n"
-                       "cliquer Cmd_OK\n",
+                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n" +
+                           Caracteristiques +
+                           "onglet 2\ntaper Txt_ProfilContrat 101\ncliquer Cmd_OK\n",
                        "002",
                        "003"};
-const Route Particulier = {"00002",
-                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
-                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
-                           "",
-                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
-                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
-                           "001",
-                           "002"};
+const Route Particulier = {
+    "00002",
+    "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+    "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
+    "taper Txt_DatDebContrat 01/12/2026\n" +
+        Caracteristiques + "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
+    "",
+    "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+    "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
+    "taper Txt_DatDebContrat 01/12/2026\n" +
+        Caracteristiques + "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
+    "001",
+    "002"};
 
 class Arret : public testing::Test {
  protected:
@@ -210,6 +222,37 @@ void Arret::Continuer(const Route& route) {
 
 TEST_F(Arret, PendantLaRepriseDUnContrat) {
   EprouverArrets(Reprise);
+}
+
+// Contract, mark of the follow-up, mark of the index, then the amendment in it: what stands is a
+// beginning of that order, and the next amendment follows whatever was lost.
+TEST_F(Arret, PendantLAjoutDUnAvenant) {
+  const Route route{"00007", "", "", "", "001", ""};
+  const auto ajouter = [](const char* effet) {
+    return "cliquer Opt_TousValid\ncliquer Cmd_Recherche\n"
+           "choisir Lst_DatDebContrat 01/03/2024\ndouble Lst_DatDebContrat\nonglet 1\n"
+           "cliquer Cmd_AjoutAvenant\ntaper Txt_DatEffetContrat " +
+           std::string(effet) +
+           "\ntaper Txt_DureeWContrat 30\ncliquer Cmd_OKAvenant\ncliquer Cmd_OK\n"
+           "forme Ctr_Contrat\naucun-message\n";
+  };
+  const std::string ordre[] = {"CONTRAT 00007001", "ACTUSUIVICONTRAT 00007",
+                               "LIENAVENANT AVENANT00101", "AVENANT00101 0000700103"};
+  for (int n = 1; n <= 4; ++n) {
+    for (const Quand quand : {Quand::Avant, Quand::Apres}) {
+      SCOPED_TRACE((quand == Quand::Avant ? "before write " : "after write ") + std::to_string(n));
+      Remettre();
+      ASSERT_EQ(Jouer(route, ajouter("01/01/2027"), n, quand), std::nullopt);
+      std::set<std::string> ecrits;
+      EXPECT_EQ(Lire(essai), Acquitte(ecrits));
+      const int faits = quand == Quand::Avant ? n - 1 : n;
+      EXPECT_EQ(ecrits, std::set<std::string>(ordre, ordre + faits));
+      EXPECT_EQ(Constats(essai), "");
+      EXPECT_EQ(Jouer(route, ajouter("01/02/2027")), Tenu);
+      EXPECT_TRUE(Lire(essai).contains(faits == 0 ? ordre[3] : "AVENANT00101 0000700104"));
+      EXPECT_EQ(Constats(essai), "");
+    }
+  }
 }
 
 TEST_F(Arret, PendantLaCreationPourUnParticulier) {

@@ -6,6 +6,7 @@
 #include <map>
 #include <random>
 
+#include "data/layouts/recherches.h"
 #include "data/poste.h"
 #include "essai.h"
 #include "storage/sqlite.h"
@@ -92,6 +93,10 @@ class Dommages : public testing::Test {
       int vus = 0;
       store->Scan("CONTRAT", data::KeyRange::Prefixe("101"), [&](auto, auto) { return ++vus > 0; });
       EXPECT_EQ(vus, 83);  // of 100 to 199, all but the 17 multiples of 6
+    });
+    essayer([&] {
+      const data::Chemin liens{&data::IndexTenus[0], data::KeyRange::Prefixe("1")};
+      EXPECT_EQ(store->Compter("CONTRAT", liens, 9), 0U);
     });
     return refuses;
   }

@@ -56,7 +56,7 @@ TEST_F(Ouverture, RefusesWhatIsNoDataFileOfThisVersion) {
              {"vide", kTout, "", "PasUneBase", "est vide"},
              {"texte", kTout, std::string(9000, 'x'), "PasUneBase", "pas un fichier"},
              {"autre", 68, "ABCD", "PasUneBase", "autre programme"},
-             {"neuf", 60, {"\0\0\0\x02", 4}, "VersionInconnue", "Installez la dernière version"},
+             {"neuf", 60, {"\0\0\0\x03", 4}, "VersionInconnue", "Installez la dernière version"},
              {"vieux", 60, {"\0\0\0\0", 4}, "VersionInconnue", "Exportez"},
              {"pages", 16, "\x10", "Endommage", "endommagé"}};
   fs::create_directory(dossier_.Chemin("dossier"));

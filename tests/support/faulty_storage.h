@@ -40,6 +40,16 @@ class FaultyStorage : public data::Storage {
     Appel(fichier, cles.debut);
     dessous_.Scan(fichier, cles, visiteur);
   }
+  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
+                                     std::size_t plafond) override {
+    Appel(fichier, {});
+    return dessous_.Compter(fichier, chemin, plafond);
+  }
+  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                   const Visiteur& visiteur) override {
+    Appel(fichier, {});
+    return dessous_.ScanChemins(fichier, chemins, visiteur);
+  }
   std::vector<data::FichierCompte> Fichiers() override {
     Appel({}, {});
     return dessous_.Fichiers();

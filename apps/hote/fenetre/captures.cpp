@@ -16,6 +16,7 @@
 #include "control/ctr_contrat.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
+#include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_reprise.h"
 #include "dialogs/frm_stage.h"
@@ -163,6 +164,9 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
 
   dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossier, jour(data::Contrat::DateDebut), {});
   capturer(album, bureau, motif, "motif-cdd");
+
+  dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), dossier, 1);
+  capturer(album, bureau, droitPublic, "droit-public");
 
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
   capturer(album, bureau, stage, "stage");

@@ -30,6 +30,14 @@ class StockageVeille : public data::Storage {
   bool Erase(std::string_view fichier, std::string_view cle) override;
   void Scan(std::string_view fichier, const data::KeyRange& cles,
             const Visiteur& visiteur) override;
+  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
+                                     std::size_t plafond) override {
+    return dessous_->Compter(fichier, chemin, plafond);
+  }
+  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
+                   const Visiteur& visiteur) override {
+    return dessous_->ScanChemins(fichier, chemins, visiteur);
+  }
   std::vector<data::FichierCompte> Fichiers() override;
   std::vector<data::AncienTexte> Historique(std::string_view fichier,
                                             std::string_view cle) override;

@@ -99,6 +99,7 @@ class Liaison : public QObject {
   bool Tabuler(bool arriere);
   bool PasserAHote(bool arriere);
   bool ChangerOnglet(int sens);
+  bool Commander(const QKeyEvent& evenement);
   bool Raccourci(QWidget& widget, const QShortcutEvent& evenement);
   bool Composer(QWidget& widget, const QInputMethodEvent& evenement);
 

@@ -135,8 +135,36 @@ bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   if (evenement.key() == Qt::Key_Tab || evenement.key() == Qt::Key_Backtab) {
     return controle ? ChangerOnglet(arriere ? -1 : 1) : Tabuler(arriere);
   }
-  Lien* const lien = LienDe(&widget);
-  return lien != nullptr && lien->Touche(evenement);
+  // Esc belongs to the field as long as it has something to put back.
+  if (evenement.key() != Qt::Key_Escape && Commander(evenement)) return true;
+  if (Lien* const lien = LienDe(&widget); lien != nullptr && lien->Touche(evenement)) return true;
+  return evenement.key() == Qt::Key_Escape && Commander(evenement);
+}
+
+// The keys of the buttons that every form has under the same names.
+bool Liaison::Commander(const QKeyEvent& evenement) {
+  static const struct {
+    int cle;
+    Qt::KeyboardModifiers avec;
+    const char* bouton;
+  } Commandes[] = {
+      {Qt::Key_Return, Qt::ControlModifier, "Cmd_OK"},
+      {Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier, "Cmd_OK"},
+      {Qt::Key_F5, Qt::NoModifier, "Cmd_Recherche"},
+      {Qt::Key_Insert, Qt::NoModifier, "Cmd_Ajouter"},
+      {Qt::Key_Escape, Qt::NoModifier, "Cmd_Retour"},
+      {Qt::Key_Escape, Qt::NoModifier, "Cmd_Annuler"},
+  };
+  for (const auto& commande : Commandes) {
+    if (commande.cle != evenement.key() || commande.avec != evenement.modifiers()) continue;
+    // The host that embeds a form decides when it goes.
+    if (commande.cle == Qt::Key_Escape && !racine_.isWindow()) continue;
+    screen::Field* const bouton = forme_.Find(commande.bouton);
+    if (bouton == nullptr || !bouton->Disponible()) continue;
+    if (!evenement.isAutoRepeat()) Jouer([&](screen::User& user) { user.Cliquer(*bouton); });
+    return true;
+  }
+  return false;
 }
 
 // The order is the model's.

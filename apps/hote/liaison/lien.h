@@ -55,7 +55,7 @@ std::unique_ptr<Lien> creerLienLignes(Liaison& liaison, screen::Field& champ, QW
 std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QWidget& widget);
 
 // The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
-// window's: no field may keep it from closing.
+// window's, once it has put back what the field held.
 char32_t toucheDe(const QKeyEvent& evenement);
 // Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is
 // dropped. `horsSelection`: what the widget's text holds beside its selection.

@@ -19,6 +19,7 @@ class LienSaisie : public Lien {
       : Lien(liaison, champ, widget), modele_(champ) {}
 
   bool Touche(QKeyEvent& evenement) override {
+    if (evenement.key() == Qt::Key_Escape) return Retablir();
     const char32_t touche = toucheDe(evenement);
     if (touche == 0) return false;
     if (touche == screen::ToucheEntree && !modele_.Multiligne()) {
@@ -45,7 +46,25 @@ class LienSaisie : public Lien {
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
   }
 
+  // Notes what the field holds when the user enters it.
+  void SuivreEntree() {
+    const bool dedans = Binder().Forme().Active() == &modele_;
+    if (dedans && !dedans_) entree_ = modele_.Text();
+    dedans_ = dedans;
+  }
+
   screen::TextField& modele_;
+
+ private:
+  // The first Esc in a changed field puts back what it held; the next one is the window's.
+  bool Retablir() {
+    if (!dedans_ || modele_.Text() == entree_) return false;
+    Transmettre(versQt(entree_));
+    return true;
+  }
+
+  std::string entree_;
+  bool dedans_ = false;
 };
 
 class LienLigne : public LienSaisie {
@@ -65,6 +84,7 @@ class LienLigne : public LienSaisie {
     return debut < 0 ? texte : texte.remove(debut, ligne_.selectedText().size());
   }
   void PousserEtat() override {
+    SuivreEntree();
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
@@ -101,6 +121,7 @@ class LienTexteLong : public LienSaisie {
   }
   // The widget knows one line end only; the records of the suite hold CR LF.
   void PousserEtat() override {
+    SuivreEntree();
     QString texte = versQt(modele_.Text());
     texte.replace("\r\n", "\n").replace('\r', '\n');
     if (Texte() == texte) return;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -104,9 +105,10 @@ Reponse MessagesQt::Montrer(const screen::Message& message) {
   for (const BoutonMessage& b : BoutonsMessages) {
     if (b.boutons != message.boutons) continue;
     QPushButton* const bouton = boite.addButton(b.texte, b.role);
-    if (boutons.empty()) boite.setDefaultButton(bouton);
+    const bool prudent = message.prudente == b.reponse;
+    if (boutons.empty() || prudent) boite.setDefaultButton(bouton);
     boutons.emplace_back(bouton, b.reponse);
-    if (!b.echappe) continue;
+    if (message.prudente ? !prudent : !b.echappe) continue;
     boite.setEscapeButton(bouton);
     echappe = b.reponse;
   }
@@ -130,6 +132,7 @@ void IndicationsQt::Montrer(const screen::Field& champ, const std::string& texte
   if (widget == nullptr) return;
   // The focus that comes back to the field takes away what stands beside it.
   QTimer::singleShot(0, widget, [widget, texte = versQt(texte)] {
+    if (auto* const ligne = qobject_cast<QLineEdit*>(widget)) ligne->selectAll();
     QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), texte, widget, {},
                        DureeIndication);
   });

@@ -5,11 +5,17 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_CommentBull.h"
+#include "ui_Frm_ElemDroitPublic.h"
 #include "ui_Frm_ElementsContrat.h"
 #include "ui_Frm_MotifCDD.h"
 #include "ui_Frm_MotifsEmbauche.h"
+#include "ui_Frm_QualifPro.h"
 #include "ui_Frm_Reprise.h"
+#include "ui_Frm_RubSaisie.h"
 #include "ui_Frm_Stage.h"
+#include "ui_Frm_TpsIndem.h"
+#include "ui_Frm_VESPAMOI.h"
 #include "ui_OngletCaracteristiques.h"
 #include "ui_OngletConges.h"
 #include "ui_OngletFin.h"
@@ -86,7 +92,13 @@ void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
+  bureau.Enregistrer("Frm_QualifPro", construire<Ui::Frm_QualifPro, Fenetre>);
+  bureau.Enregistrer("Frm_ElemDroitPublic", construire<Ui::Frm_ElemDroitPublic, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);
+  bureau.Enregistrer("Frm_RubSaisie", construire<Ui::Frm_RubSaisie, Fenetre>);
+  bureau.Enregistrer("Frm_CommentBull", construire<Ui::Frm_CommentBull, Fenetre>);
+  bureau.Enregistrer("Frm_TpsIndem", construire<Ui::Frm_TpsIndem, Fenetre>);
+  bureau.Enregistrer("Frm_VESPAMOI", construire<Ui::Frm_VESPAMOI, Fenetre>);
   bureau.Enregistrer("Frm_Reprise", construire<Ui::Frm_Reprise, Fenetre>);
 }
 

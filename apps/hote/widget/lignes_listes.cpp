@@ -43,8 +43,10 @@ void LigneListe::paint(QPainter* pinceau, const QStyleOptionViewItem& option,
   pinceau->setPen(
       cellule.palette.color(groupe(cellule), choisie ? QPalette::HighlightedText : QPalette::Text));
   pinceau->setClipRect(place, Qt::IntersectClip);
+  const bool nombres = cellule.widget != nullptr && cellule.widget->property(ADroite).toBool();
+  const int cote = nombres ? Qt::AlignRight : Qt::AlignLeft;
   pinceau->drawText(
-      place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+      place, Qt::AlignVCenter | cote | Qt::TextSingleLine,
       cellule.fontMetrics.elidedText(cellule.text, cellule.textElideMode, place.width()));
   pinceau->restore();
   if (choisie || !cellule.state.testFlag(QStyle::State_HasFocus)) return;

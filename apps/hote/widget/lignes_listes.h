@@ -14,6 +14,8 @@ class LigneListe : public QStyledItemDelegate {
 
   // Between the text and either side of its cell, in pixels. Captions over a list stand as far in.
   static constexpr int Marge = 8;
+  // The property of a list whose texts are numbers: they end in one line.
+  static constexpr const char* ADroite = "aDroite";
   static int Hauteur(const QFontMetrics& mesures);
 
   void paint(QPainter* pinceau, const QStyleOptionViewItem& option,

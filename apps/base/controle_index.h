@@ -1,0 +1,15 @@
+#pragma once
+// The part of `verifier` that compares the indexes with the records.
+
+#include "base/contexte.h"
+#include "base/progres.h"
+#include "base/verification.h"
+#include "storage/sqlite.h"
+
+namespace base {
+
+// Tells on the error stream when the file has no index.
+void controlerIndex(Contexte& contexte, storage::SqliteStorage& stockage, Progres& progres,
+                    const Rapport& rapport);
+
+}  // namespace base

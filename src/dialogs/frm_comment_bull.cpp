@@ -1,0 +1,176 @@
+#include "dialogs/frm_comment_bull.h"
+
+#include <algorithm>
+
+#include "data/jour.h"
+#include "data/layouts/contrat.h"
+#include "data/layouts/voisins.h"
+#include "data/texte.h"
+
+namespace dialogs {
+
+namespace {
+
+namespace C = data::Contrat;
+using screen::Boutons, screen::Icone, screen::Reponse;
+
+constexpr const char* QuestionSortie =
+    "Voulez-vous enregistrer les modifications apportées à cet article ?";
+constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
+constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
+constexpr const char* Incomplet = "La période ainsi que le libellé sont obligatoires.";
+constexpr const char* DejaLa = "La période sélectionnée est déjà renseignée.";
+
+// What is no month is shown as it is, so that a wrong record is seen.
+std::string libelle(const std::string& periode) {
+  const std::string mois = data::majuscules(data::moisAnnee(periode));
+  return mois.empty() ? periode : mois;
+}
+
+}  // namespace
+
+Frm_CommentBull::Frm_CommentBull(screen::Platform& platform, session::Dossier& dossier)
+    : DialogueContrat(platform, dossier, "Frm_CommentBull", "Commentaires sur bulletins",
+                      QuestionSortie) {
+  screen::Montrer({&Cmd_Ajouter, &Cmd_OK, &Cmd_Supprimer}, session_.DroitComplet());
+  colonnes_.SurDoubleClic = [this](int ligne) { Descendre(ligne); };
+  Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
+  Cmd_Supprimer.Click = [this] { Cmd_Supprimer_Click(); };
+  Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
+  Cmd_Annuler.Click = [this] { Cmd_Annuler_Click(); };
+  Cmd_Sortir.Click = [this] { Cmd_Retour_Click(); };
+  Remplir_Donnees();
+  Remplir_Periode();
+  Finir();
+}
+
+void Frm_CommentBull::Remplir_Donnees() {
+  const data::CItem& contrat = dossier_.ItemContrat;
+  for (int v = 1; v <= contrat.DCount(C::CommentairePeriode); ++v) {
+    Inserer({contrat(C::CommentairePeriode, v), contrat(C::CommentaireTexte, v)});
+  }
+}
+
+void Frm_CommentBull::Remplir_Periode() {
+  data::CItem periodes;
+  session_.F_PERIODESPAIE.Lire(data::PeriodesPaie::Cle, periodes);
+  for (const int a : {data::PeriodesPaie::Courante, data::PeriodesPaie::Seconde}) {
+    if (periodes.Vue(a).empty()) continue;
+    ouvertes_.push_back(periodes(a));
+    Cbo_Periode.AddItem(libelle(ouvertes_.back()));
+  }
+}
+
+void Frm_CommentBull::Inserer(const Commentaire& commentaire) {
+  const auto place = std::find_if(lignes_.begin(), lignes_.end(), [&](const Commentaire& autre) {
+    return autre.periode > commentaire.periode;
+  });
+  colonnes_.Inserer(static_cast<int>(place - lignes_.begin()),
+                    {libelle(commentaire.periode), commentaire.texte});
+  lignes_.insert(place, commentaire);
+}
+
+void Frm_CommentBull::Retirer(int ligne) {
+  lignes_.erase(lignes_.begin() + ligne);
+  colonnes_.Retirer(ligne);
+}
+
+// Entry.
+
+void Frm_CommentBull::Griser(bool saisie) {
+  colonnes_.Activer(!saisie);
+  screen::Activer({&Cmd_Ajouter, &Cmd_Sortir}, !saisie);
+  Cbo_Periode.SetEnabled(enCreation_);
+  Txt_Libelle.SetEnabled(saisie);
+  Cmd_Supprimer.SetEnabled(saisie && !enCreation_);
+}
+
+// Nothing in hand any more.
+void Frm_CommentBull::Finir() {
+  enCreation_ = false;
+  ligne_ = -1;
+  Cbo_Periode.SetListIndex(-1);
+  Cbo_Periode.SetText("");
+  Txt_Libelle.SetText("");
+  Griser(false);
+}
+
+void Frm_CommentBull::Cmd_Ajouter_Click() {
+  enCreation_ = true;
+  Griser(true);
+  Cbo_Periode.SetFocus();
+}
+
+// Only the text of a comment can change.
+void Frm_CommentBull::Descendre(int ligne) {
+  ligne_ = ligne;
+  Cbo_Periode.SetText(Lst_Periode.List(ligne));
+  Txt_Libelle.SetText(Lst_Libelle.List(ligne));
+  Griser(true);
+  Txt_Libelle.SetFocus();
+}
+
+void Frm_CommentBull::Cmd_Ok_Click() {
+  if (!EnMain()) {
+    MAJ_TabDyn();
+    Sortir();
+  } else if (Ranger()) {
+    Finir();
+  }
+}
+
+bool Frm_CommentBull::Ranger() {
+  const bool sansTexte = data::sansBlancs(Txt_Libelle.Text()).empty();
+  if (Cbo_Periode.Text().empty() || sansTexte) {
+    MessageBox(Incomplet, Boutons::Ok, Icone::Exclamation);
+    screen::Field& vide =
+        Cbo_Periode.Text().empty() ? static_cast<screen::Field&>(Cbo_Periode) : Txt_Libelle;
+    vide.SetFocus();
+    return false;
+  }
+  if (!enCreation_) {
+    const std::string periode = lignes_[static_cast<std::size_t>(ligne_)].periode;
+    Retirer(ligne_);
+    Inserer({periode, Txt_Libelle.Text()});
+    return true;
+  }
+  const std::string periode = ouvertes_[static_cast<std::size_t>(Cbo_Periode.ListIndex())];
+  if (std::any_of(lignes_.begin(), lignes_.end(),
+                  [&](const Commentaire& c) { return c.periode == periode; })) {
+    MessageBox(DejaLa, Boutons::Ok, Icone::Exclamation);
+    Cbo_Periode.SetFocus();
+    return false;
+  }
+  Inserer({periode, Txt_Libelle.Text()});
+  return true;
+}
+
+void Frm_CommentBull::Cmd_Annuler_Click() {
+  if (!EnMain()) {
+    Sortir();
+    return;
+  }
+  if (enCreation_ &&
+      MessageBox(QuitterCreation, Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+    return;
+  }
+  Finir();
+}
+
+void Frm_CommentBull::Cmd_Supprimer_Click() {
+  if (MessageBox(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation) == Reponse::Oui) {
+    Retirer(ligne_);
+  }
+  Finir();
+}
+
+void Frm_CommentBull::Copier_Champs(data::CItem& contrat) const {
+  for (const int a : C::GroupeCommentaires) contrat.Set(a, "");
+  for (std::size_t i = 0; i < lignes_.size(); ++i) {
+    const int v = static_cast<int>(i) + 1;
+    contrat.Set(C::CommentairePeriode, v, lignes_[i].periode);
+    contrat.Set(C::CommentaireTexte, v, lignes_[i].texte);
+  }
+}
+
+}  // namespace dialogs

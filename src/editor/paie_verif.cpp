@@ -1,0 +1,73 @@
+// The checks of the third tab, in their order.
+
+#include <algorithm>
+
+#include "data/layouts/voisins.h"
+#include "editor/editeur.h"
+
+namespace editor {
+
+namespace {
+
+namespace C = data::Contrat;
+using screen::Icone;
+
+constexpr const char* RubriquesSansActivite =
+    "Les activités des rubriques de saisie ne sont pas en correspondance avec les activités du "
+    "contrat.";
+
+}  // namespace
+
+const rules::Verification<OngletPaie> OngletPaie::Verifications[] = {
+    {[](OngletPaie& o) { return o.cotisations_.ChargeManque(); },
+     "La rubrique de charge liée à la mutuelle est obligatoire.", Icone::Exclamation,
+     "Txt_ChargMutContrat"},
+    {[](OngletPaie& o) { return o.profils_.Manque(); }, "Le profil est obligatoire.",
+     Icone::Exclamation, "Txt_ProfilContrat"},
+    {[](OngletPaie& o) { return o.Cbo_ModPaieContrat.Text().empty(); },
+     "Le mode de paiement est obligatoire.", Icone::Exclamation, "Cbo_ModPaieContrat"},
+    {[](OngletPaie& o) { return o.activites_.Manquent(); },
+     "Au moins une activité est obligatoire.", Icone::Exclamation, "Cbo_Activite"},
+    {[](OngletPaie& o) { return o.PrevoyanceObligatoire() && o.cotisations_.PrevoyanceManque(); },
+     "Le choix d'un contrat de prévoyance dans la liste est obligatoire."},
+    {[](OngletPaie& o) { return o.activites_.PeriodeManque(); },
+     "La période d'effet des activités est obligatoire.", Icone::Exclamation,
+     "Cbo_PeriodeEffetAffichage"},
+    {[](OngletPaie& o) { return o.activites_.TotalFaux(); },
+     "Le total de la répartition des activités est différent de 100."},
+};
+
+// After the list: the profile rule, the headings that hang on the activities, and the bank details
+// of a transfer.
+bool OngletPaie::Verif_Ong3() {
+  if (!rules::Verifier<OngletPaie>(Verifications, *this,
+                                   [this](const rules::Refus& refus) { Refuser(refus); }) ||
+      !profils_.Verif_Profil()) {
+    return false;
+  }
+  if (RubriqueSansActivite()) {
+    Refuser({RubriquesSansActivite});
+    return false;
+  }
+  return !RibManquant("paiement");
+}
+
+bool OngletPaie::PrevoyanceObligatoire() const {
+  data::CItem convention;
+  Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
+  return convention.Vue(data::ConventionCol::PrevoyanceObligatoire) == "1";
+}
+
+bool OngletPaie::RubriqueSansActivite() const {
+  if (editeur_.origine.Administratif()) return false;
+  const std::vector<std::string>& codes = activites_.Codes();
+  for (int v = 1; v <= Contrat().DCount(C::RubriqueActivite); ++v) {
+    const auto activite = Contrat().Vue(C::RubriqueActivite, v);
+    if (!activite.empty() && std::find(codes.begin(), codes.end(), activite) == codes.end()) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace editor

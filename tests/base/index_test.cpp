@@ -1,0 +1,105 @@
+// What the data tool says and does about indexes.
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <sstream>
+
+#include "base/executer.h"
+#include "data/index.h"
+#include "data/poste.h"
+#include "storage/sqlite.h"
+#include "storage/sqlite_pages.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+class IndexOutilTest : public testing::Test {
+ protected:
+  IndexOutilTest() {
+    Outil({"creer"});
+    Outil({"ecrire", "CIVILAIDANT", "00001", "--item", R"(["","Martin","Rose"])"});
+    Outil({"ecrire", "CONTRAT", "00001001", "--item", "[]"});
+    // More than are worth an index when all of them are asked for.
+    auto store = storage::SqliteStorage::Ouvrir(base_, data::PosteFixe(21511));
+    for (int i = 100; i < 200; ++i) {
+      store->Put("TPSMOI", "00001" + std::to_string(i),
+                 "\x1e\x1e\x1e"
+                 "0000100" +
+                     std::to_string(i % 10));
+    }
+  }
+
+  // One terminal: results and messages in one text.
+  std::string Outil(std::vector<std::string> args) {
+    args.insert(args.begin() + 1, base_);
+    std::istringstream entree;
+    std::ostringstream ecran;
+    code_ = base::executer(args, entree, ecran, ecran);
+    return ecran.str();
+  }
+  void Sql(const char* sql) const {
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open_v2(base_.c_str(), &db, SQLITE_OPEN_READWRITE, storage::nomVfsPages()),
+              SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+    sqlite3_close(db);
+  }
+
+  support::TempDir dossier_;
+  std::string base_ = dossier_.Chemin("essai.contrats");
+  int code_ = 0;
+};
+
+TEST_F(IndexOutilTest, PlanDitCommentLaQuestionSeraitTraitee) {
+  const struct {
+    const char* question;
+    const char* plan;
+  } cas[] = {
+      {R"(SELECT TPSMOI AVEC 4 = "00001001")",
+       "index 4 : « 00001001 »\n10 articles à regarder au plus\n"},
+      {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC @ID = "00002]")",
+       "index 4 : « 00001001 »\nclés : commençant par « 00002 »\n10 articles à regarder au plus\n"},
+      {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC 1 = "x")",
+       "parcours du fichier TPSMOI, clés : toutes\n"},
+      {R"(SELECT TPSMOI AVEC 4 = "00001]")", "parcours du fichier TPSMOI, clés : toutes\n"},
+      {R"(SELECT TPSMOI AVEC 4 = "00001]" AND AVEC 0 = "00001125")",
+       "parcours du fichier TPSMOI, clés : « 00001125 »\n"},
+      {R"(SELECT CIVILAIDANT AVEC NomPrenomAidant = "mart]" AND AVEC 36 = "")",
+       "index NomPrenomAidant : commençant par « MART »\n1 article à regarder au plus\n"},
+      {R"(SELECT CONTRAT AVEC 116)",
+       "index 116 : toutes les valeurs\n0 article à regarder au plus\n"},
+      {R"(SELECT CONTRAT AVEC 116 > "A" AND <= "C")",
+       "index 116 : après « A », jusqu'à « C »\n0 article à regarder au plus\n"},
+      {R"(SELECT CONTRAT AVEC 0 >= "00001" AND < "00002")",
+       "parcours du fichier CONTRAT, clés : toutes\n"},
+      {R"(SELECT CONTRAT = "A" AVEC 0 = "B")", "parcours du fichier CONTRAT, clés : aucune\n"},
+  };
+  for (const auto& c : cas) EXPECT_EQ(Outil({"select", c.question, "--plan"}), c.plan);
+  EXPECT_EQ(Outil({"select", "SELECT CONTRAT", "--plan", "--json"}),
+            "--plan et --json ne se donnent pas ensemble.\n");
+  EXPECT_EQ(code_, 2);
+}
+
+TEST_F(IndexOutilTest, VerifierCompareEtReparerRefait) {
+  Sql("DELETE FROM entree WHERE cle = '00001'");
+  const std::string constats = Outil({"verifier"});
+  EXPECT_NE(constats.find("CIVILAIDANT\t00001\tl'index NomPrenomAidant ne mène pas à cet article "
+                          "par « MARTIN ROSE » : la commande reparer refait les index\n"),
+            std::string::npos)
+      << constats;
+  EXPECT_EQ(code_, 1);
+  EXPECT_EQ(Outil({"reparer"}), "Les index de " + base_ + " sont refaits.\n");
+  EXPECT_EQ(Outil({"verifier"}).find("index"), std::string::npos);
+}
+
+TEST_F(IndexOutilTest, UneBaseDAvantEstDiteSansIndex) {
+  Sql("DROP TABLE entree; DROP TABLE indice; PRAGMA user_version = 1");
+  EXPECT_EQ(Outil({"select", R"(SELECT TPSMOI AVEC 4 = "00001001")", "--plan"}),
+            "parcours du fichier TPSMOI, clés : toutes\n");
+  EXPECT_NE(Outil({"verifier"}).find("Cette base n'a pas d'index"), std::string::npos);
+  Outil({"ecrire", "PAYS", "001", "--item", "[]"});
+  EXPECT_EQ(Outil({"verifier"}).find("n'a pas d'index"), std::string::npos);
+}
+
+}  // namespace

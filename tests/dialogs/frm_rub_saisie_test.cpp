@@ -1,0 +1,366 @@
+#include "dialogs/frm_rub_saisie.h"
+
+#include "dialogs/frm_comment_bull.h"
+#include "dialogs/frm_tps_indem.h"
+#include "dialogs/frm_vespamoi.h"
+#include "essai_dialogue.h"
+
+namespace dialogs {
+namespace {
+
+class Rubriques : public EssaiDialogue {
+ protected:
+  // Headings by the kinds of their base, rate and amount; each gives coefficient 150, rate 2,5 and
+  // amount 12,00.
+  Rubriques() {
+    for (const char* const genres : {"000", "122", "110", "211", "332", "444"}) {
+      article("RUBSAISIE", genres,
+              {{1, std::string("Rubrique ") + genres},
+               {4, "0"},
+               {6, {genres[0]}},
+               {7, "150"},
+               {8, {genres[1]}},
+               {9, "25000"},
+               {10, {genres[2]}},
+               {11, "1200"}});
+    }
+    article("RUBSAISIE", "002", {{1, "Produit"}, {4, "0"}, {6, "0"}, {8, "0"}, {10, "2"}});
+    article("RUBSAISIE", "900", {{1, "Exclue"}, {4, "0"}, {18, "1"}});
+    article("RUBSAISIE", "901", {{1, "Filtrée"}, {4, "1"}});
+    article("ACTIVITES", "001DOM", {{1, "Domicile"}});
+    article("ACTIVITES", "001GAR", {{1, "Garde"}});
+  }
+  std::unique_ptr<Frm_RubSaisie> ouvrir(bool administratif = false, std::size_t activites = 2) {
+    session.W_Droits = &droits;
+    ContexteRubriques contexte{administratif, {{"001DOM", "Domicile"}, {"001GAR", "Garde"}}};
+    contexte.activites.resize(activites);
+    return std::make_unique<Frm_RubSaisie>(hote.platform, dossier, contexte);
+  }
+  // "Code Base Taux Montant Activité" of each row.
+  static std::string lignes(const Frm_RubSaisie& f) {
+    std::string texte;
+    for (int i = 0; i < f.Lst_Code.ListCount(); ++i) {
+      texte += (i > 0 ? "|" : "") + f.Lst_Code.List(i) + " " + f.Lst_Base.List(i) + " " +
+               f.Lst_Taux.List(i) + " " + f.Lst_Montant.List(i) + " " + f.Lst_Activite.List(i);
+    }
+    return texte;
+  }
+};
+
+TEST_F(Rubriques, LeGenreDitCeQuiSeSaisit) {
+  const struct {
+    const char* code;
+    const char* ouverts;  // base, rate, amount
+    const char* valeurs;
+    const char* actif;
+  } cas[] = {
+      {"000", "ooo", "||", "Txt_Base"},           {"122", "oxx", "|0|", "Txt_Base"},
+      {"110", "oxo", "|2,5000|", "Txt_Base"},     {"211", "xxx", "0,00|2,5000|12,00", "Txt_Code"},
+      {"332", "xxx", "0,00|0,0000|", "Txt_Code"}, {"444", "xoo", "0,00||", "Txt_Taux"},
+      {"002", "oox", "||", "Txt_Base"},
+  };
+  for (const auto& [code, ouverts, valeurs, actif] : cas) {
+    const auto f = ouvrir();
+    montrer(*f, [&](screen::User& user) {
+      user.Cliquer(f->Cmd_Ajouter);
+      EXPECT_EQ(this->actif(*f), "Txt_Code");
+      user.Taper(f->Txt_Code, code);
+      std::string etats;
+      for (const screen::Field* champ : std::initializer_list<const screen::Field*>{
+               &f->Txt_Base, &f->Txt_Taux, &f->Txt_Montant}) {
+        etats += champ->Enabled() ? 'o' : 'x';
+      }
+      EXPECT_EQ(etats, ouverts) << code;
+      EXPECT_EQ(f->Txt_Base.Text() + "|" + f->Txt_Taux.Text() + "|" + f->Txt_Montant.Text(),
+                valeurs)
+          << code;
+      EXPECT_EQ(this->actif(*f), actif) << code;
+      EXPECT_FALSE(f->Cmd_Retour.Enabled());
+      hote.messages.Repondre(Reponse::Oui);
+      user.Cliquer(f->Cmd_Annuler);
+      user.Cliquer(f->Cmd_Annuler);
+    });
+  }
+}
+
+TEST_F(Rubriques, LeMontantCalculeSArronditPuisSeCoupe) {
+  const struct {
+    long long base, taux, montant;  // hundredths, ten-thousandths, hundredths
+  } cas[] = {{100, 123440, 1234},   {100, 123450, 1235}, {100, 123449, 1234},
+             {1000, 123456, 12346}, {0, 10000, 0},       {-100, 123450, -1234},
+             {-100, 123440, -1233}, {250, 20000, 500}};
+  for (const auto& [base, taux, montant] : cas) EXPECT_EQ(MontantCalcule(base, taux), montant);
+}
+
+TEST_F(Rubriques, UneLigneSeSaisitEnCentiemesEtDixMilliemes) {
+  contrat({{89, "000"}, {90, "-1250"}, {91, "10000"}, {92, "x"}, {93, "001GAR"}});
+  const auto f = ouvrir();
+  EXPECT_EQ(lignes(*f), "000 -12,50 1,0000 x Garde");
+  montrer(*f, [&](screen::User& user) {
+    EXPECT_EQ(user.Fermer(), Acte::Avale);
+    user.Cliquer(f->Cmd_Ajouter);
+    user.Taper(f->Txt_Code, "90");
+    user.Quitter();
+    EXPECT_EQ(message(), "E Cette rubrique de saisie n'existe pas.");
+    EXPECT_EQ(clic(user, f->Cmd_OK),
+              "E La rubrique de saisie n'existe pas, veuillez la ressaisir.");
+    user.Taper(f->Cbo_LibRub, "Produit");
+    EXPECT_EQ(f->Txt_Code.Text(), "002");
+    EXPECT_EQ(clic(user, f->Cmd_OK), "E La base de la rubrique de saisie est obligatoire.");
+    user.Taper(f->Txt_Base, "1");
+    EXPECT_EQ(clic(user, f->Cmd_OK), "E Le taux de la rubrique de saisie est obligatoire.");
+    user.Taper(f->Txt_Taux, "12,345");
+    EXPECT_EQ(clic(user, f->Cmd_OK), "E L'activité est obligatoire.");
+    EXPECT_EQ(actif(*f), "Cbo_Activite");
+    user.Choisir(f->Cbo_Activite, 0);
+    EXPECT_EQ(clic(user, f->Cmd_OK), "");
+    // The quantity of a base of kind 1 is multiplied once.
+    user.Cliquer(f->Cmd_Ajouter);
+    user.Taper(f->Txt_Code, "110");
+    user.Taper(f->Txt_Base, "10,4");
+    user.Cliquer(f->Txt_Montant);
+    user.Cliquer(f->Txt_Base);
+    EXPECT_EQ(clic(user, f->Cmd_OK), "E Le montant de la rubrique de saisie est obligatoire.");
+    user.Taper(f->Txt_Montant, "-3");
+    user.Choisir(f->Cbo_Activite, 1);
+    EXPECT_EQ(clic(user, f->Cmd_OK), "");
+    EXPECT_EQ(lignes(*f),
+              "000 -12,50 1,0000 x Garde|002 1,00 12,3450 12,35 Domicile|110 15,00 2,5000 -3,00 "
+              "Garde");
+    // A wrong number that is not touched stays.
+    user.DoubleCliquer(f->Lst_Taux, 0);
+    EXPECT_FALSE(f->Txt_Code.Enabled());
+    user.Taper(f->Txt_Base, "7");
+    user.Choisir(f->Cbo_Activite, 0);
+    f->Txt_Montant.SetText("x");
+    user.Cliquer(f->Cmd_OK);
+    user.Cliquer(f->Cmd_OK);
+  });
+  EXPECT_EQ(lu({89, 90, 91, 92, 93}),
+            "89=000^002^110 90=700^100^1500 91=10000^123450^25000 92=x^1235^-300 "
+            "93=001DOM^001DOM^001GAR");
+}
+
+TEST_F(Rubriques, CeQuiEstFaitSeDefaitEnQuittant) {
+  const std::vector<std::pair<Reponse, const char*>> reponses = {
+      {Reponse::Non, "89=000^901^000 90=100^200^300 93=001DOM^001GAR^001GAR"},
+      // Of the activities none goes with the line that is removed.
+      {Reponse::Oui, "89=901^000 90=200^300 93=001DOM^001GAR"},
+  };
+  for (const auto& [reponse, apres] : reponses) {
+    contrat({{89, "000^901^000"}, {90, "100^200^300"}, {93, "001DOM^001GAR^001GAR"}});
+    const auto f = ouvrir();
+    montrer(*f, [&, choix = reponse](screen::User& user) {
+      user.DoubleCliquer(f->Lst_Code, 0);
+      for (const Reponse suppression : {Reponse::Non, Reponse::Oui}) {
+        hote.messages.Repondre(suppression);
+        EXPECT_EQ(clic(user, f->Cmd_Supprimer),
+                  "EON Etes-vous sûr de vouloir supprimer cette ligne ?");
+      }
+      hote.messages.Repondre(Reponse::Annuler);
+      EXPECT_EQ(clic(user, f->Cmd_Retour),
+                "EONA Voulez-vous enregistrer les modifications apportées à cet article ?");
+      EXPECT_TRUE(f->Visible());
+      hote.messages.Repondre(choix);
+      user.Cliquer(f->Cmd_Retour);
+      message();
+    });
+    EXPECT_EQ(lu({89, 90, 93}), apres);
+  }
+  // A heading that can no longer be chosen goes with its activity; leaving by Annuler forgets it.
+  contrat({{89, "901^000"}, {90, "100^200"}, {93, "001DOM^001GAR"}});
+  for (const bool garder : {false, true}) {
+    const auto f = ouvrir();
+    montrer(*f, [&](screen::User& user) {
+      user.DoubleCliquer(f->Lst_Code, 0);
+      EXPECT_EQ(lignes(*f), "000 2,00   Garde");
+      user.Cliquer(garder ? f->Cmd_OK : f->Cmd_Annuler);
+    });
+    EXPECT_EQ(lu({89, 93}), garder ? "89=000 93=001GAR" : "89=901^000 93=001DOM^001GAR");
+  }
+}
+
+TEST_F(Rubriques, LActiviteSuitLeContrat) {
+  const struct {
+    bool administratif;
+    std::size_t activites;
+    bool ouverte;
+    const char* ecrite;
+  } cas[] = {{false, 1, false, "001DOM"}, {true, 2, false, ""}, {true, 1, false, ""}};
+  for (const auto& [administratif, activites, ouverte, ecrite] : cas) {
+    contrat({});
+    const auto f = ouvrir(administratif, activites);
+    montrer(*f, [&](screen::User& user) {
+      user.Cliquer(f->Cmd_Ajouter);
+      EXPECT_EQ(f->Cbo_Activite.Enabled(), ouverte);
+      user.Taper(f->Txt_Code, "211");
+      EXPECT_EQ(clic(user, f->Cmd_OK), "");
+      user.Cliquer(f->Cmd_OK);
+    });
+    EXPECT_EQ(dossier.ItemContrat(93), ecrite);
+    EXPECT_EQ(dossier.ItemContrat(92), "1200");
+  }
+  // Read only: nothing to add, and nothing asked on leaving.
+  session.W_Droits = &lecture;
+  Frm_RubSaisie f(hote.platform, dossier, {});
+  montrer(f, [&](screen::User& user) {
+    EXPECT_FALSE(f.Cmd_Ajouter.Visible() || f.Cmd_OK.Visible() || f.Cmd_Supprimer.Visible());
+    user.Cliquer(f.Cmd_Retour);
+  });
+}
+
+class Commentaires : public EssaiDialogue {
+ protected:
+  Commentaires() {
+    session.W_Droits = &droits;
+    article("PERIODESPAIE", "1", {{1, "202611"}, {2, "202612"}});
+  }
+  static std::string lignes(const Frm_CommentBull& f) {
+    std::string texte;
+    for (int i = 0; i < f.Lst_Periode.ListCount(); ++i) {
+      texte += (i > 0 ? "|" : "") + f.Lst_Periode.List(i) + " " + f.Lst_Libelle.List(i);
+    }
+    return texte;
+  }
+};
+
+TEST_F(Commentaires, IlsRestentDansLOrdreDesMois) {
+  contrat({{87, "202702^202510^202608"}, {88, "c^a^b"}});
+  Frm_CommentBull f(hote.platform, dossier);
+  EXPECT_EQ(lignes(f), "OCTOBRE 2025 a|AOÛT 2026 b|FÉVRIER 2027 c");
+  EXPECT_FALSE(f.Bdv_Detail.Visible());
+  montrer(f, [&](screen::User& user) {
+    user.Cliquer(f.Cmd_Ajouter);
+    EXPECT_EQ(clic(user, f.Cmd_OK), "E La période ainsi que le libellé sont obligatoires.");
+    EXPECT_EQ(actif(f), "Cbo_Periode");
+    user.Choisir(f.Cbo_Periode, 1);
+    EXPECT_EQ(clic(user, f.Cmd_OK), "E La période ainsi que le libellé sont obligatoires.");
+    EXPECT_EQ(actif(f), "Txt_Libelle");
+    user.Taper(f.Txt_Libelle, "Prime de Noël");
+    user.Cliquer(f.Cmd_OK);
+    user.Cliquer(f.Cmd_Ajouter);
+    user.Choisir(f.Cbo_Periode, 1);
+    user.Taper(f.Txt_Libelle, "encore");
+    EXPECT_EQ(clic(user, f.Cmd_OK), "E La période sélectionnée est déjà renseignée.");
+    hote.messages.Repondre(Reponse::Oui);
+    user.Cliquer(f.Cmd_Annuler);
+    // Only its text can change.
+    user.DoubleCliquer(f.Lst_Libelle, 1);
+    EXPECT_FALSE(f.Cbo_Periode.Enabled() || f.Cmd_Sortir.Enabled());
+    user.Taper(f.Txt_Libelle, "B");
+    user.Cliquer(f.Cmd_OK);
+    user.DoubleCliquer(f.Lst_Periode, 0);
+    hote.messages.Repondre(Reponse::Oui);
+    user.Cliquer(f.Cmd_Supprimer);
+    EXPECT_EQ(lignes(f), "AOÛT 2026 B|DÉCEMBRE 2026 Prime de Noël|FÉVRIER 2027 c");
+    user.Cliquer(f.Cmd_OK);
+  });
+  EXPECT_EQ(lu({87, 88}), "87=202608^202612^202702 88=B^Prime de Noël^c");
+}
+
+TEST_F(Commentaires, SortirDemandeQuoiFaire) {
+  for (const bool garder : {true, false}) {
+    contrat({{87, "202608"}, {88, "b"}});
+    Frm_CommentBull f(hote.platform, dossier);
+    montrer(f, [&](screen::User& user) {
+      EXPECT_EQ(user.Fermer(), Acte::Avale);
+      user.Cliquer(f.Cmd_Ajouter);
+      user.Choisir(f.Cbo_Periode, 0);
+      user.Taper(f.Txt_Libelle, "n");
+      user.Cliquer(f.Cmd_OK);
+      hote.messages.Repondre(garder ? Reponse::Oui : Reponse::Non);
+      EXPECT_EQ(clic(user, f.Cmd_Sortir),
+                "EONA Voulez-vous enregistrer les modifications apportées à cet article ?");
+    });
+    EXPECT_EQ(lu({87, 88}), garder ? "87=202608^202611 88=b^n" : "87=202608 88=b");
+  }
+  Frm_CommentBull f(hote.platform, dossier);
+  montrer(f, [&](screen::User& user) { EXPECT_EQ(clic(user, f.Cmd_Sortir), ""); });
+}
+
+class Heberges : public EssaiDialogue {
+ protected:
+  // Opens the form that `faire` makes and tries to close it while its control answers `retenue`,
+  // then `libre`: what the control was given up to its start.
+  std::string ouvrir(const char* controle, const char* sortie, const char* retenue,
+                     const char* libre,
+                     const std::function<std::unique_ptr<FormeHebergee>()>& faire) {
+    hote.controles = {};
+    auto& c = hote.controles.Ajouter(controle);
+    screen::Form appelante(hote.platform, "Frm_Appelante");
+    appelante.Show();
+    hote.modales.Prevoir([&](screen::Form& montree) {
+      c.Regler(sortie, retenue);
+      EXPECT_FALSE(montree.Close());
+      c.Regler(sortie, libre);
+      EXPECT_TRUE(montree.Close());
+    });
+    EXPECT_TRUE(faire()->Ouvrir(appelante));
+    std::string texte;
+    for (const auto& acte : c.Journal()) {
+      texte += (texte.empty() ? "" : " ") + acte;
+      if (acte == "init()") break;
+    }
+    return texte;
+  }
+};
+
+TEST_F(Heberges, LaTelegestionRecoitSonContexte) {
+  const ContexteTelegestion entite{.association = "001",
+                                   .employeur = "002",
+                                   .nomEmployeur = "Nord",
+                                   .codeAidant = "00001",
+                                   .nomAidant = "DURAND Anne",
+                                   .particuliers = false,
+                                   .activites = {"001DOM", "001GAR"}};
+  std::string titre;
+  // The control has to say that it can be left.
+  EXPECT_EQ(ouvrir("Ctr_Vespamoi", "W_Sortir", "0", "-1",
+                   [&] {
+                     auto forme = std::make_unique<Frm_VESPAMOI>(hote.platform, entite);
+                     titre = forme->Titre();
+                     return forme;
+                   }),
+            "TheDatabase=Db TheClient=LeClient W_CodeAsso=001 W_CodeAide=002 W_CodeAidant=00001 "
+            "W_TypeAct=P W_StrAct=001DOM001GAR init()");
+  EXPECT_EQ(titre, "Télégestion VESPARIO : paramétrages pour l'aidant 00001 DURAND Anne");
+  Frm_VESPAMOI particulier(hote.platform, {.association = "001",
+                                           .employeur = "00007",
+                                           .nomEmployeur = "MARTIN Rose",
+                                           .codeAidant = "00001",
+                                           .nomAidant = "DURAND Anne",
+                                           .particuliers = true,
+                                           .activites = {"001MAN"}});
+  EXPECT_EQ(particulier.Titre(),
+            "Télégestion VESPARIO : paramétrages pour l'aidant 00001 DURAND Anne / pour l'aidé "
+            "00007 MARTIN Rose");
+}
+
+TEST_F(Heberges, LIndemnisationCommenceAuPlusTot) {
+  session.CodeAidant = "00001";
+  session.NomPrenomAidant = "DURAND Anne";
+  const struct {
+    const char *calcul, *traitee, *premiere;
+    const char* periode;
+  } cas[] = {{"202610", "202609", "", "202610"},
+             {"", "202609", "", "202609"},
+             {"202610", "", "202603", "202603"},
+             {"202610", "", "202611", "202610"},
+             {"", "", "202603", ""}};
+  for (const auto& [calcul, traitee, premiere, periode] : cas) {
+    contrat({{81, calcul}, {63, traitee}});
+    if (*premiere == '\0') {
+      memoire.Erase("HISTORINDEM", "1000001");
+    } else {
+      article("HISTORINDEM", "1000001", {{1, std::string(premiere) + "^202601"}});
+    }
+    EXPECT_EQ(ouvrir("Ctr_TpsIndem", "W_Occupe", "-1", "0",
+                     [&] { return std::make_unique<Frm_TpsIndem>(hote.platform, dossier, "10"); }),
+              "DroitsUtilisateur=W_Droits TheDatabase=Db TheClient=LeClient W_CodeAidant=00001 "
+              "W_NomPrenom=DURAND Anne W_Periode=" +
+                  std::string(periode) + " W_Cle=1000001 init()");
+  }
+}
+
+}  // namespace
+}  // namespace dialogs
