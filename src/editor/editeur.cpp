@@ -28,8 +28,9 @@ Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Se
   Ong_Contrat.Click = [this](int ancien) { Ong_Contrat_Click(ancien); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
+  Cmd_DPAE.Click = [this] { ImprimerDeclaration(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
-  screen::Activer({&Mnu_Aide, &Mnu_Sommaire, &Cmd_ImpContrat, &Cmd_DPAE}, false);
+  screen::Activer({&Mnu_Aide, &Mnu_Sommaire, &Cmd_ImpContrat}, false);
 }
 
 // Opening.

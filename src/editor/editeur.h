@@ -18,6 +18,7 @@
 
 #include "editor/enregistrement.h"
 #include "editor/gardes.h"
+#include "editor/impression.h"
 #include "editor/onglet_caracteristiques.h"
 #include "editor/onglet_conges.h"
 #include "editor/onglet_fin.h"
@@ -56,6 +57,8 @@ class Frm_ElementsContrat : public screen::Form {
 
   // The tabs in their order, on which OK, leaving, saving and clearing work alike.
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
+  // The hiring declaration of the contract, which stands on file.
+  void ImprimerDeclaration() { impression_.Declaration(); }
   // While an amendment is entered, no other tab can be reached and no way out is open.
   void ReserverSaisie(bool saisie);
   // Tells every tab the agreement that stands in its box.
@@ -108,6 +111,7 @@ class Frm_ElementsContrat : public screen::Form {
   session::AideEnLigne aide_;
   Gardes gardes_{*this};
   Enregistrement enregistrement_{*this, gardes_};
+  Impression impression_{*this};
 };
 
 }  // namespace editor

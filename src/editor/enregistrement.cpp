@@ -52,7 +52,9 @@ Avis Enregistrement::Ecrire_Nouveau() {
   if (!bloc.Avis().empty()) editeur_.MessageBox(bloc.Avis(), Boutons::Ok, Icone::Information);
   Marquer_Suivi();
   Ecrire_Tte();
-  if (Relire()) Maj_PremiereEmbauche();
+  if (!Relire()) return Avis::Passe;
+  Maj_PremiereEmbauche();
+  if (editeur_.Dossier().Particuliers()) editeur_.ImprimerDeclaration();
   return Avis::Passe;
 }
 

@@ -3,6 +3,7 @@
 // in screen/headless and serve tests and the scenario pilot; a desktop host gives its own.
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,7 +66,16 @@ class Curseur {
   virtual void Bip() = 0;
 };
 
-// Paper. Coordinates are twips, 567 to the centimetre, from the page's top left corner.
+// A document that did not come onto paper, whole or at all. The text is French, names the document
+// and says what to do.
+class ErreurImpression : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Paper. Coordinates are twips, 567 to the centimetre, from the page's top left corner. Each call
+// that puts something on paper may raise ErreurImpression: nothing of the document stands then, and
+// the next call begins another one.
 class Imprimante {
  public:
   virtual ~Imprimante() = default;
@@ -73,11 +83,16 @@ class Imprimante {
   // Makes the printer of that index the one that prints.
   virtual void Choisir(int imprimante) = 0;
   virtual void Police(const std::string& nom, double points, bool gras) = 0;
-  virtual void Texte(int x, int y, const std::string& texte) = 0;
+  // `largeur`: what the place can hold; a longer text is drawn narrower. 0: any width.
+  virtual void Texte(int x, int y, const std::string& texte, int largeur = 0) = 0;
+  // A picture that cannot be read is left out.
   virtual void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) = 0;
   virtual void FinPage() = 0;
   virtual void FinDocument() = 0;
 };
+
+// Twips in a centimetre of paper.
+inline constexpr int TwipsParCentimetre = 567;
 
 // The workstation's settings store.
 class Reglages {

@@ -53,9 +53,7 @@ FenetreHote::FenetreHote(Bureau& bureau, Ouvreur ouvrir)
       FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
     }
   };
-  bureau_.SurImpression = [](const QString& fichier) {
-    informer("Le document est prêt, dans le fichier « " + fichier + " ».");
-  };
+  bureau_.SurImpression = annoncerDocument;
   connect(qApp, &QGuiApplication::commitDataRequest, this, &FenetreHote::FinDeSession,
           Qt::DirectConnection);
   qApp->installEventFilter(this);

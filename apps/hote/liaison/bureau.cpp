@@ -20,7 +20,7 @@ struct Bureau::Services {
         messages(bureau, curseur),
         indications(bureau),
         modales(bureau, curseur),
-        imprimante(bureau),
+        imprimante(bureau, curseur),
         reglages(*magasin),
         aide(bureau),
         platform{messages, indications, modales,

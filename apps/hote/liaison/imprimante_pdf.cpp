@@ -22,14 +22,15 @@ int enPoints(int twips) {
 }
 
 [[noreturn]] void refuser(const QSaveFile& fichier) {
-  throw std::runtime_error(
+  throw screen::ErreurImpression(
       versModele("Le document ne peut pas être écrit : " + fichier.fileName() +
                  ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
 }
 
 }  // namespace
 
-ImprimantePdf::ImprimantePdf(Bureau& bureau) : bureau_(bureau) {}
+ImprimantePdf::ImprimantePdf(Bureau& bureau, CurseurQt& curseur)
+    : bureau_(bureau), curseur_(curseur) {}
 ImprimantePdf::~ImprimantePdf() = default;
 
 void ImprimantePdf::Choisir(int imprimante) {
@@ -63,15 +64,27 @@ QPainter& ImprimantePdf::Pinceau() {
   return *pinceau_;
 }
 
-void ImprimantePdf::Texte(int x, int y, const std::string& texte) {
+void ImprimantePdf::Texte(int x, int y, const std::string& texte, int largeur) {
   QPainter& pinceau = Pinceau();
   QFont police(versQt(police_));
   police.setPointSizeF(points_);
   police.setBold(gras_);
   police.setStyleHint(QFont::TypeWriter);
   pinceau.setFont(police);
+  const QString ligne = versQt(texte);
+  const QFontMetrics mesures = pinceau.fontMetrics();
   // A place is the top of the line.
-  pinceau.drawText(enPoints(x), enPoints(y) + pinceau.fontMetrics().ascent(), versQt(texte));
+  const QPoint base(enPoints(x), enPoints(y) + mesures.ascent());
+  const int pris = mesures.horizontalAdvance(ligne);
+  if (largeur == 0 || pris <= enPoints(largeur)) {
+    pinceau.drawText(base, ligne);
+    return;
+  }
+  pinceau.save();
+  pinceau.translate(base);
+  pinceau.scale(static_cast<double>(enPoints(largeur)) / pris, 1);
+  pinceau.drawText(QPoint(0, 0), ligne);
+  pinceau.restore();
 }
 
 void ImprimantePdf::Image(int x, int y, int largeur, int hauteur, const std::string& fichier) {
@@ -95,6 +108,8 @@ void ImprimantePdf::FinDocument() {
   const std::unique_ptr<QSaveFile> fichier = std::move(fichier_);
   // (The commit does not tell when its own last write fails.)
   if (!fichier->flush() || !fichier->commit()) refuser(*fichier);
+  // The user may be told of it, and asked.
+  const CurseurQt::Levee levee(curseur_);
   if (bureau_.SurImpression) bureau_.SurImpression(fichier->fileName());
 }
 

@@ -79,12 +79,12 @@ class ModalesQt : public screen::Modales {
 // Paper is a PDF file in the user's documents.
 class ImprimantePdf : public screen::Imprimante {
  public:
-  explicit ImprimantePdf(Bureau& bureau);
+  ImprimantePdf(Bureau& bureau, CurseurQt& curseur);
   ~ImprimantePdf() override;
   std::vector<std::string> Noms() const override { return {"Document PDF"}; }
   void Choisir(int imprimante) override;
   void Police(const std::string& nom, double points, bool gras) override;
-  void Texte(int x, int y, const std::string& texte) override;
+  void Texte(int x, int y, const std::string& texte, int largeur = 0) override;
   void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) override;
   void FinPage() override;
   void FinDocument() override;
@@ -93,6 +93,7 @@ class ImprimantePdf : public screen::Imprimante {
   QPainter& Pinceau();
 
   Bureau& bureau_;
+  CurseurQt& curseur_;
   std::unique_ptr<QSaveFile> fichier_;
   std::unique_ptr<QPdfWriter> document_;
   std::unique_ptr<QPainter> pinceau_;

@@ -1,5 +1,7 @@
 #include "screen/headless/services.h"
 
+#include <iomanip>
+#include <sstream>
 #include <stdexcept>
 
 #include "screen/field.h"
@@ -33,10 +35,11 @@ void ImprimanteEnregistree::Police(const std::string& nom, double points, bool g
   crayon_.gras = gras;
 }
 
-void ImprimanteEnregistree::Texte(int x, int y, const std::string& texte) {
+void ImprimanteEnregistree::Texte(int x, int y, const std::string& texte, int largeur) {
   Trace trace = crayon_;
   trace.x = x;
   trace.y = y;
+  trace.largeur = largeur;
   trace.texte = texte;
   page_.push_back(std::move(trace));
 }
@@ -59,8 +62,32 @@ void ImprimanteEnregistree::FinPage() {
 
 void ImprimanteEnregistree::FinDocument() {
   if (!page_.empty()) FinPage();
+  if (!panne.empty()) {
+    pages_.clear();
+    throw ErreurImpression(std::exchange(panne, {}));
+  }
   documents_.push_back({choisie_ < noms.size() ? noms[choisie_] : std::string(), pages_});
   pages_.clear();
+}
+
+std::vector<std::string> DocumentImprime::Lignes() const {
+  const auto cm = [](int twips) { return static_cast<double>(twips) / TwipsParCentimetre; };
+  std::vector<std::string> lignes;
+  for (std::size_t page = 0; page < pages.size(); ++page) {
+    for (const Trace& t : pages[page]) {
+      std::ostringstream ligne;
+      ligne << page + 1 << " : " << std::fixed << std::setprecision(2) << cm(t.x) << ' ' << cm(t.y)
+            << ' ';
+      if (!t.image.empty()) {
+        ligne << "image " << cm(t.largeur) << " x " << cm(t.hauteur) << " : " << t.image;
+      } else {
+        ligne << t.police << ' ' << std::defaultfloat << t.points << (t.gras ? " gras" : "")
+              << " : " << t.texte;
+      }
+      lignes.push_back(ligne.str());
+    }
+  }
+  return lignes;
 }
 
 std::string ReglagesEnMemoire::Lire(const std::string& section, const std::string& cle,

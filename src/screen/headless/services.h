@@ -43,7 +43,8 @@ class CurseurCompte : public Curseur {
   int bips_ = 0;
 };
 
-// Something put on a page: a text, or a picture with its size. Units are twips.
+// Something put on a page: a text, or a picture with its size. Units are twips. The width of a text
+// is what its place can hold, 0 without a bound.
 struct Trace {
   int x = 0;
   int y = 0;
@@ -59,18 +60,27 @@ struct Trace {
 struct DocumentImprime {
   std::string imprimante;
   std::vector<std::vector<Trace>> pages;
+
+  // What stands on it, one line a text or picture in the order of printing: page, place in
+  // centimetres from the left and from the top, font, then the text or the picture's file:
+  //
+  //   1 : 4.30 1.40 Courier New 11 gras : URSSAF
+  //   1 : 0.00 0.00 image 20.81 x 29.80 : aide/URSSAF.jpg
+  std::vector<std::string> Lignes() const;
 };
 
 class ImprimanteEnregistree : public Imprimante {
  public:
   // The workstation's printers; the first one prints until another is chosen.
   std::vector<std::string> noms{"Imprimante"};
+  // Not empty: why the next document does not come onto paper.
+  std::string panne;
 
   std::vector<std::string> Noms() const override { return noms; }
   // An index without a printer is a std::out_of_range.
   void Choisir(int imprimante) override;
   void Police(const std::string& nom, double points, bool gras) override;
-  void Texte(int x, int y, const std::string& texte) override;
+  void Texte(int x, int y, const std::string& texte, int largeur = 0) override;
   void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) override;
   void FinPage() override;
   // What stands on a page not ended yet is printed with it.

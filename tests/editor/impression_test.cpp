@@ -1,0 +1,112 @@
+// What the editor prints, and what printing leaves in the contract.
+
+#include <algorithm>
+
+#include "editor/editeur_essai.h"
+
+namespace {
+
+using essai::Acte;
+namespace C = data::Contrat;
+
+class Declaration : public essai::Editeur {
+ protected:
+  std::string noteSurLeDisque(const std::string& cle) {
+    return db.OpenFile("CONTRAT").Read(cle)(C::DateDeclaration);
+  }
+  std::size_t imprimes() const { return hote.imprimante.Documents().size(); }
+  // The pages of the last document and whether that text stands on one of them.
+  std::size_t pages() const { return hote.imprimante.Documents().back().pages.size(); }
+  bool porte(const std::string& texte) const {
+    const auto lignes = hote.imprimante.Documents().back().Lignes();
+    return std::any_of(lignes.begin(), lignes.end(),
+                       [&](const std::string& ligne) { return ligne.ends_with(" : " + texte); });
+  }
+};
+
+TEST_F(Declaration, ElleSImprimeSelonLaConventionEtDateLeContrat) {
+  const struct {
+    Attributs contrat;
+    const char* bouton;
+    std::size_t pages;
+    const char* employeur;
+  } cas[] = {
+      {{}, "DPAE", 2, "Siège"},
+      {{{C::Convention, "02"}, {C::Employeur, "00007"}}, "D.E.F.", 1, "MARTIN"},
+  };
+  for (const auto& c : cas) {
+    ouvrirContrat(c.contrat);
+    EXPECT_EQ(cmd("DPAE").Libelle(), c.bouton);
+    EXPECT_EQ(cliquer(cmd("DPAE")), Acte::Fait);
+    EXPECT_EQ(pages(), c.pages);
+    EXPECT_TRUE(porte(c.employeur) && porte("DURAND")) << c.bouton;
+    EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
+    // Nothing is left to be saved.
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(messages(), "");
+    EXPECT_FALSE(editeur->Visible());
+  }
+}
+
+TEST_F(Declaration, ElleNEnregistrePasCeQuiEstASaisie) {
+  ouvrirContrat();
+  remplir(txt("PerEssaiContrat"), "30");
+  cliquer(cmd("DPAE"));
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
+  quitter(screen::Reponse::Oui);
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "30");
+  EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
+}
+
+// What did not come onto paper is not declared; the next try is a document of its own.
+TEST_F(Declaration, UneImprimanteEnPanneNeDateRien) {
+  ouvrirContrat();
+  hote.imprimante.panne = "Le document ne peut pas être écrit : Impression.pdf.";
+  cliquer(cmd("DPAE"));
+  EXPECT_EQ(messages(), "Le document ne peut pas être écrit : Impression.pdf.");
+  EXPECT_EQ(noteSurLeDisque("00001001"), "");
+  EXPECT_FALSE(hote.curseur.EnAttente());
+  EXPECT_TRUE(editeur->Enabled());
+  cliquer(cmd("DPAE"));
+  EXPECT_EQ(pages(), 2U);
+  EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
+}
+
+// A new contract of a private employer declares itself; that its printing fails does not undo it.
+TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
+  for (const char* const panne : {"", "Plus de papier."}) {
+    creer();
+    EXPECT_FALSE(cmd("DPAE").Visible());
+    taper(txt("ConvColContrat"), "02");
+    taper(txt("AssocContrat"), "001");
+    taper(txt("EmplEtabContrat"), *panne == '\0' ? "00007" : "00008");
+    remplir(txt("DatDebContrat"), "01/12/2026");
+    hote.imprimante.panne = panne;
+    cliquer(editeur->Cmd_OK);
+    EXPECT_EQ(messages(), panne);
+    EXPECT_TRUE(editeur->Cree());
+    EXPECT_EQ(noteSurLeDisque(cle()), *panne == '\0' ? "21511" : "");
+    EXPECT_EQ(imprimes(), 1U);
+    EXPECT_TRUE(porte("MARTIN"));
+  }
+  creer();
+  taper(txt("ConvColContrat"), "01");
+  taper(txt("AssocContrat"), "001");
+  taper(txt("EmplEtabContrat"), "001");
+  remplir(txt("DatDebContrat"), "01/12/2027");
+  cliquer(editeur->Cmd_OK);
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(imprimes(), 1U);
+}
+
+TEST_F(Declaration, LaSignatureVientDuControleDeLaSuite) {
+  auto& controle = hote.controles.Ajouter("Ctr_Signature");
+  controle.Regler("W_Chemin", "signatures/001.png");
+  ouvrirContrat();
+  cliquer(cmd("DPAE"));
+  EXPECT_EQ(controle.Journal(), (std::vector<std::string>{"W_Chemin=signatures/001.png",
+                                                          "TheDatabase=Db", "TheClient=LeClient"}));
+  EXPECT_TRUE(porte("signatures/001.png"));
+}
+
+}  // namespace
