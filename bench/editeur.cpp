@@ -61,6 +61,20 @@ void ouvrirContrat(benchmark::State& state) {
   for (auto _ : state) poste.controle.Appel_Contrat();
 }
 
+// The reads that were noted, raw.
+void relire(benchmark::State& state, const Base& base, const Journal& journal) {
+  bench::Brut brut(base.chemin);
+  for (auto _ : state) {
+    for (const auto& [fichier, debut, fin] : journal.lectures) {
+      if (fin.empty()) {
+        benchmark::DoNotOptimize(brut.lire(fichier, debut));
+      } else {
+        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
+      }
+    }
+  }
+}
+
 void brutOuvrirContrat(benchmark::State& state) {
   Base& base = bench::base(Contrats);
   const std::string cle = contratOuvert(base);
@@ -69,16 +83,7 @@ void brutOuvrirContrat(benchmark::State& state) {
   poste.controle.Appel_Contrat();
   poste.journal.noter = true;
   poste.controle.Appel_Contrat();
-  bench::Brut brut(base.chemin);
-  for (auto _ : state) {
-    for (const auto& [fichier, debut, fin] : poste.journal.lectures) {
-      if (fin.empty()) {
-        benchmark::DoNotOptimize(brut.lire(fichier, debut));
-      } else {
-        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
-      }
-    }
-  }
+  relire(state, base, poste.journal);
 }
 
 // Carers without a contract, one for each creation, past those of the file.
@@ -148,10 +153,10 @@ void brutEnregistrerContrat(benchmark::State& state) {
 struct Ouvert {
   explicit Ouvert(Base& base)
       : journal(*base.stockage), db{std::shared_ptr<data::Storage>(&journal, [](auto*) {})} {
-    const data::CItem lignes = base.db->Selectionner(
-        "SSELECT CONTRAT AVEC 0 >= \"" + base.aidant +
-            "\" AND AVEC 1 <> \"02\" AND AVEC 65 = \"\" AND AVEC 14 = \"02\"",
-        "CONTRAT", "0");
+    const data::CItem lignes =
+        base.db->Selectionner("SSELECT CONTRAT AVEC 0 >= \"" + base.aidant +
+                                  "\" AND AVEC 1 <> \"02\" AND AVEC 65 = \"\" AND AVEC 14 = \"02\"",
+                              "CONTRAT", "0");
     cle = lignes(1, 1);
     session.Db = &db;
     session.W_Droits = &droits;
@@ -164,9 +169,7 @@ struct Ouvert {
     editeur->Ouvrir(cle);
     editeur->Show();
   }
-  void visiter() {
-    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques);
-  }
+  void visiter() { screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques); }
 
   screen::headless::Hote hote{21511};
   Journal journal;
@@ -176,20 +179,6 @@ struct Ouvert {
   std::unique_ptr<Frm_ElementsContrat> editeur;
   std::string cle;
 };
-
-// The same reads, raw.
-void relire(benchmark::State& state, const Base& base, const Journal& journal) {
-  bench::Brut brut(base.chemin);
-  for (auto _ : state) {
-    for (const auto& [fichier, debut, fin] : journal.lectures) {
-      if (fin.empty()) {
-        benchmark::DoNotOptimize(brut.lire(fichier, debut));
-      } else {
-        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
-      }
-    }
-  }
-}
 
 void visiterCaracteristiques(benchmark::State& state) {
   Ouvert ouvert(bench::base(Contrats));
