@@ -5,12 +5,14 @@
 
 #include "bases.h"
 #include "control/ctr_contrat.h"
+#include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "demo/generateur.h"
 #include "journal.h"
+#include "rules/heures_legales.h"
 #include "rules/repartition.h"
 #include "screen/headless/hote.h"
 #include "screen/user.h"
@@ -61,6 +63,20 @@ void ouvrirContrat(benchmark::State& state) {
   for (auto _ : state) poste.controle.Appel_Contrat();
 }
 
+// The reads that were noted, raw.
+void relire(benchmark::State& state, const Base& base, const Journal& journal) {
+  bench::Brut brut(base.chemin);
+  for (auto _ : state) {
+    for (const auto& [fichier, debut, fin] : journal.lectures) {
+      if (fin.empty()) {
+        benchmark::DoNotOptimize(brut.lire(fichier, debut));
+      } else {
+        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
+      }
+    }
+  }
+}
+
 void brutOuvrirContrat(benchmark::State& state) {
   Base& base = bench::base(Contrats);
   const std::string cle = contratOuvert(base);
@@ -69,16 +85,7 @@ void brutOuvrirContrat(benchmark::State& state) {
   poste.controle.Appel_Contrat();
   poste.journal.noter = true;
   poste.controle.Appel_Contrat();
-  bench::Brut brut(base.chemin);
-  for (auto _ : state) {
-    for (const auto& [fichier, debut, fin] : poste.journal.lectures) {
-      if (fin.empty()) {
-        benchmark::DoNotOptimize(brut.lire(fichier, debut));
-      } else {
-        benchmark::DoNotOptimize(brut.parcourir(fichier, debut, fin));
-      }
-    }
-  }
+  relire(state, base, poste.journal);
 }
 
 // The first visit to the pay tab, alone: what is done before it is not counted.
@@ -221,6 +228,108 @@ void brutEnregistrerContrat(benchmark::State& state) {
   }
 }
 
+// An opened editor on a contract of the middle, with amendments.
+struct Ouvert {
+  explicit Ouvert(Base& base)
+      : journal(*base.stockage), db{std::shared_ptr<data::Storage>(&journal, [](auto*) {})} {
+    const data::CItem lignes =
+        base.db->Selectionner("SSELECT CONTRAT AVEC 0 >= \"" + base.aidant +
+                                  "\" AND AVEC 1 <> \"02\" AND AVEC 65 = \"\" AND AVEC 14 = \"02\"",
+                              "CONTRAT", "0");
+    cle = lignes(1, 1);
+    session.Db = &db;
+    session.W_Droits = &droits;
+    session.CodeAidant = cle.substr(0, 5);
+    session.OuvrirFichiers();
+    editeur = std::make_unique<Frm_ElementsContrat>(hote.platform, session);
+    ouvrir();
+  }
+  void ouvrir() {
+    editeur->Ouvrir(cle);
+    editeur->Show();
+  }
+  void visiter() { screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques); }
+
+  screen::headless::Hote hote{21511};
+  Journal journal;
+  data::Db db;
+  session::Session session{hote.poste};
+  session::DroitsUniformes droits{session::Droit::Plein};
+  std::unique_ptr<Frm_ElementsContrat> editeur;
+  std::string cle;
+};
+
+void visiterCaracteristiques(benchmark::State& state) {
+  Ouvert ouvert(bench::base(Contrats));
+  for (auto _ : state) {
+    state.PauseTiming();
+    ouvert.ouvrir();
+    state.ResumeTiming();
+    ouvert.visiter();
+  }
+}
+
+void brutVisiterCaracteristiques(benchmark::State& state) {
+  Base& base = bench::base(Contrats);
+  Ouvert ouvert(base);
+  ouvert.journal.noter = true;
+  ouvert.visiter();
+  relire(state, base, ouvert.journal);
+}
+
+// To the other amendment and back, by turns.
+void parcourirAvenant(benchmark::State& state) {
+  Ouvert ouvert(bench::base(Contrats));
+  ouvert.visiter();
+  auto& barre = dynamic_cast<screen::UpDown&>(*ouvert.editeur->Find("Bdh_Avenant"));
+  int rang = barre.Max();
+  if (rang == 0) throw std::runtime_error("a contract without amendments");
+  for (auto _ : state) screen::User(*ouvert.editeur).Barre(barre, rang = rang == 0 ? 1 : 0);
+}
+
+// A carer with 50 contracts in force on the day, in the middle of the file.
+constexpr const char* AidantHeures = "99990";
+constexpr int ContratsEnVigueur = 50;
+
+void preparerHeures(Base& base) {
+  data::CItem contrat;
+  contrat.SetText(base.db->OpenFile("CONTRAT").Read(contratOuvert(base)).Text());
+  contrat.Set(data::Contrat::DateFin, "");
+  contrat.Set(data::Contrat::DateDebut, "20000");
+  base.stockage->EnUnBloc([&] {
+    for (int n = 1; n <= ContratsEnVigueur; ++n) {
+      base.stockage->Put("CONTRAT", data::cleContrat(AidantHeures, n), contrat.Text());
+    }
+  });
+}
+
+rules::TempsTravail tempsPese() {
+  return {3500, 1, 21000, 20000};
+}
+
+void peserHeures(benchmark::State& state) {
+  Base& base = bench::base(Contrats);
+  preparerHeures(base);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(rules::Verif_NbHeures(*base.db, AidantHeures, "001", tempsPese()));
+  }
+}
+
+void brutPeserHeures(benchmark::State& state) {
+  Base& base = bench::base(Contrats);
+  preparerHeures(base);
+  Journal journal(*base.stockage);
+  data::Db db{std::shared_ptr<data::Storage>(&journal, [](auto*) {})};
+  journal.noter = true;
+  rules::Verif_NbHeures(db, AidantHeures, "001", tempsPese());
+  relire(state, base, journal);
+}
+
+BENCHMARK(visiterCaracteristiques)->Unit(benchmark::kMicrosecond)->Iterations(500);
+BENCHMARK(brutVisiterCaracteristiques)->Unit(benchmark::kMicrosecond);
+BENCHMARK(parcourirAvenant)->Unit(benchmark::kMicrosecond);
+BENCHMARK(peserHeures)->Unit(benchmark::kMicrosecond);
+BENCHMARK(brutPeserHeures)->Unit(benchmark::kMicrosecond);
 BENCHMARK(ouvrirContrat)->Unit(benchmark::kMicrosecond);
 BENCHMARK(brutOuvrirContrat)->Unit(benchmark::kMicrosecond);
 BENCHMARK(visiterPaie)->Unit(benchmark::kMicrosecond)->Iterations(2000);

@@ -45,12 +45,18 @@ GrilleCarriere::GrilleCarriere(Frm_ElementsContrat& editeur, screen::Frame& page
 
 void GrilleCarriere::Remplir(const std::string& convention) {
   using namespace data;
+  CItem item;
+  CItem grilles;
+  if (!convention.empty()) {
+    editeur_.Session().F_CONVENTIONCOL.Lire(convention, item);
+    grilles = Requete(fichier::GRILLESCC)
+                  .Avec(Cle, "=", citerDebut(convention))
+                  .Par(GrillesCC::Libelle)
+                  .Lire(*editeur_.Session().Db, {Cle, GrillesCC::Libelle, GrillesCC::Categorie});
+  }
   const session::Sourdine::Silence silence(sourdine_);
-  ListeGrilles_ = ListeCodes::DeSelection(
-      Requete(fichier::GRILLESCC)
-          .Avec(Cle, "=", citerDebut(convention))
-          .Par(GrillesCC::Libelle)
-          .Lire(*editeur_.Session().Db, {Cle, GrillesCC::Libelle, GrillesCC::Categorie}));
+  ListeGrilles_ = ListeCodes::DeSelection(grilles);
+  categorieLibre_ = item.Vue(ConventionCol::CategorieLibre) == CategorieLibre;
   Cbo_GrilleContrat.Clear();
   for (const auto& ligne : ListeGrilles_.Lignes()) Cbo_GrilleContrat.AddItem(ligne.libelle);
 }
@@ -82,7 +88,6 @@ void GrilleCarriere::MontrerNouveau() {
   }
   reference_.MontrerNouveau();
   ActiverSelon(false);
-  Remplir("");
   Txt_Categorie.SetEnabled(false);
 }
 
@@ -98,10 +103,7 @@ void GrilleCarriere::ActiverSelon(bool grille) {
 }
 
 void GrilleCarriere::MontrerCategorie() {
-  data::CItem convention;
-  editeur_.Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
-  const bool libre =
-      !Choisie() && convention.Vue(data::ConventionCol::CategorieLibre) == CategorieLibre;
+  const bool libre = !Choisie() && categorieLibre_;
   const auto* const grille = ListeGrilles_.ParLibelle(Cbo_GrilleContrat.Text());
   Txt_Categorie.SetEnabled(libre);
   const bool classee = grille != nullptr && !grille->suite.empty();

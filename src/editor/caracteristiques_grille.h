@@ -23,10 +23,14 @@ class GrilleCarriere {
   // The date from which the grid counts follows the start of the contract where it was that day; a
   // grid chosen without one counts from the start.
   void Ecrire(data::CItem& contrat, int rang, const rules::Debut& debut) const;
-  // The grids of an agreement; none is chosen afterwards, silently.
+  // The grids of an agreement, and whether it leaves the category free; none is chosen afterwards,
+  // silently.
   void Remplir(const std::string& convention);
   // Without grid: coefficient and rate are open.
   void Vider();
+
+  // The category: typed by hand where no grid gives it and the agreement leaves it free.
+  void MontrerCategorie();
 
   bool Choisie() const { return !Cbo_GrilleContrat.Text().empty(); }
   bool Connue() const { return ListeGrilles_.ParLibelle(Cbo_GrilleContrat.Text()) != nullptr; }
@@ -46,14 +50,13 @@ class GrilleCarriere {
   void Cbo_GrilleContrat_LostFocus();
   void Txt_DepartGrilContrat_LostFocus();
   void ActiverSelon(bool grille);
-  // The category: typed by hand where no grid gives it and the agreement leaves it free.
-  void MontrerCategorie();
   std::string EcrireDepart(const data::CItem& contrat, const rules::Debut& debut) const;
 
   Frm_ElementsContrat& editeur_;
   session::Sourdine& sourdine_;
   // The grids that Cbo_GrilleContrat offers, each with its category.
   data::ListeCodes ListeGrilles_;
+  bool categorieLibre_ = false;
   // The value shown, and what it shows untouched.
   int rang_ = 1;
   std::string departMontre_;

@@ -31,13 +31,11 @@ Qualification::Qualification(Frm_ElementsContrat& editeur, screen::Frame& page,
 }
 
 void Qualification::Montrer(const data::CItem& contrat, int rang) {
-  Remplir();
   zones_.Montrer(editeur_.Session().Lib, contrat, rang);
   MontrerRegroupement();
 }
 
 void Qualification::MontrerNouveau() {
-  Remplir();
   zones_.Vider();
   zones_.Oublier();
   Txt_RegroupBudget.SetText("");
@@ -54,8 +52,12 @@ void Qualification::SelonConvention(const std::string& convention) {
 }
 
 void Qualification::Remplir() {
-  ItemQualif_ = data::CItem();
-  editeur_.Session().F_TABLES.Lire(T::Qualif, ItemQualif_);
+  data::CItem groupes;
+  editeur_.Session().F_TABLES.Lire(T::RegroupBudget, groupes);
+  data::CItem qualifications;
+  editeur_.Session().F_TABLES.Lire(T::Qualif, qualifications);
+  regroupements_ = data::ListeCodes::DeTable(groupes);
+  ItemQualif_ = qualifications;
   const std::string montree = Cbo_QualifContrat.Text();
   Cbo_QualifContrat.Clear();
   for (int v = 1; v <= ItemQualif_.DCount(T::QualifLibelles); ++v) {
@@ -73,10 +75,7 @@ void Qualification::MontrerRegroupement() {
   int v = ItemQualif_.DCount(T::QualifLibelles);
   while (v > 0 && ItemQualif_.Vue(T::QualifLibelles, v) != libelle) --v;
   if (v == 0 || ItemQualif_.Vue(T::QualifRegroupements, v).empty()) return;
-  data::CItem groupes;
-  editeur_.Session().F_TABLES.Lire(T::RegroupBudget, groupes);
-  Txt_RegroupBudget.SetText(
-      data::ListeCodes::DeTable(groupes).Libelle(ItemQualif_(T::QualifRegroupements, v)));
+  Txt_RegroupBudget.SetText(regroupements_.Libelle(ItemQualif_(T::QualifRegroupements, v)));
 }
 
 void Qualification::Cmd_QualifPro_Click() {

@@ -15,6 +15,8 @@ class Qualification {
   // `sourdine` is the tab's.
   Qualification(Frm_ElementsContrat& editeur, screen::Frame& page, session::Sourdine& sourdine);
 
+  // The labels of the table, read anew; the one shown stays.
+  void Remplir();
   void Montrer(const data::CItem& contrat, int rang);
   void MontrerNouveau();
   void Ecrire(data::CItem& contrat, int rang) const;
@@ -24,14 +26,13 @@ class Qualification {
  private:
   static constexpr int LongueurLibelle = 60;
 
-  // The labels of the table; the one shown stays.
-  void Remplir();
   void MontrerRegroupement();
   void Cmd_QualifPro_Click();
 
   Frm_ElementsContrat& editeur_;
   session::Sourdine& sourdine_;
   data::CItem ItemQualif_;
+  data::ListeCodes regroupements_;
 
   screen::Label Etq_QualifContrat;
   screen::ComboBox Cbo_QualifContrat;

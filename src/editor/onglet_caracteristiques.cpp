@@ -41,12 +41,15 @@ OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
 
 // Display.
 
+// What the files say is read first: then showing a state, and walking to another, cannot fail
+// half-way.
 void OngletCaracteristiques::Afficher_Ong2() {
   tempsQuittes_.clear();
+  qualification_.Remplir();
+  grille_.Remplir(editeur_.origine.Convention());
   if (Creation()) {
     AfficherNouveau();
   } else {
-    grille_.Remplir(editeur_.origine.Convention());
     Montrer_Etat(true);
   }
   modulation_.Ouvrir(editeur_.origine.Mensuel() && editeur_.origine.Production());
@@ -97,6 +100,7 @@ void OngletCaracteristiques::SelonConvention(const std::string& convention) {
 void OngletCaracteristiques::ProposerSelonConvention(const std::string& convention) {
   pcs_.Proposer(convention);
   grille_.Remplir(convention);
+  grille_.MontrerCategorie();
 }
 
 void OngletCaracteristiques::SelonSalaire(bool mensuel, bool production) {

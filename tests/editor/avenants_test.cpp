@@ -130,6 +130,30 @@ TEST_F(Avenant, UnDebutDeplaceNEffacePasCeQuiEstSaisiEnsuite) {
                                                          jour("01/06/2026"));
 }
 
+// A tab that could not be read is not loaded: it is shown anew, and nothing of it is written. Once
+// it stands, walking reads nothing.
+TEST_F(Avenant, UneErreurDeLectureNeMontrePasUnMelange) {
+  contrat("00001001", deuxEtats());
+  ouvrir("00001001");
+  int lectures = 0;
+  for (bool lu = false; !lu;) {
+    stockage->EchouerAppel(++lectures);
+    try {
+      onglet(editor::Caracteristiques);
+      lu = true;
+    } catch (const data::StoreError&) {
+      EXPECT_FALSE(editeur->caracteristiques.Charge());
+      onglet(editor::Origine);
+    }
+  }
+  EXPECT_GT(lectures, 3);
+  EXPECT_EQ(vu(), "01 01/06/2026 Cadre    20,00");
+  stockage->EchouerAppel(1);
+  aller(0);
+  EXPECT_EQ(vu(), "0 01/03/2026 Agent    35,00");
+  stockage->EchouerAppel(0);
+}
+
 TEST_F(Avenant, UnEtatIncompletNeSeQuittePas) {
   visiter(deuxEtats());
   taper(cbo("QualifContrat"), "");
