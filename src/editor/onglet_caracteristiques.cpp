@@ -5,6 +5,7 @@
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/requete.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "editor/editeur.h"
 
 namespace editor {
@@ -26,7 +27,15 @@ constexpr const char* FonctionParticulier = "563c";
 OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
     : Onglet(editeur, Caracteristiques, "Cdr_Ong2") {
   for (const char* frequence : Frequences) Cbo_FreqWContrat.AddItem(frequence);
+  Cmd_SuiviAnnuel.Click = [this] { Cmd_SuiviAnnuel_Click(); };
   Page.SetEnabled(false);
+}
+
+void OngletCaracteristiques::Cmd_SuiviAnnuel_Click() {
+  const auto& origine = editeur_.origine;
+  dialogs::Frm_ContratAnnuel(editeur_.Services(), Dossier(),
+                             {origine.Convention(), origine.Entite(), origine.Employeur()})
+      .ShowModal();
 }
 
 void OngletCaracteristiques::Afficher_Ong2() {

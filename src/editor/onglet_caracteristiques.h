@@ -29,6 +29,7 @@ class OngletCaracteristiques : public Onglet {
   void Afficher_Ong() override { Afficher_Ong2(); }
   void Vider_Ong() override;
   void SelonDroits(bool complet) override;
+  void Cmd_SuiviAnnuel_Click();
   void Remplir_Grilles(const std::string& convention);
 
   // The amendment shown.
