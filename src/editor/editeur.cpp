@@ -119,6 +119,10 @@ void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
   caracteristiques.FermerModulation();
 }
 
+void Frm_ElementsContrat::ReserverSaisie(bool saisie) {
+  screen::Activer({&Ong_Contrat, &Cmd_OK, &Cmd_Retour}, !saisie);
+}
+
 rules::Portee Frm_ElementsContrat::Portee() const {
   return {session_.CodeAidant, dossier_->NumeroContrat(), origine.Convention(), origine.Entite(),
           origine.Employeur()};

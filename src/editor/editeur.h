@@ -56,6 +56,8 @@ class Frm_ElementsContrat : public screen::Form {
 
   // The tabs in their order, on which OK, leaving, saving and clearing work alike.
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
+  // While an amendment is entered, no other tab can be reached and no way out is open.
+  void ReserverSaisie(bool saisie);
   // Tells every tab the agreement that stands in its box.
   void AnnoncerConvention();
 

@@ -19,10 +19,11 @@ constexpr const char* QuestionChevauchement =
 
 }  // namespace
 
-const Gardes::Garde Gardes::Confirmation[3] = {&Gardes::Onglets, &Gardes::Preparation,
-                                               &Gardes::AutresContrats};
+const Gardes::Garde Gardes::Confirmation[4] = {&Gardes::Onglets, &Gardes::Preparation,
+                                               &Gardes::Heures, &Gardes::AutresContrats};
 const Gardes::Garde Gardes::Ecriture[2] = {&Gardes::DateFinModifiee, &Gardes::CopieSimple};
-const Gardes::Garde Gardes::Depart[2] = {&Gardes::DateFin, &Gardes::CopieVerifiee};
+const Gardes::Garde Gardes::Depart[3] = {&Gardes::HeuresEnQuittant, &Gardes::DateFin,
+                                         &Gardes::CopieVerifiee};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -54,6 +55,14 @@ Avis Gardes::Preparation() {
   dossier.ItemContrat.Set(C::DelaiPrevAcquis, "0");
   dossier.ItemContrat.Set(C::DelaiPrevRestants, "0");
   return Avis::Passe;
+}
+
+Avis Gardes::Heures() {
+  return editeur_.caracteristiques.Verif_NbHeures() ? Avis::Passe : Avis::Abandonne;
+}
+
+Avis Gardes::HeuresEnQuittant() {
+  return editeur_.caracteristiques.Verif_NbHeures() ? Avis::Passe : Avis::Reste;
 }
 
 Avis Gardes::AutresContrats() {

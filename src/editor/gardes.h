@@ -30,14 +30,18 @@ class Gardes {
 
  private:
   using Garde = Avis (Gardes::*)();
-  static const Garde Confirmation[3];
+  static const Garde Confirmation[4];
   static const Garde Ecriture[2];
-  static const Garde Depart[2];
+  static const Garde Depart[3];
   Avis Passer(std::span<const Garde> chaine);
 
   Avis Onglets();
   // What a confirmed new contract begins with.
   Avis Preparation();
+  // Legal hours that are refused give up what was typed, a new contract or a change; on leaving
+  // they keep the user on the screen.
+  Avis Heures();
+  Avis HeuresEnQuittant();
   Avis AutresContrats();
   Avis DateFinModifiee();
   Avis DateFin();

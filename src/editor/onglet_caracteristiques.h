@@ -1,10 +1,18 @@
 #pragma once
 // Second tab, "Caractéristiques": what an amendment can change. Qualification, P.C.S., grid,
-// working time, seniority. It shows one amendment at a time, the one of Bdh_Avenant.
-//
-// Its page takes no user act yet: what stands here follows the first tab.
+// working time, modulation; and seniority. It shows one state of the contract at a time, the one of
+// Bdh_Avenant; a state that was changed goes into the contract in hand when another one is shown.
 
+#include <map>
+#include <string>
+
+#include "editor/avenants.h"
+#include "editor/caracteristiques_grille.h"
+#include "editor/caracteristiques_modulation.h"
+#include "editor/caracteristiques_pcs.h"
+#include "editor/caracteristiques_qualif.h"
 #include "editor/onglet.h"
+#include "rules/heures_legales.h"
 
 namespace editor {
 
@@ -13,6 +21,9 @@ class OngletCaracteristiques : public Onglet {
   explicit OngletCaracteristiques(Frm_ElementsContrat& editeur);
 
   void Afficher_Ong2();
+  void Ecrire_Ong2();
+  bool Verif_Ong2();
+  void Entrer() override;
   void SelonConvention(const std::string& convention) override;
   // What an agreement just chosen proposes: the profession of home help, and its grids.
   void ProposerSelonConvention(const std::string& convention);
@@ -20,83 +31,67 @@ class OngletCaracteristiques : public Onglet {
   // staff.
   void SelonSalaire(bool mensuel, bool production);
   // A new contract starts on that displayed day: so does its first state.
-  void DebuterLe(const std::string& date);
+  void DebuterLe(const std::string& date) { avenants_.DebuterLe(date); }
   // Administrative staff have no modulation.
-  void FermerModulation() { Cdr_Lissage.SetVisible(false); }
-  bool GrilleChoisie() const { return !Cbo_GrilleContrat.Text().empty(); }
+  void FermerModulation() { modulation_.Ouvrir(false); }
+  bool GrilleChoisie() const { return grille_.Choisie(); }
+
+  // The legal hours, wherever the working time was changed: false when the user, asked, refuses
+  // them, or when they cannot be weighed.
+  bool Verif_NbHeures();
+  // The same for the state on the screen.
+  bool HeuresPermises() { return HeuresPermises(Temps()); }
+
+  // For the amendments: shows the state of the bar, or the last one; takes the one on the screen
+  // into the contract in hand, false when it is not fit to be left; asks for an effect date.
+  void Montrer_Etat(bool dernier);
+  bool QuitterEtat();
+  void ExigerDateEffet();
 
  private:
+  static const rules::Verification<OngletCaracteristiques> Verifications[];
+  static constexpr session::FormeNombre Duree{.avant = 5, .apres = 2};
+  static constexpr session::FormeNombre Jours{.avant = 5, .apres = 2};
+
   void Afficher_Ong() override { Afficher_Ong2(); }
+  bool Verif_Ong() override { return Verif_Ong2(); }
+  bool Ecrire_Ong(bool) override;
   void Vider_Ong() override;
-  void SelonDroits(bool complet) override;
+  void SelonDroits(bool complet) override { avenants_.SelonDroits(complet); }
+
+  void AfficherNouveau();
+  void Ecrire_Etat(data::CItem& contrat, const rules::Debut& debut) const;
+  rules::Debut DebutContrat() const;
+  rules::TempsTravail Temps() const;
+  bool HeuresPermises(const rules::TempsTravail& temps);
+  // Working time and frequency as they are displayed.
+  std::string DureeFreq() const { return Txt_DureeWContrat.Text() + Cbo_FreqWContrat.Text(); }
+  void Cmd_ElemDrtPub_Click();
   void Cmd_SuiviAnnuel_Click();
-  void Remplir_Grilles(const std::string& convention);
 
-  // The amendment shown.
-  screen::Label Etq_AvenantContrat{Page, "Etq_AvenantContrat", "Numéro Avenant"};
-  screen::TextField Txt_AvenantContrat{Page, "Txt_AvenantContrat", 3};
-  screen::UpDown Bdh_Avenant{Page, "Bdh_Avenant"};
-  screen::Label Etq_DatEffetContrat{Page, "Etq_DatEffetContrat", "Date d'effet"};
-  screen::TextField Txt_DatEffetContrat{Page, "Txt_DatEffetContrat", 10};
-  screen::Button Cmd_AjoutAvenant{Page, "Cmd_AjoutAvenant", "Ajouter"};
-  screen::Button Cmd_OKAvenant{Page, "Cmd_OKAvenant", "OK"};
-  screen::Button Cmd_AnnulerAvenant{Page, "Cmd_AnnulerAvenant", "Annuler"};
-  screen::Button Cmd_ImpAvenant{Page, "Cmd_ImpAvenant", "Imprimer"};
-  screen::Label Etq_QualifContrat{Page, "Etq_QualifContrat", "Qualif. Prof."};
-  screen::ComboBox Cbo_QualifContrat{Page, "Cbo_QualifContrat", true};
-  screen::Button Cmd_QualifPro{Page, "Cmd_QualifPro", "Ajouter Qualification"};
-  screen::Label Etq_RegroupBudget{Page, "Etq_RegroupBudget", "Regroup. budget"};
-  screen::TextField Txt_RegroupBudget{Page, "Txt_RegroupBudget", 0};
+  std::string DureeFreqInitiale_;
+  // The working times changed in states that are no longer shown, by their rank.
+  std::map<int, rules::TempsTravail> tempsQuittes_;
 
-  // Nomenclature of professions.
-  screen::Frame Cdr_PCS{Page, "Cdr_PCS", "Nomenclature P.C.S. "};
-  screen::Label Etq_CategPCSContrat{Cdr_PCS, "Etq_CategPCSContrat", "Catégorie"};
-  screen::ComboBox Cbo_CategPCSContrat{Cdr_PCS, "Cbo_CategPCSContrat", true};
-  screen::Label Etq_CodPCSContrat{Cdr_PCS, "Etq_CodPCSContrat", "Code P.C.S."};
-  screen::TextField Txt_CodPCSContrat{Cdr_PCS, "Txt_CodPCSContrat", 4};
-  screen::Label Etq_FoncPCSContrat{Cdr_PCS, "Etq_FoncPCSContrat", "Fonction"};
-  screen::ComboBox Cbo_FoncPCSContrat{Cdr_PCS, "Cbo_FoncPCSContrat", true};
+  Avenants avenants_{editeur_, *this, Page, sourdine_};
+  Qualification qualification_{editeur_, Page, sourdine_};
+  NomenclaturePCS pcs_{Session(), Page, sourdine_};
 
-  // Working time and modulation.
   screen::Label Etq_DureeWContrat{Page, "Etq_DureeWContrat", "Durée de travail"};
-  screen::TextField Txt_DureeWContrat{Page, "Txt_DureeWContrat", 8};
+  screen::TextField Txt_DureeWContrat{Page, "Txt_DureeWContrat", Duree.Largeur()};
   screen::Label Etq_FreqWContrat{Page, "Etq_FreqWContrat", "Fréquence"};
   screen::ComboBox Cbo_FreqWContrat{Page, "Cbo_FreqWContrat", false};
-  screen::Frame Cdr_Lissage{Page, "Cdr_Lissage", "Accord de modulation"};
-  screen::CheckBox Cac_Lissage{Cdr_Lissage, "Cac_Lissage", "Lissage des rémunérations"};
-  screen::CheckBox Cac_RetraitHeuresNeg{Cdr_Lissage, "Cac_RetraitHeuresNeg",
-                                        "Retrait des heures négatives"};
-  screen::CheckBox Cac_PaiementHeuresPos{Cdr_Lissage, "Cac_PaiementHeuresPos",
-                                         "Paiement des heures positives"};
-  screen::Button Cmd_SuiviAnnuel{Cdr_Lissage, "Cmd_SuiviAnnuel", "Suivi Contrat"};
-
-  // Career grid.
-  screen::Frame Cdr_Grille{Page, "Cdr_Grille", "Grille"};
-  screen::Label Etq_GrilleContrat{Cdr_Grille, "Etq_GrilleContrat",
-                                  "Grille déroulement de carrière"};
-  screen::ComboBox Cbo_GrilleContrat{Cdr_Grille, "Cbo_GrilleContrat", true};
-  screen::Label Etq_DepartGrilContrat{Cdr_Grille, "Etq_DepartGrilContrat",
-                                      "Date départ calcul de grille"};
-  screen::TextField Txt_DepartGrilContrat{Cdr_Grille, "Txt_DepartGrilContrat", 10};
-  screen::Label Etq_JourSusp{Cdr_Grille, "Etq_JourSusp", "Jours de suspension"};
-  screen::TextField Txt_JourSusp{Cdr_Grille, "Txt_JourSusp", 8};
-  screen::Label Etq_DatReference{Cdr_Grille, "Etq_DatReference", "Date référence"};
-  screen::TextField Txt_DatReference{Cdr_Grille, "Txt_DatReference", 10};
-  screen::Label Etq_CoefNivContrat{Cdr_Grille, "Etq_CoefNivContrat", "Coefficient / Niveau"};
-  screen::TextField Txt_CoefNivContrat{Cdr_Grille, "Txt_CoefNivContrat", 10};
-  screen::Label Etq_TauxHorContrat{Cdr_Grille, "Etq_TauxHorContrat", "Taux horaire"};
-  screen::TextField Txt_TauxHorContrat{Cdr_Grille, "Txt_TauxHorContrat", 10};
-  screen::Label Etq_Categorie{Cdr_Grille, "Etq_Categorie", "Catégorie"};
-  screen::TextField Txt_Categorie{Cdr_Grille, "Txt_Categorie", 10};
+  Modulation modulation_{Page, sourdine_};
+  GrilleCarriere grille_{editeur_, Page, sourdine_};
 
   // Seniority.
   screen::Frame Cdr_Anciennete{Page, "Cdr_Anciennete", "Ancienneté"};
   screen::Label Etq_DateAnciennete{Cdr_Anciennete, "Etq_DateAnciennete", "Date de départ"};
-  screen::TextField Txt_DateAnciennete{Cdr_Anciennete, "Txt_DateAnciennete", 10};
+  screen::TextField Txt_DateAnciennete{Cdr_Anciennete, "Txt_DateAnciennete", LongueurDate};
   screen::Label Etq_JourSuspAnc{Cdr_Anciennete, "Etq_JourSuspAnc", "Jours de suspension"};
-  screen::TextField Txt_JourSuspAnc{Cdr_Anciennete, "Txt_JourSuspAnc", 8};
+  screen::TextField Txt_JourSuspAnc{Cdr_Anciennete, "Txt_JourSuspAnc", Jours.Largeur()};
   screen::Label Etq_DatReferenceAnc{Cdr_Anciennete, "Etq_DatReferenceAnc", "Date référence"};
-  screen::TextField Txt_DatReferenceAnc{Cdr_Anciennete, "Txt_DatReferenceAnc", 10};
+  screen::TextField Txt_DatReferenceAnc{Cdr_Anciennete, "Txt_DatReferenceAnc", LongueurDate};
 
   // Comments and declarations.
   screen::Label Etq_Commentaire{Page, "Etq_Commentaire", "Commentaires"};
@@ -108,6 +103,9 @@ class OngletCaracteristiques : public Onglet {
   screen::Label Etq_CodePop{Page, "Etq_CodePop", "Code population rattachement prévoyance"};
   screen::TextField Txt_CodePop{Page, "Txt_CodePop", 0};
   screen::Button Cmd_ElemDrtPub{Page, "Cmd_ElemDrtPub", "Eléments droit public"};
+
+  DateReference anciennete_;
+  session::Zones zones_;
 };
 
 }  // namespace editor

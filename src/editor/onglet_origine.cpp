@@ -194,6 +194,11 @@ void OngletOrigine::Txt_DatDebContrat_LostFocus() {
   Txt_DatDebContrat.SetFocus();
 }
 
+void OngletOrigine::DemanderDebut() {
+  Refuser({"Vous devez renseigner la date de début du contrat.", Icone::Exclamation,
+           Txt_DatDebContrat.Nom()});
+}
+
 void OngletOrigine::Cmd_MotifCDD_Click() {
   dialogs::Frm_MotifCDD(editeur_.Services(), Dossier(), Txt_DatDebContrat.Text(),
                         {Convention(), Entite(), Employeur()})

@@ -25,6 +25,8 @@ class OngletOrigine : public Onglet {
   void RafraichirEmployeur();
   // Run by the frame on every tab change too.
   void Txt_DatDebContrat_LostFocus();
+  // The start of the contract is missing for what was to be done: says so, and goes to its box.
+  void DemanderDebut();
   // To the first field in which a new contract begins.
   void Commencer() { codes_.SetFocus(); }
 

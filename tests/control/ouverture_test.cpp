@@ -14,6 +14,9 @@ class Ouverture : public essai::Liste {
     compteur("003");
     article("ETABLISSEMENT", "001001", {{1, "Siège"}});
     article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
+    article("CONSTANTESPAIE", "1", {{10, "4800"}});
+    article("PCS", "56", {{1, "Services"}});
+    article("PCS", "563b", {{1, "Aide à domicile"}});
     for (int n = 1; n <= 3; ++n) {
       const std::string annee = std::to_string(2020 + n);
       contrat(n, "01/01/" + annee, "30/06/" + annee,
@@ -94,6 +97,12 @@ TEST_F(Ouverture, UneCreationSeMetEnTete) {
     user.Taper(*f.Find("Txt_AssocContrat"), "001");
     user.Taper(*f.Find("Txt_EmplEtabContrat"), "001");
     user.Taper(*f.Find("Txt_DatDebContrat"), "01/07/2023");
+    user.Onglet(f.Ong_Contrat, editor::Caracteristiques);
+    user.Taper(*f.Find("Cbo_QualifContrat"), "Agent");
+    user.Taper(*f.Find("Txt_CodPCSContrat"), "563b");
+    user.Taper(*f.Find("Txt_DureeWContrat"), "20");
+    user.Choisir(*f.Find("Cbo_FreqWContrat"), 0);
+    user.Taper(*f.Find("Txt_TauxHorContrat"), "12");
     hote.modales.Prevoir(
         [](screen::Form& reprise) { screen::User(reprise).Cliquer(*reprise.Find("Cmd_Annuler")); });
     EXPECT_EQ(user.Cliquer(f.Cmd_OK), Acte::Fait);

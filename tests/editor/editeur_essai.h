@@ -52,6 +52,7 @@ class Editeur : public ::testing::Test {
     session.Db = &db;
     article("COMPTEUR", "999", {{18, "1"}});
     article("PERIODESPAIE", "1", {{1, "202611"}});
+    article("CONSTANTESPAIE", "1", {{10, "4800"}});
     article("CIVILAIDANT", Aidant, {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
     libelles("ASSOCIATION", {{"001", "Aide du Val"}, {"002", "Bien Chez Soi"}});
     libelles("CONVENTIONCOL", {{"01", "Branche"}, {"03", "Collectif"}, {"07", "Public"}});
@@ -76,6 +77,8 @@ class Editeur : public ::testing::Test {
     article("ELTSPARTEMP", "00008", {{2, "R"}});
     libelles("PCS",
              {{"56", "Services"}, {"563b", "Aide à domicile"}, {"563c", "Employé de maison"}});
+    article("TABLES", "QUALIF", {{2, valeurs("Agent|Secrétaire|Cadre")}, {4, valeurs("10|20")}});
+    article("TABLES", "REGROUPBUDGET", {{2, valeurs("20|10")}, {3, valeurs("Siège|Terrain")}});
     data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
     const char* const lignes[][3] = {
         {"CDI", "Normal", "O"}, {"STG", "Stagiaire", "O"}, {"OLD", "Ancien", ""}};
@@ -127,6 +130,15 @@ class Editeur : public ::testing::Test {
   void ouvrirContrat(const Attributs& autres = {}) {
     contrat("00001001", autres);
     ouvrir("00001001");
+  }
+  // What the second tab of a new contract needs for its OK; the agreement gives the profession.
+  void caracteriser(const std::string& duree = "20") {
+    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques);
+    choisir(cbo("QualifContrat"), 0);
+    remplir(txt("DureeWContrat"), duree);
+    choisir(cbo("FreqWContrat"), 0);
+    remplir(txt("TauxHorContrat"), "12,02");
+    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Origine);
   }
   void quitter(screen::Reponse reponse) {
     hote.messages.Repondre(reponse);

@@ -21,6 +21,7 @@ class Enregistre : public essai::Editeur {
     taper(txt("AssocContrat"), "001");
     taper(txt("EmplEtabContrat"), employeur);
     remplir(txt("DatDebContrat"), debut);
+    caracteriser();
   }
   // The record's text with visible separators, "-" for none.
   std::string lu(const std::string& fichier, const std::string& cle) {

@@ -37,24 +37,32 @@ struct Route {
   std::string Contrat() const { return "CONTRAT " + aidant + numero; }
 };
 
+// What an amendment can change, and every contract must have.
+const std::string Caracteristiques =
+    "onglet 1\nchoisir Cbo_QualifContrat #0\ntaper Txt_DureeWContrat 20\n"
+    "choisir Cbo_FreqWContrat Hebdo\ntaper Txt_TauxHorContrat 12,02\n";
+
 const Route Reprise = {"00003",
                        "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
                        "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 001\n"
-                       "taper Txt_DatDebContrat 03/12/2026\ncliquer Cmd_OK\n",
+                       "taper Txt_DatDebContrat 03/12/2026\n" +
+                           Caracteristiques + "cliquer Cmd_OK\n",
                        "forme Frm_Reprise\ncliquer Cac_CpPerenne\ncliquer Cmd_Ok\n",
                        "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
-                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n"
-                       "cliquer Cmd_OK\n",
+                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n" +
+                           Caracteristiques + "cliquer Cmd_OK\n",
                        "002",
                        "003"};
 const Route Particulier = {"00002",
                            "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
                            "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
-                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
+                           "taper Txt_DatDebContrat 01/12/2026\n" +
+                               Caracteristiques + "cliquer Cmd_OK\n",
                            "",
                            "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
                            "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
-                           "taper Txt_DatDebContrat 01/12/2026\ncliquer Cmd_OK\n",
+                           "taper Txt_DatDebContrat 01/12/2026\n" +
+                               Caracteristiques + "cliquer Cmd_OK\n",
                            "001",
                            "002"};
 

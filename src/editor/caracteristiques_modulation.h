@@ -1,0 +1,48 @@
+#pragma once
+// The modulation agreement: monthly pay evened out over the year, and what becomes of the hours
+// above or below it. Only production staff with monthly pay has one; the frame is shown then.
+
+#include "data/citem.h"
+#include "screen/field.h"
+#include "session/sourdine.h"
+
+namespace editor {
+
+class Modulation {
+ public:
+  // `sourdine` is the tab's.
+  Modulation(screen::Frame& page, session::Sourdine& sourdine);
+
+  void Montrer(const data::CItem& contrat, int rang);
+  void MontrerNouveau();
+  // The treatment on file is kept while the boxes show what they showed.
+  void Ecrire(data::CItem& contrat, int rang) const;
+  void Ouvrir(bool ouverte);
+  // Pay by the hour has nothing to even out.
+  void Cesser() { Cac_Lissage.SetValue(0); }
+  // What the button of the annual follow-up opens.
+  void SurSuiviAnnuel(screen::Handler suite) { Cmd_SuiviAnnuel.Click = std::move(suite); }
+  bool LissageManque() const { return Cdr_Lissage.Visible() && Cac_Lissage.Value() == 0; }
+
+ private:
+  void Cac_Lissage_Click();
+  // The three boxes as one text.
+  std::string Cases() const;
+  std::string Traitement() const;
+
+  // As the boxes stand untouched, with their attributes; nothing is on file for a new contract.
+  bool surFichier_ = false;
+  std::string casesMontrees_;
+  std::string lissageSurFichier_;
+  std::string traitementSurFichier_;
+
+  screen::Frame Cdr_Lissage;
+  screen::CheckBox Cac_Lissage{Cdr_Lissage, "Cac_Lissage", "Lissage des rémunérations"};
+  screen::CheckBox Cac_RetraitHeuresNeg{Cdr_Lissage, "Cac_RetraitHeuresNeg",
+                                        "Retrait des heures négatives"};
+  screen::CheckBox Cac_PaiementHeuresPos{Cdr_Lissage, "Cac_PaiementHeuresPos",
+                                         "Paiement des heures positives"};
+  screen::Button Cmd_SuiviAnnuel{Cdr_Lissage, "Cmd_SuiviAnnuel", "Suivi Contrat"};
+};
+
+}  // namespace editor
