@@ -5,6 +5,7 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_reprise.h"
@@ -94,8 +95,9 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme());
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossierContrat);
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossierContrat);
-  for (screen::Form* forme :
-       std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs, &stage, &reprise}) {
+  dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossierContrat, {});
+  for (screen::Form* forme : std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs,
+                                                                  &stage, &reprise, &suivi}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }

@@ -16,6 +16,7 @@
 #include "control/ctr_contrat.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_reprise.h"
 #include "dialogs/frm_stage.h"
@@ -163,6 +164,13 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
 
   dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossier, jour(data::Contrat::DateDebut), {});
   capturer(album, bureau, motif, "motif-cdd");
+
+  dossier.CleContratCourant = liste.ClesContrats()(1);
+  dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossier, {});
+  capturer(album, bureau, suivi, "suivi-1");
+  suivi.Hide();
+  suivi.Ong_SuivContrat.SetTab(1 - suivi.Ong_SuivContrat.Tab());
+  capturer(album, bureau, suivi, "suivi-2");
 
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
   capturer(album, bureau, stage, "stage");

@@ -5,6 +5,7 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_ContratAnnuel.h"
 #include "ui_Frm_ElementsContrat.h"
 #include "ui_Frm_MotifCDD.h"
 #include "ui_Frm_MotifsEmbauche.h"
@@ -15,7 +16,10 @@
 #include "ui_OngletFin.h"
 #include "ui_OngletOrigine.h"
 #include "ui_OngletPaie.h"
+#include "ui_SuiviRemunere.h"
+#include "ui_SuiviTempsEffectif.h"
 #include "widget/apparence.h"
+#include "widget/lignes_suivi.h"
 
 namespace hote {
 
@@ -79,11 +83,23 @@ std::unique_ptr<QWidget> construireEditeur() {
   return racine;
 }
 
+std::unique_ptr<QWidget> construireSuivi() {
+  auto racine = std::make_unique<Fenetre>();
+  Ui::Frm_ContratAnnuel cadre;
+  cadre.setupUi(racine.get());
+  ajouterPage<Ui::SuiviRemunere>(*cadre.Ong_SuivContrat);
+  ajouterPage<Ui::SuiviTempsEffectif>(*cadre.Ong_SuivContrat);
+  appliquerApparence(*racine);
+  habillerSuivi(*racine);
+  return racine;
+}
+
 }  // namespace
 
 void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
+  bureau.Enregistrer("Frm_ContratAnnuel", construireSuivi);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);

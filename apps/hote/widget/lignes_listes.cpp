@@ -44,7 +44,9 @@ void LigneListe::paint(QPainter* pinceau, const QStyleOptionViewItem& option,
       cellule.palette.color(groupe(cellule), choisie ? QPalette::HighlightedText : QPalette::Text));
   pinceau->setClipRect(place, Qt::IntersectClip);
   pinceau->drawText(
-      place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+      place,
+      static_cast<int>(cellule.displayAlignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter |
+          Qt::TextSingleLine,
       cellule.fontMetrics.elidedText(cellule.text, cellule.textElideMode, place.width()));
   pinceau->restore();
   if (choisie || !cellule.state.testFlag(QStyle::State_HasFocus)) return;
