@@ -82,8 +82,9 @@ void CourbeSuivi::paintEvent(QPaintEvent*) {
   TracerLegende(pinceau, cadre);
   if (cumul_.empty()) return;
   TracerRepere(pinceau, cadre);
-  TracerSerie(pinceau, cadre, cumul_, Trait::Cumul);
+  // Where both run together the dashes lie over the full line.
   TracerSerie(pinceau, cadre, solde_, Trait::Solde);
+  TracerSerie(pinceau, cadre, cumul_, Trait::Cumul);
 }
 
 std::pair<double, double> CourbeSuivi::Etendue() const {
