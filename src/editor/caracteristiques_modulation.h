@@ -20,6 +20,8 @@ class Modulation {
   void Ouvrir(bool ouverte);
   // Pay by the hour has nothing to even out.
   void Cesser() { Cac_Lissage.SetValue(0); }
+  // What the button of the annual follow-up opens.
+  void SurSuiviAnnuel(screen::Handler suite) { Cmd_SuiviAnnuel.Click = std::move(suite); }
   bool LissageManque() const { return Cdr_Lissage.Visible() && Cac_Lissage.Value() == 0; }
 
  private:

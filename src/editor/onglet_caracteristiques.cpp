@@ -4,6 +4,7 @@
 
 #include "data/layouts/contrat.h"
 #include "data/nombre.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_elem_droit_public.h"
 #include "editor/editeur.h"
 #include "screen/attente.h"
@@ -36,6 +37,7 @@ OngletCaracteristiques::OngletCaracteristiques(Frm_ElementsContrat& editeur)
   for (const char* frequence : Frequences) Cbo_FreqWContrat.AddItem(frequence);
   zones_.Lier(Session());
   Cmd_ElemDrtPub.Click = [this] { Cmd_ElemDrtPub_Click(); };
+  modulation_.SurSuiviAnnuel([this] { Cmd_SuiviAnnuel_Click(); });
   Txt_DateAnciennete.LostFocus = [this] { anciennete_.QuitterDepart(); };
 }
 
@@ -106,6 +108,13 @@ void OngletCaracteristiques::ProposerSelonConvention(const std::string& conventi
 void OngletCaracteristiques::SelonSalaire(bool mensuel, bool production) {
   if (!mensuel) modulation_.Cesser();
   modulation_.Ouvrir(mensuel && production);
+}
+
+void OngletCaracteristiques::Cmd_SuiviAnnuel_Click() {
+  const auto& origine = editeur_.origine;
+  dialogs::Frm_ContratAnnuel(editeur_.Services(), Dossier(),
+                             {origine.Convention(), origine.Entite(), origine.Employeur()})
+      .ShowModal();
 }
 
 void OngletCaracteristiques::Cmd_ElemDrtPub_Click() {

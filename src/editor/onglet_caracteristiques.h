@@ -67,6 +67,7 @@ class OngletCaracteristiques : public Onglet {
   // Working time and frequency as they are displayed.
   std::string DureeFreq() const { return Txt_DureeWContrat.Text() + Cbo_FreqWContrat.Text(); }
   void Cmd_ElemDrtPub_Click();
+  void Cmd_SuiviAnnuel_Click();
 
   std::string DureeFreqInitiale_;
   // The working times changed in states that are no longer shown, by their rank.

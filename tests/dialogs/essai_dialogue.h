@@ -67,9 +67,7 @@ class EssaiDialogue : public ::testing::Test {
   std::string message() {
     const auto boite = hote.messages.Prendre();
     if (!boite) return "";
-    EXPECT_EQ(boite->titre.empty(), boite->texte ==
-                                        "Etes-vous sûr de vouloir quitter cette "
-                                        "création ?");
+    EXPECT_EQ(boite->titre.empty(), boite->texte == sansTitre);
     EXPECT_TRUE(boite->titre.empty() || boite->titre == "Message KORVALDIS");
     const char icone = "-IQEA"[static_cast<int>(boite->icone)];
     const char* const boutons[] = {"", "OA", "ON", "ONA"};
@@ -83,6 +81,9 @@ class EssaiDialogue : public ::testing::Test {
   static std::string actif(const screen::Form& form) {
     return form.Active() != nullptr ? form.Active()->Nom() : "-";
   }
+
+  // The one box without a title; "" for none.
+  std::string sansTitre = "Etes-vous sûr de vouloir quitter cette création ?";
 
   // 22/11/2026.
   screen::headless::Hote hote{21511};

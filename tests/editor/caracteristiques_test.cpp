@@ -100,7 +100,8 @@ TEST_F(Tab, MontreUnContrat) {
              "Txt_Commentaire2", "Txt_NormCrc", "Cac_ChgtSitAdm", "Txt_CodePop"}),
       " 30 <31/03/2026> a b CRC1 1 7");
   EXPECT_EQ(etq("RangAvenant").Libelle(), "Aucun avenant");
-  EXPECT_FALSE(cmd("SuiviAnnuel").Enabled() || cmd("ImpAvenant").Enabled());
+  EXPECT_TRUE(cmd("SuiviAnnuel").Enabled());
+  EXPECT_FALSE(cmd("ImpAvenant").Enabled());
 }
 
 // "0" and "" are both no suspension; a private employer has no budget group.

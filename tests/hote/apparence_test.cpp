@@ -16,7 +16,7 @@ namespace {
 constexpr const char* Formes[] = {"Ctr_Contrat",        "Frm_ElementsContrat", "Frm_MotifCDD",
                                   "Frm_MotifsEmbauche", "Frm_Stage",           "Frm_Reprise",
                                   "Frm_QualifPro",      "Frm_ElemDroitPublic", "Frm_RubSaisie",
-                                  "Frm_CommentBull"};
+                                  "Frm_CommentBull",    "Frm_ContratAnnuel"};
 // A screen of 1366x768 at a scale of one and a half, less its title bar, its task bar and the
 // host's menu; and the width in which a page stands without scrolling sideways on a screen of
 // 1024.
@@ -122,11 +122,11 @@ INSTANTIATE_TEST_SUITE_P(Polices, Apparence, ::testing::Values(1.0, 1.5));
 TEST_F(Apparence, FieldsWithoutAPlaceStayOutOfSight) {
   const auto editeur = montrer("Frm_ElementsContrat");
   const auto motif = montrer("Frm_MotifCDD");
-  const std::pair<QWidget*, const char*> caches[] = {{editeur.get(), "Etq_CodeAidant"},
-                                                     {editeur.get(), "Etq_NomPrenomAidant"},
-                                                     {editeur.get(), "Cbo_PeriodeEffet"},
-                                                     {motif.get(), "Txt_CodeAbs"},
-                                                     {motif.get(), "Txt_AidantRemplContrat"}};
+  const auto suivi = montrer("Frm_ContratAnnuel");
+  const std::pair<QWidget*, const char*> caches[] = {
+      {editeur.get(), "Etq_CodeAidant"},   {editeur.get(), "Etq_NomPrenomAidant"},
+      {editeur.get(), "Cbo_PeriodeEffet"}, {suivi.get(), "Lst_CopieDiff"},
+      {motif.get(), "Txt_CodeAbs"},        {motif.get(), "Txt_AidantRemplContrat"}};
   for (const auto& [racine, nom] : caches) {
     auto* const champ = racine->findChild<QWidget*>(nom);
     ASSERT_NE(champ, nullptr) << nom;

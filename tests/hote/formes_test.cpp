@@ -7,6 +7,7 @@
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "dialogs/frm_comment_bull.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
@@ -110,9 +111,10 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_CommentBull commentaires(bureau.Plateforme(), dossierContrat);
   dialogs::Frm_TpsIndem indemnisation(bureau.Plateforme(), dossierContrat, "");
   dialogs::Frm_VESPAMOI telegestion(bureau.Plateforme(), {});
+  dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossierContrat, {});
   for (screen::Form* forme : std::initializer_list<screen::Form*>{
            &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic, &rubriques,
-           &commentaires, &indemnisation, &telegestion}) {
+           &commentaires, &indemnisation, &telegestion, &suivi}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }

@@ -17,6 +17,7 @@
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "dialogs/frm_comment_bull.h"
+#include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_elem_droit_public.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_reprise.h"
@@ -169,6 +170,12 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
 
   dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), dossier, 1);
   capturer(album, bureau, droitPublic, "droit-public");
+  dossier.CleContratCourant = liste.ClesContrats()(1);
+  dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossier, {});
+  capturer(album, bureau, suivi, "suivi-1");
+  suivi.Hide();
+  suivi.Ong_SuivContrat.SetTab(1 - suivi.Ong_SuivContrat.Tab());
+  capturer(album, bureau, suivi, "suivi-2");
 
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
   capturer(album, bureau, stage, "stage");

@@ -6,6 +6,7 @@
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
 #include "ui_Frm_CommentBull.h"
+#include "ui_Frm_ContratAnnuel.h"
 #include "ui_Frm_ElemDroitPublic.h"
 #include "ui_Frm_ElementsContrat.h"
 #include "ui_Frm_MotifCDD.h"
@@ -21,7 +22,10 @@
 #include "ui_OngletFin.h"
 #include "ui_OngletOrigine.h"
 #include "ui_OngletPaie.h"
+#include "ui_SuiviRemunere.h"
+#include "ui_SuiviTempsEffectif.h"
 #include "widget/apparence.h"
+#include "widget/lignes_suivi.h"
 
 namespace hote {
 
@@ -85,11 +89,23 @@ std::unique_ptr<QWidget> construireEditeur() {
   return racine;
 }
 
+std::unique_ptr<QWidget> construireSuivi() {
+  auto racine = std::make_unique<Fenetre>();
+  Ui::Frm_ContratAnnuel cadre;
+  cadre.setupUi(racine.get());
+  ajouterPage<Ui::SuiviRemunere>(*cadre.Ong_SuivContrat);
+  ajouterPage<Ui::SuiviTempsEffectif>(*cadre.Ong_SuivContrat);
+  appliquerApparence(*racine);
+  habillerSuivi(*racine);
+  return racine;
+}
+
 }  // namespace
 
 void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
+  bureau.Enregistrer("Frm_ContratAnnuel", construireSuivi);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
   bureau.Enregistrer("Frm_QualifPro", construire<Ui::Frm_QualifPro, Fenetre>);

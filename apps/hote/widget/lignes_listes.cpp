@@ -44,7 +44,8 @@ void LigneListe::paint(QPainter* pinceau, const QStyleOptionViewItem& option,
       cellule.palette.color(groupe(cellule), choisie ? QPalette::HighlightedText : QPalette::Text));
   pinceau->setClipRect(place, Qt::IntersectClip);
   const bool nombres = cellule.widget != nullptr && cellule.widget->property(ADroite).toBool();
-  const int cote = nombres ? Qt::AlignRight : Qt::AlignLeft;
+  const int cote = nombres ? Qt::AlignRight
+                           : static_cast<int>(cellule.displayAlignment & Qt::AlignHorizontal_Mask);
   pinceau->drawText(
       place, Qt::AlignVCenter | cote | Qt::TextSingleLine,
       cellule.fontMetrics.elidedText(cellule.text, cellule.textElideMode, place.width()));
