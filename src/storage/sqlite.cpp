@@ -6,32 +6,63 @@
 
 namespace storage {
 
-SqliteStorage::SqliteStorage(std::unique_ptr<Moteur> moteur) : moteur_(std::move(moteur)) {}
+SqliteStorage::SqliteStorage(std::unique_ptr<Moteur> moteur, const data::Poste& poste,
+                             const SqliteOptions& options)
+    : moteur_(std::move(moteur)), poste_(poste), options_(options) {}
 SqliteStorage::~SqliteStorage() = default;
 
 std::unique_ptr<SqliteStorage> SqliteStorage::Ouvrir(const std::string& chemin,
                                                      const data::Poste& poste,
                                                      const SqliteOptions& options) {
-  return std::unique_ptr<SqliteStorage>(new SqliteStorage(
-      std::make_unique<Moteur>(ouvrirFichier(chemin, options.attenteMs), poste, options)));
+  Veille veille(chemin);
+  auto moteur =
+      std::make_unique<Moteur>(ouvrirFichier(chemin, options), std::move(veille), poste, options);
+  moteur->Garde().Exiger({"Ouverture de"});
+  return std::unique_ptr<SqliteStorage>(new SqliteStorage(std::move(moteur), poste, options));
 }
 
 std::unique_ptr<SqliteStorage> SqliteStorage::OuvrirEnLecture(const std::string& chemin,
                                                               const data::Poste& poste,
                                                               const SqliteOptions& options) {
-  return std::unique_ptr<SqliteStorage>(new SqliteStorage(
-      std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options.attenteMs), poste, options)));
+  Veille veille(chemin);
+  return std::unique_ptr<SqliteStorage>(
+      new SqliteStorage(std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options),
+                                                 std::move(veille), poste, options),
+                        poste, options));
 }
 
 std::unique_ptr<SqliteStorage> SqliteStorage::Creer(const std::string& chemin,
                                                     const data::Poste& poste,
                                                     const SqliteOptions& options) {
+  auto connexion = creerFichier(chemin, options);
   return std::unique_ptr<SqliteStorage>(new SqliteStorage(
-      std::make_unique<Moteur>(creerFichier(chemin, options.attenteMs), poste, options)));
+      std::make_unique<Moteur>(std::move(connexion), Veille(chemin), poste, options), poste,
+      options));
+}
+
+SqliteStorage::Moteur& SqliteStorage::Lecteur() {
+  if (moteur_->Perime()) {
+    const std::string& chemin = moteur_->Lien().Chemin();
+    moteur_ = std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options_), Veille(chemin),
+                                       poste_, options_);
+  }
+  return *moteur_;
+}
+
+const std::string& SqliteStorage::Avis() const {
+  return moteur_->Lien().Avis();
+}
+
+std::string SqliteStorage::Defaut() const {
+  return moteur_->Garde().Defaut();
+}
+
+bool SqliteStorage::Remplace() const {
+  return moteur_->Garde().Remplace();
 }
 
 bool SqliteStorage::Get(std::string_view fichier, std::string_view cle, std::string& texte) {
-  return moteur_->Lire({"Lecture", fichier, cle}, texte);
+  return Lecteur().Lire({"Lecture", fichier, cle}, texte);
 }
 
 void SqliteStorage::Put(std::string_view fichier, std::string_view cle, std::string_view texte) {
@@ -49,16 +80,16 @@ bool SqliteStorage::Erase(std::string_view fichier, std::string_view cle) {
 
 void SqliteStorage::Scan(std::string_view fichier, const data::KeyRange& cles,
                          const Visiteur& visiteur) {
-  if (!cles.Vide()) moteur_->Parcourir({"Parcours", fichier}, cles, visiteur);
+  if (!cles.Vide()) Lecteur().Parcourir({"Parcours", fichier}, cles, visiteur);
 }
 
 std::vector<data::FichierCompte> SqliteStorage::Fichiers() {
-  return moteur_->Compter();
+  return Lecteur().Compter();
 }
 
 std::vector<data::AncienTexte> SqliteStorage::Historique(std::string_view fichier,
                                                          std::string_view cle) {
-  return moteur_->Anciens({"Lecture de l'historique", fichier, cle});
+  return Lecteur().Anciens({"Lecture de l'historique", fichier, cle});
 }
 
 void SqliteStorage::EnUnBloc(const std::function<void()>& travail) {
@@ -68,7 +99,9 @@ void SqliteStorage::EnUnBloc(const std::function<void()>& travail) {
 void SqliteStorage::Verifier(const std::function<void(const Dommage&)>& signaler,
                              const std::function<void(long)>& avance) {
   moteur_->ExigerRepos();
-  verifierFichier(moteur_->Lien(), signaler, avance);
+  Connexion& lien = Lecteur().Lien();
+  verifierFichier(lien, signaler, avance);
+  lien.ExigerTenue({"Contrôle de"});
 }
 
 }  // namespace storage

@@ -9,6 +9,7 @@
 
 #include "storage/sqlite.h"
 #include "storage/sqlite_connexion.h"
+#include "storage/veille.h"
 
 namespace storage {
 
@@ -42,8 +43,10 @@ class ReserveRequetes {
 
 class SqliteStorage::Moteur {
  public:
-  Moteur(std::unique_ptr<Connexion> connexion, const data::Poste& poste,
+  // `veille` was made before `connexion`.
+  Moteur(std::unique_ptr<Connexion> connexion, Veille veille, const data::Poste& poste,
          const SqliteOptions& options);
+  ~Moteur();
 
   bool Lire(const Acte& acte, std::string& texte);
   void Parcourir(const Acte& acte, const data::KeyRange& cles, const Visiteur& visiteur);
@@ -58,6 +61,9 @@ class SqliteStorage::Moteur {
   void EnUnBloc(const std::function<void()>& travail);
 
   Connexion& Lien() { return *connexion_; }
+  const Veille& Garde() const { return veille_; }
+  // The file has changed under a reader that takes no locks, and nothing is being read.
+  bool Perime() const { return parcours_ == 0 && connexion_->Perimee(); }
   // Throws std::logic_error when a block or a scan is under way.
   void ExigerRepos() const;
 
@@ -66,6 +72,7 @@ class SqliteStorage::Moteur {
   void ExigerBlocSain(const Acte& acte);
 
   std::unique_ptr<Connexion> connexion_;
+  Veille veille_;
   const data::Poste& poste_;
   Requete lire_;
   Requete poser_;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "storage/sqlite.h"
 #include "storage/sqlite_connexion.h"
 
 namespace storage {
@@ -20,12 +21,14 @@ inline constexpr std::int64_t kApplication = 0x43545254;  // "CTRT"
 inline constexpr std::int64_t kVersion = 1;
 
 // Of an existing data file, to read and write.
-std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, int attenteMs);
+std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, const SqliteOptions& options);
 
-// Of an existing data file, to read only, on a place that may be read-only itself.
-std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin, int attenteMs);
+// Of an existing data file, to read only. Who may write takes part like a writer, so that the last
+// to leave leaves one whole file; who may not, or finds the disk full, reads without a trace.
+std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
+                                                  const SqliteOptions& options);
 
 // Of a new data file without records. Refuses a path that exists; leaves nothing when it fails.
-std::unique_ptr<Connexion> creerFichier(const std::string& chemin, int attenteMs);
+std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteOptions& options);
 
 }  // namespace storage
