@@ -11,6 +11,9 @@ int creer(Contexte& contexte, const Arguments& arguments);
 int fichiers(Contexte& contexte, const Arguments& arguments);
 int verifierBase(Contexte& contexte, const Arguments& arguments);
 int demo(Contexte& contexte, const Arguments& arguments);
+// Copies of it.
+int copier(Contexte& contexte, const Arguments& arguments);
+int restaurer(Contexte& contexte, const Arguments& arguments);
 // JSON Lines.
 int importer(Contexte& contexte, const Arguments& arguments);
 int exporter(Contexte& contexte, const Arguments& arguments);

@@ -43,7 +43,7 @@ int select(Contexte& contexte, const Arguments& arguments) {
   // Both are read before the file is opened: a mistyped query needs no data to be refused.
   const std::string fichier(data::parseQuery(question).file);
   const int colonnes = static_cast<int>(data::parseFieldList(fichier, champs).size());
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   data::Db db(base.Partage());
   // The key goes before the columns asked for, so that no row is empty: an item cuts empty ends.
   const data::CItem rangees = db.Selectionner(question, fichier, "0 " + champs);

@@ -2,13 +2,21 @@
 
 namespace base {
 
-Base::Base(const Arguments& arguments, Acces acces) {
+storage::SqliteOptions optionsStockage(const Arguments& arguments) {
+  storage::SqliteOptions options;
+  options.reseauAdmis = arguments.Donne("--meme-en-reseau");
+  return options;
+}
+
+Base::Base(Contexte& contexte, const Arguments& arguments, Acces acces) {
   const std::string chemin = arguments.Texte("BASE");
+  const storage::SqliteOptions options = optionsStockage(arguments);
   if (acces == Acces::Lecture) {
-    stockage_ = storage::SqliteStorage::OuvrirEnLecture(chemin, poste_);
+    stockage_ = storage::SqliteStorage::OuvrirEnLecture(chemin, poste_, options);
   } else {
-    stockage_ = storage::SqliteStorage::Ouvrir(chemin, poste_);
+    stockage_ = storage::SqliteStorage::Ouvrir(chemin, poste_, options);
   }
+  if (!stockage_->Avis().empty()) contexte.erreurs << stockage_->Avis() << '\n';
 }
 
 }  // namespace base

@@ -16,7 +16,9 @@ using data::NumeroErreur;
 using data::StoreError;
 
 // Says nothing of the command verifier, which shows this text too.
-constexpr std::string_view kRestaurer = "Arrêtez la saisie et restaurez la dernière sauvegarde.";
+constexpr std::string_view kRestaurer =
+    "Arrêtez la saisie, fermez tous les programmes qui utilisent le fichier, et remettez la "
+    "dernière sauvegarde par la commande restaurer de contrat-base.";
 
 // Result codes by their low byte, unless the whole code has a row of its own.
 struct Traduction {
@@ -25,7 +27,7 @@ struct Traduction {
   std::string_view suite;
 };
 constexpr std::string_view kOccupe =
-    "un autre poste garde le fichier occupé. Réessayez dans un instant.";
+    "un autre programme garde le fichier occupé. Réessayez dans un instant.";
 constexpr std::string_view kLectureSeule =
     "le fichier ou son dossier ne peut pas être modifié. Demandez le droit d'y écrire, ou "
     "copiez le fichier à un endroit où vous l'avez.";

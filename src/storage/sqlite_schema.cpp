@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "storage/reseau.h"
 #include "storage/sqlite_journal.h"
 #include "storage/sqlite_pages.h"
 
@@ -91,7 +92,8 @@ Entete lireEntete(const Connexion& connexion) {
   if (code == SQLITE_OK && octets == 0) {
     refuser(NumeroErreur::PasUneBase, connexion,
             "le fichier est vide. Si sa création a été interrompue, supprimez-le et créez-le de "
-            "nouveau ; sinon, restaurez la dernière sauvegarde.");
+            "nouveau ; sinon, remettez la dernière sauvegarde par la commande restaurer de "
+            "contrat-base.");
   }
   if (code == SQLITE_OK && octets < kOctetsEntete) {
     refuser(NumeroErreur::PasUneBase, connexion,
@@ -141,8 +143,8 @@ void verifierContenu(Connexion& connexion) {
                        "('article', 'ancien')",
                        kOuverture) != 2) {
     refuser(NumeroErreur::PasUneBase, connexion,
-            "il lui manque les tables d'un fichier de données. Vérifiez le chemin, ou restaurez "
-            "la dernière sauvegarde.");
+            "il lui manque les tables d'un fichier de données. Vérifiez le chemin, ou remettez "
+            "la dernière sauvegarde par la commande restaurer de contrat-base.");
   }
   verifierVersion(connexion, connexion.Nombre("PRAGMA user_version", kOuverture));
 }
@@ -264,13 +266,20 @@ void reserverChemin(const std::string& chemin) {
   }
 }
 
-std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attenteMs) {
+// Of our page size, with room for the seals.
+std::unique_ptr<Connexion> enPages(const std::string& chemin, const std::string& nom,
+                                   int attenteMs) {
   auto connexion =
-      std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
+      std::make_unique<Connexion>(cibleDe(chemin), nom, kModes | SQLITE_OPEN_READWRITE);
   connexion->Executer(("PRAGMA page_size = " + std::to_string(kOctetsPage)).c_str(), kCreation);
   int reserve = kOctetsSceau;
   sqlite3_file_control(connexion->Db(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve);
   regler(*connexion, attenteMs, kCreation);
+  return connexion;
+}
+
+std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attenteMs) {
+  auto connexion = enPages(chemin, chemin, attenteMs);
   const std::string tables =
       "PRAGMA auto_vacuum = NONE; BEGIN IMMEDIATE; PRAGMA application_id = " +
       std::to_string(kApplication) + "; PRAGMA user_version = " + std::to_string(kVersion) + ";" +
@@ -287,6 +296,7 @@ std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attente
 
 std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, const SqliteOptions& options) {
   verifierChemin(chemin);
+  if (!options.reseauAdmis) refuserReseau(chemin);
   auto connexion =
       std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
   verifierEntete(*connexion);
@@ -303,6 +313,7 @@ std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, const Sqlite
 std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
                                                   const SqliteOptions& options) {
   verifierChemin(chemin);
+  if (!options.reseauAdmis) refuserReseau(chemin);
   if (peutPartager(chemin)) {
     try {
       return enPartage(chemin, options.attenteMs);
@@ -318,6 +329,7 @@ std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
 }
 
 std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteOptions& options) {
+  if (!options.reseauAdmis) refuserReseau(chemin);
   reserverChemin(chemin);
   try {
     return remplirNouveau(chemin, options.attenteMs);
@@ -327,6 +339,20 @@ std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteO
     }
     throw;
   }
+}
+
+std::unique_ptr<Connexion> creerVide(const std::string& chemin, const std::string& nom) {
+  reserverChemin(chemin);
+  return enPages(chemin, nom, 0);
+}
+
+std::unique_ptr<Connexion> pourRemplacer(const std::string& chemin) {
+  auto connexion =
+      std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
+  if (sqlite3_db_readonly(connexion->Db(), "main") == 1 || !dossierInscriptible(chemin)) {
+    connexion->Echouer(SQLITE_READONLY, {"Restauration de"});
+  }
+  return connexion;
 }
 
 }  // namespace storage

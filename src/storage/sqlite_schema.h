@@ -31,4 +31,11 @@ std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
 // Of a new data file without records. Refuses a path that exists; leaves nothing when it fails.
 std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteOptions& options);
 
+// An empty file of our page size at that new path, to be filled by a copy; `nom` is what errors
+// call it.
+std::unique_ptr<Connexion> creerVide(const std::string& chemin, const std::string& nom);
+// Of a file, sound or not, that another will replace: nothing of it is read. StoreError
+// LectureSeule when it or its folder cannot be written.
+std::unique_ptr<Connexion> pourRemplacer(const std::string& chemin);
+
 }  // namespace storage

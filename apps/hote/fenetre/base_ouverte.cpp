@@ -12,14 +12,25 @@ namespace {
 
 constexpr int AttenteEcritureMs = 2000;
 
-}  // namespace
-
-std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste) {
+std::unique_ptr<data::Storage> ouvrir(const std::string& chemin, const data::Poste& poste,
+                                      bool reseauAdmis) {
   storage::SqliteOptions options;
   options.attenteMs = AttenteEcritureMs;
+  options.reseauAdmis = reseauAdmis;
   auto stockage = storage::SqliteStorage::Ouvrir(chemin, poste, options);
   if (!stockage->Avis().empty()) informer(versQt(stockage->Avis()));
   return stockage;
+}
+
+}  // namespace
+
+std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste) {
+  return ouvrir(chemin, poste, false);
+}
+
+std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
+                                                    const data::Poste& poste) {
+  return ouvrir(chemin, poste, true);
 }
 
 BaseOuverte::BaseOuverte(const QString& chemin, const data::Poste& poste, const Ouvreur& ouvrir)

@@ -18,6 +18,9 @@ using Ouvreur = std::function<std::unique_ptr<data::Storage>(const std::string& 
                                                              const data::Poste& poste)>;
 // The embedded store. A write waits for another program 2 seconds at most: the window waits too.
 std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste);
+// The same in a network folder, too, for who knows that one station alone opens it.
+std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
+                                                    const data::Poste& poste);
 
 class BaseOuverte : public QObject {
   Q_OBJECT
