@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <memory>
 #include <new>
@@ -77,6 +78,9 @@ bool estPage(int octets, sqlite3_int64 position) {
   return octets == kOctetsPage && position % kOctetsPage == 0;
 }
 
+// See refusDuSysteme.
+thread_local int refusSysteme = 0;
+
 int taille(sqlite3_file* f, sqlite3_int64* octets) {
   return dessous(f)->pMethods->xFileSize(dessous(f), octets);
 }
@@ -111,9 +115,14 @@ int lire(sqlite3_file* fichier, void* tampon, int octets, sqlite3_int64 position
   return code;
 }
 
+int ecrireDessous(sqlite3_file* fichier, const void* tampon, int octets, sqlite3_int64 position) {
+  const int code = dessous(fichier)->pMethods->xWrite(dessous(fichier), tampon, octets, position);
+  refusSysteme = code == SQLITE_OK ? 0 : errno;
+  return code;
+}
+
 int ecrire(sqlite3_file* fichier, const void* tampon, int octets, sqlite3_int64 position) {
-  const auto xWrite = dessous(fichier)->pMethods->xWrite;
-  if (!estPage(octets, position)) return xWrite(dessous(fichier), tampon, octets, position);
+  if (!estPage(octets, position)) return ecrireDessous(fichier, tampon, octets, position);
   std::array<char, kOctetsPage> scellee;
   std::copy_n(static_cast<const char*>(tampon), kContenu, scellee.begin());
   OctetsMarque marque{};
@@ -126,7 +135,7 @@ int ecrire(sqlite3_file* fichier, const void* tampon, int octets, sqlite3_int64 
   const Sceau sceau = sceauDe(scellee.data(), position / kOctetsPage + 1);
   std::copy(sceau.begin(), sceau.end(), scellee.begin() + kContenu);
   if (position == 0) std::copy(marque.begin(), marque.end(), scellee.begin() + kLieuMarque);
-  return xWrite(dessous(fichier), scellee.data(), octets, position);
+  return ecrireDessous(fichier, scellee.data(), octets, position);
 }
 
 int lireJournal(sqlite3_file* fichier, void* tampon, int octets, sqlite3_int64 position) {
@@ -146,7 +155,7 @@ int ecrireJournal(sqlite3_file* fichier, const void* tampon, int octets, sqlite3
       if (code != SQLITE_OK) return code;
     }
   }
-  return dessous(fichier)->pMethods->xWrite(dessous(fichier), tampon, octets, position);
+  return ecrireDessous(fichier, tampon, octets, position);
 }
 
 int commander(sqlite3_file* fichier, int demande, void* valeur) {
@@ -311,6 +320,10 @@ sqlite3_vfs* enregistree() {
 const char* nomVfsPages() {
   static const sqlite3_vfs* const vfs = enregistree();
   return vfs == nullptr ? nullptr : vfs->zName;
+}
+
+int refusDuSysteme() {
+  return refusSysteme;
 }
 
 std::int64_t derniereMauvaisePage(sqlite3* db) {

@@ -39,6 +39,10 @@ struct Tailles {
 };
 Tailles taillesFichier(sqlite3* db);
 
+// Why the system refused this thread's last write, an errno value; 0 when it did not. SQLite itself
+// does not keep it when the write ends a transaction.
+int refusDuSysteme();
+
 // The number from 1 of the last page of `db` whose seal was found broken since the last call, 0
 // when there was none.
 std::int64_t derniereMauvaisePage(sqlite3* db);

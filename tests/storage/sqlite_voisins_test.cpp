@@ -168,6 +168,22 @@ TEST_F(Voisins, AFullDiskIsStillRead) {
   EXPECT_EQ(essai::ailleurs(lire), "CONTRAT[1=a 2=b]");
 }
 
+// The same limit, met by a write: an error like another, and what stood stands.
+TEST_F(Voisins, AWriteBeyondALimitIsSaidAsWhatItIs) {
+  EXPECT_EQ(essai::ailleurs([&]() -> std::string {
+              const auto store = Ouvrir();
+              const rlimit limite{300000, 300000};
+              setrlimit(RLIMIT_FSIZE, &limite);
+              std::string message;
+              std::string texte =
+                  refus([&] { store->Put("CONTRAT", "2", std::string(400000, 'x')); }, &message);
+              if (message.find("la taille que ce poste permet") == message.npos) return message;
+              store->Put("CONTRAT", "3", "c");
+              return texte + " " + etat(*store);
+            }),
+            "DisquePlein CONTRAT 2 CONTRAT[1=a 3=c]");
+}
+
 // A backup put over the file after a crash: the log beside it is the former file's.
 TEST_F(Voisins, ALogIsNeverLaidOverAnotherFile) {
   const std::string sauvegarde = dossier_.Chemin("sauvegarde");
