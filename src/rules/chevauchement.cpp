@@ -74,8 +74,9 @@ Voisinage VerifContratExist(data::Db& db, const Portee& portee, const Dates& dat
                 resultat.finContratConflit);
       return resultat;
     }
-    if (autre.fin && *autre.fin<dates.debut&& * autre.fin> resultat.derniereFinAvant) {
-      resultat.derniereFinAvant = *autre.fin;
+    const long finAutre = autre.Fin();
+    if (finAutre < dates.debut && finAutre > resultat.derniereFinAvant) {
+      resultat.derniereFinAvant = finAutre;
     }
     if (dates.fin && autre.debut > *dates.fin && autre.debut < resultat.prochainDebutApres) {
       resultat.prochainDebutApres = autre.debut;
