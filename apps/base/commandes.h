@@ -12,6 +12,9 @@ int fichiers(Contexte& contexte, const Arguments& arguments);
 int verifierBase(Contexte& contexte, const Arguments& arguments);
 int reparer(Contexte& contexte, const Arguments& arguments);
 int demo(Contexte& contexte, const Arguments& arguments);
+// Copies of it.
+int copier(Contexte& contexte, const Arguments& arguments);
+int restaurer(Contexte& contexte, const Arguments& arguments);
 // JSON Lines.
 int importer(Contexte& contexte, const Arguments& arguments);
 int exporter(Contexte& contexte, const Arguments& arguments);

@@ -58,7 +58,7 @@ void ecrireAncien(std::string& sortie, const data::AncienTexte& ancien) {
 }  // namespace
 
 int lire(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   const std::string texte = texteDemande(base.Stockage(), arguments);
   std::string sortie;
   if (arguments.Donne("--json")) {
@@ -86,14 +86,14 @@ int ecrire(Contexte& contexte, const Arguments& arguments) {
                             std::to_string(refus.Colonne()) + " : " + refus.what() +
                             ". Rien n'a été écrit.");
   }
-  Base base(arguments, Acces::Ecriture, &contexte);
+  Base base(contexte, arguments, Acces::Ecriture);
   base.Stockage().Put(arguments.Texte("FICHIER"), arguments.Texte("CLE"), texte);
   contexte.Ecrit(nomArticle(arguments) + " est écrit.\n");
   return Fait;
 }
 
 int historique(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   const auto anciens =
       base.Stockage().Historique(arguments.Texte("FICHIER"), arguments.Texte("CLE"));
   // Without history the record must at least be there: a mistyped key is no answer.
@@ -112,7 +112,7 @@ int historique(Contexte& contexte, const Arguments& arguments) {
 
 int retablir(Contexte& contexte, const Arguments& arguments) {
   const long numero = arguments.Entier("N", 1, 0);
-  Base base(arguments, Acces::Ecriture, &contexte);
+  Base base(contexte, arguments, Acces::Ecriture);
   // One block, so that no other station writes the record in between.
   base.Stockage().EnUnBloc([&] {
     const auto ancien = ancienTexte(base.Stockage(), arguments, numero);

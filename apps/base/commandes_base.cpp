@@ -60,9 +60,10 @@ std::string resume(long anomalies) {
 }
 
 // Writes the demonstration records, and takes the new file away again when that fails.
-long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::OptionsDemo& options) {
+long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::OptionsDemo& options,
+                 const storage::SqliteOptions& stockageOptions) {
   const data::PosteSysteme poste;
-  auto stockage = storage::SqliteStorage::Creer(chemin, poste);
+  auto stockage = storage::SqliteStorage::Creer(chemin, poste, stockageOptions);
   try {
     Progres progres(contexte.erreurs, contexte.terminal, "Démonstration, personnes");
     stockage->EnUnBloc([&] {
@@ -85,13 +86,13 @@ long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::Opti
 int creer(Contexte& contexte, const Arguments& arguments) {
   const std::string chemin = arguments.Texte("BASE");
   const data::PosteSysteme poste;
-  storage::SqliteStorage::Creer(chemin, poste);
+  storage::SqliteStorage::Creer(chemin, poste, optionsStockage(arguments));
   contexte.Ecrit(chemin + " est créé, sans article.\n");
   return Fait;
 }
 
 int fichiers(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   std::string sortie;
   for (const auto& fichier : base.Stockage().Fichiers()) {
     const data::FichierConnu* const connu = data::fichierConnu(fichier.nom);
@@ -104,7 +105,7 @@ int fichiers(Contexte& contexte, const Arguments& arguments) {
 }
 
 int verifierBase(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   Constats constats(contexte);
   Progres pages(contexte.erreurs, contexte.terminal, "Vérification des pages, textes lus");
   constats.Pendant(pages);
@@ -135,7 +136,7 @@ int demo(Contexte& contexte, const Arguments& arguments) {
   options.aidants = static_cast<int>(aidants);
   options.graine = static_cast<unsigned long>(
       arguments.Entier("--graine", 0, static_cast<long>(options.graine)));
-  const long articles = remplirDemo(contexte, chemin, options);
+  const long articles = remplirDemo(contexte, chemin, options, optionsStockage(arguments));
   contexte.Ecrit(chemin + " est créé, " + std::to_string(articles) + " articles.\n");
   return Fait;
 }

@@ -160,7 +160,7 @@ int importer(Contexte& contexte, const Arguments& arguments) {
   if (std::error_code ignoree; source != "-" && std::filesystem::is_directory(source, ignoree)) {
     throw Echec(Panne, source + " est un dossier. Donnez un fichier JSON Lines.");
   }
-  Base base(arguments, Acces::Ecriture, &contexte);
+  Base base(contexte, arguments, Acces::Ecriture);
   if (source == "-") {
     return importerDepuis(contexte, base.Stockage(), "entrée standard", contexte.entree);
   }
@@ -173,7 +173,7 @@ int importer(Contexte& contexte, const Arguments& arguments) {
 }
 
 int exporter(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   const auto voulus = fichiersVoulus(base.Stockage(), arguments.Tous("--fichier"));
   long total = 0;
   for (const auto& fichier : voulus) total += fichier.articles;

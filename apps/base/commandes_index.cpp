@@ -8,7 +8,7 @@
 namespace base {
 
 int reparer(Contexte& contexte, const Arguments& arguments) {
-  Base base(arguments, Acces::Ecriture, &contexte);
+  Base base(contexte, arguments, Acces::Ecriture);
   Progres progres(contexte.erreurs, contexte.terminal, "Index, articles lus");
   base.Sqlite().RefaireIndex([&](long lus) { progres.Avance(lus); });
   progres.Efface();

@@ -53,7 +53,7 @@ int select(Contexte& contexte, const Arguments& arguments) {
   if (arguments.Donne("--plan") && arguments.Donne("--json")) {
     throw Echec(MauvaisUsage, "--plan et --json ne se donnent pas ensemble.");
   }
-  Base base(arguments, Acces::Lecture);
+  Base base(contexte, arguments, Acces::Lecture);
   if (arguments.Donne("--plan")) return montrerPlan(contexte, base.Stockage(), question);
   data::Db db(base.Partage());
   // The key goes before the columns asked for, so that no row is empty: an item cuts empty ends.

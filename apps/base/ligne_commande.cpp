@@ -67,6 +67,16 @@ constexpr Commande Commandes[] = {
      {LaBase, LeFichier, LaCle, {"N", "numéro donné par « historique »"}},
      {},
      retablir},
+    {"copier",
+     "Copie la base entière, même pendant que d'autres y travaillent",
+     {LaBase, {"COPIE", "fichier à créer, par exemple sur un autre disque"}},
+     {},
+     copier},
+    {"restaurer",
+     "Remet une copie à la place de la base, dont le fichier est gardé sous un autre nom",
+     {LaBase, {"COPIE", "copie faite par « copier »"}},
+     {},
+     restaurer},
     {"demo",
      "Crée une base de démonstration ; la même graine donne la même base",
      {LaBase},
@@ -74,6 +84,10 @@ constexpr Commande Commandes[] = {
        {"--graine", "G", "graine du tirage, 1 par défaut"}}},
      demo},
 };
+
+// What every command takes.
+constexpr OptionCommande EnReseau = {
+    "--meme-en-reseau", "", "admet un fichier d'un dossier du réseau, qu'un seul poste ouvre"};
 
 constexpr std::string_view Programme = "contrat-base";
 constexpr std::string_view Presentation =
@@ -130,6 +144,7 @@ class Lecteur {
           ->allow_extra_args(false);
     }
     for (const OptionCommande& option : commande.options) Declare(option);
+    Declare(EnReseau);
   }
 
   // False when the help was asked for and shown.

@@ -11,14 +11,17 @@
 
 namespace base {
 
+// As every command opens and creates files.
+storage::SqliteOptions optionsStockage(const Arguments& arguments);
+
 enum class Acces { Lecture, Ecriture };
 
 class Base {
  public:
-  // Opens the file named by the argument BASE. StoreError when it is absent or no data file. A
-  // command that only reads works on a place that cannot be written, too. With `contexte`, the
-  // progress of a file that gets its indexes shows there.
-  Base(const Arguments& arguments, Acces acces, Contexte* contexte = nullptr);
+  // Opens the file named by the argument BASE, and tells what that had to do. StoreError when it is
+  // absent or no data file. A command that only reads works on a place that cannot be written, too.
+  // The progress of an older file that gets its indexes shows on the terminal.
+  Base(Contexte& contexte, const Arguments& arguments, Acces acces);
 
   data::Storage& Stockage() { return *stockage_; }
   storage::SqliteStorage& Sqlite() { return *stockage_; }

@@ -4,6 +4,7 @@
 #include <set>
 #include <string_view>
 
+#include "base/chevauchements.h"
 #include "data/citem.h"
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
@@ -74,6 +75,7 @@ class Verification {
           return true;
         });
         fini = true;
+        if (nom == data::fichier::CONTRAT) FinAidant();
       } catch (const data::StoreError& erreur) {
         ConstateDommage(erreur, nom);
         if (erreur.Fichier() == nom) derniere = std::max(derniere, erreur.Cle());
@@ -88,16 +90,32 @@ class Verification {
     if (!data::cleBienFormee(fichier, cle)) {
       Constate(fichier, cle, "la clé n'a pas la forme des clés de ce fichier");
     }
+    if (fichier == data::fichier::ASSOCIATION || fichier == data::fichier::CONVENTIONCOL) {
+      UnCode(fichier, cle, cle, "");
+    }
     const bool contrat = fichier == data::fichier::CONTRAT;
     const bool aidant = fichier == data::fichier::CIVILAIDANT;
+    const bool index =
+        !contrat && data::fichierConnu(fichier) != nullptr && data::fichierConnu(fichier)->prefixe;
     const CItem item(texte);
     if (item.Text() != texte) Constate(fichier, cle, "le texte n'est pas sous sa forme canonique");
     try {
       if (contrat) UnContrat(cle, item);
       if (aidant) UnAidant(cle, item);
+      if (index) UneEntree(fichier, cle);
     } catch (const data::StoreError& erreur) {
       ConstateDommage(erreur, fichier);
     }
+  }
+
+  // An entity or an agreement names the index files of its contracts.
+  void UnCode(std::string_view fichier, std::string_view cle, std::string_view code,
+              const std::string& debut) {
+    if (code.empty() || data::estNomDeFichier(code)) return;
+    Constate(fichier, cle,
+             debut + "le code " + guillemets(code) +
+                 " ne peut pas entrer dans le nom d'un fichier index : aucun contrat ne peut être "
+                 "créé sous lui");
   }
 
   bool Lire(std::string_view fichier, std::string_view cle, CItem& item) {
@@ -110,6 +128,7 @@ class Verification {
   void UnContrat(std::string_view cle, const CItem& contrat) {
     const std::string_view aidant = cle.substr(0, data::LongueurCodeAidant);
     if (aidant != dernierAidant_) {
+      FinAidant();
       dernierAidant_ = aidant;
       CItem item;
       if (!Lire(data::fichier::CIVILAIDANT, aidant, item)) {
@@ -117,6 +136,53 @@ class Verification {
       }
     }
     for (const Lien& lien : Liens) UnLien(cle, contrat, lien);
+    chevauchements_.Ajoute(cle, contrat);
+    SesEntrees(cle, contrat);
+    for (const int attribut : {Contrat::Association, Contrat::Convention}) {
+      UnCode(data::fichier::CONTRAT, cle, contrat.Vue(attribut),
+             "attribut " + std::to_string(attribut) + " : ");
+    }
+  }
+
+  void FinAidant() {
+    for (const Chevauchements::Paire& paire : chevauchements_.Vide()) {
+      Constate(data::fichier::CONTRAT, paire.cle,
+               "le contrat chevauche le contrat " + guillemets(paire.autre));
+    }
+  }
+
+  // What the creation of a contract writes last: its entry in the index of its entity and
+  // agreement, and its number beside its private employer. A cancelled contract needs neither.
+  void SesEntrees(std::string_view cle, const CItem& contrat) {
+    const std::string index = std::string(data::fichier::PrefixeContrats) +
+                              contrat(Contrat::Association) + contrat(Contrat::Convention);
+    const bool nommable =
+        index.size() == data::fichier::PrefixeContrats.size() + data::fichier::LongueurPortee &&
+        data::estNomDeFichier(index);
+    if (contrat.Vue(Contrat::Annule) == Contrat::MarqueAnnule) return;
+    CItem entree;
+    if (nommable && !Lire(index, cle, entree)) {
+      Constate(data::fichier::CONTRAT, cle, "le contrat n'est pas dans son index " + index);
+    }
+    const std::string_view employeur = contrat.Vue(Contrat::Employeur);
+    if (!data::estParticulierEmployeur(contrat) || employeur.empty()) return;
+    const std::string inverse =
+        std::string(cle.substr(0, data::LongueurCodeAidant)).append(employeur);
+    entree = CItem();
+    Lire(data::fichier::CONTRATINV, inverse, entree);
+    const std::string_view numero = cle.substr(data::LongueurCodeAidant);
+    for (int v = 1; v <= entree.DCount(data::ContratInv::Numeros); ++v) {
+      if (entree.Vue(data::ContratInv::Numeros, v) == numero) return;
+    }
+    Constate(data::fichier::CONTRAT, cle,
+             "le contrat n'est pas dans CONTRATINV " + guillemets(inverse));
+  }
+
+  void UneEntree(const std::string& index, std::string_view cle) {
+    const std::string contrat(cle.substr(0, data::LongueurCodeAidant + data::LongueurNumero));
+    CItem item;
+    if (Lire(data::fichier::CONTRAT, contrat, item)) return;
+    Constate(index, cle, "le contrat " + guillemets(contrat) + " n'existe pas");
   }
 
   void UnLien(std::string_view cle, const CItem& contrat, const Lien& lien) {
@@ -196,6 +262,7 @@ class Verification {
   Bilan bilan_;
   long total_ = 0;
   std::string dernierAidant_;
+  Chevauchements chevauchements_;
   std::set<std::string> dommages_;
 };
 

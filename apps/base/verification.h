@@ -5,7 +5,10 @@
 //   - keys have the shape of their file's keys;
 //   - a contract's carer exists, and links 116 and 117 lead to contracts that link back;
 //   - attribute 41 of a carer is at least the highest of its contract numbers, and the numbers of
-//     attribute 42 are free: given before, once each, held by no contract that is alive.
+//     attribute 42 are free: given before, once each, held by no contract that is alive;
+//   - living contracts of one scope cover no day twice, and stand in the index of their entity and
+//     agreement and beside their private employer; an index entry leads to a contract;
+//   - the codes of entities and agreements can name index files.
 //
 // It reads and never writes. Every record is read about twice and none is kept, so that a file of
 // any size is checked in little memory.

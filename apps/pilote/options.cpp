@@ -25,6 +25,7 @@ Le scénario est lu sur l'entrée standard quand aucun fichier n'est donné.
   --date JJ/MM/AAAA     la date du jour pour les écrans ; par défaut celle du poste
   --contrat CLE         la clé d'un contrat de l'aidant à ouvrir d'emblée
   --etat-supprime       l'aidant est à l'état supprimé
+  --meme-en-reseau      admet un fichier d'un dossier du réseau, qu'un seul poste ouvre
   --aide, --help        ce texte
 
 Codes de retour :
@@ -51,6 +52,7 @@ void analyser(std::vector<std::string>& arguments, Options& options, Brutes& bru
   app.add_option("--date", brutes.date);
   app.add_option("--contrat", options.contrat);
   app.add_flag("--etat-supprime", options.etatSupprime);
+  app.add_flag("--meme-en-reseau", options.memeEnReseau);
   app.add_flag("--aide,--help,-h", options.aide);
   app.add_option("SCENARIO", options.scenario);
   std::reverse(arguments.begin(), arguments.end());

@@ -17,6 +17,7 @@ struct Options {
   // Internal day number; the workstation's day when it is not given.
   std::optional<long> jour;
   std::string contrat;
+  bool memeEnReseau = false;
   bool etatSupprime = false;
   // "" for the standard input.
   std::string scenario;

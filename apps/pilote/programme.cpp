@@ -1,6 +1,7 @@
 #include "pilote/programme.h"
 
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include "control/ctr_contrat.h"
@@ -84,10 +85,24 @@ int executerOptions(const Options& options, std::istream& entree, std::ostream& 
   return Manque;
 }
 
+std::unique_ptr<data::Storage> ouvrirStockage(const std::string& chemin, const data::Poste& poste,
+                                              bool reseauAdmis) {
+  storage::SqliteOptions options;
+  options.reseauAdmis = reseauAdmis;
+  auto stockage = storage::SqliteStorage::Ouvrir(chemin, poste, options);
+  if (!stockage->Avis().empty()) std::cerr << stockage->Avis() << '\n';
+  return stockage;
+}
+
 }  // namespace
 
 std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste) {
-  return storage::SqliteStorage::Ouvrir(chemin, poste);
+  return ouvrirStockage(chemin, poste, false);
+}
+
+std::unique_ptr<data::Storage> ouvrirBaseEnReseau(const std::string& chemin,
+                                                  const data::Poste& poste) {
+  return ouvrirStockage(chemin, poste, true);
 }
 
 int executer(const std::vector<std::string>& arguments, std::istream& entree, std::ostream& sortie,
@@ -98,7 +113,8 @@ int executer(const std::vector<std::string>& arguments, std::istream& entree, st
       sortie << texteAide();
       return Tenu;
     }
-    return executerOptions(options, entree, sortie, erreurs, ouvrir);
+    return executerOptions(options, entree, sortie, erreurs,
+                           options.memeEnReseau ? ouvrirBaseEnReseau : ouvrir);
   } catch (const OptionFausse& faute) {
     erreurs << faute.what() << "\nL'aide est donnée par contrat-pilote --aide.\n";
     return MalDemande;

@@ -27,6 +27,9 @@ enum Code : int {
 using Ouverture = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
                                                                const data::Poste& poste)>;
 std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste);
+// The same in a network folder, too.
+std::unique_ptr<data::Storage> ouvrirBaseEnReseau(const std::string& chemin,
+                                                  const data::Poste& poste);
 
 // `arguments` without the program's name. `ouvrir` lets a test stand between screens and file.
 int executer(const std::vector<std::string>& arguments, std::istream& entree, std::ostream& sortie,

@@ -1,10 +1,34 @@
 #include "data/db.h"
 
+#include "data/layouts/contrat.h"
+#include "data/layouts/fichiers.h"
 #include "data/query.h"
 #include "data/routines.h"
 #include "data/select.h"
 
 namespace data {
+
+namespace {
+
+// The entity and the agreement of a contract name its index files, which are written after it and
+// after its carer's counter: a code that no name can hold is refused before anything is stored.
+void exigerNomsIndex(std::string_view cle, std::string_view texte) {
+  const CItem contrat(texte);
+  for (const auto& [attribut, quoi] : {std::pair{Contrat::Association, "l'entité"},
+                                       std::pair{Contrat::Convention, "la convention"}}) {
+    const std::string_view code = contrat.Vue(attribut);
+    if (code.empty() || estNomDeFichier(code)) continue;
+    throw StoreError(NumeroErreur::TexteRefuse,
+                     std::string("Le code « ").append(code) + " » de " + quoi +
+                         " ne peut pas entrer dans le nom d'un fichier index, qui se compose de "
+                         "lettres majuscules sans accent et de chiffres. Le contrat n'est pas "
+                         "enregistré : donnez un autre code à " +
+                         quoi + ".",
+                     std::string(fichier::CONTRAT), std::string(cle));
+  }
+}
+
+}  // namespace
 
 // An open file, shared by every item that was made by it.
 class DbFile::Ouvert : public Attache, public std::enable_shared_from_this<Ouvert> {
@@ -13,6 +37,8 @@ class DbFile::Ouvert : public Attache, public std::enable_shared_from_this<Ouver
       : storage_(std::move(storage)), nom_(std::move(nom)) {}
 
   void Ecrire(std::string_view cle, std::string_view texte) const override {
+    std::string avant;
+    if (nom_ == fichier::CONTRAT && !storage_->Get(nom_, cle, avant)) exigerNomsIndex(cle, texte);
     storage_->Put(nom_, cle, texte);
   }
 

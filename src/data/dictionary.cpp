@@ -57,6 +57,13 @@ const Definition* findDefinition(std::string_view fichier, std::string_view nom)
   return nullptr;
 }
 
+std::string_view compared(const Definition& definition, std::string_view content,
+                          std::string& buffer) {
+  if (definition.source != Source::Capitales) return content;
+  buffer = plier(content);
+  return buffer;
+}
+
 // Null when there is no such record. The same key may be asked of two files.
 const std::string* DictionaryReader::record(std::string_view fichier, std::string_view cle) {
   if (cle.empty() || storage_ == nullptr) return nullptr;

@@ -33,6 +33,11 @@ struct Definition {
 // Null when `fichier` has no such name.
 const Definition* findDefinition(std::string_view fichier, std::string_view nom);
 
+// What comparisons see of a field's content: names of persons as people search them, anything else
+// as it is. `buffer` may hold it. Indexes keep the same.
+std::string_view compared(const Definition& definition, std::string_view content,
+                          std::string& buffer);
+
 // Computes named fields for the records of one select. What it reads in other files is kept until
 // its end, so that 10,000 interventions on 20 activities read 20 records.
 class DictionaryReader {

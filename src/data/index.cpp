@@ -87,9 +87,10 @@ std::vector<EntreeIndex> entreesDe(std::string_view fichier, std::string_view cl
     }
     const Definition& definition = *findDefinition(fichier, index.nom);
     DictionaryReader lecteur;
-    ajouterValeurs(entrees, index,
-                   lecteur.read(definition, cle, attribut(texte, definition.a),
-                                attribut(texte, definition.b)));
+    const std::string_view contenu =
+        lecteur.read(definition, cle, attribut(texte, definition.a), attribut(texte, definition.b));
+    std::string plie;
+    ajouterValeurs(entrees, index, compared(definition, contenu, plie));
   }
   std::sort(entrees.begin(), entrees.end());
   entrees.erase(std::unique(entrees.begin(), entrees.end()), entrees.end());

@@ -69,7 +69,7 @@ std::optional<long long> toInteger(bool negatif, std::string_view chiffres) {
 }  // namespace
 
 std::optional<NombreEcrit> lireNombre(std::string_view texte) {
-  std::string reste = sansBlancs(texte);
+  std::string reste = sansBlancs(blancsSimples(texte));
   NombreEcrit d;
   if (!reste.empty() && (reste[0] == '-' || reste[0] == '+')) {
     d.negatif = reste[0] == '-';
@@ -92,7 +92,7 @@ bool estNombre(std::string_view texte) {
 }
 
 long long entier(std::string_view texte) {
-  const std::string serre = sansAucunBlanc(texte);
+  const std::string serre = sansAucunBlanc(blancsSimples(texte));
   const bool negatif = !serre.empty() && serre[0] == '-';
   const std::size_t debut = negatif || (!serre.empty() && serre[0] == '+') ? 1 : 0;
   const auto premier = serre.begin() + static_cast<std::ptrdiff_t>(debut);

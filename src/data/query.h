@@ -38,10 +38,13 @@
 //   value that is not empty, or for none.
 // - A value that ends with ] is compared with the beginning of the field, one that begins with [
 //   with its end, one that does both is searched inside it. Such comparisons are of texts.
+// - In a value, "" stands for one quote; at its beginning [[ stands for one [ of the value, and at
+//   its end ]] for one ]. data/question.h writes values so.
 // - Two numbers compare as numbers, however long; anything else as bytes. A number is all digits,
 //   with an optional sign and one optional decimal point. Codes are no numbers: in an attribute, a
 //   zero before another digit makes a text; the key is a text for = and <>, a number for order.
-// - Names in capitals are compared with the value in capitals.
+// - Names of persons are compared without regard to case, accents, apostrophes and hyphens.
+// - Sorts go by number when both values are numbers, else in dictionary order (data/texte.h).
 //
 // Anything else is a StoreError with NumeroErreur::Question, whose text quotes the query, the
 // place (in characters, from 1) and what was expected there.
@@ -117,7 +120,7 @@ struct Query {
   std::vector<Clause> clauses;
   std::vector<Comparison> comparisons;
   std::vector<Sort> sorts;
-  std::forward_list<std::string> capitals;  // holds the values that were put in capitals
+  std::forward_list<std::string> values;  // holds those that are no piece of the text
 };
 
 Query parseQuery(std::string_view text);

@@ -62,10 +62,14 @@ std::string unknownField(std::string_view file, std::string_view name) {
 
 void readMarks(Comparison& comparison) {
   std::string_view& value = comparison.value;
-  const bool begin = value.ends_with(']');
-  if (begin) value.remove_suffix(1);
-  const bool end = value.starts_with('[');
-  if (end) value.remove_prefix(1);
+  // Of a run at either end, two stand for one, and one that is left is the mark.
+  const std::size_t last = value.find_last_not_of(']');
+  const std::size_t after = value.size() - (last == std::string_view::npos ? 0 : last + 1);
+  const bool begin = after % 2 == 1;
+  value.remove_suffix(after - after / 2);
+  const std::size_t before = std::min(value.find_first_not_of('['), value.size());
+  const bool end = before % 2 == 1;
+  value.remove_prefix(before - before / 2);
   if (begin || end) comparison.mark = !end ? Mark::Begin : begin ? Mark::Within : Mark::End;
 }
 
@@ -184,6 +188,8 @@ class Parser {
       refuse(pos_, "un opérateur est attendu avant la valeur");
     } else {
       query_.comparisons.emplace_back();  // a field alone: different from ""
+      clause.end = query_.comparisons.size();
+      return;
     }
     for (bool isOr = false;;) {
       const std::size_t before = pos_;
@@ -208,7 +214,7 @@ class Parser {
       refuse(place, "avec les marques [ et ] à la fois, seuls =, <> et # ont un sens");
     }
     if (field.definition != nullptr && field.definition->source == Definition::Source::Capitales) {
-      comparison.value = query_.capitals.emplace_front(majuscules(comparison.value));
+      comparison.value = query_.values.emplace_front(plier(comparison.value));
     }
     comparison.number = readNumber(comparison.value);
     query_.comparisons.push_back(comparison);
@@ -235,13 +241,23 @@ class Parser {
     if (pos_ == text_.size() || text_[pos_] != '"') {
       refuse(pos_, "une valeur entre guillemets est attendue après l'opérateur");
     }
-    const auto close = text_.find('"', pos_ + 1);
-    if (close == std::string_view::npos) {
-      refuse(pos_, "le guillemet ouvert ici n'est pas fermé");
+    std::string* joined = nullptr;  // the value, once it holds a quote
+    for (std::size_t from = pos_ + 1;;) {
+      const auto close = text_.find('"', from);
+      if (close == std::string_view::npos) {
+        refuse(pos_, "le guillemet ouvert ici n'est pas fermé");
+      }
+      const auto piece = text_.substr(from, close - from);
+      const bool doubled = text_.substr(close + 1).starts_with('"');
+      if (doubled && joined == nullptr) joined = &query_.values.emplace_front();
+      if (joined != nullptr) joined->append(piece);
+      if (!doubled) {
+        pos_ = close + 1;
+        return joined == nullptr ? piece : std::string_view(*joined);
+      }
+      *joined += '"';
+      from = close + 2;
     }
-    const auto value = text_.substr(pos_ + 1, close - pos_ - 1);
-    pos_ = close + 1;
-    return value;
   }
 
   void parseSorts() {

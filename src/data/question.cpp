@@ -1,14 +1,17 @@
 #include "data/question.h"
 
+#include <algorithm>
+
 namespace data {
 
 namespace {
 
 std::string quoted(std::string_view valeur, std::string_view mark) {
-  std::string resultat = "\"";
-  for (const char c : valeur) {
-    if (c != '"') resultat += c;
-  }
+  const std::size_t marks = std::min(valeur.find_first_not_of('['), valeur.size());
+  std::string resultat = '"' + std::string(marks, '[');
+  for (const char c : valeur) resultat.append(c == '"' ? 2 : 1, c);
+  const std::size_t last = valeur.find_last_not_of(']');
+  resultat.append(valeur.size() - (last == std::string_view::npos ? 0 : last + 1), ']');
   return resultat.append(mark) + '"';
 }
 
@@ -19,9 +22,6 @@ std::string citer(std::string_view valeur) {
 }
 
 std::string citerDebut(std::string_view valeur) {
-  while (!valeur.empty() && (valeur.front() == '[' || valeur.front() == '"')) {
-    valeur.remove_prefix(1);
-  }
   return quoted(valeur, "]");
 }
 

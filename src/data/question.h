@@ -7,10 +7,10 @@
 
 namespace data {
 
-// `valeur` between double quotes. A double quote inside is left out: no stored code or key holds
-// one, and it would end the value.
+// `valeur` between double quotes, to be compared as it is: quotes, and marks at its ends, are
+// doubled.
 std::string citer(std::string_view valeur);
-// The same as "begins with". A "[" in front is left out too: it would ask for the end of the field.
+// The same as "begins with".
 std::string citerDebut(std::string_view valeur);
 
 }  // namespace data

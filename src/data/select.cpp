@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "data/texte.h"
+
 namespace data {
 
 namespace {
@@ -90,11 +92,13 @@ bool holds(const Part* begin, const Part* end, const Test& test) {
 struct SortValue {
   std::string_view text;
   Number number;
+  std::string folded = {};  // of a text
 };
 
 int compareSortValues(const SortValue& x, const SortValue& y) {
   if (x.number.valid && y.number.valid) return compareNumbers(x.number, y.number);
-  return x.text.compare(y.text);
+  return ordreDictionnaire(x.text, x.number.valid ? x.text : x.folded, y.text,
+                           y.number.valid ? y.text : y.folded);
 }
 
 // Stable merge sort. Unlike the library's, it asks no consistency of `before`.
@@ -175,7 +179,9 @@ class Evaluator {
   }
 
   bool accepts(const Clause& clause, const Access& access) {
-    return anyValue(clause, access.isKey, valueOf(access)) != clause.without;
+    std::string_view content = valueOf(access);
+    if (access.definition != nullptr) content = compared(*access.definition, content, folded_);
+    return anyValue(clause, access.isKey, content) != clause.without;
   }
 
   bool anyValue(const Clause& clause, bool isKey, std::string_view content) const {
@@ -220,6 +226,7 @@ class Evaluator {
     for (const std::size_t end : sortEnds_) {
       const auto text = std::string_view(sortTexts_).substr(begin, end - begin);
       values.push_back({text, readNumber(text)});
+      if (!values.back().number.valid) values.back().folded = sansAccents(text);
       begin = end;
     }
     return values;
@@ -256,6 +263,7 @@ class Evaluator {
   std::vector<Access> sorts_;
   std::vector<Access> columns_;
 
+  std::string folded_;  // the name that is being compared
   std::string_view key_;
   // Rows in scan order, parted by SepAttribut; with sorts, also where each begins.
   std::string text_;

@@ -98,6 +98,9 @@ class Storage {
   virtual void EnUnBloc(const std::function<void()>& travail) = 0;
 };
 
+// Whether a file can bear that name: upper-case ASCII letters and digits.
+bool estNomDeFichier(std::string_view nom);
+
 // Refuses, by a StoreError, a file name that is not upper-case ASCII letters and digits, an empty
 // key, a key with a control character, and a key or text that is not valid UTF-8 or holds a zero
 // byte. Every backend calls it before a write.

@@ -70,6 +70,39 @@ unsigned upper(unsigned point) {
   return point;
 }
 
+// Letters in capitals with the ASCII that they are looked up by.
+struct Base {
+  unsigned premier;
+  unsigned dernier;
+  std::string_view texte;
+};
+constexpr Base bases[] = {
+    {0xC0, 0xC5, "A"},    {0xC6, 0xC6, "AE"},  {0xC7, 0xC7, "C"},    {0xC8, 0xCB, "E"},
+    {0xCC, 0xCF, "I"},    {0xD0, 0xD0, "D"},   {0xD1, 0xD1, "N"},    {0xD2, 0xD6, "O"},
+    {0xD8, 0xD8, "O"},    {0xD9, 0xDC, "U"},   {0xDD, 0xDD, "Y"},    {0xDE, 0xDE, "TH"},
+    {0xDF, 0xDF, "SS"},   {0x100, 0x105, "A"}, {0x106, 0x10D, "C"},  {0x10E, 0x111, "D"},
+    {0x112, 0x11B, "E"},  {0x11C, 0x123, "G"}, {0x124, 0x127, "H"},  {0x128, 0x131, "I"},
+    {0x132, 0x133, "IJ"}, {0x134, 0x135, "J"}, {0x136, 0x138, "K"},  {0x139, 0x142, "L"},
+    {0x143, 0x14B, "N"},  {0x14C, 0x151, "O"}, {0x152, 0x153, "OE"}, {0x154, 0x159, "R"},
+    {0x15A, 0x161, "S"},  {0x162, 0x167, "T"}, {0x168, 0x173, "U"},  {0x174, 0x175, "W"},
+    {0x176, 0x178, "Y"},  {0x179, 0x17E, "Z"}, {0x17F, 0x17F, "S"},  {0x218, 0x219, "S"},
+    {0x21A, 0x21B, "T"},  {0x300, 0x36F, ""},  // accents that stand for themselves
+};
+
+const Base* baseOf(unsigned point) {
+  for (const Base& base : bases) {
+    if (point >= base.premier && point <= base.dernier) return &base;
+  }
+  return nullptr;
+}
+
+void replaceAll(std::string& texte, std::string_view ancien, std::string_view neuf) {
+  for (auto i = texte.find(ancien); i != std::string::npos; i = texte.find(ancien, i)) {
+    texte.replace(i, ancien.size(), neuf);
+    i += neuf.size();
+  }
+}
+
 }  // namespace
 
 std::size_t octetsCaractere(std::string_view texte, std::size_t i) {
@@ -181,6 +214,42 @@ std::string majuscules(std::string_view texte) {
     }
     i += pas;
   }
+  return resultat;
+}
+
+std::string sansAccents(std::string_view texte) {
+  const std::string capitales = majuscules(texte);
+  const bool ascii = std::all_of(capitales.begin(), capitales.end(), [](char c) { return c > 0; });
+  if (ascii) return capitales;
+  std::string resultat;
+  resultat.reserve(capitales.size());
+  for (std::size_t i = 0; i < capitales.size();) {
+    const std::size_t pas = stepAt(capitales, i);
+    const Base* const base = pas == 2 ? baseOf(decodeTwo(capitales, i)) : nullptr;
+    resultat.append(base != nullptr ? base->texte : std::string_view(capitales).substr(i, pas));
+    i += pas;
+  }
+  return resultat;
+}
+
+std::string plier(std::string_view nom) {
+  std::string resultat = sansAccents(nom);
+  for (const char* signe :
+       {"'", "\"", "[", "]", "\u2019", "\u02BC", "-", "\u2010", "\u2011", "\u2013"}) {
+    replaceAll(resultat, signe, "");
+  }
+  return resultat;
+}
+
+int ordreDictionnaire(std::string_view a, std::string_view aPlie, std::string_view b,
+                      std::string_view bPlie) {
+  const int ordre = aPlie.compare(bPlie);
+  return ordre != 0 ? ordre : a.compare(b);
+}
+
+std::string blancsSimples(std::string_view texte) {
+  std::string resultat(texte);
+  for (const char* blanc : {"\u00A0", "\u202F", "\u2009"}) replaceAll(resultat, blanc, " ");
   return resultat;
 }
 

@@ -57,12 +57,25 @@ std::string sansBlancs(std::string_view texte);
 // Without any blank, inner ones too, as for reading a number with parted thousands.
 std::string sansAucunBlanc(std::string_view texte);
 
+// Every no-break blank, wide or narrow, as a blank: what other programs part thousands with.
+std::string blancsSimples(std::string_view texte);
+
 // Without control characters: below U+0020, U+007F, and U+0080 to U+009F.
 std::string sansControles(std::string_view texte);
 
 // Upper case with accents kept, for the ASCII, Latin-1 and Latin Extended-A letters; every other
 // character stays, the German sharp s too, which has no capital of its own.
 std::string majuscules(std::string_view texte);
+
+// In capitals without accents, ligatures opened: "Cœur à l'Été" becomes "COEUR A L'ETE".
+std::string sansAccents(std::string_view texte);
+// A person's name as people search it: sansAccents without apostrophes, hyphens, and the quotes and
+// brackets that no name has. "N'Diaye" and "ndiaye" are the same.
+std::string plier(std::string_view nom);
+// Dictionary order: letters without regard to case and accents, equal texts by bytes. Below 0, 0 or
+// above 0. `a` and `b` come with their sansAccents, for a sort that makes it once.
+int ordreDictionnaire(std::string_view a, std::string_view aPlie, std::string_view b,
+                      std::string_view bPlie);
 
 // The pieces between blanks; neighbouring blanks part only once. Empty for a text of blanks.
 std::vector<std::string> mots(std::string_view texte);

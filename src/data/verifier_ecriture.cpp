@@ -48,12 +48,6 @@ bool tientControle(std::string_view texte) {
   return false;
 }
 
-bool estNomDeFichier(std::string_view nom) {
-  return !nom.empty() && std::all_of(nom.begin(), nom.end(), [](char c) {
-    return (c >= 'A' && c <= 'Z') || estChiffre(c);
-  });
-}
-
 // A refused name or key as a message can show it: what is not printable ASCII becomes "?".
 std::string montrable(std::string_view texte) {
   constexpr std::size_t kMaximum = 60;
@@ -91,6 +85,12 @@ void verifierCle(std::string_view fichier, std::string_view cle) {
 }
 
 }  // namespace
+
+bool estNomDeFichier(std::string_view nom) {
+  return !nom.empty() && std::all_of(nom.begin(), nom.end(), [](char c) {
+    return (c >= 'A' && c <= 'Z') || estChiffre(c);
+  });
+}
 
 void VerifierEcriture(std::string_view fichier, std::string_view cle, std::string_view texte) {
   if (!estNomDeFichier(fichier)) {

@@ -34,7 +34,7 @@ bool EstSupprime(const data::CItem& civilAidant, std::string_view jour) {
 }
 
 bool EstCherchable(std::string_view nom) {
-  return data::citerDebut(nom) != data::citerDebut("");
+  return !data::plier(nom).empty();
 }
 
 data::CItem ChercherAidants(session::Session& session, std::string_view nom,

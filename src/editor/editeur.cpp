@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/layouts/voisins.h"
+#include "editor/etat_enregistre.h"
 #include "screen/attente.h"
 
 namespace editor {
@@ -137,12 +138,16 @@ rules::Dates Frm_ElementsContrat::Dates() const {
 
 void Frm_ElementsContrat::Cmd_Ok_Click() {
   Avis avis = gardes_.AvantConfirmation();
-  if (avis == Avis::Passe) avis = enregistrement_.Ecrire_Donnees();
+  if (avis == Avis::Passe) {
+    DireCeQuiReste(*dossier_, [&] { avis = enregistrement_.Ecrire_Donnees(); });
+  }
   if (avis == Avis::Reste) return;
   if (avis == Avis::Passe) {
     const screen::Attente attente(*this);
-    enregistrement_.Maj_Missions();
-    enregistrement_.Maj_Index();
+    DireCeQuiReste(*dossier_, [&] {
+      enregistrement_.Maj_Missions();
+      enregistrement_.Maj_Index();
+    });
     cree_ = dossier_->ModeCreation;
   } else {
     enregistrement_.Abandonner();
@@ -181,8 +186,12 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
     case Reponse::Oui: {
       if (gardes_.EnQuittant() != Avis::Passe) return false;
       screen::Attente attente(*this);
-      if (!enregistrement_.Ecrire_Existant()) return false;
-      enregistrement_.Maj_Index();
+      bool ecrit = false;
+      DireCeQuiReste(*dossier_, [&] {
+        ecrit = enregistrement_.Ecrire_Existant();
+        if (ecrit) enregistrement_.Maj_Index();
+      });
+      if (!ecrit) return false;
       attente.Finir();
       return true;
     }

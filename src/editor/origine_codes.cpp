@@ -221,7 +221,7 @@ void CodesOrigine::ChercherEmployeur(char32_t& touche) {
   touche = 0;
   // What is left of the name inside a query: quotes and marks are no name.
   const std::string nom = data::sansBlancsAGauche(Cbo_LibEmplEtabContrat.Text());
-  if (citerDebut(nom) == citerDebut("")) {
+  if (data::plier(nom).empty()) {
     editeur_.MessageBox("Au moins le premier caractère du nom doit être saisi.",
                         screen::Boutons::Ok, screen::Icone::Exclamation);
     Cbo_LibEmplEtabContrat.SetFocus();

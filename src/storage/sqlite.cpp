@@ -6,34 +6,64 @@
 
 namespace storage {
 
-SqliteStorage::SqliteStorage(std::unique_ptr<Moteur> moteur) : moteur_(std::move(moteur)) {}
+SqliteStorage::SqliteStorage(std::unique_ptr<Moteur> moteur, const data::Poste& poste,
+                             const SqliteOptions& options)
+    : moteur_(std::move(moteur)), poste_(poste), options_(options) {}
 SqliteStorage::~SqliteStorage() = default;
 
 std::unique_ptr<SqliteStorage> SqliteStorage::Ouvrir(const std::string& chemin,
                                                      const data::Poste& poste,
                                                      const SqliteOptions& options) {
-  std::unique_ptr<SqliteStorage> stockage(new SqliteStorage(
-      std::make_unique<Moteur>(ouvrirFichier(chemin, options.attenteMs), poste, options)));
-  stockage->moteur_->PreparerIndex(options.avanceIndex);
-  return stockage;
+  Veille veille(chemin);
+  auto moteur =
+      std::make_unique<Moteur>(ouvrirFichier(chemin, options), std::move(veille), poste, options);
+  moteur->Garde().Exiger({"Ouverture de"});
+  moteur->PreparerIndex(options.avanceIndex);
+  return std::unique_ptr<SqliteStorage>(new SqliteStorage(std::move(moteur), poste, options));
 }
 
 std::unique_ptr<SqliteStorage> SqliteStorage::OuvrirEnLecture(const std::string& chemin,
                                                               const data::Poste& poste,
                                                               const SqliteOptions& options) {
-  return std::unique_ptr<SqliteStorage>(new SqliteStorage(
-      std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options.attenteMs), poste, options)));
+  Veille veille(chemin);
+  return std::unique_ptr<SqliteStorage>(
+      new SqliteStorage(std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options),
+                                                 std::move(veille), poste, options),
+                        poste, options));
 }
 
 std::unique_ptr<SqliteStorage> SqliteStorage::Creer(const std::string& chemin,
                                                     const data::Poste& poste,
                                                     const SqliteOptions& options) {
+  auto connexion = creerFichier(chemin, options);
   return std::unique_ptr<SqliteStorage>(new SqliteStorage(
-      std::make_unique<Moteur>(creerFichier(chemin, options.attenteMs), poste, options)));
+      std::make_unique<Moteur>(std::move(connexion), Veille(chemin), poste, options), poste,
+      options));
+}
+
+SqliteStorage::Moteur& SqliteStorage::Lecteur() {
+  if (moteur_->Perime()) {
+    const std::string& chemin = moteur_->Lien().Chemin();
+    moteur_ = std::make_unique<Moteur>(ouvrirFichierEnLecture(chemin, options_), Veille(chemin),
+                                       poste_, options_);
+  }
+  return *moteur_;
+}
+
+const std::string& SqliteStorage::Avis() const {
+  return moteur_->Lien().Avis();
+}
+
+std::string SqliteStorage::Defaut() const {
+  return moteur_->Garde().Defaut();
+}
+
+bool SqliteStorage::Remplace() const {
+  return moteur_->Garde().Remplace();
 }
 
 bool SqliteStorage::Get(std::string_view fichier, std::string_view cle, std::string& texte) {
-  return moteur_->Lire({"Lecture", fichier, cle}, texte);
+  return Lecteur().Lire({"Lecture", fichier, cle}, texte);
 }
 
 void SqliteStorage::Put(std::string_view fichier, std::string_view cle, std::string_view texte) {
@@ -51,26 +81,26 @@ bool SqliteStorage::Erase(std::string_view fichier, std::string_view cle) {
 
 void SqliteStorage::Scan(std::string_view fichier, const data::KeyRange& cles,
                          const Visiteur& visiteur) {
-  if (!cles.Vide()) moteur_->Parcourir({"Parcours", fichier}, cles, visiteur);
+  if (!cles.Vide()) Lecteur().Parcourir({"Parcours", fichier}, cles, visiteur);
 }
 
 std::optional<std::size_t> SqliteStorage::Compter(std::string_view fichier,
                                                   const data::Chemin& chemin, std::size_t plafond) {
-  return moteur_->Index().Compter({"Parcours", fichier}, chemin, plafond);
+  return Lecteur().Compter({"Parcours", fichier}, chemin, plafond);
 }
 
 bool SqliteStorage::ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
                                 const Visiteur& visiteur) {
-  return moteur_->ParcourirChemins({"Parcours", fichier}, chemins, visiteur);
+  return Lecteur().ParcourirChemins({"Parcours", fichier}, chemins, visiteur);
 }
 
 std::vector<data::FichierCompte> SqliteStorage::Fichiers() {
-  return moteur_->Compter();
+  return Lecteur().Compter();
 }
 
 std::vector<data::AncienTexte> SqliteStorage::Historique(std::string_view fichier,
                                                          std::string_view cle) {
-  return moteur_->Anciens({"Lecture de l'historique", fichier, cle});
+  return Lecteur().Anciens({"Lecture de l'historique", fichier, cle});
 }
 
 void SqliteStorage::EnUnBloc(const std::function<void()>& travail) {
@@ -80,13 +110,15 @@ void SqliteStorage::EnUnBloc(const std::function<void()>& travail) {
 void SqliteStorage::Verifier(const std::function<void(const Dommage&)>& signaler,
                              const std::function<void(long)>& avance) {
   moteur_->ExigerRepos();
-  verifierFichier(moteur_->Lien(), signaler, avance);
+  Connexion& lien = Lecteur().Lien();
+  verifierFichier(lien, signaler, avance);
+  lien.ExigerTenue({"Contrôle de"});
 }
 
 bool SqliteStorage::VerifierIndex(const std::function<void(const Dommage&)>& signaler,
                                   const std::function<void(long)>& avance) {
   moteur_->ExigerRepos();
-  return moteur_->Index().Verifier(signaler, avance);
+  return Lecteur().VerifierIndex(signaler, avance);
 }
 
 void SqliteStorage::RefaireIndex(const std::function<void(long)>& avance) {

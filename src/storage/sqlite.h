@@ -2,7 +2,8 @@
 // The store of a workstation: one data file, kept by SQLite, that several processes can share.
 // Readers never wait for a writer nor it for them; writers wait for each other, up to a bound.
 //
-// A write that has returned survives a crash of the program and of the machine. Every page and
+// A write that has returned survives a crash of the program and of the machine, and stood in the
+// file of that name: one that was moved, removed or replaced takes no more writes. Every page and
 // every record carries a checksum that each read verifies: a damaged place is a StoreError
 // Endommage, never a text, and never taken for "no such record". One object serves one thread.
 
@@ -18,6 +19,7 @@ namespace storage {
 struct SqliteOptions {
   int attenteMs = 5000;  // how long a write waits for another process before StoreError Occupe
   long pagesMax = 0;     // 8 KB pages that the file may grow to (then DisquePlein), 0 without bound
+  bool reseauAdmis = false;  // a file on a network folder opens all the same
   // Told now and then, while a file from before gets its indexes, how many records have been read.
   std::function<void(long)> avanceIndex = {};
 };
@@ -36,8 +38,9 @@ class SqliteStorage : public data::Storage {
   // from before gets its indexes now; where that fails it is used without them.
   static std::unique_ptr<SqliteStorage> Ouvrir(const std::string& chemin, const data::Poste& poste,
                                                const SqliteOptions& options = {});
-  // The same to consult: every write is a StoreError LectureSeule. It also opens a file on a place
-  // that cannot be written; there, the file must not be changed from elsewhere meanwhile.
+  // The same to consult: every write is a StoreError LectureSeule. Whoever may not write the file,
+  // or finds the disk full, reads it without leaving anything beside it; a scan under which others
+  // change the file is then a StoreError Occupe.
   static std::unique_ptr<SqliteStorage> OuvrirEnLecture(const std::string& chemin,
                                                         const data::Poste& poste,
                                                         const SqliteOptions& options = {});
@@ -45,6 +48,14 @@ class SqliteStorage : public data::Storage {
   static std::unique_ptr<SqliteStorage> Creer(const std::string& chemin, const data::Poste& poste,
                                               const SqliteOptions& options = {});
   ~SqliteStorage() override;
+
+  // What the opening had to do that the user should know, a French sentence; "" for nothing.
+  const std::string& Avis() const;
+  // What has become of a file that no longer stands under its name, and what its user can do; ""
+  // while it is in place. Until it is put back, every write is a StoreError that says the same.
+  std::string Defaut() const;
+  // Another file has taken the name: what is read here is no longer what stands there.
+  bool Remplace() const;
 
   bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override;
   // A text equal to the stored one writes nothing. Over a damaged record it fails: what cannot be
@@ -81,9 +92,14 @@ class SqliteStorage : public data::Storage {
 
  private:
   class Moteur;
-  explicit SqliteStorage(std::unique_ptr<Moteur> moteur);
+  SqliteStorage(std::unique_ptr<Moteur> moteur, const data::Poste& poste,
+                const SqliteOptions& options);
+  // The engine to read with: another one when the file has changed under a reader without locks.
+  Moteur& Lecteur();
 
   std::unique_ptr<Moteur> moteur_;
+  const data::Poste& poste_;
+  SqliteOptions options_;
 };
 
 }  // namespace storage

@@ -20,8 +20,32 @@ Connexion::Connexion(const std::string& cible, std::string chemin, int modes)
 // A close by itself leaves the log out of a file that was moved meanwhile, and the file would be
 // opened under its new name without what was written last. What cannot be copied stays in the log.
 Connexion::~Connexion() {
-  sqlite3_wal_checkpoint_v2(db_, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+  if (!laisserJournal_ && !instantane_) {
+    sqlite3_wal_checkpoint_v2(db_, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+  }
   sqlite3_close(db_);
+}
+
+void Connexion::LaisserJournal() {
+  laisserJournal_ = true;
+  sqlite3_db_config(db_, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+}
+
+std::string Connexion::Journal() const {
+  return sqlite3_filename_wal(sqlite3_db_filename(db_, "main"));
+}
+
+void Connexion::ExigerTenue(const Acte& acte) const {
+  if (!instantane_ || instantane_->Tient()) return;
+  throw erreur(data::NumeroErreur::Occupe, chemin_, acte,
+               "un autre programme a changé le fichier pendant cette lecture. Recommencez.");
+}
+
+// What a reader without locks finds damaged may only have changed under it.
+void Connexion::Echouer(int code, const Acte& acte) const {
+  const data::StoreError refus = erreurSqlite(db_, code, chemin_, acte);
+  ExigerTenue(acte);
+  throw refus;
 }
 
 sqlite3_file* Connexion::Fichier() const {

@@ -6,9 +6,11 @@
 #include <sqlite3.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "storage/sqlite_erreur.h"
+#include "storage/sqlite_instantane.h"
 
 namespace storage {
 
@@ -27,18 +29,35 @@ class Connexion {
   // The main file, as the layer of sealed pages sees it.
   sqlite3_file* Fichier() const;
 
+  // The path of the log, whether or not there is one.
+  std::string Journal() const;
+
+  // What the opening had to do that the user should know, "" for nothing.
+  const std::string& Avis() const { return avis_; }
+  void Avertir(const std::string& avis) { avis_ = avis; }
+
+  // From now on the reader takes no locks, and what it reads holds as long as `instantane` does.
+  void Figer(Instantane instantane) { instantane_ = std::move(instantane); }
+  bool Perimee() const { return instantane_ && !instantane_->Inchange(); }
+  // StoreError Occupe when the file was changed under such a reader.
+  void ExigerTenue(const Acte& acte) const;
+
+  // The log is left as it is when the connection closes.
+  void LaisserJournal();
+
   // Runs statements whose rows, if any, are not wanted.
   void Executer(const char* sql, const Acte& acte);
   // First column of the first row, 0 or "" when there is none.
   std::int64_t Nombre(const char* sql, const Acte& acte);
   std::string Texte(const char* sql, const Acte& acte);
 
-  [[noreturn]] void Echouer(int code, const Acte& acte) const {
-    throw erreurSqlite(db_, code, chemin_, acte);
-  }
+  [[noreturn]] void Echouer(int code, const Acte& acte) const;
 
  private:
   std::string chemin_;
+  std::string avis_;
+  std::optional<Instantane> instantane_;
+  bool laisserJournal_ = false;
   sqlite3* db_ = nullptr;
 };
 

@@ -97,9 +97,10 @@ void ReserveRequetes::Rendre(std::unique_ptr<Requete> requete) noexcept {
   libres_.push_back(std::move(requete));
 }
 
-SqliteStorage::Moteur::Moteur(std::unique_ptr<Connexion> connexion, const data::Poste& poste,
-                              const SqliteOptions& options)
+SqliteStorage::Moteur::Moteur(std::unique_ptr<Connexion> connexion, Veille veille,
+                              const data::Poste& poste, const SqliteOptions& options)
     : connexion_(borner(std::move(connexion), options)),
+      veille_(std::move(veille)),
       poste_(poste),
       lire_(*connexion_, kLire, kOuverture),
       poser_(*connexion_, kPoser, kOuverture),
@@ -108,13 +109,22 @@ SqliteStorage::Moteur::Moteur(std::unique_ptr<Connexion> connexion, const data::
       dernierNumero_(*connexion_, kDernierNumero, kOuverture),
       index_(*connexion_),
       scans_(*connexion_, kScan),
-      scansSansFin_(*connexion_, kScanSansFin) {}
+      scansSansFin_(*connexion_, kScanSansFin) {
+  veille_.Suivre(*connexion_);
+}
+
+SqliteStorage::Moteur::~Moteur() {
+  if (veille_.Substitue()) connexion_->LaisserJournal();
+  veille_.EcarterJournal();
+}
 
 bool SqliteStorage::Moteur::Lire(const Acte& acte, std::string& texte) {
   const Usage lire(lire_);
   lire->Lier(1, acte.fichier);
   lire->Lier(2, acte.cle);
-  if (!lire->Avancer(acte)) return false;
+  const bool trouve = lire->Avancer(acte);
+  connexion_->ExigerTenue(acte);
+  if (!trouve) return false;
   const std::string_view lu = lire->Texte(0);
   if (lire->Nombre(1) != controleArticle(acte.fichier, acte.cle, lu)) {
     throw erreurControle(connexion_->Chemin(), acte);
@@ -131,6 +141,7 @@ void SqliteStorage::Moteur::Parcourir(const Acte& acte, const data::KeyRange& cl
   if (!cles.sansFin) scan->Lier(3, cles.fin);
   std::string derniere;
   while (scan->Avancer({acte.nom, acte.fichier, derniere, true})) {
+    connexion_->ExigerTenue(acte);
     const std::string_view cle = scan->Texte(0);
     const std::string_view texte = scan->Texte(1);
     if (scan->Nombre(2) != controleArticle(acte.fichier, cle, texte)) {
@@ -139,6 +150,7 @@ void SqliteStorage::Moteur::Parcourir(const Acte& acte, const data::KeyRange& cl
     derniere.assign(cle);
     if (!visiteur(cle, texte)) return;
   }
+  connexion_->ExigerTenue(acte);
 }
 
 std::vector<data::FichierCompte> SqliteStorage::Moteur::Compter() {
@@ -148,6 +160,7 @@ std::vector<data::FichierCompte> SqliteStorage::Moteur::Compter() {
   while (compter.Avancer(acte)) {
     comptes.push_back({std::string(compter.Texte(0)), static_cast<long>(compter.Nombre(1))});
   }
+  connexion_->ExigerTenue(acte);
   return comptes;
 }
 
@@ -164,6 +177,7 @@ std::vector<data::AncienTexte> SqliteStorage::Moteur::Anciens(const Acte& acte) 
       throw erreurControle(connexion_->Chemin(), acte);
     }
   }
+  connexion_->ExigerTenue(acte);
   return anciens;
 }
 
@@ -231,9 +245,12 @@ void SqliteStorage::Moteur::ExigerBlocSain(const Acte& acte) {
 void SqliteStorage::Moteur::Ecrire(const Acte& acte, const std::function<void()>& ecriture) {
   if (parcours_ > 0) throw std::logic_error("SqliteStorage: write from a visitor");
   if (!enBloc_) {
+    veille_.Exiger(acte);
     Transaction transaction(*connexion_, acte);
+    veille_.Exiger(acte);
     ecriture();
     transaction.Valider(acte);
+    veille_.Exiger(acte);
     return;
   }
   ExigerBlocSain(acte);
@@ -247,6 +264,7 @@ void SqliteStorage::Moteur::Ecrire(const Acte& acte, const std::function<void()>
 
 void SqliteStorage::Moteur::EnUnBloc(const std::function<void()>& travail) {
   ExigerRepos();
+  veille_.Exiger(kBloc);
   Transaction transaction(*connexion_, kBloc);
   // Declared after the transaction: the block is over before it is undone or kept.
   struct Bloc {
@@ -261,7 +279,9 @@ void SqliteStorage::Moteur::EnUnBloc(const std::function<void()>& travail) {
   } const bloc(*this);
   travail();
   ExigerBlocSain(kBloc);
+  veille_.Exiger(kBloc);
   transaction.Valider(kBloc);
+  veille_.Exiger(kBloc);
 }
 
 }  // namespace storage

@@ -10,6 +10,7 @@
 #include "storage/index_sqlite.h"
 #include "storage/sqlite.h"
 #include "storage/sqlite_connexion.h"
+#include "storage/veille.h"
 
 namespace storage {
 
@@ -43,12 +44,16 @@ class ReserveRequetes {
 
 class SqliteStorage::Moteur {
  public:
-  Moteur(std::unique_ptr<Connexion> connexion, const data::Poste& poste,
+  // `veille` was made before `connexion`.
+  Moteur(std::unique_ptr<Connexion> connexion, Veille veille, const data::Poste& poste,
          const SqliteOptions& options);
+  ~Moteur();
 
   bool Lire(const Acte& acte, std::string& texte);
   void Parcourir(const Acte& acte, const data::KeyRange& cles, const Visiteur& visiteur);
-  // As Storage::ScanChemins.
+  // As Storage::Compter and Storage::ScanChemins.
+  std::optional<std::size_t> Compter(const Acte& acte, const data::Chemin& chemin,
+                                     std::size_t plafond);
   bool ParcourirChemins(const Acte& acte, const std::vector<data::Chemin>& chemins,
                         const Visiteur& visiteur);
   std::vector<data::FichierCompte> Compter();
@@ -64,9 +69,13 @@ class SqliteStorage::Moteur {
   // Makes the indexes of a file that has none of this program's; leaves it without when it cannot.
   void PreparerIndex(const std::function<void(long)>& avance);
   void RefaireIndex(const std::function<void(long)>& avance);
+  bool VerifierIndex(const std::function<void(const Dommage&)>& signaler,
+                     const std::function<void(long)>& avance);
 
   Connexion& Lien() { return *connexion_; }
-  IndexSqlite& Index() { return index_; }
+  const Veille& Garde() const { return veille_; }
+  // The file has changed under a reader that takes no locks, and nothing is being read.
+  bool Perime() const { return parcours_ == 0 && connexion_->Perimee(); }
   // Throws std::logic_error when a block or a scan is under way.
   void ExigerRepos() const;
 
@@ -75,6 +84,7 @@ class SqliteStorage::Moteur {
   void ExigerBlocSain(const Acte& acte);
 
   std::unique_ptr<Connexion> connexion_;
+  Veille veille_;
   const data::Poste& poste_;
   Requete lire_;
   Requete poser_;

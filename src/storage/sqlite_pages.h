@@ -8,6 +8,14 @@
 // pages of the main file; the write-ahead log has checksums of its own. In memory and in the log
 // the seal reads zero, and a page with a zero seal is taken unverified: so a copy of the log into
 // the file by an ordinary SQLite tool, after a crash, leaves a file that still opens.
+//
+// It also lays the mark of the file's log (storage/sqlite_marque.h), which the seal of the first
+// page leaves out and SQLite never sees; and gives the files that SQLite puts beside the main one
+// that one's group, so that whoever shares the file can share them.
+//
+// Opened with the address parameter "prive=1", a file is read without a trace: no file is made
+// beside it, no lock taken that others could meet, and the log's index stands in this process's
+// memory. Nothing then keeps others from changing what is read: see storage/sqlite_instantane.h.
 
 #include <cstdint>
 
@@ -30,6 +38,10 @@ struct Tailles {
   std::int64_t trouvee = 0;
 };
 Tailles taillesFichier(sqlite3* db);
+
+// Why the system refused this thread's last write, an errno value; 0 when it did not. SQLite itself
+// does not keep it when the write ends a transaction.
+int refusDuSysteme();
 
 // The number from 1 of the last page of `db` whose seal was found broken since the last call, 0
 // when there was none.

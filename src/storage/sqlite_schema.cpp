@@ -8,6 +8,8 @@
 #include <filesystem>
 
 #include "storage/index_sqlite.h"
+#include "storage/reseau.h"
+#include "storage/sqlite_journal.h"
 #include "storage/sqlite_pages.h"
 
 namespace storage {
@@ -93,7 +95,8 @@ Entete lireEntete(const Connexion& connexion) {
   if (code == SQLITE_OK && octets == 0) {
     refuser(NumeroErreur::PasUneBase, connexion,
             "le fichier est vide. Si sa création a été interrompue, supprimez-le et créez-le de "
-            "nouveau ; sinon, restaurez la dernière sauvegarde.");
+            "nouveau ; sinon, remettez la dernière sauvegarde par la commande restaurer de "
+            "contrat-base.");
   }
   if (code == SQLITE_OK && octets < kOctetsEntete) {
     refuser(NumeroErreur::PasUneBase, connexion,
@@ -143,8 +146,8 @@ void verifierContenu(Connexion& connexion) {
                        "('article', 'ancien')",
                        kOuverture) != 2) {
     refuser(NumeroErreur::PasUneBase, connexion,
-            "il lui manque les tables d'un fichier de données. Vérifiez le chemin, ou restaurez "
-            "la dernière sauvegarde.");
+            "il lui manque les tables d'un fichier de données. Vérifiez le chemin, ou remettez "
+            "la dernière sauvegarde par la commande restaurer de contrat-base.");
   }
   verifierVersion(connexion, connexion.Nombre("PRAGMA user_version", kOuverture));
 }
@@ -168,9 +171,8 @@ std::string cibleDe(const std::string& chemin) {
   return code ? "./" + chemin : absolu.string();
 }
 
-// The address of a file that nobody can change while it is open, so that SQLite needs neither locks
-// nor log.
-std::string cibleFigee(const std::string& chemin) {
+// The address of a file with a parameter of its opening.
+std::string cibleAvec(const std::string& chemin, const char* parametre) {
   constexpr char kHexa[] = "0123456789ABCDEF";
   std::string adresse = "file:";
   for (const char c : cibleDe(chemin)) {
@@ -183,28 +185,61 @@ std::string cibleFigee(const std::string& chemin) {
       adresse.append("%").append(1, kHexa[octet >> 4]).append(1, kHexa[octet & 0xF]);
     }
   }
-  return adresse + "?immutable=1";
+  return adresse.append("?").append(parametre);
 }
 
-std::unique_ptr<Connexion> enLecture(const std::string& cible, const std::string& chemin,
-                                     int attenteMs) {
+std::unique_ptr<Connexion> enPartage(const std::string& chemin, int attenteMs) {
   auto connexion =
-      std::make_unique<Connexion>(cible, chemin, kModes | SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+      std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
   verifierEntete(*connexion);
+  ecarterJournalEtranger(*connexion, attenteMs);
   regler(*connexion, attenteMs, kOuverture);
+  connexion->Executer("PRAGMA query_only = ON", kOuverture);
   verifierContenu(*connexion);
   return connexion;
 }
 
-// Without a log, the file holds all that was ever written and nobody has it open to write.
-bool sansJournal(const std::string& chemin) {
-  std::error_code code;
-  return !fs::exists(chemin + "-wal", code) && !code;
+std::unique_ptr<Connexion> sansTrace(const std::string& chemin, const char* parametre,
+                                     const Instantane& instantane) {
+  auto connexion = std::make_unique<Connexion>(cibleAvec(chemin, parametre), chemin,
+                                               kModes | SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  connexion->Figer(instantane);
+  verifierEntete(*connexion);
+  regler(*connexion, 0, kOuverture);
+  return connexion;
+}
+
+// Without a log, or with one that is not its own, the file is all there is to read.
+std::unique_ptr<Connexion> enLecture(const std::string& chemin) {
+  constexpr const char* kSeul = "immutable=1";
+  const std::string journal =
+      Connexion(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READONLY).Journal();
+  const Instantane instantane(chemin, journal);
+  const bool avecJournal = selsDuJournal(journal).has_value();
+  auto connexion = sansTrace(chemin, avecJournal ? "prive=1" : kSeul, instantane);
+  if (avecJournal && journalEtranger(*connexion)) {
+    connexion = sansTrace(chemin, kSeul, instantane);
+    connexion->Avertir("Le journal trouvé à côté de « " + chemin +
+                       " » est celui d'un autre fichier, que celui-ci a remplacé : il n'est pas "
+                       "lu.");
+  }
+  verifierContenu(*connexion);
+  connexion->ExigerTenue(kOuverture);
+  return connexion;
+}
+
+bool inscriptible(const std::string& chemin) {
+  return access(chemin.c_str(), W_OK) == 0 || errno == ENOENT;
 }
 
 bool dossierInscriptible(const std::string& chemin) {
-  const fs::path dossier = fs::path(cibleDe(chemin)).parent_path();
-  return access(dossier.c_str(), W_OK) == 0;
+  return inscriptible(fs::path(cibleDe(chemin)).parent_path().string());
+}
+
+// May write the file and all that SQLite puts beside it.
+bool peutPartager(const std::string& chemin) {
+  return inscriptible(chemin) && dossierInscriptible(chemin) && inscriptible(chemin + "-wal") &&
+         inscriptible(chemin + "-shm");
 }
 
 // Makes the empty file, or refuses; closed before SQLite opens it.
@@ -234,18 +269,27 @@ void reserverChemin(const std::string& chemin) {
   }
 }
 
-std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attenteMs) {
+// Of our page size, with room for the seals.
+std::unique_ptr<Connexion> enPages(const std::string& chemin, const std::string& nom,
+                                   int attenteMs) {
   auto connexion =
-      std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
+      std::make_unique<Connexion>(cibleDe(chemin), nom, kModes | SQLITE_OPEN_READWRITE);
   connexion->Executer(("PRAGMA page_size = " + std::to_string(kOctetsPage)).c_str(), kCreation);
   int reserve = kOctetsSceau;
   sqlite3_file_control(connexion->Db(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve);
   regler(*connexion, attenteMs, kCreation);
+  return connexion;
+}
+
+std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attenteMs) {
+  auto connexion = enPages(chemin, chemin, attenteMs);
   const std::string tables =
       "PRAGMA auto_vacuum = NONE; BEGIN IMMEDIATE; PRAGMA application_id = " +
       std::to_string(kApplication) + "; PRAGMA user_version = " + std::to_string(kVersion) + ";" +
       kTables + sqlTablesIndex() + " COMMIT;";
   connexion->Executer(tables.c_str(), kCreation);
+  const int marque = poserMarque(connexion->Fichier(), marqueNeuve());
+  if (marque != SQLITE_OK) connexion->Echouer(marque, kCreation);
   passerAuJournal(*connexion, kCreation);
   verifierEntete(*connexion);
   return connexion;
@@ -253,36 +297,65 @@ std::unique_ptr<Connexion> remplirNouveau(const std::string& chemin, int attente
 
 }  // namespace
 
-std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, int attenteMs) {
+std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, const SqliteOptions& options) {
   verifierChemin(chemin);
+  if (!options.reseauAdmis) refuserReseau(chemin);
   auto connexion =
       std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
   verifierEntete(*connexion);
   if (sqlite3_db_readonly(connexion->Db(), "main") != 0 || !dossierInscriptible(chemin)) {
     connexion->Echouer(SQLITE_READONLY, kOuverture);
   }
-  regler(*connexion, attenteMs, kOuverture);
+  ecarterJournalEtranger(*connexion, options.attenteMs);
+  regler(*connexion, options.attenteMs, kOuverture);
   passerAuJournal(*connexion, kOuverture);
   verifierContenu(*connexion);
   return connexion;
 }
 
-std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin, int attenteMs) {
+std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
+                                                  const SqliteOptions& options) {
   verifierChemin(chemin);
-  const bool figee = !dossierInscriptible(chemin) && sansJournal(chemin);
-  return enLecture(figee ? cibleFigee(chemin) : cibleDe(chemin), chemin, attenteMs);
+  if (!options.reseauAdmis) refuserReseau(chemin);
+  if (peutPartager(chemin)) {
+    try {
+      return enPartage(chemin, options.attenteMs);
+    } catch (const data::StoreError& refus) {
+      // What SQLite must put beside the file finds no room.
+      if (refus.Numero() != NumeroErreur::DisquePlein &&
+          refus.Numero() != NumeroErreur::EntreeSortie) {
+        throw;
+      }
+    }
+  }
+  return enLecture(chemin);
 }
 
-std::unique_ptr<Connexion> creerFichier(const std::string& chemin, int attenteMs) {
+std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteOptions& options) {
+  if (!options.reseauAdmis) refuserReseau(chemin);
   reserverChemin(chemin);
   try {
-    return remplirNouveau(chemin, attenteMs);
+    return remplirNouveau(chemin, options.attenteMs);
   } catch (...) {
     for (const char* suffixe : {"", "-journal", "-wal", "-shm"}) {
       unlink((chemin + suffixe).c_str());
     }
     throw;
   }
+}
+
+std::unique_ptr<Connexion> creerVide(const std::string& chemin, const std::string& nom) {
+  reserverChemin(chemin);
+  return enPages(chemin, nom, 0);
+}
+
+std::unique_ptr<Connexion> pourRemplacer(const std::string& chemin) {
+  auto connexion =
+      std::make_unique<Connexion>(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE);
+  if (sqlite3_db_readonly(connexion->Db(), "main") == 1 || !dossierInscriptible(chemin)) {
+    connexion->Echouer(SQLITE_READONLY, {"Restauration de"});
+  }
+  return connexion;
 }
 
 }  // namespace storage

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 
+#include "storage/sqlite.h"
 #include "storage/sqlite_connexion.h"
 
 namespace storage {
@@ -22,12 +23,21 @@ inline constexpr std::int64_t kVersion = 2;
 inline constexpr std::int64_t kVersionSansIndex = 1;  // the same without indexes
 
 // Of an existing data file, to read and write.
-std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, int attenteMs);
+std::unique_ptr<Connexion> ouvrirFichier(const std::string& chemin, const SqliteOptions& options);
 
-// Of an existing data file, to read only, on a place that may be read-only itself.
-std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin, int attenteMs);
+// Of an existing data file, to read only. Who may write takes part like a writer, so that the last
+// to leave leaves one whole file; who may not, or finds the disk full, reads without a trace.
+std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
+                                                  const SqliteOptions& options);
 
 // Of a new data file without records. Refuses a path that exists; leaves nothing when it fails.
-std::unique_ptr<Connexion> creerFichier(const std::string& chemin, int attenteMs);
+std::unique_ptr<Connexion> creerFichier(const std::string& chemin, const SqliteOptions& options);
+
+// An empty file of our page size at that new path, to be filled by a copy; `nom` is what errors
+// call it.
+std::unique_ptr<Connexion> creerVide(const std::string& chemin, const std::string& nom);
+// Of a file, sound or not, that another will replace: nothing of it is read. StoreError
+// LectureSeule when it or its folder cannot be written.
+std::unique_ptr<Connexion> pourRemplacer(const std::string& chemin);
 
 }  // namespace storage

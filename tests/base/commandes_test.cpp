@@ -164,6 +164,12 @@ TEST_F(CommandesTest, FichierInconnuEtAnomalieSeule) {
   Lance({"ecrire", "XYZ", "1", "--item", "[]"});
   EXPECT_NE(Sortie({"fichiers"}).find("XYZ\t1\tfichier inconnu de la suite\n"), std::string::npos);
   EXPECT_EQ(Lance({"verifier"}), 1);
+  // The counter, and the index of the contract of an entity and of its private employer.
+  EXPECT_EQ(erreurs_, "5 articles lus, 3 anomalies.\n");
+  for (const char* cle : {"00001001", "00001002"}) {
+    Lance({"ecrire", "CONTRAT", cle, "--item", "[]"});
+  }
+  EXPECT_EQ(Lance({"verifier"}), 1);
   EXPECT_EQ(erreurs_, "5 articles lus, 1 anomalie.\n");
 }
 

@@ -5,7 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <optional>
+#include <sstream>
 
 #include "data/citem.h"
 #include "data/layouts/contrat.h"
@@ -96,9 +99,91 @@ TEST_F(VerificationTest, TrouveChaqueDefautPlante) {
     const std::string debut = std::string(c.fichier) + ' ' + c.cle + " | " + c.constat;
     EXPECT_EQ(constats.substr(0, debut.size()), debut);
   }
+  for (const char* fichier : {"ASSOCIATION", "CONVENTIONCOL"}) {
+    storage::MemoryStorage store(poste_);
+    store.Put(fichier, fichier[0] == 'A' ? "a01" : "é1", "");
+    EXPECT_NE(Constats(store).find("ne peut pas entrer dans le nom d'un fichier index"),
+              std::string::npos);
+  }
   storage::MemoryStorage store(poste_);
   store.Put("PCS", "11", std::string("a") + data::SepAttribut);
   EXPECT_EQ(Constats(store), "PCS 11 | le texte n'est pas sous sa forme canonique\n");
+}
+
+// Days, entities, agreements and employers of one carer's contracts: "from-to entity agreement
+// employer", a cancelled one with a dash before.
+TEST_F(VerificationTest, NommeLesContratsQuiSeChevauchent) {
+  constexpr const char* kPar = "le contrat chevauche le contrat « ";
+  const struct {
+    const char* cas;
+    std::vector<std::array<std::string, 5>> contrats;
+    std::string paires;
+  } cas[] = {
+      {"one after the other", {{"1", "9", "001", "01", ""}, {"10", "", "001", "01", ""}}, ""},
+      {"the last day", {{"1", "9", "001", "01", ""}, {"9", "20", "001", "03", ""}}, "2>1 "},
+      {"open-ended", {{"30", "40", "001", "01", ""}, {"1", "", "001", "01", ""}}, "1>2 "},
+      {"other entity", {{"1", "", "001", "01", ""}, {"1", "", "002", "01", ""}}, ""},
+      {"private employer beside",
+       {{"1", "", "001", "01", ""}, {"1", "", "001", "02", "00007"}},
+       ""},
+      {"two employers", {{"1", "", "001", "02", "00006"}, {"1", "", "001", "02", "00007"}}, ""},
+      {"one employer", {{"1", "", "001", "02", "00007"}, {"5", "", "001", "02", "00007"}}, "2>1 "},
+      {"inside a long one",
+       {{"1", "90", "001", "01", ""}, {"5", "9", "001", "01", ""}, {"20", "30", "001", "01", ""}},
+       "2>1 3>1 "},
+      {"cancelled", {{"1", "", "001", "01", ""}, {"-5", "", "001", "01", ""}}, ""}};
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.cas);
+    storage::MemoryStorage store(poste_);
+    for (std::size_t i = 0; i < c.contrats.size(); ++i) {
+      const auto& [debut, fin, entite, convention, employeur] = c.contrats[i];
+      const bool annule = debut[0] == '-';
+      CItem contrat;
+      contrat.Set(Contrat::DateDebut, debut.substr(annule ? 1 : 0));
+      contrat.Set(Contrat::DateFin, fin);
+      contrat.Set(Contrat::Association, entite);
+      contrat.Set(Contrat::Convention, convention);
+      contrat.Set(Contrat::Employeur, employeur);
+      if (annule) contrat.Set(Contrat::Annule, "O");
+      store.Put("CONTRAT", "0000100" + std::to_string(i + 1), contrat.Text());
+    }
+    // Another carer's contracts have nothing to do with these.
+    store.Put("CONTRAT", "00002001", CItem("\x1e\x30\x30\x31").Text());
+    std::string paires;
+    std::istringstream constats(Constats(store));
+    for (std::string ligne; std::getline(constats, ligne);) {
+      const auto place = ligne.find(kPar);
+      if (place == std::string::npos) continue;
+      paires += ligne.substr(15, 1) + ">" + ligne.substr(place + std::strlen(kPar) + 7, 1) + " ";
+    }
+    EXPECT_EQ(paires, c.paires);
+  }
+}
+
+TEST_F(VerificationTest, NommeLesEntreesDIndexQuiManquent) {
+  storage::MemoryStorage store(poste_);
+  demo::genererDemo(store, {.aidants = 60, .graine = 3, .aujourdhui = poste_.Aujourdhui()});
+  std::string contrat;
+  std::string inverse;
+  store.Scan("CONTRATINV", data::KeyRange::Tout(), [&](std::string_view cle, std::string_view t) {
+    inverse = cle;
+    contrat = inverse.substr(0, 5) + CItem(t)(data::ContratInv::Numeros, 1);
+    return CItem(t).DCount(data::ContratInv::Numeros) != 1;
+  });
+  std::string texte;
+  ASSERT_TRUE(store.Get("CONTRAT", contrat, texte));
+  const std::string index = "CONTRAT" + CItem(texte)(Contrat::Association) + "02";
+  EXPECT_TRUE(store.Erase(index, contrat));
+  EXPECT_TRUE(store.Erase("CONTRATINV", inverse));
+  EXPECT_EQ(Constats(store), "CONTRAT " + contrat + " | le contrat n'est pas dans son index " +
+                                 index + "\nCONTRAT " + contrat +
+                                 " | le contrat n'est pas dans CONTRATINV « " + inverse + " »\n");
+  store.Put(index, contrat, "");
+  store.Put("CONTRATINV", inverse, CItem(contrat.substr(5)).Text());
+  store.Put(index, "99999001", "");
+  store.Put("AVENANT00101", "9999900101", "");
+  EXPECT_EQ(Constats(store), "AVENANT00101 9999900101 | le contrat « 99999001 » n'existe pas\n" +
+                                 index + " 99999001 | le contrat « 99999001 » n'existe pas\n");
 }
 
 // Keys, canonical texts, counters, free numbers and links of every record of the demonstration.

@@ -50,7 +50,7 @@ TEST(IndexTest, HoldsEveryValueOfARecord) {
        ".50\x1d"
        "+7",
        "4=+012.50|4=+7|4=-0|4=.5|4=.50|4=0|4=7"},
-      {"CIVILAIDANT", 2, "Lef\xC3\xA8vre", "NomPrenomAidant=LEF\xC3\x88VRE "},
+      {"CIVILAIDANT", 2, "Lef\xC3\xA8vre", "NomPrenomAidant=LEFEVRE "},
       {"CIVILAIDANT", 3, "rose", "NomPrenomAidant= ROSE"},
       {"CIVILAIDANT", 4, "Petit", ""},
       {"PCS", 4, "x", ""},

@@ -178,13 +178,17 @@ TEST(LibNumber, Routines) {
   EXPECT_EQ(Determinerdate("202602") + Determinerdate("202608"), "février 2026aout 2026");
   EXPECT_EQ(formeMilliers("  1234567,80"), "1 234 567,80");
   EXPECT_EQ(formeMilliers("-  123"), "-123");
+  // As spreadsheets part thousands.
+  EXPECT_EQ(enUnites("1\u00A0234,5", 2), 123450);
+  EXPECT_EQ(enUnites("\u202F1\u202F234\u00A0", 0), 1234);
+  EXPECT_EQ(enUnites("1\u00A023,5", 2), std::nullopt);
   EXPECT_EQ(formeMilliers("1000.5") + formeMilliers(",5") + formeMilliers("n/a"), "1 000.50,5n/a");
   std::string lus;
   for (const char* t :
-       {"12,5", "12.5", "-12,9", "", "abc", "0045", " 7", "12 rue", "1 234", ",9", "--5"}) {
+       {"12,5", "12.5", "-12,9", "", "abc", "0045", " 7", "12 rue", "1 234", ",9", "--5", "1\u202F234\u00A0567"}) {
     lus += std::to_string(entier(t)) + " ";
   }
-  EXPECT_EQ(lus, "12 12 -12 0 0 45 7 12 1234 0 0 ");
+  EXPECT_EQ(lus, "12 12 -12 0 0 45 7 12 1234 0 0 1234567 ");
   EXPECT_EQ(entier("99999999999999999999"), LLONG_MAX);
 }
 

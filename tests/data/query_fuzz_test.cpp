@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 #include "data/db.h"
 #include "data/query.h"
+#include "data/question.h"
 #include "data/select.h"
 #include "storage/memory.h"
 
@@ -64,7 +66,7 @@ class QueryFuzzTest : public testing::Test {
 
 TEST_F(QueryFuzzTest, MutatedQueriesRunOrAreRefused) {
   for (const char* file : {"CONTRAT", "PCS", "DETAILINTER", "CIVILAIDE", "TPSDETAILSINTERV"}) {
-    for (const char* key : {"1", "12", "120000", "É"}) put(file, key, CItem("a"));
+    for (const char* key : {"1", "12", "120000", "É"}) put(file, key, CItem("A"));
   }
   Random random;
   int refused = 0;
@@ -81,6 +83,31 @@ TEST_F(QueryFuzzTest, MutatedQueriesRunOrAreRefused) {
   }
   EXPECT_GT(refused, runs / 10);
   EXPECT_LT(refused, runs * 9 / 10);
+}
+
+// Whatever a key holds, its quoted value asks for it alone, and its beginning for those that have
+// it.
+TEST_F(QueryFuzzTest, QuotedValuesAreComparedAsTheyAre) {
+  static constexpr const char* letters[] = {"[", "[", "]", "]", "\"", "\"", "a", " ", "é"};
+  Random random;
+  std::vector<std::string> keys;
+  for (int i = 0; i < 300; ++i) {
+    std::string key;
+    for (std::size_t n = 1 + random.below(4); n > 0; --n) key += random.of(letters);
+    put("X", key, CItem("a"));
+    keys.push_back(key);
+  }
+  for (const std::string& key : keys) {
+    EXPECT_EQ(db_.Selectionner("SSELECT X AVEC 0 = " + citer(key), "X", "0").Text(), key);
+    const CItem debut = db_.Selectionner("SSELECT X AVEC 0 = " + citerDebut(key), "X", "0");
+    std::set<std::string> attendus;
+    for (const std::string& autre : keys) {
+      if (autre.starts_with(key)) attendus.insert(autre);
+    }
+    ASSERT_EQ(debut.DCount(), static_cast<int>(attendus.size())) << key;
+    int i = 0;
+    for (const std::string& attendu : attendus) EXPECT_EQ(debut(++i, 1), attendu) << key;
+  }
 }
 
 // Keys and values from few letters, so that conditions often meet them.

@@ -42,6 +42,7 @@ TEST(QueryTest, MalformedQueriesTellThePlace) {
       {"SSELECT CONTRAT AVEC 8 = \"a", 26, "n'est pas fermé"},
       {"SSELECT CIVILAIDE AVEC 2 = \"éèà\" AND 3", 38, "une clause AVEC ou SANS"},
       {"SSELECT CONTRAT AVEC 8 > \"[a]\"", 26, "[ et ]"},
+      {"SSELECT CONTRAT AVEC 1 AND = \"02\"", 28, "une clause AVEC ou SANS"},
       {"SSELECT CONTRAT = \"a\" OR AVEC 7", 23, "restriction de clé"},
       {"SSELECT CONTRAT = \"a\" AND PAR 7", 27, "une clause AVEC ou SANS"},
       {"SSELECT CONTRAT PAR 1 AVEC 2", 23, "PAR, PAR-DECR ou la fin"},

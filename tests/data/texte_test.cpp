@@ -51,6 +51,22 @@ TEST(Texte, CompletesAndTrims) {
   EXPECT_TRUE(mots("  ").empty());
 }
 
+TEST(Texte, NamesAsPeopleSearchAndSortThem) {
+  EXPECT_EQ(sansAccents("Cœur d'Été, Ærø-Ñuñez ÿ ß Łódź"), "COEUR D'ETE, AERO-NUNEZ Y SS LODZ");
+  EXPECT_EQ(sansAccents("e\u0301 x"), "E X");
+  EXPECT_EQ(plier("N'Diaye-Lefèvre"), "NDIAYELEFEVRE");
+  EXPECT_EQ(plier("L’Hôte"), plier("lhote"));
+  const auto ordre = [](const char* a, const char* b) {
+    return ordreDictionnaire(a, sansAccents(a), b, sansAccents(b));
+  };
+  for (const auto& [avant, apres] : {std::pair{"", "a"}, {"Éva", "Zoé"}, {"zoé", "Zoël"},
+                                     {"Lefevre", "Lefèvre"}, {"LEFEVRE", "Lefevre"}}) {
+    EXPECT_LT(ordre(avant, apres), 0) << avant;
+    EXPECT_GT(ordre(apres, avant), 0) << avant;
+  }
+  EXPECT_EQ(ordre("Éva", "Éva"), 0);
+}
+
 TEST(Texte, UpperCaseKeepsAccents) {
   const struct {
     const char *texte, *attendu;

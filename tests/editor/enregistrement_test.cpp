@@ -313,6 +313,9 @@ class Panne : public Enregistre {
         FAIL() << "write " << n << " did not fail";
       } catch (const data::StoreError& e) {
         EXPECT_FALSE(e.Fichier().empty() || e.Cle().empty()) << n;
+        const std::string dit = e.what();
+        EXPECT_EQ(dit.find("Rien n'a été enregistré") != dit.npos, tout() == avant) << dit;
+        EXPECT_EQ(dit.find("Enregistrez de nouveau") != dit.npos, tout() != avant) << dit;
       }
       EXPECT_EQ(stockage->Ecritures(), n) << "written after the failure";
       EXPECT_EQ(tout() == avant, cle().empty()) << "half a contract after write " << n;

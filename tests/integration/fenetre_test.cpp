@@ -166,7 +166,7 @@ TEST_F(Hote, SaysThatTheFileHasLeftItsPlace) {
   ASSERT_EQ(std::rename(ailleurs.c_str(), la.c_str()), 0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Titre() == "Contrats de travail"; }, 5000));
   EXPECT_TRUE(lecteur.dit.contains("remplacé par un autre"));
-  EXPECT_TRUE(lecteur.ADit("a.contrats-wal.ancien1"));
+  EXPECT_TRUE(lecteur.ADit("a.contrats-wal.autre-fichier1"));
   EXPECT_EQ(fenetre_.Ecran(), nullptr);
   ASSERT_TRUE(OuvrirDurand());
   std::string entite;

@@ -29,6 +29,17 @@ inline void creerBaseDemo(const std::string& chemin) {
   outilBase({"importer", chemin, Scenarios + "donnees.jsonl"});
 }
 
+// The findings in `chemin` that its origin does not have, whose contracts came without indexes.
+inline std::string constatsNouveaux(const std::string& origine, const std::string& chemin) {
+  const std::string anciens = outilBase({"verifier", origine}, 1);
+  std::istringstream constats(outilBase({"verifier", chemin}, 1));
+  std::string nouveaux;
+  for (std::string ligne; std::getline(constats, ligne);) {
+    if (anciens.find(ligne + "\n") == std::string::npos) nouveaux += ligne + "\n";
+  }
+  return nouveaux;
+}
+
 inline std::string lireTout(const std::string& chemin) {
   std::ifstream fichier(chemin, std::ios::binary);
   EXPECT_TRUE(fichier) << chemin;

@@ -60,7 +60,7 @@ TEST_F(Programme, ScenariosDeDemonstration) {
     auto avecFichier = options;
     avecFichier.push_back(chemin);
     EXPECT_EQ(Lancer(avecFichier), Tenu) << erreurs.str();
-    EXPECT_EQ(outilBase({"verifier", copie}), "");
+    EXPECT_EQ(constatsNouveaux(base, copie), "");
 
     const std::size_t controle = texte.rfind("\narticle ");
     if (controle == std::string::npos) continue;

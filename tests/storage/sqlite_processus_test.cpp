@@ -76,7 +76,7 @@ TEST_F(Processus, LockHeldTooLongIsOccupe) {
     EXPECT_EQ(refus([&] { second->Put("CONTRAT", "0", "c"); }, &message), "Occupe CONTRAT 0");
     EXPECT_EQ(message, "Écriture de l'article « 0 » du fichier CONTRAT impossible dans « " +
                            chemin_ +
-                           " » : un autre poste garde le fichier occupé. Réessayez dans un "
+                           " » : un autre programme garde le fichier occupé. Réessayez dans un "
                            "instant.");
     EXPECT_EQ(etat(*second), "CONTRAT[0=a]");
   });

@@ -2,15 +2,14 @@
 
 #include <QGuiApplication>
 #include <QPalette>
-#include <QStringList>
 #include <algorithm>
 #include <numeric>
-#include <tuple>
 
 #include "data/citem.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/storage.h"
+#include "data/texte.h"
 #include "liaison/textes_qt.h"
 
 namespace hote {
@@ -28,35 +27,37 @@ std::vector<Aidant> lireAidants(data::Storage& stockage) {
   return aidants;
 }
 
-QString plier(const QString& texte) {
-  QString plie;
-  for (const QChar c : texte.toLower().normalized(QString::NormalizationForm_D)) {
-    if (c == QChar(0x153)) {
-      plie += "oe";
-    } else if (c == QChar(0xe6)) {
-      plie += "ae";
-    } else if (c.isLetterOrNumber()) {
-      plie += c;
-    } else if (!c.isMark()) {
-      plie += ' ';
-    }
+namespace {
+
+// The words that a name is found by: whole, and for "Marie-Hélène" each of its parts, too.
+std::string motsDe(const std::string& nom) {
+  std::string parties = data::sansAccents(nom);
+  for (char& c : parties) {
+    if (c == '-' || c == '\'') c = ' ';
   }
-  return plie.simplified();
+  std::string texte;
+  for (const std::string& forme : {data::plier(nom), parties}) {
+    for (const std::string& mot : data::mots(forme)) texte += " " + mot;
+  }
+  return texte;
 }
+
+}  // namespace
 
 void Annuaire::Remplir(std::vector<Aidant> aidants) {
   beginResetModel();
   fiches_.clear();
   fiches_.reserve(aidants.size());
   for (Aidant& aidant : aidants) {
-    const QString code = plier(versQt(aidant.code));
-    const auto debut = std::find_if(code.begin(), code.end(), [](QChar c) { return c != '0'; });
-    const QString court = code.mid(debut - code.begin());
-    const QString nom = plier(versQt(aidant.nomPrenom));
-    fiches_.push_back({std::move(aidant), nom, versModele(" " + code + " " + court + " " + nom)});
+    const std::string code = data::plier(aidant.code);
+    const std::string court = code.substr(std::min(code.find_first_not_of('0'), code.size()));
+    const std::string mots = " " + code + " " + court + motsDe(aidant.nomPrenom);
+    std::string nom = data::sansAccents(aidant.nomPrenom);
+    fiches_.push_back({std::move(aidant), std::move(nom), mots});
   }
   std::sort(fiches_.begin(), fiches_.end(), [](const Fiche& a, const Fiche& b) {
-    return std::tie(a.nom, a.aidant.code) < std::tie(b.nom, b.aidant.code);
+    const int ordre = data::ordreDictionnaire(a.aidant.nomPrenom, a.nom, b.aidant.nomPrenom, b.nom);
+    return ordre != 0 ? ordre < 0 : a.aidant.code < b.aidant.code;
   });
   retenus_.resize(fiches_.size());
   std::iota(retenus_.begin(), retenus_.end(), std::size_t{0});
@@ -65,8 +66,8 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
 
 void Annuaire::Filtrer(const QString& saisie) {
   std::vector<std::string> mots;
-  for (const QString& mot : plier(saisie).split(' ', Qt::SkipEmptyParts)) {
-    mots.push_back(versModele(" " + mot));
+  for (const std::string& mot : data::mots(data::plier(versModele(saisie)))) {
+    mots.push_back(" " + mot);
   }
   beginResetModel();
   retenus_.clear();

@@ -28,9 +28,6 @@ struct Aidant {
 // Every carer of the file. A data::StoreError rises.
 std::vector<Aidant> lireAidants(data::Storage& stockage);
 
-// Lower case without accents, ligatures opened, one blank between words.
-QString plier(const QString& texte);
-
 class Annuaire : public QAbstractTableModel {
  public:
   enum Colonne { Code, Nom, NombreColonnes };
@@ -51,8 +48,8 @@ class Annuaire : public QAbstractTableModel {
  private:
   struct Fiche {
     Aidant aidant;
-    QString nom;       // folded
-    std::string mots;  // every word that can be typed, each after a blank, in UTF-8
+    std::string nom;   // without accents
+    std::string mots;  // every word that can be typed, each after a blank
   };
 
   std::vector<Fiche> fiches_;

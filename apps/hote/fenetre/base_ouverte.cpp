@@ -2,7 +2,7 @@
 
 #include <QFileInfo>
 
-#include "fenetre/stockage_veille.h"
+#include "fenetre/avertir.h"
 #include "liaison/textes_qt.h"
 #include "storage/sqlite.h"
 
@@ -12,34 +12,40 @@ namespace {
 
 constexpr int AttenteEcritureMs = 2000;
 
-// The name is noted before the opening: a file that changes place meanwhile is noticed.
-std::shared_ptr<StockageVeille> ouvrirVeille(const std::string& chemin, const data::Poste& poste,
-                                             const Ouvreur& ouvrir) {
-  FichierSuivi fichier(chemin);
-  return std::make_shared<StockageVeille>(std::move(fichier), ouvrir(chemin, poste));
+std::unique_ptr<data::Storage> ouvrir(const std::string& chemin, const data::Poste& poste,
+                                      bool reseauAdmis) {
+  storage::SqliteOptions options;
+  options.attenteMs = AttenteEcritureMs;
+  options.reseauAdmis = reseauAdmis;
+  auto stockage = storage::SqliteStorage::Ouvrir(chemin, poste, options);
+  if (!stockage->Avis().empty()) informer(versQt(stockage->Avis()));
+  return stockage;
 }
 
 }  // namespace
 
 std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste) {
-  storage::SqliteOptions options;
-  options.attenteMs = AttenteEcritureMs;
-  return storage::SqliteStorage::Ouvrir(chemin, poste, options);
+  return ouvrir(chemin, poste, false);
+}
+
+std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
+                                                    const data::Poste& poste) {
+  return ouvrir(chemin, poste, true);
 }
 
 BaseOuverte::BaseOuverte(const QString& chemin, const data::Poste& poste, const Ouvreur& ouvrir)
     : chemin_(QFileInfo(chemin).absoluteFilePath()),
-      stockage_(ouvrirVeille(versModele(chemin_), poste, ouvrir)),
-      db_(stockage_) {
-  // The store refuses to write into a file that is gone; the watch tells so before a clerk types
-  // for nothing. A write in the file makes a signal too.
-  connect(&veille_, &QFileSystemWatcher::fileChanged, this, [this] { Regarder(); });
+      veille_(versModele(chemin_)),
+      db_(ouvrir(versModele(chemin_), poste)) {
+  veille_.SuivreJournal();
+  // A write in the file makes a signal too.
+  connect(&signaux_, &QFileSystemWatcher::fileChanged, this, [this] { Regarder(); });
   Veiller();
 }
 
 // A file that leaves its name leaves the watch.
 void BaseOuverte::Veiller() {
-  veille_.addPath(chemin_);
+  signaux_.addPath(chemin_);
 }
 
 QString BaseOuverte::Nom() const {
@@ -47,15 +53,15 @@ QString BaseOuverte::Nom() const {
 }
 
 QString BaseOuverte::Defaut() const {
-  return versQt(stockage_->Defaut());
+  return versQt(veille_.Defaut());
 }
 
 bool BaseOuverte::Remplacee() const {
-  return stockage_->Fichier().Regarder() == FichierSuivi::Etat::Remplace;
+  return veille_.Remplace();
 }
 
 QString BaseOuverte::EcarterJournal() {
-  return versQt(stockage_->EcarterJournal());
+  return versQt(veille_.EcarterJournal());
 }
 
 void BaseOuverte::Regarder() {

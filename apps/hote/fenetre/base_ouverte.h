@@ -9,16 +9,18 @@
 
 #include "data/db.h"
 #include "data/poste.h"
+#include "storage/veille.h"
 
 namespace hote {
-
-class StockageVeille;
 
 // How the store in a data file is opened. A data::StoreError when it cannot be.
 using Ouvreur = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
                                                              const data::Poste& poste)>;
 // The embedded store. A write waits for another program 2 seconds at most: the window waits too.
 std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste);
+// The same in a network folder, too, for who knows that one station alone opens it.
+std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
+                                                    const data::Poste& poste);
 
 class BaseOuverte : public QObject {
   Q_OBJECT
@@ -34,7 +36,7 @@ class BaseOuverte : public QObject {
   QString Defaut() const;
   // Another file has taken the name: what is shown is no longer what stands there.
   bool Remplacee() const;
-  // See StockageVeille.
+  // See storage::Veille.
   QString EcarterJournal();
   void Veiller();
 
@@ -47,9 +49,11 @@ class BaseOuverte : public QObject {
   void Regarder();
 
   QString chemin_;
-  std::shared_ptr<StockageVeille> stockage_;
+  // The store refuses to write into a file that is gone; this tells so before a clerk types for
+  // nothing.
+  storage::Veille veille_;
   data::Db db_;
-  QFileSystemWatcher veille_;
+  QFileSystemWatcher signaux_;
 };
 
 }  // namespace hote

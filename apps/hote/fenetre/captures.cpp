@@ -29,6 +29,7 @@
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
 #include "screen/user.h"
+#include "storage/copie.h"
 #include "storage/sqlite.h"
 #include "widget/contrat_widget.h"
 
@@ -249,11 +250,7 @@ QStringList capturerFormes(const QString& fichier, const std::string& aidant,
                            const QString& dossier) {
   const QTemporaryDir essai;
   const QString copie = essai.filePath(QFileInfo(fichier).fileName());
-  for (const char* const suffixe : {"", "-wal"}) {
-    if (*suffixe != '\0' && !QFile::exists(fichier + suffixe)) continue;
-    if (QFile::copy(fichier + suffixe, copie + suffixe)) continue;
-    throw std::runtime_error(versModele("Le fichier « " + fichier + " » ne peut pas être lu."));
-  }
+  storage::copierFichier(versModele(fichier), versModele(copie));
   Album album(dossier);
   Bureau bureau(nullptr,
                 std::make_unique<QSettings>(essai.filePath("reglages.ini"), QSettings::IniFormat));

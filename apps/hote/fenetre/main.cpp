@@ -7,6 +7,7 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include "fenetre/base_ouverte.h"
 #include "fenetre/captures.h"
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
@@ -38,7 +39,8 @@ int capturer(const QCommandLineParser& options) {
 // A signal ends the program at once: there is nobody to ask, and what was stored is on the disk.
 int montrer(const QCommandLineParser& options) {
   hote::Bureau bureau;
-  hote::FenetreHote fenetre(bureau);
+  hote::FenetreHote fenetre(
+      bureau, options.isSet("meme-en-reseau") ? hote::ouvrirSqliteEnReseau : hote::ouvrirSqlite);
   const auto commencer = [&] {
     const QStringList fichiers = options.positionalArguments();
     if (fichiers.isEmpty()) return fenetre.OuvrirDernier();
@@ -71,6 +73,8 @@ int main(int argc, char** argv) {
   options.addOption(
       {"captures", "Écrit les images des écrans dans ce dossier et s'arrête.", "dossier"});
   options.addOption({"aidant", "Ouvre l'aidant de ce code.", "code"});
+  options.addOption(
+      {"meme-en-reseau", "Admet un fichier d'un dossier du réseau, qu'un seul poste ouvre."});
   options.addPositionalArgument("fichier", "Le fichier de données ; sinon le dernier ouvert.");
   options.process(application);
   return options.isSet("captures") ? capturer(options) : montrer(options);

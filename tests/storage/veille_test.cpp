@@ -1,23 +1,26 @@
 // A data file that changes place while it is in use takes no write that nobody would find again.
 
-#include "fenetre/stockage_veille.h"
-
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 
+#include "data/poste.h"
 #include "data/store_error.h"
 #include "storage/sqlite.h"
+#include "support/temp_dir.h"
 
 namespace {
 
+namespace fs = std::filesystem;
+using storage::SqliteStorage;
+
 class Veille : public ::testing::Test {
  protected:
-  const std::string& Creer() const {
-    storage::SqliteStorage::Creer(chemin_, poste_)->Put("PCS", "1", "avant");
-    return chemin_;
+  std::unique_ptr<SqliteStorage> Creer() const {
+    SqliteStorage::Creer(chemin_, poste_)->Put("PCS", "1", "avant");
+    return SqliteStorage::Ouvrir(chemin_, poste_);
   }
 
   // What the refusal of `ecriture` says, "" when it passes.
@@ -32,16 +35,16 @@ class Veille : public ::testing::Test {
   }
   std::string lu(const char* cle) {
     std::string texte = "-";
-    storage::SqliteStorage::Ouvrir(chemin_, poste_)->Get("PCS", cle, texte);
+    SqliteStorage::Ouvrir(chemin_, poste_)->Get("PCS", cle, texte);
     return texte;
   }
 
-  const QTemporaryDir dossier_{};
-  const std::string chemin_ = dossier_.filePath("a.contrats").toStdString();
-  const std::string ailleurs_ = dossier_.filePath("b.contrats").toStdString();
+  const support::TempDir dossier_{};
+  const std::string chemin_ = dossier_.Chemin("a.contrats");
+  const std::string ailleurs_ = dossier_.Chemin("b.contrats");
   const data::PosteFixe poste_{21511};
-  hote::StockageVeille veille_{hote::FichierSuivi(Creer()),
-                               storage::SqliteStorage::Ouvrir(chemin_, poste_)};
+  const std::unique_ptr<SqliteStorage> store_ = Creer();
+  SqliteStorage& veille_ = *store_;
 };
 
 TEST_F(Veille, RefusesEveryWriteUntilTheFileIsBack) {
@@ -54,8 +57,8 @@ TEST_F(Veille, RefusesEveryWriteUntilTheFileIsBack) {
     return [de, vers] { return std::rename(de.c_str(), vers.c_str()); };
   };
   const auto remplacer = [&] {
-    return std::rename(chemin_.c_str(), ailleurs_.c_str()) +
-           !QFile("/dev/null").copy(QString::fromStdString(chemin_));
+    const int code = std::rename(chemin_.c_str(), ailleurs_.c_str());
+    return std::ofstream(chemin_) ? code : 1;
   };
   for (const Cas& cas : {Cas{bouger(chemin_, ailleurs_), bouger(ailleurs_, chemin_), "déplacé"},
                          Cas{remplacer, bouger(ailleurs_, chemin_), "remplacé par un autre"},

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace hote {
+namespace storage {
 
 class FichierSuivi {
  public:
@@ -37,4 +37,4 @@ class FichierSuivi {
   std::optional<Identite> identite_;
 };
 
-}  // namespace hote
+}  // namespace storage

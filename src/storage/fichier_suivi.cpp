@@ -1,11 +1,11 @@
-#include "fenetre/fichier_suivi.h"
+#include "storage/fichier_suivi.h"
 
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <utility>
 
-namespace hote {
+namespace storage {
 
 std::optional<FichierSuivi::Identite> FichierSuivi::Lire(const std::string& chemin, int& absente) {
   struct stat fiche {};
@@ -27,4 +27,4 @@ FichierSuivi::Etat FichierSuivi::Regarder() const {
   return maintenant == identite_ ? Etat::EnPlace : Etat::Remplace;
 }
 
-}  // namespace hote
+}  // namespace storage
