@@ -234,7 +234,8 @@ std::string sansAccents(std::string_view texte) {
 
 std::string plier(std::string_view nom) {
   std::string resultat = sansAccents(nom);
-  for (const char* signe : {"'", "\"", "[", "]", "\u2019", "\u02BC", "-", "\u2010", "\u2011", "\u2013"}) {
+  for (const char* signe :
+       {"'", "\"", "[", "]", "\u2019", "\u02BC", "-", "\u2010", "\u2011", "\u2013"}) {
     replaceAll(resultat, signe, "");
   }
   return resultat;

@@ -252,8 +252,8 @@ TEST_F(Hote, HelpIsAboutTheScreenInFront) {
 }
 
 TEST(Aide, EveryFormHasItsPage) {
-  const QStringList formes =
-      QDir(CONTRATS_SOURCE_DIR "/apps/hote/formes").entryList({"Ctr_*.ui", "Frm_*.ui"}, QDir::Files);
+  const QStringList formes = QDir(CONTRATS_SOURCE_DIR "/apps/hote/formes")
+                                 .entryList({"Ctr_*.ui", "Frm_*.ui"}, QDir::Files);
   EXPECT_FALSE(formes.isEmpty());
   for (const QString& forme : formes) {
     const QString nom = forme.chopped(3);
