@@ -43,3 +43,17 @@ function(contrats_folder name)
     contrats_prefixe(contrats_data USERS contrats_${name})
   endif()
 endfunction()
+
+# contrats_programme(name): installs a program with its French manual page and its completion, from paquet/ beside it.
+# These are what a package holds; libraries and headers are for those who build a host of their own.
+include(GNUInstallDirs)
+function(contrats_programme name)
+  install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programmes)
+  set(paquet ${CMAKE_CURRENT_SOURCE_DIR}/paquet)
+  if(NOT EXISTS ${paquet})
+    set(paquet ${CMAKE_CURRENT_SOURCE_DIR})
+  endif()
+  install(FILES ${paquet}/${name}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT programmes)
+  install(FILES ${paquet}/${name}.bash RENAME ${name}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programmes)
+endfunction()

@@ -23,6 +23,9 @@ int lire(Contexte& contexte, const Arguments& arguments);
 int ecrire(Contexte& contexte, const Arguments& arguments);
 int historique(Contexte& contexte, const Arguments& arguments);
 int retablir(Contexte& contexte, const Arguments& arguments);
+int supprimer(Contexte& contexte, const Arguments& arguments);
+// What is not to be kept.
+int oublier(Contexte& contexte, const Arguments& arguments);
 // Queries.
 int select(Contexte& contexte, const Arguments& arguments);
 

@@ -1,4 +1,4 @@
-// `lire`, `ecrire`, `historique` and `retablir`: one record and its former texts.
+// `lire`, `ecrire`, `supprimer`, `historique` and `retablir`: one record and its former texts.
 
 #include <algorithm>
 #include <iterator>
@@ -120,6 +120,15 @@ int retablir(Contexte& contexte, const Arguments& arguments) {
   });
   contexte.Ecrit(nomArticle(arguments) + " a de nouveau son texte n° " + std::to_string(numero) +
                  ".\n");
+  return Fait;
+}
+
+int supprimer(Contexte& contexte, const Arguments& arguments) {
+  Base base(contexte, arguments, Acces::Ecriture);
+  if (!base.Stockage().Erase(arguments.Texte("FICHIER"), arguments.Texte("CLE"))) {
+    throw Echec(Refuse, nomArticle(arguments) + " : cet article n'existe pas.");
+  }
+  contexte.Ecrit(nomArticle(arguments) + " est supprimé ; « retablir » peut le rendre.\n");
   return Fait;
 }
 

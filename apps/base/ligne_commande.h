@@ -28,7 +28,7 @@ struct Commande {
   std::string_view nom;
   std::string_view resume;
   std::array<Position, 4> positions;      // unnamed ones are unused
-  std::array<OptionCommande, 2> options;  // likewise
+  std::array<OptionCommande, 3> options;  // likewise
   int (*action)(Contexte&, const Arguments&);
 };
 

@@ -218,7 +218,7 @@ std::string majuscules(std::string_view texte) {
 }
 
 std::string sansAccents(std::string_view texte) {
-  const std::string capitales = majuscules(texte);
+  std::string capitales = majuscules(texte);
   const bool ascii = std::all_of(capitales.begin(), capitales.end(), [](char c) { return c > 0; });
   if (ascii) return capitales;
   std::string resultat;

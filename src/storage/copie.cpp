@@ -184,7 +184,7 @@ std::string restaurerFichier(const std::string& base, const std::string& copie,
                  "recommencez.");
   }
   prendreDroits(partiel.Nom(), base);
-  const std::string ancien = nomLibre(base);
+  std::string ancien = nomLibre(base);
   echanger(partiel.Nom(), base, ancien);
   fixerDossier(base);
   return ancien;

@@ -107,6 +107,24 @@ void SqliteStorage::EnUnBloc(const std::function<void()>& travail) {
   moteur_->EnUnBloc(travail);
 }
 
+void SqliteStorage::ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) {
+  Lecteur().CompterAnciens(avant, visiteur);
+}
+
+void SqliteStorage::OublierAvant(std::string_view avant) {
+  const Acte acte{"Effacement d'anciens textes dans"};
+  moteur_->Ecrire(acte, [&] { moteur_->OterAnciens(acte, avant); });
+}
+
+void SqliteStorage::Oublier(std::string_view fichier, std::string_view cle) {
+  const Acte acte{"Effacement", fichier, cle};
+  moteur_->Ecrire(acte, [&] { moteur_->OterTout(acte); });
+}
+
+bool SqliteStorage::Compacter() {
+  return moteur_->Compacter();
+}
+
 void SqliteStorage::Verifier(const std::function<void(const Dommage&)>& signaler,
                              const std::function<void(long)>& avance) {
   moteur_->ExigerRepos();

@@ -77,6 +77,19 @@ class SqliteStorage : public data::Storage {
   // programmer's error (std::logic_error).
   void EnUnBloc(const std::function<void()>& travail) override;
 
+  // Forgetting, which leaves no former text. The records that have former texts, with their number;
+  // with `avant`, a time as in the history, only those replaced before it.
+  using VisiteurAnciens =
+      std::function<void(std::string_view fichier, std::string_view cle, long anciens)>;
+  void ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur);
+  // Removes for good the former texts replaced before `avant`, or one record with all of its own.
+  // In a block or outside.
+  void OublierAvant(std::string_view avant);
+  void Oublier(std::string_view fichier, std::string_view cle);
+  // Gives the room of what was removed back to the disk, where nothing of it is left in the file or
+  // its log. False when a reader keeps a part of the log until it ends. Not in a block.
+  bool Compacter();
+
   // Reads every page, record and former text and reports each damaged one; where a damaged page
   // cuts the way, what stands behind it is read from the other end. `avance`, if any, is told now
   // and then how many records and former texts have been read. Others may go on working.

@@ -19,6 +19,11 @@ constexpr Acte kOuverture{"Ouverture de"};
 constexpr std::chrono::milliseconds kPas{20};
 constexpr std::size_t kOctetsEntete = 32;  // of a log
 
+// Of the log; SQLite makes it anew when it is absent.
+std::string indexDe(const std::string& journal) {
+  return journal.substr(0, journal.size() - 3) + "shm";
+}
+
 }  // namespace
 
 std::optional<Sels> selsDuJournal(const std::string& journal) {
@@ -52,9 +57,7 @@ std::string ecarterJournal(const std::string& journal) {
   }
   fs::rename(journal, nom, code);
   if (code) return {};
-  // The log's index, which is made anew.
-  const std::string memoire = journal.substr(0, journal.size() - 3) + "shm";
-  fs::remove(memoire, code);
+  fs::remove(indexDe(journal), code);
   return nom;
 }
 
@@ -97,6 +100,15 @@ void ecarterJournalEtranger(Connexion& connexion, int attenteMs) {
                     " » est celui d'un autre fichier, que celui-ci a remplacé : il a été mis de "
                     "côté sous le nom « " +
                     nom + " ». Les dernières écritures de l'autre fichier y sont.");
+}
+
+void oterVoisinsVides(const Connexion& connexion) {
+  const Exclusivite exclusivite(connexion, 0);
+  if (!exclusivite.Tenue()) return;
+  const std::string journal = connexion.Journal();
+  std::error_code code;
+  if (fs::exists(journal, code) && fs::file_size(journal, code) == 0) fs::remove(journal, code);
+  fs::remove(indexDe(journal), code);
 }
 
 }  // namespace storage

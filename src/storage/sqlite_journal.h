@@ -41,4 +41,8 @@ class Exclusivite {
   bool tenue_ = false;
 };
 
+// Takes away what an opening that failed has put beside the file: a log without writes, and its
+// index. Nothing while anybody has the file open. Before SQLite reads through `connexion`.
+void oterVoisinsVides(const Connexion& connexion);
+
 }  // namespace storage

@@ -1,8 +1,8 @@
 #pragma once
 // Which log belongs to a data file. SQLite lays a log that it finds under the right name over
 // whatever file stands there: a backup that was put over the file after a crash would be mixed with
-// the writes that came after it. So the first page carries a mark, the salts (random numbers) of the
-// log that was begun last over this very file. A log with other salts is another file's.
+// the writes that came after it. So the first page carries a mark, the salts (random numbers) of
+// the log that was begun last over this very file. A log with other salts is another file's.
 //
 // The mark is written before the log that it names is begun, so a crash in between leaves the
 // former log, all of it in the file by then, beside the new mark: the mark names both.

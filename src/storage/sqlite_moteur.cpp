@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "storage/controle.h"
+#include "storage/sqlite_schema.h"
 
 namespace storage {
 
@@ -31,6 +32,12 @@ constexpr const char* kScanSansFin =
     "SELECT cle, texte, controle FROM article WHERE fichier = ?1 AND cle >= ?2 ORDER BY cle";
 constexpr const char* kCompter =
     "SELECT fichier, count(*) FROM article GROUP BY fichier ORDER BY fichier";
+
+constexpr const char* kCompterAnciens =
+    "SELECT fichier, cle, count(*) FROM ancien WHERE ?1 = '' OR horodatage < ?1 "
+    "GROUP BY fichier, cle ORDER BY fichier, cle";
+constexpr const char* kOterAnciens = "DELETE FROM ancien WHERE horodatage < ?1";
+constexpr const char* kOterSesAnciens = "DELETE FROM ancien WHERE fichier = ?1 AND cle = ?2";
 
 // A statement of the reserve, and a scan under way, for as long as it lives.
 class Emprunt {
@@ -205,6 +212,48 @@ bool SqliteStorage::Moteur::Oter(const Acte& acte) {
   oter_.Lier(2, acte.cle);
   oter_.Executer(acte);
   return true;
+}
+
+void SqliteStorage::Moteur::CompterAnciens(std::string_view avant,
+                                           const VisiteurAnciens& visiteur) {
+  const Acte acte{"Lecture de l'historique de"};
+  Requete compter(*connexion_, kCompterAnciens, acte);
+  compter.Lier(1, avant);
+  while (compter.Avancer(acte)) {
+    visiteur(compter.Texte(0), compter.Texte(1), static_cast<long>(compter.Nombre(2)));
+  }
+  connexion_->ExigerTenue(acte);
+}
+
+void SqliteStorage::Moteur::OterAnciens(const Acte& acte, std::string_view avant) {
+  Requete oter(*connexion_, kOterAnciens, acte);
+  oter.Lier(1, avant);
+  oter.Executer(acte);
+}
+
+// Unlike Oter, it asks for no sound record: what cannot be read can be removed.
+void SqliteStorage::Moteur::OterTout(const Acte& acte) {
+  for (const char* sql : {kOter, kOterSesAnciens}) {
+    Requete oter(*connexion_, sql, acte);
+    oter.Lier(1, acte.fichier);
+    oter.Lier(2, acte.cle);
+    oter.Executer(acte);
+  }
+}
+
+bool SqliteStorage::Moteur::Compacter() {
+  const Acte acte{"Compactage de"};
+  ExigerRepos();
+  veille_.Exiger(acte);
+  connexion_->Executer("VACUUM", acte);
+  const int code = sqlite3_wal_checkpoint_v2(connexion_->Db(), nullptr, SQLITE_CHECKPOINT_TRUNCATE,
+                                             nullptr, nullptr);
+  if (code != SQLITE_OK && (code & 0xFF) != SQLITE_BUSY) connexion_->Echouer(code, acte);
+  // A log is begun at once: without one, who has the file open could not tell it from another.
+  const std::string debut = "PRAGMA user_version = " + std::to_string(kVersion);
+  connexion_->Executer(debut.c_str(), acte);
+  veille_.Exiger(acte);
+  return code == SQLITE_OK;
 }
 
 void SqliteStorage::Moteur::Archiver(const Acte& acte, std::string_view texte, bool supprime) {

@@ -59,8 +59,13 @@ class SqliteStorage::Moteur {
   std::vector<data::FichierCompte> Compter();
   std::vector<data::AncienTexte> Anciens(const Acte& acte);
 
+  void CompterAnciens(std::string_view avant, const VisiteurAnciens& visiteur);
+
   void Poser(const Acte& acte, std::string_view texte);
   bool Oter(const Acte& acte);
+  void OterAnciens(const Acte& acte, std::string_view avant);
+  void OterTout(const Acte& acte);
+  bool Compacter();
 
   // Runs `ecriture` in the block under way, or in a transaction of its own.
   void Ecrire(const Acte& acte, const std::function<void()>& ecriture);

@@ -327,6 +327,7 @@ std::unique_ptr<Connexion> ouvrirFichierEnLecture(const std::string& chemin,
         throw;
       }
     }
+    oterVoisinsVides(Connexion(cibleDe(chemin), chemin, kModes | SQLITE_OPEN_READWRITE));
   }
   return enLecture(chemin);
 }

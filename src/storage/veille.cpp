@@ -48,15 +48,18 @@ void Veille::Suivre(const Connexion& connexion) {
   marque_ = lireMarque(connexion.Fichier()).value_or(Marque{});
 }
 
-// A new mark stands beside the log that it names, but for the instant between the two writes.
+// A new mark stands beside the log that it names; until that one is begun, beside the former log,
+// which is the one that was seen last.
 bool Veille::MarqueTient() const {
   const auto marque = lireMarque(connexion_->Fichier());
   if (!marque) return true;  // damaged: the next read says so
   const auto sels = selsDuJournal(connexion_->Journal());
   if (*marque == marque_) return !sels || marque->Admet(*sels);
-  if (!sels || marque->journal != *sels) return false;
-  marque_ = *marque;
-  return true;
+  if (sels && marque->journal == *sels) {
+    marque_ = *marque;
+    return true;
+  }
+  return marque->precedent == marque_.journal && (!sels || *sels == marque->precedent);
 }
 
 bool Veille::Substitue() const {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "base/executer.h"
@@ -171,6 +172,64 @@ TEST_F(CommandesTest, FichierInconnuEtAnomalieSeule) {
   }
   EXPECT_EQ(Lance({"verifier"}), 1);
   EXPECT_EQ(erreurs_, "5 articles lus, 1 anomalie.\n");
+}
+
+TEST_F(CommandesTest, SupprimerPuisOublier) {
+  Sortie({"supprimer", "PCS", "11"});
+  EXPECT_EQ(Lance({"supprimer", "PCS", "11"}), 1);
+  EXPECT_EQ(Lance({"lire", "PCS", "11"}), 1);
+  const auto contient = [&](const char* texte) {
+    std::ifstream fichier(base_, std::ios::binary);
+    const std::string octets{std::istreambuf_iterator<char>(fichier), {}};
+    return octets.find(texte) != std::string::npos;
+  };
+  EXPECT_TRUE(contient("Cadres"));
+  EXPECT_EQ(Sortie({"oublier", "--avant", "01/01/2020"}), "");
+  EXPECT_EQ(Sortie({"oublier", "--avant", "01/01/2199", "--essai"}), "PCS\t11\t\t1 ancien texte\n");
+  EXPECT_EQ(erreurs_, "0 articles et 1 ancien texte seraient effacés. Rien n'a été effacé.\n");
+  EXPECT_TRUE(contient("Cadres"));
+  Sortie({"oublier", "--avant", "01/01/2199"});
+  EXPECT_FALSE(contient("Cadres"));
+  EXPECT_EQ(Lance({"historique", "PCS", "11"}), 1);
+}
+
+// The carer's records under every shape of key, those of others untouched, and the room comes back.
+TEST_F(CommandesTest, OublierUnAidant) {
+  const std::string gros(200000, 'z');
+  for (const char* article :
+       {"ABSENCESAIDANT 000010120000", "HISTORINDEM 1000001", "CONTRAT00102 00001001",
+        "CONTRATINV 0000100007", "HISTORINDEM 0000199", "CIVILAIDE 00001", "CONTRAT 00002001"}) {
+    const std::string mots = article;
+    const auto blanc = mots.find(' ');
+    const std::string item = "[\"" + gros + "\"]";
+    EXPECT_EQ(Lance({"ecrire", mots.substr(0, blanc), mots.substr(blanc + 1)}, item), 0);
+  }
+  Sortie({"supprimer", "ABSENCESAIDANT", "000010120000"});
+  const auto avant = std::filesystem::file_size(base_);
+  const std::string essai = Sortie({"oublier", "--aidant", "00001", "--essai"});
+  EXPECT_EQ(essai,
+            "ABSENCESAIDANT\t000010120000\t\t1 ancien texte\n"
+            "CIVILAIDANT\t00001\tarticle\t0 anciens textes\n"
+            "CONTRAT\t00001001\tarticle\t0 anciens textes\n"
+            "CONTRAT\t00001002\tarticle\t0 anciens textes\n"
+            "CONTRAT00102\t00001001\tarticle\t0 anciens textes\n"
+            "CONTRATINV\t0000100007\tarticle\t0 anciens textes\n"
+            "HISTORINDEM\t1000001\tarticle\t0 anciens textes\n");
+  EXPECT_EQ(Sortie({"oublier", "--aidant", "00001"}), essai);
+  EXPECT_EQ(Sortie({"oublier", "--aidant", "00001"}), "");
+  EXPECT_LT(std::filesystem::file_size(base_) + 4 * gros.size(), avant + 8192);
+  Sortie({"fichiers"});
+  EXPECT_NE(sortie_.find("CIVILAIDE\t1\t"), std::string::npos);
+  EXPECT_NE(sortie_.find("HISTORINDEM\t1\t"), std::string::npos);
+  EXPECT_NE(sortie_.find("CONTRAT\t1\t"), std::string::npos);
+  EXPECT_EQ(sortie_.find("CIVILAIDANT"), std::string::npos);
+  const auto& poste = data::PosteFixe(0);
+  storage::SqliteStorage::Ouvrir(base_, poste)->Verifier([](const storage::Dommage& d) {
+    ADD_FAILURE() << d.message;
+  });
+  EXPECT_EQ(Lance({"oublier"}), 2);
+  EXPECT_EQ(Lance({"oublier", "--avant", "32/01/2020"}), 2);
+  EXPECT_EQ(Lance({"oublier", "--aidant", "1"}), 2);
 }
 
 TEST_F(CommandesTest, LAideEstEnFrancais) {

@@ -184,8 +184,8 @@ TEST(LibNumber, Routines) {
   EXPECT_EQ(enUnites("1\u00A023,5", 2), std::nullopt);
   EXPECT_EQ(formeMilliers("1000.5") + formeMilliers(",5") + formeMilliers("n/a"), "1 000.50,5n/a");
   std::string lus;
-  for (const char* t :
-       {"12,5", "12.5", "-12,9", "", "abc", "0045", " 7", "12 rue", "1 234", ",9", "--5", "1\u202F234\u00A0567"}) {
+  for (const char* t : {"12,5", "12.5", "-12,9", "", "abc", "0045", " 7", "12 rue", "1 234", ",9",
+                        "--5", "1\u202F234\u00A0567"}) {
     lus += std::to_string(entier(t)) + " ";
   }
   EXPECT_EQ(lus, "12 12 -12 0 0 45 7 12 1234 0 0 1234567 ");

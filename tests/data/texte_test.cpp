@@ -59,8 +59,11 @@ TEST(Texte, NamesAsPeopleSearchAndSortThem) {
   const auto ordre = [](const char* a, const char* b) {
     return ordreDictionnaire(a, sansAccents(a), b, sansAccents(b));
   };
-  for (const auto& [avant, apres] : {std::pair{"", "a"}, {"Éva", "Zoé"}, {"zoé", "Zoël"},
-                                     {"Lefevre", "Lefèvre"}, {"LEFEVRE", "Lefevre"}}) {
+  for (const auto& [avant, apres] : {std::pair{"", "a"},
+                                     {"Éva", "Zoé"},
+                                     {"zoé", "Zoël"},
+                                     {"Lefevre", "Lefèvre"},
+                                     {"LEFEVRE", "Lefevre"}}) {
     EXPECT_LT(ordre(avant, apres), 0) << avant;
     EXPECT_GT(ordre(apres, avant), 0) << avant;
   }

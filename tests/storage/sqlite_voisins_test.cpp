@@ -1,5 +1,5 @@
-// What stands beside a data file: left by nobody, shared by those who share the file, and never laid
-// over a file that it does not belong to.
+// What stands beside a data file: left by nobody, shared by those who share the file, and never
+// laid over a file that it does not belong to.
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -163,6 +163,7 @@ TEST_F(Voisins, AFullDiskIsStillRead) {
     return etat(*Lire());
   };
   EXPECT_EQ(essai::ailleurs(lire), "CONTRAT[1=a]");
+  EXPECT_EQ(Dossier(), "essai");
   LaisserJournal();
   fs::remove(chemin_ + "-shm");
   EXPECT_EQ(essai::ailleurs(lire), "CONTRAT[1=a 2=b]");

@@ -93,4 +93,17 @@ TEST_F(Veille, UndoesABlockUnderWhichTheFileGoes) {
   EXPECT_EQ(lu("2"), "-");
 }
 
+// Logs that others begin, over this very file, are no sign of another one.
+TEST_F(Veille, FollowsTheWritesOfOthers) {
+  for (const char* cle : {"a", "b", "c"}) {
+    const auto autre = SqliteStorage::Ouvrir(chemin_, poste_);
+    autre->Put("PCS", cle, "x");
+    EXPECT_TRUE(autre->Compacter());
+    autre->Put("PCS", cle, std::string(9000000, 'x'));  // the log goes into the file meanwhile
+    autre->Put("PCS", cle, "y");
+    EXPECT_EQ(refus([&] { veille_.Put("PCS", "1", cle); }), "");
+  }
+  EXPECT_EQ(lu("c"), "y");
+}
+
 }  // namespace
