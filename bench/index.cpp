@@ -115,7 +115,7 @@ const TableColonnes& tableAidants() {
        {"prenom", attribut(Prenom)},
        {"fin", attribut(DateFin)},
        {"recherche",
-        [](auto, const CItem& item) { return data::majuscules(item(Nom) + ' ' + item(Prenom)); }}},
+        [](auto, const CItem& item) { return data::plier(item(Nom) + ' ' + item(Prenom)); }}},
       {"recherche"}};
   return table;
 }
