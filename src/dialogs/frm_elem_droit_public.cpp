@@ -60,6 +60,14 @@ void remplir(screen::ComboBox& champ, const data::ListeCodes& codes) {
   for (const auto& ligne : codes.Lignes()) champ.AddItem(ligne.libelle);
 }
 
+// A list that takes no typing shows its choice as a row.
+void choisirLigne(screen::ComboBox& champ) {
+  const auto& lignes = champ.Rows();
+  const auto ligne = std::find(lignes.begin(), lignes.end(), champ.Text());
+  if (ligne == lignes.end() || champ.Text().empty()) return;
+  champ.SetListIndex(static_cast<int>(ligne - lignes.begin()));
+}
+
 bool chiffre(char32_t touche) {
   return touche >= U'0' && touche <= U'9';
 }
@@ -113,7 +121,8 @@ Frm_ElemDroitPublic::Frm_ElemDroitPublic(screen::Platform& platform, session::Do
 
 void Frm_ElemDroitPublic::Lier() {
   zones_.Lier(session_);
-  Cbo_CodePopEmp.Click = Cbo_CodePopEmp.Change = [this] { Cbo_CodePopEmp_Change(); };
+  Cbo_CodePopEmp.Click = Cbo_CodePopEmp.Change =
+      sourdine_.SiAudible([this] { Cbo_CodePopEmp_Change(); });
   for (screen::TextField* const champ :
        {&Txt_CodeCorps, &Txt_CodeGrade, &Txt_CodeEmploi, &Txt_CodeEche}) {
     champ->KeyPress = chiffresEtLettres;
@@ -140,6 +149,12 @@ void Frm_ElemDroitPublic::Montrer() {
   const data::CItem& contrat = dossier_.ItemContrat;
   if (contrat.DCount(C::PopulationEmploi) < rang_) rangLu_ = std::max(rang_ - 1, 1);
   zones_.Montrer(session_.Lib, contrat, rangLu_);
+  {
+    const session::Sourdine::Silence silence(sourdine_);
+    for (screen::ComboBox* const champ : {&Cbo_CodePopEmp, &Cbo_CodeStaJur, &Cbo_CodeCatSta}) {
+      choisirLigne(*champ);
+    }
+  }
   const std::string emploi = contrat(C::EmploiStatutaire, rangLu_);
   Txt_CodeCorps.SetText(data::gauche(emploi, LongueurCorps));
   Txt_CodeGrade.SetText(data::milieu(emploi, LongueurCorps + 1, LongueurGrade));

@@ -8,6 +8,7 @@
 
 #include "data/liste_codes.h"
 #include "dialogs/dialogue.h"
+#include "session/sourdine.h"
 #include "session/zones.h"
 
 namespace dialogs {
@@ -77,6 +78,7 @@ class Frm_ElemDroitPublic : public Dialogue {
   // The contract as the OK of an untouched screen would leave it.
   std::string ItemSauvegarde_;
 
+  session::Sourdine sourdine_;
   data::ListeCodes populations_;
   data::ListeCodes statuts_;
   data::ListeCodes categories_;

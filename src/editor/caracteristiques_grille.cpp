@@ -177,11 +177,11 @@ std::string GrilleCarriere::EcrireDepart(const data::CItem& contrat,
                                          const rules::Debut& debut) const {
   const data::Lib& lib = editeur_.Session().Lib;
   const auto jour = lib.LireDate(Txt_DepartGrilContrat.Text());
-  const std::string saisi = jour ? lib.DateToInternal(*jour) : "";
+  std::string saisi = jour ? lib.DateToInternal(*jour) : "";
   const bool intact = !editeur_.Dossier().ModeCreation &&
                       Txt_DepartGrilContrat.Text() == departMontre_ &&
                       Cbo_GrilleContrat.Text() == grilleMontree_;
-  if (const std::string suivi = debut.Suivre(saisi); suivi != saisi) return suivi;
+  if (std::string suivi = debut.Suivre(saisi); suivi != saisi) return suivi;
   if (intact) return departSurFichier_;
   if (!saisi.empty()) return saisi;
   return Choisie() ? contrat(C::DateDebut) : "";

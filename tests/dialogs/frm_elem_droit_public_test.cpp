@@ -47,6 +47,8 @@ class DroitPublic : public EssaiDialogue {
 TEST_F(DroitPublic, MontreLeJeuDeSonAvenantOuLePrecedent) {
   deuxJeux();
   const char* const second = "40/012/20/0456/02/0008/002/390/361/12,50/Rédacteur/C2";
+  EXPECT_EQ(ouvrir(2)->Cbo_CodeStaJur.ListIndex(), 1);
+  EXPECT_EQ(ouvrir(2)->Cbo_CodePopEmp.ListIndex(), 0);
   EXPECT_EQ(vu(*ouvrir(1)), "40/011/30/0123/01/0007/001/367/340/10,00/Agent/C1");
   EXPECT_EQ(vu(*ouvrir(2)), second);
   EXPECT_EQ(vu(*ouvrir(3)), second);

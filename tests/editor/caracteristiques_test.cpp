@@ -377,8 +377,8 @@ TEST_F(Tab, UnNouveauContratEstEcritEnEntier) {
   EXPECT_EQ(texte, "0 21520 Agent 01A 21520 0 0 3500 1 0  A 0 ");
 }
 
-// Every field of the tab, for a new contract, one on file and an amendment being entered: nothing is
-// stored, and the user can always clear the box and go on.
+// Every field of the tab, for a new contract, one on file and an amendment that is entered: nothing
+// is stored, and the user can always clear the box and go on.
 TEST_F(Tab, NImporteQuoiDansChaqueChampNeCasseRien) {
   const std::string insultes[] = {std::string(10000, '9'),
                                   std::string("\x01\x1c\x1d\x1e\x7f\0x", 7),

@@ -169,7 +169,12 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossier, jour(data::Contrat::DateDebut), {});
   capturer(album, bureau, motif, "motif-cdd");
 
-  dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), dossier, 1);
+  // Of a contract under public law, where the file has one.
+  session::Dossier publique(session);
+  const data::CItem publics =
+      session.Db->Selectionner("SSELECT CONTRAT AVEC 121 <> \"\"", "CONTRAT", "0");
+  session.F_CONTRAT.Lire(publics(1, 1), publique.ItemContrat);
+  dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), publique, 1);
   capturer(album, bureau, droitPublic, "droit-public");
   dossier.CleContratCourant = liste.ClesContrats()(1);
   dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossier, {});
