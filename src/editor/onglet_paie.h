@@ -1,7 +1,7 @@
 #pragma once
-// Third tab, "Elements de paie": how the contract is paid. Profiles, payment mode, ceilings and
-// transport zone stand here; mutual insurance and provident scheme are in paie_cotisations.h, the
-// activities and their split by period in paie_activites.h.
+// Third tab, "Elements de paie": how the contract is paid. Ceilings and transport zone stand here;
+// what else the tab holds has a file of its own each: profiles, payment, contributions, activities,
+// and the dialogs that it opens (paie_*.h).
 
 #include <vector>
 
@@ -9,6 +9,8 @@
 #include "editor/onglet.h"
 #include "editor/paie_activites.h"
 #include "editor/paie_cotisations.h"
+#include "editor/paie_dialogues.h"
+#include "editor/paie_paiement.h"
 #include "editor/paie_profils.h"
 
 namespace editor {
@@ -33,7 +35,7 @@ class OngletPaie : public Onglet {
   // A new contract begins anew on every visit, by what the first tab says meanwhile.
   bool AReafficher() const override { return Onglet::AReafficher() || Creation(); }
   // Remote time-tracking is in use in the entity of the contract.
-  void SelonTelegestion(bool utilisee);
+  void SelonTelegestion(bool utilisee) { dialogues_.SelonTelegestion(utilisee); }
 
   bool ChoisirEntite(const std::string& entite, bool particuliers) {
     return activites_.ChoisirEntite(entite, particuliers);
@@ -48,12 +50,12 @@ class OngletPaie : public Onglet {
   void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
   // The private employer is billed for leave that is provisioned.
-  bool ProvisionFacturee() const;
+  bool ProvisionFacturee() const { return paiement_.ProvisionFacturee(); }
   // The contract is paid otherwise than on file.
-  bool ModePaiementChange() const;
+  bool ModePaiementChange() const { return paiement_.ModeChange(); }
   // A transfer needs bank details: refused here, when the carer has none. `modePaiement`: the word
   // "paiement" as that place spells it.
-  bool RibManquant(const char* modePaiement);
+  bool RibManquant(const char* modePaiement) { return paiement_.RibManquant(modePaiement); }
 
  private:
   // Ceilings, in euros a month.
@@ -73,26 +75,14 @@ class OngletPaie : public Onglet {
   void Lier();
   void AfficherNouveau();
   void AfficherExistant();
-  void ProposerModePaiement();
-  void MontrerProvision();
-  void Cbo_ModPaieContrat_LostFocus();
   void Cbo_CartOrangContrat_LostFocus();
   void GriserSaufActivite(bool actif);
-  // The dialogs: paie_dialogues.cpp.
-  void LierDialogues();
-  void Cmd_RubSaisie_Click();
-  void Cmd_Telegestion_Click();
   bool PrevoyanceObligatoire() const;
   // An activity of the entry headings is not among the contract's.
   bool RubriqueSansActivite() const;
 
   PaieProfils profils_{editeur_, Page, sourdine_};
-  screen::Label Etq_ModPaieContrat{Page, "Etq_ModPaieContrat", "Mode de Paiement"};
-  screen::ComboBox Cbo_ModPaieContrat{Page, "Cbo_ModPaieContrat", true, LongueurTexte};
-  screen::CheckBox Cac_PaieSalContrat{Page, "Cac_PaieSalContrat",
-                                      "Paiement du salaire par l'association"};
-  screen::CheckBox Cac_CPMoisContrat{Page, "Cac_CPMoisContrat", "Congés payés au mois"};
-  screen::CheckBox Cac_ProvCP{Page, "Cac_ProvCP", "Provision des congés"};
+  PaiePaiement paiement_{editeur_, Page, sourdine_};
   PaieCotisations cotisations_{editeur_, Page, sourdine_};
   screen::Label Etq_IdentCRCContrat{Page, "Etq_IdentCRCContrat", "Identification CRC"};
   screen::TextField Txt_IdentCRCContrat{Page, "Txt_IdentCRCContrat", LongueurTexte};
@@ -104,18 +94,11 @@ class OngletPaie : public Onglet {
   screen::TextField Txt_AssietteSecu{Page, "Txt_AssietteSecu", 10};
   PaieActivites activites_{editeur_, Page, sourdine_,
                            [this](bool actif) { GriserSaufActivite(actif); }};
-
-  // Dialogs.
-  screen::Button Cmd_RubSaisie{Page, "Cmd_RubSaisie", "Rubriques de saisie"};
-  screen::Button Cmd_Comment{Page, "Cmd_Comment", "Commentaires sur bulletin"};
-  screen::Button Cmd_Telegestion{Page, "Cmd_Telegestion", "Droits télégestion"};
-  screen::Button Cmd_TpsIndem{Page, "Cmd_TpsIndem", "Temps d'indemnisation"};
+  PaieDialogues dialogues_{editeur_, Page, activites_, cotisations_};
 
   // TABLES item.
   data::ListeCodes zonesTransport_;
   session::Zones zones_;
-  // The payment mode that was proposed for a new contract.
-  std::string modePropose_;
   // A split is being entered; what was closed already when it began.
   bool grise_ = false;
   std::vector<const screen::Field*> fermes_;

@@ -1,4 +1,4 @@
-// The dialogs that the third tab opens.
+#include "editor/paie_dialogues.h"
 
 #include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_rub_saisie.h"
@@ -9,8 +9,6 @@
 namespace editor {
 
 namespace {
-
-using screen::Icone;
 
 // What has to be known before remote time-tracking can be set up, in this order.
 struct Prealable {
@@ -28,37 +26,45 @@ constexpr Prealable Prealables[] = {
 
 }  // namespace
 
-void OngletPaie::LierDialogues() {
+PaieDialogues::PaieDialogues(Frm_ElementsContrat& editeur, screen::Frame& page,
+                             const PaieActivites& activites, PaieCotisations& cotisations)
+    : editeur_(editeur), page_(page), activites_(activites), cotisations_(cotisations) {
   Cmd_RubSaisie.Click = [this] { Cmd_RubSaisie_Click(); };
   Cmd_Comment.Click = [this] {
-    dialogs::Frm_CommentBull(editeur_.Services(), Dossier()).ShowModal();
+    dialogs::Frm_CommentBull(editeur_.Services(), editeur_.Dossier()).ShowModal();
   };
   Cmd_Telegestion.Click = [this] { Cmd_Telegestion_Click(); };
   Cmd_TpsIndem.Click = [this] {
-    dialogs::Frm_TpsIndem(editeur_.Services(), Dossier(), cotisations_.Prevoyance().Text())
+    dialogs::Frm_TpsIndem(editeur_.Services(), editeur_.Dossier(), cotisations_.Prevoyance().Text())
         .Ouvrir(editeur_);
   };
 }
 
-void OngletPaie::Cmd_RubSaisie_Click() {
-  dialogs::Frm_RubSaisie(editeur_.Services(), Dossier(),
+void PaieDialogues::SelonTelegestion(bool utilisee) {
+  Cmd_Telegestion.SetVisible(utilisee);
+  if (utilisee) Cmd_Telegestion.SetEnabled(true);
+}
+
+void PaieDialogues::Cmd_RubSaisie_Click() {
+  dialogs::Frm_RubSaisie(editeur_.Services(), editeur_.Dossier(),
                          {editeur_.origine.Administratif(), activites_.Activites()})
       .ShowModal();
 }
 
-void OngletPaie::Cmd_Telegestion_Click() {
+void PaieDialogues::Cmd_Telegestion_Click() {
   const auto& origine = editeur_.origine;
   for (const auto& [manque, message] : Prealables) {
     if (!manque(origine, activites_)) continue;
-    Message(message, Icone::Exclamation);
+    editeur_.MessageBox(message, screen::Boutons::Ok, screen::Icone::Exclamation);
     return;
   }
+  const session::Session& session = editeur_.Session();
   dialogs::ContexteTelegestion contexte;
   contexte.association = origine.Entite();
   contexte.employeur = origine.Employeur();
   contexte.nomEmployeur = origine.LibelleEmployeur();
-  contexte.codeAidant = Session().CodeAidant;
-  contexte.nomAidant = Session().NomPrenomAidant;
+  contexte.codeAidant = session.CodeAidant;
+  contexte.nomAidant = session.NomPrenomAidant;
   contexte.particuliers = origine.Particuliers();
   contexte.activites = activites_.Codes();
   dialogs::Frm_VESPAMOI(editeur_.Services(), std::move(contexte)).Ouvrir(editeur_);
