@@ -4,6 +4,7 @@
 
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
+#include "data/nombre.h"
 #include "data/requete.h"
 #include "editor/editeur.h"
 
@@ -86,6 +87,20 @@ void OngletCaracteristiques::Remplir_Grilles(const std::string& convention) {
 void OngletCaracteristiques::SelonSalaire(bool mensuel, bool production) {
   if (!mensuel) Cac_Lissage.SetValue(0);
   screen::Montrer({&Cdr_Lissage, &Cmd_SuiviAnnuel}, mensuel && production);
+}
+
+// The contract in hand answers for a box that shows nothing.
+std::optional<long> OngletCaracteristiques::DepartAnciennete() const {
+  namespace C = data::Contrat;
+  const auto& lib = Session().Lib;
+  auto depart = lib.LireDate(Txt_DateAnciennete.Text());
+  if (!depart) depart = lib.LireDate(lib.DateFromInternal(Contrat().Vue(C::DateAnciennete)));
+  if (!depart) depart = editeur_.origine.Debut();
+  if (!depart) return std::nullopt;
+  const std::string& saisis = Txt_JourSuspAnc.Text();
+  return *depart + static_cast<long>(saisis.empty()
+                                         ? data::entier(Contrat().Vue(C::JoursSuspensionAnciennete)) / 100
+                                         : data::entier(saisis));
 }
 
 void OngletCaracteristiques::DebuterLe(const std::string& date) {

@@ -24,6 +24,12 @@ class OngletCaracteristiques : public Onglet {
   // Administrative staff have no modulation.
   void FermerModulation() { Cdr_Lissage.SetVisible(false); }
   bool GrilleChoisie() const { return !Cbo_GrilleContrat.Text().empty(); }
+  // What a notice looks at: the day from which seniority counts, its whole days of suspension
+  // added; nothing when none is given.
+  std::optional<long> DepartAnciennete() const;
+  bool Lissee() const { return Cac_Lissage.Value() != 0; }
+  // What the reason of an end decides of the hours not worked.
+  void RetirerHeuresNegatives(bool retirees) { Cac_RetraitHeuresNeg.SetValue(retirees ? 1 : 0); }
 
  private:
   void Afficher_Ong() override { Afficher_Ong2(); }
