@@ -14,12 +14,12 @@ namespace C = data::Contrat;
 PreavisFin::PreavisFin(session::Session& session, screen::Frame& page)
     : session_(session),
       page_(page),
-      genres_{{{Opt_Paye, Txt_DebPayeContrat, Txt_FinPayeContrat, C::PreavisPayeDu,
-                C::PreavisPayeAu},
-               {Opt_Effectue, Txt_DebEffContrat, Txt_FinEffContrat, C::PreavisEffectueDu,
-                C::PreavisEffectueAu},
-               {Opt_NonEffNonPaye, Txt_DebNonEffNonPaye, Txt_FinNonEffNonPaye,
-                C::PreavisNonEffectueDu, C::PreavisNonEffectueAu}}} {
+      genres_{
+          {{Opt_Paye, Txt_DebPayeContrat, Txt_FinPayeContrat, C::PreavisPayeDu, C::PreavisPayeAu},
+           {Opt_Effectue, Txt_DebEffContrat, Txt_FinEffContrat, C::PreavisEffectueDu,
+            C::PreavisEffectueAu},
+           {Opt_NonEffNonPaye, Txt_DebNonEffNonPaye, Txt_FinNonEffNonPaye, C::PreavisNonEffectueDu,
+            C::PreavisNonEffectueAu}}} {
   for (const Genre& genre : genres_) {
     genre.option.Click = [this] { ActiverJours(); };
     session::LierDate(session_, genre.debut);

@@ -98,9 +98,10 @@ std::optional<long> OngletCaracteristiques::DepartAnciennete() const {
   if (!depart) depart = editeur_.origine.Debut();
   if (!depart) return std::nullopt;
   const std::string& saisis = Txt_JourSuspAnc.Text();
-  return *depart + static_cast<long>(saisis.empty()
-                                         ? data::entier(Contrat().Vue(C::JoursSuspensionAnciennete)) / 100
-                                         : data::entier(saisis));
+  return *depart +
+         static_cast<long>(saisis.empty()
+                               ? data::entier(Contrat().Vue(C::JoursSuspensionAnciennete)) / 100
+                               : data::entier(saisis));
 }
 
 void OngletCaracteristiques::DebuterLe(const std::string& date) {

@@ -42,8 +42,8 @@ class Fin : public Editeur {
     auto& liste = cbo("MotifFinContrat");
     screen::User(*editeur).Derouler(liste);
     const auto& lignes = liste.Rows();
-    choisir(liste, static_cast<int>(std::find(lignes.begin(), lignes.end(), motif) -
-                                    lignes.begin()));
+    choisir(liste,
+            static_cast<int>(std::find(lignes.begin(), lignes.end(), motif) - lignes.begin()));
   }
   // "end, paid from-to, last payslip".
   std::string fin() {
@@ -51,10 +51,10 @@ class Fin : public Editeur {
            txt("DebPayeContrat").Text() + "-" + txt("FinPayeContrat").Text() + ", " +
            txt("DernBullContrat").Text();
   }
-  // Those attributes of the contract in hand, parted by blanks.
+  // Those attributes of the contract in hand, each before a blank.
   std::string lu(const std::vector<int>& attributs) {
     std::string texte;
-    for (const int a : attributs) texte += (texte.empty() ? "" : " ") + c()(a);
+    for (const int a : attributs) texte += c()(a) + " ";
     return texte;
   }
 };

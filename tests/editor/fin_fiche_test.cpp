@@ -42,25 +42,32 @@ TEST_F(FinFiche, LaNotificationEtLeMotifDonnentLaFinEtLePreavis) {
   } cas[] = {
       {"15/08/2026", "Licenciement", {}, {}, "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
       // A single month of seniority less than two years: from the seniority date, suspension added.
-      {"15/08/2026", "Licenciement",
+      {"15/08/2026",
+       "Licenciement",
        {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "650"}},
        {},
        "14/09/2026, payé 15/08/2026-14/09/2026, août 2026"},
-      {"15/08/2026", "Licenciement",
+      {"15/08/2026",
+       "Licenciement",
        {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "550"}},
        {},
        "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
       // The grid of the last amendment: an executive's.
-      {"15/08/2026", "Licenciement",
+      {"15/08/2026",
+       "Licenciement",
        {{C::Avenant, valeurs("0|01")},
         {C::DateEffet, valeurs(jour("01/03/2024") + "|" + jour("01/01/2026"))},
         {C::Grille, valeurs("01A|01G")}},
        {},
        "14/12/2026, payé 15/08/2026-14/12/2026, août 2026"},
-      {"15/08/2026", "Licenciement", {},
+      {"15/08/2026",
+       "Licenciement",
+       {},
        {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
        "14/11/2026, payé 15/08/2026-14/11/2026, août 2026"},
-      {"15/08/2026", "Faute", {},
+      {"15/08/2026",
+       "Faute",
+       {},
        {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
        "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
       {"15/08/2026", "Démission", {}, {}, ", -, "},
@@ -116,7 +123,7 @@ TEST_F(FinFiche, SansNotificationLaFinSurFichierComptePourLesRegles) {
   contrat("00001002", {{C::DateDebut, jour("01/10/2026")}});
   ouvrirFin({{C::DateFin, jour("30/09/2026")}, {C::DernierBulletin, "202609"}});
   EXPECT_EQ(txt("DateFinContrat").Text(), "");
-  EXPECT_EQ(hote.indications.Tous().size(), 1u);
+  EXPECT_EQ(hote.indications.Prendre().size(), 1u);
   cliquer(cmd("OK"));
   EXPECT_EQ(messages(), "");
   EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin), jour("30/09/2026"));
@@ -164,9 +171,9 @@ TEST_F(FinFiche, LeMotifMontreCeQuiEnDepend) {
     const char* motif;
     bool signature, indemnite;
     const char* ecrit;  // 129 and 132
-  } cas[] = {{"Rupture conventionnelle", true, false, "21300 "},
-             {"Licenciement", false, true, " 1"},
-             {"Démission", false, false, " "}};
+  } cas[] = {{"Rupture conventionnelle", true, false, "21300  "},
+             {"Licenciement", false, true, " 1 "},
+             {"Démission", false, false, "  "}};
   for (const auto& [motif, signature, indemnite, ecrit] : cas) {
     ouvrirFin();
     notifier("15/08/2026", motif);
