@@ -39,6 +39,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
   dossier_->CleContratCourant = cle;
   session_.F_CONTRAT.Lire(cle, dossier_->ItemContrat);
   dossier_->Initial = dossier_->ItemContrat;
+  conges.AfficherLiens();
   origine.Afficher();
   fin.Afficher();
   SelonDroits();
@@ -49,6 +50,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
 void Frm_ElementsContrat::Creer() {
   Commencer();
   dossier_->ModeCreation = true;
+  conges.AfficherLiens();
   for (Onglet* const onglet : onglets_) onglet->Afficher();
   SelonDroits();
   SelonEntite();
