@@ -130,6 +130,11 @@ rules::Dates Frm_ElementsContrat::Dates() const {
   return {origine.Debut().value_or(0), fin.DateFin()};
 }
 
+rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
+  return {dossier_->CleContratCourant, origine.Convention(),    origine.Entite(),
+          origine.Employeur(),         origine.Administratif(), paie.TypeActivite()};
+}
+
 // Ways out.
 
 void Frm_ElementsContrat::Cmd_Ok_Click() {
@@ -187,6 +192,11 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
     default:
       return false;
   }
+}
+
+void Frm_ElementsContrat::Supprime() {
+  combosRemplis_ = false;
+  Refermer();
 }
 
 void Frm_ElementsContrat::Refermer() {

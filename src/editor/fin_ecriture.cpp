@@ -52,10 +52,6 @@ std::optional<long> OngletFin::DateFin() const {
   return static_cast<long>(data::entier(fin));
 }
 
-std::string OngletFin::DernierBulletin() const {
-  return Intact() ? montre_(C::DernierBulletin) : bulletin_.Periode();
-}
-
 std::string OngletFin::Empreinte() const {
   std::string texte;
   for (const screen::Field* const champ : editeur_.Fields()) {

@@ -1,5 +1,6 @@
 #include "editor/gardes.h"
 
+#include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
@@ -21,8 +22,10 @@ constexpr const char* QuestionChevauchement =
 
 const Gardes::Garde Gardes::Confirmation[3] = {&Gardes::Onglets, &Gardes::Preparation,
                                                &Gardes::AutresContrats};
-const Gardes::Garde Gardes::Ecriture[2] = {&Gardes::DateFinModifiee, &Gardes::CopieSimple};
-const Gardes::Garde Gardes::Depart[2] = {&Gardes::DateFin, &Gardes::CopieVerifiee};
+const Gardes::Garde Gardes::Ecriture[3] = {&Gardes::Modification, &Gardes::DateFinModifiee,
+                                           &Gardes::CopieSimple};
+const Gardes::Garde Gardes::Depart[3] = {&Gardes::Modification, &Gardes::DateFin,
+                                         &Gardes::CopieVerifiee};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -75,6 +78,21 @@ Avis Gardes::Chevauchement(const rules::Voisinage& voisins) {
       editeur_.MessageBox(QuestionChevauchement, screen::Boutons::OuiNon,
                           screen::Icone::Information) == screen::Reponse::Oui;
   return changerLesDates ? Avis::Reste : Avis::Abandonne;
+}
+
+// Verif_ModificationPossible, for the end that is shown: the month of its last payslip counts where
+// it is the earlier one.
+Avis Gardes::Modification() {
+  const auto fin = editeur_.fin.FinAffichee();
+  if (editeur_.Dossier().ModeCreation || !fin) return Avis::Passe;
+  std::string mois = data::periodeDe(*fin);
+  const std::string& bulletin = editeur_.fin.DernierBulletin();
+  if (!bulletin.empty() && bulletin < mois) mois = bulletin;
+  const auto refus =
+      rules::Verif_ModificationPossible(*editeur_.Session().Db, editeur_.ContratTraite(), mois);
+  if (!refus) return Avis::Passe;
+  editeur_.MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
+  return Avis::Reste;
 }
 
 Avis Gardes::DateFinModifiee() {

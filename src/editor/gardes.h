@@ -31,14 +31,16 @@ class Gardes {
  private:
   using Garde = Avis (Gardes::*)();
   static const Garde Confirmation[3];
-  static const Garde Ecriture[2];
-  static const Garde Depart[2];
+  static const Garde Ecriture[3];
+  static const Garde Depart[3];
   Avis Passer(std::span<const Garde> chaine);
 
   Avis Onglets();
   // What a confirmed new contract begins with.
   Avis Preparation();
   Avis AutresContrats();
+  // Payroll has computed nothing after the end.
+  Avis Modification();
   Avis DateFinModifiee();
   Avis DateFin();
   Avis CopieSimple() { return Copie(false); }

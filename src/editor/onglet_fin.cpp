@@ -34,6 +34,7 @@ OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat,
   Txt_DateFinContrat.LostFocus = [this] { Txt_DateFinContrat_LostFocus(); };
   Txt_DernJrWContrat.LostFocus = [this] { QuitterJour(Txt_DernJrWContrat, DernierJourAvantDebut); };
   Txt_FinReelle.LostFocus = [this] { QuitterJour(Txt_FinReelle, FinReelleAvantDebut); };
+  Cmd_SupprimerContrat.Click = [this] { suppression_.Cmd_SupprimerContrat_Click(); };
   motif_.SurMotif = [this] { CalculPreavis(); };
   Vider_Ong();
 }

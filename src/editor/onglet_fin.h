@@ -11,6 +11,7 @@
 #include "editor/fin_preavis.h"
 #include "editor/fin_retraite.h"
 #include "editor/onglet.h"
+#include "editor/suppression.h"
 
 namespace editor {
 
@@ -33,8 +34,9 @@ class OngletFin : public Onglet {
 
   // The end of the contract as an internal day: the one place that says which end the rules see.
   std::optional<long> DateFin() const;
-  // The period of the last payslip, AAAAMM; "" for none.
-  std::string DernierBulletin() const;
+  // The end that the tab shows, and the period of its last payslip, AAAAMM; "" for none.
+  std::optional<long> FinAffichee() const { return Fin(); }
+  const std::string& DernierBulletin() const { return bulletin_.Periode(); }
   // The end date was refused: the period of its last payslip is to be given anew.
   void RefuserDateFin() { bulletin_.Effacer(); }
   // The last day worked as it is displayed, now and when the contract was opened.
@@ -77,6 +79,7 @@ class OngletFin : public Onglet {
   std::string dernierJourInitial_;
   // The notification from which the notice was computed, or that was shown with its end.
   std::string notificationVue_;
+  Suppression suppression_{editeur_};
   // The end for which the last payslip was chosen.
   std::optional<long> derniereDateFin_;
 

@@ -201,6 +201,17 @@ void OngletPaie::MontrerParts() {
   Maj_Bdv(VS_Bdv, Lst_ActiviteContrat, LignesActivites);
 }
 
+// The contract in hand answers where the list shows nothing.
+std::string OngletPaie::TypeActivite() const {
+  if (Lst_ActiviteContrat.ListCount() > 0) {
+    const auto* const ligne = ListeActivites_.ParLibelle(Lst_ActiviteContrat.List(0));
+    return ligne == nullptr || ligne->suite.empty() ? "" : ligne->suite.front();
+  }
+  data::CItem activite;
+  Session().F_ACTIVITES.Lire(Contrat()(data::Contrat::Activites, 1), activite);
+  return activite(data::Activites::Genre);
+}
+
 // Provident scheme.
 
 void OngletPaie::OublierPrevoyance() {

@@ -37,6 +37,8 @@ class OngletPaie : public Onglet {
   // The employer had no provident scheme yet when the contract starts.
   void QuitterPrevoyance() { Txt_PrevContrat.SetText(""); }
 
+  // The type of the contract's first activity: "M" for a private employer's, "P" for the entity's.
+  std::string TypeActivite() const;
   // The private employer is billed for leave that is provisioned.
   bool ProvisionFacturee() const;
   // The contract is paid otherwise than on file.
