@@ -20,12 +20,12 @@ constexpr const char* QuestionChevauchement =
 
 }  // namespace
 
-const Gardes::Garde Gardes::Confirmation[3] = {&Gardes::Onglets, &Gardes::Preparation,
-                                               &Gardes::AutresContrats};
-const Gardes::Garde Gardes::Ecriture[3] = {&Gardes::Modification, &Gardes::DateFinModifiee,
-                                           &Gardes::CopieSimple};
-const Gardes::Garde Gardes::Depart[3] = {&Gardes::Modification, &Gardes::DateFin,
-                                         &Gardes::CopieVerifiee};
+const Gardes::Garde Gardes::Confirmation[4] = {&Gardes::Onglets, &Gardes::Preparation,
+                                               &Gardes::AutresContrats, &Gardes::CoherencePlanning};
+const Gardes::Garde Gardes::Ecriture[4] = {&Gardes::Modification, &Gardes::DateFinModifiee,
+                                           &Gardes::CopieSimple, &Gardes::ImpactPlanning};
+const Gardes::Garde Gardes::Depart[4] = {&Gardes::Modification, &Gardes::DateFin,
+                                         &Gardes::CopieVerifiee, &Gardes::ImpactPlanning};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -114,6 +114,17 @@ Avis Gardes::DateFin() {
   editeur_.MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
   editeur_.fin.RefuserDateFin();
   return Avis::Reste;
+}
+
+Avis Gardes::CoherencePlanning() {
+  if (!editeur_.Dossier().ModeCreation || !editeur_.Session().OptionCompteur999) {
+    return Avis::Passe;
+  }
+  return planning_.Coherence() ? Avis::Passe : Avis::Reste;
+}
+
+Avis Gardes::ImpactPlanning() {
+  return planning_.Verif_ImpactPlanning() ? Avis::Passe : Avis::Reste;
 }
 
 Avis Gardes::Copie(bool verifiee) {

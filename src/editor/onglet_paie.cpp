@@ -212,6 +212,16 @@ std::string OngletPaie::TypeActivite() const {
   return activite(data::Activites::Genre);
 }
 
+std::vector<std::string> OngletPaie::Activites() const {
+  std::vector<std::string> libelles = Lst_ActiviteContrat.Rows();
+  if (!libelles.empty()) return libelles;
+  const data::CItem& contrat = Contrat();
+  for (int v = 1; v <= contrat.DCount(data::Contrat::Activites); ++v) {
+    libelles.push_back(ListeActivites_.Libelle(contrat(data::Contrat::Activites, v)));
+  }
+  return libelles;
+}
+
 // Provident scheme.
 
 void OngletPaie::OublierPrevoyance() {

@@ -39,6 +39,9 @@ class OngletPaie : public Onglet {
 
   // The type of the contract's first activity: "M" for a private employer's, "P" for the entity's.
   std::string TypeActivite() const;
+  // The activities of the entity, with their types, and the labels of the contract's own.
+  const data::ListeCodes& ActivitesOffertes() const { return ListeActivites_; }
+  std::vector<std::string> Activites() const;
   // The private employer is billed for leave that is provisioned.
   bool ProvisionFacturee() const;
   // The contract is paid otherwise than on file.
