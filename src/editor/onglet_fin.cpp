@@ -30,6 +30,8 @@ constexpr const char* FinSansNotification =
 }  // namespace
 
 OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat, "Cdr_Ong5") {
+  Txt_DatNotifContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
+  Txt_DateFinContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
   Txt_DatNotifContrat.LostFocus = [this] { Txt_DatNotifContrat_LostFocus(); };
   Txt_DateFinContrat.LostFocus = [this] { Txt_DateFinContrat_LostFocus(); };
   Txt_DernJrWContrat.LostFocus = [this] { QuitterJour(Txt_DernJrWContrat, DernierJourAvantDebut); };
@@ -148,6 +150,15 @@ bool OngletFin::Apres(const screen::TextField& champ, const screen::TextField& a
   const auto jour = Jour(champ);
   const auto borne = Jour(autre);
   return jour && borne && *jour > *borne;
+}
+
+// What follows a complete date can be gone to at once, by a click or the next Tab.
+void OngletFin::OuvrirSuite() {
+  if (Jour(Txt_DatNotifContrat)) {
+    motif_.Activer(true);
+    screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, !Session().EtatSuppAidant);
+  }
+  if (Fin()) ActiverFin(true);
 }
 
 // A notification left as it was found computes nothing anew: an end that was agreed on otherwise

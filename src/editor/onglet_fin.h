@@ -57,6 +57,7 @@ class OngletFin : public Onglet {
 
   void AfficherFin();
   void CalculPreavis();
+  void OuvrirSuite();
   void Txt_DatNotifContrat_LostFocus();
   void Txt_DateFinContrat_LostFocus();
   // A date that the contract cannot have before it starts.

@@ -5,6 +5,8 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_anomalies_ajoutgraph.h"
+#include "dialogs/frm_impression_a4.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_reprise.h"
@@ -94,8 +96,11 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_MotifsEmbauche motifs(bureau.Plateforme());
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossierContrat);
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossierContrat);
+  dialogs::Frm_AnomaliesAjoutgraph anomalies(bureau.Plateforme(), dossierContrat, {});
+  dialogs::Frm_ImpressionA4 impression(bureau.Plateforme());
   for (screen::Form* forme :
-       std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs, &stage, &reprise}) {
+       std::initializer_list<screen::Form*>{&liste, &editeur, &motif, &motifs, &stage, &reprise,
+                                            &anomalies, &impression}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }

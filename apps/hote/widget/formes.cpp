@@ -5,7 +5,9 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_AnomaliesAjoutgraph.h"
 #include "ui_Frm_ElementsContrat.h"
+#include "ui_Frm_ImpressionA4.h"
 #include "ui_Frm_MotifCDD.h"
 #include "ui_Frm_MotifsEmbauche.h"
 #include "ui_Frm_Reprise.h"
@@ -84,6 +86,8 @@ std::unique_ptr<QWidget> construireEditeur() {
 void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
+  bureau.Enregistrer("Frm_AnomaliesAjoutgraph", construire<Ui::Frm_AnomaliesAjoutgraph, Fenetre>);
+  bureau.Enregistrer("Frm_ImpressionA4", construire<Ui::Frm_ImpressionA4, Fenetre>);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);
