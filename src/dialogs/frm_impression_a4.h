@@ -1,6 +1,6 @@
 #pragma once
-// Where, and how many times, a page is printed. Dot-matrix printers are not offered: they have forms
-// of their own.
+// Where, and how many times, a page is printed. Dot-matrix printers are not offered: they have
+// forms of their own.
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
-// The deletion of a contract. Its record stays, marked as cancelled; its links to other contracts go
-// with it, and its event in the monthly declaration follows. All that is one block of the store: a
-// contract is deleted as a whole or not at all.
+// The deletion of a contract. Its record stays, marked as cancelled; its links to other contracts
+// go with it, and its event in the monthly declaration follows. All that is one block of the store:
+// a contract is deleted as a whole or not at all.
 
 namespace editor {
 
