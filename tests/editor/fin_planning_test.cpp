@@ -96,6 +96,26 @@ TEST_F(FinPlanning, ChaqueReponseDuRapport) {
   }
 }
 
+// A new contract that does not frame what is planned: the user stays, or goes on.
+TEST_F(FinPlanning, UneCreationDitCeQuElleNEncadrePas) {
+  planifier();
+  creer();
+  taper(txt("ConvColContrat"), "01");
+  taper(txt("AssocContrat"), "001");
+  taper(txt("EmplEtabContrat"), "001");
+  remplir(txt("DatDebContrat"), "01/09/2026");
+  repondre("Cmd_Annuler");
+  cliquer(cmd("OK"));
+  EXPECT_TRUE(editeur->Visible() && editeur->Enabled());
+  EXPECT_EQ(cle(), "");
+  EXPECT_NE(rapport.find("à partir du 01/08/2026"), std::string::npos);
+  EXPECT_EQ(rapport.find("à partir du 01/10/2026"), std::string::npos);
+  repondre("Cmd_Ok");
+  cliquer(cmd("OK"));
+  EXPECT_EQ(cle(), "00001002");
+  EXPECT_EQ(planning(), "//");
+}
+
 // A fault in the middle is told with what was done, and saving again does the rest.
 TEST_F(FinPlanning, UnePanneAuMilieuDitCeQuiEstFait) {
   raccourcir("I");
