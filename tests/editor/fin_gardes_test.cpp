@@ -139,6 +139,65 @@ TEST_F(FinGardes, UneFinNePrecedePasLaPaieSurLesDeuxChemins) {
   }
 }
 
+// A shortened contract with its planning, its missions and its declaration: whichever write fails,
+// the screen stays the user's, and saving again ends in the records of a save without a fault.
+TEST_F(FinGardes, UneFinInterrompuePuisReprise) {
+  session.OptionCompteur999 = true;
+  const std::string intervention = "0000100007" + jour("01/08/2026") + "001DOM00830";
+  const auto preparer = [&] {
+    stockage->EchouerEcriture(0);
+    article("MISSIONSAIDANT", "00001", {{3, ""}, {13, "001"}});
+    article("TPSDETAILSINTERV", intervention, {{2, "1030"}});
+    for (const char* fichier : {"DSNEVENEMENT", "ACTUSUIVICONTRAT"}) {
+      db.OpenFile(fichier).DeleteItem(fichier[0] == 'D' ? "00001001" : "00001");
+    }
+    auto fiche = Licencie();
+    fiche[C::Activites] = "001DOM";
+    fiche[C::MotifFin] = "59";
+    ouvrirFin(fiche);
+    remplir(txt("DateFinContrat"), "13/10/2026");
+    remplir(txt("FinPayeContrat"), "13/10/2026");
+    remplir(txt("DernJrWContrat"), "14/08/2026");
+  };
+  const auto enregistrer = [&] {
+    hote.modales.Prevoir(
+        [](screen::Form& form) { screen::User(form).Cliquer(*form.Find("Cmd_Ok")); });
+    cliquer(cmd("OK"));
+  };
+  const auto tout = [&] {
+    std::string texte;
+    for (const char* fichier :
+         {"CONTRAT", "DSNEVENEMENT", "ACTUSUIVICONTRAT", "MISSIONSAIDANT", "TPSDETAILSINTERV"}) {
+      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto lu) {
+        texte += std::string(cle) + "=" + std::string(lu) + "\n";
+        return true;
+      });
+    }
+    return texte;
+  };
+  preparer();
+  stockage->EchouerEcriture(0);
+  enregistrer();
+  const int ecritures = stockage->Ecritures();
+  const std::string attendu = tout();
+  ASSERT_EQ(ecritures, 5);  // planning, event, contract, follow-up, missions
+  for (int n = 1; n <= ecritures; ++n) {
+    preparer();
+    stockage->EchouerEcriture(n);
+    EXPECT_THROW(enregistrer(), data::StoreError) << n;
+    EXPECT_TRUE(editeur->Visible() && editeur->Enabled() && !hote.curseur.EnAttente()) << n;
+    EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin),
+              jour(n <= 3 ? "14/10/2026" : "13/10/2026"));
+    stockage->EchouerEcriture(0);
+    hote.modales = {};
+    // What the planning had to lose is gone: no report the second time.
+    n == 1 ? enregistrer() : static_cast<void>(cliquer(cmd("OK")));
+    EXPECT_EQ(tout(), attendu) << n;
+    EXPECT_FALSE(editeur->Visible()) << n;
+    messages();
+  }
+}
+
 // The end that the overlap rules see is the screen's own.
 TEST_F(FinGardes, UneFinNeChevauchePasUnAutreContrat) {
   for (const bool ok : {true, false}) {
