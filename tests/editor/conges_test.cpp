@@ -208,6 +208,42 @@ TEST_F(Conges, ChaqueVerificationARaisonDunSeulDefaut) {
   }
 }
 
+// The two windows of other components: what is handed to each in its order, and when it may close.
+TEST_F(Conges, LesDetailsDesAutresEcrans) {
+  const struct {
+    const char *bouton, *controle, *propriete, *retenue, *libre;
+    std::string contexte;
+  } cas[] = {
+      {"Conges", "Ctr_Ventilation", "W_Sortir", "0", "-1",
+       "TheDatabase=Db|TheClient=LeClient|DroitsUtilisateur=W_Droits|W_CodeAidant=00001|"
+       "W_NomPrenom=DURAND Anne|W_CodeEmployeur=001|W_NomEmployeur=Aide du Val|"
+       "W_CodeContrat=00001001|W_NumMotif=|init()|"},
+      {"Detail", "Ctr_DetailCongesDelPrev", "W_Occupe", "-1", "0",
+       "DroitsUtilisateur=W_Droits|W_CodeAidant=00001|W_CodeAssoc=001|W_CodeEmployeur=001|"
+       "W_Periode=202610|TheDatabase=Db|TheClient=LeClient|init()|"},
+  };
+  for (const auto& c : cas) {
+    ouvrirConges({{C::PeriodeTraitee, "202610"}});
+    cliquer(cmd(c.bouton));
+    EXPECT_NE(messages().find("n'est pas installé sur ce poste"), std::string::npos);
+    auto& controle = hote.controles.Ajouter(c.controle);
+    hote.modales.Prevoir([&](screen::Form& form) {
+      screen::User clerc(form);
+      controle.Regler(c.propriete, c.retenue);
+      EXPECT_EQ(clerc.Fermer(), Acte::Avale) << c.bouton;
+      controle.Regler(c.propriete, c.libre);
+      EXPECT_EQ(clerc.Fermer(), Acte::Fait) << c.bouton;
+    });
+    cliquer(cmd(c.bouton));
+    std::string journal;
+    for (const auto& ligne : controle.Journal()) journal += ligne + "|";
+    EXPECT_TRUE(journal.starts_with(c.contexte)) << journal;
+    EXPECT_TRUE(editeur->Enabled() && !hote.curseur.EnAttente());
+  }
+  creer();
+  EXPECT_FALSE(cmd("Conges").Enabled() || cmd("Detail").Enabled());
+}
+
 // A fixed term 001 whose leave is carried onto the open-ended 002, which has been paid with it.
 class Lien : public Conges {
  protected:
