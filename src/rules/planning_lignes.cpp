@@ -1,11 +1,16 @@
 // The planning in words, and the coherence of a contract with it.
 
+#include <algorithm>
+#include <charconv>
+#include <map>
+
 #include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
 #include "data/question.h"
+#include "data/requete.h"
 #include "data/texte.h"
 #include "rules/chevauchement.h"
 #include "rules/planning.h"
@@ -15,7 +20,7 @@ namespace rules {
 namespace {
 
 namespace T = data::TpsDetailsInterv;
-using data::citer, data::citerDebut;
+using data::citerDebut;
 
 constexpr const char* Jours[] = {"Lundi    ", "Mardi    ", "Mercredi ", "Jeudi    ",
                                  "Vendredi ", "Samedi   ", "Dimanche "};
@@ -40,92 +45,84 @@ std::string partie(const std::string& cle, int position, std::size_t longueur) {
   return debut < cle.size() ? cle.substr(debut, longueur) : std::string();
 }
 
-std::string jourCite(long jour) {
-  return citer(std::to_string(jour));
+// The day of a planning key or of a last day; 0 for what is none.
+long jourLu(std::string_view texte) {
+  long jour = 0;
+  std::from_chars(texte.data(), texte.data() + texte.size(), jour);
+  return jour;
 }
 
-// What both sides of a contract's dates are looked up by.
-std::string condition(const ContratPlanifie& c) {
-  return "AVEC 0 = " + citerDebut(c.codeAidant) +
-         " AND AVEC TypeActDetailInterv = " + citer(c.typeActivite) +
-         " AND AVEC CodeActInterv = " + citerDebut(c.association) +
-         (c.convention == data::ConventionParticuliers
-              ? " AND AVEC CodeAide = " + citer(c.employeur)
-              : "");
+// The types of the entity's activities, by code.
+std::map<std::string, std::string, std::less<>> typesActivites(data::Db& db,
+                                                               const std::string& association) {
+  std::map<std::string, std::string, std::less<>> types;
+  const data::CItem lignes = data::Requete(data::fichier::ACTIVITES)
+                                 .Avec(data::Cle, "=", citerDebut(association))
+                                 .Lire(db, {data::Cle, data::Activites::Genre});
+  for (int i = 1; i <= lignes.DCount(); ++i) types[lignes(i, 1)] = lignes(i, 2);
+  return types;
 }
 
-// The days before the start that no other contract covers; "" when there are none.
-std::string avantDebut(const ContratPlanifie& c) {
-  const std::string avant = condition(c) + " AND AVEC DateDebInterv < " + jourCite(c.debut);
-  if (c.derniereFinAvant == 0) return avant;
-  if (c.derniereFinAvant >= c.debut - 1) return "";
-  return avant + " AND AVEC 1 > " + jourCite(c.derniereFinAvant) + " OR = \"\"";
+// Days before the start that no other contract covers, or after the last day and before the next
+// contract. `fin` is 0 for an intervention without end.
+bool avantDebut(const ContratPlanifie& c, long debut, long fin) {
+  if (debut >= c.debut) return false;
+  if (c.derniereFinAvant == 0) return true;
+  return c.derniereFinAvant < c.debut - 1 && (fin == 0 || fin > c.derniereFinAvant);
 }
 
-std::string apresFin(const ContratPlanifie& c) {
-  if (!c.termine || !c.dernierJour) return "";
-  const std::string apres =
-      condition(c) + " AND AVEC 1 > " + jourCite(*c.dernierJour) + " OR = \"\"";
-  if (c.prochainDebutApres == SansFin) return apres;
-  return apres + " AND AVEC DateDebInterv < " + jourCite(c.prochainDebutApres);
+bool apresFin(const ContratPlanifie& c, long debut, long fin) {
+  if (!c.termine || !c.dernierJour || (fin != 0 && fin <= *c.dernierJour)) return false;
+  return c.prochainDebutApres == SansFin || debut < c.prochainDebutApres;
 }
 
-std::vector<Intervention> chercher(data::Db& db, const std::string& conditions) {
-  const data::CItem lignes =
-      db.Selectionner("SELECT TPSDETAILSINTERV " + conditions, "TPSDETAILSINTERV", "0 1 2");
-  std::vector<Intervention> trouvees;
-  for (int i = 1; i <= lignes.DCount(); ++i) {
-    trouvees.push_back({lignes(i, 1), lignes(i, 2), lignes(i, 3)});
-  }
-  return trouvees;
+// On some day of the contract.
+bool pendant(const ContratPlanifie& c, long debut, long fin) {
+  if (c.termine && c.dernierJour && debut > *c.dernierJour) return false;
+  return fin == 0 || fin >= c.debut;
 }
 
-std::string horsDates(data::Db& db, const ContratPlanifie& c, bool avecFin,
-                      const ParametresPlanning& parametres) {
-  std::string question = avantDebut(c);
-  const std::string fin = avecFin ? apresFin(c) : "";
-  if (!question.empty() && !fin.empty()) question += " OR ";
-  question += fin;
-  if (question.empty()) return "";
-  std::string texte;
-  for (const auto& intervention : chercher(db, question)) {
-    if (texte.empty()) {
-      texte =
-          "Des interventions du planning sont en dehors des dates de validité du contrat : \r\n";
-    }
-    texte += ligneIntervention(db, intervention, parametres);
-  }
-  return texte;
+bool prevue(const ContratPlanifie& c, const data::ListeCodes::Ligne* activite) {
+  const auto fin =
+      c.activites.begin() + static_cast<std::ptrdiff_t>(std::min(c.activites.size(), ActivitesMax));
+  return activite != nullptr && std::find(c.activites.begin(), fin, activite->libelle) != fin;
 }
 
-bool prevue(const ContratPlanifie& c, const std::string& libelle) {
-  const std::size_t nombre = std::min(c.activites.size(), ActivitesMax);
-  for (std::size_t i = 0; i < nombre; ++i) {
-    if (!libelle.empty() && c.activites[i] == libelle) return true;
-  }
-  return false;
-}
+struct HorsContrat {
+  std::vector<Intervention> dates;
+  std::vector<Intervention> activites;
+};
 
-std::string horsActivites(data::Db& db, const ContratPlanifie& c,
-                          const ParametresPlanning& parametres) {
-  std::string question = condition(c);
-  if (c.termine && c.dernierJour) {
-    question += " AND AVEC DateDebInterv <= " + jourCite(*c.dernierJour);
-  }
-  question += " AND AVEC 1 >= " + jourCite(c.debut) + " OR = \"\"";
-  std::string texte;
-  for (const auto& intervention : chercher(db, question)) {
-    const std::string code = intervention.Activite();
-    const std::string libelle = c.activitesOffertes.Libelle(code);
-    if (prevue(c, libelle)) continue;
-    if (texte.empty()) {
-      texte =
-          "Des interventions du planning sont sur des activités non définies pour ce contrat : ";
-    }
-    texte += ligneIntervention(db, intervention, parametres) +
-             "\r\n          ACTIVITE : " + (libelle.empty() ? code : libelle);
-  }
-  return texte;
+// One walk over the carer's interventions, of which there may be thousands: those of the contract's
+// entity and kind of activity, and with a private employer those at that person's.
+HorsContrat examiner(data::Db& db, const ContratPlanifie& c, bool avecFin) {
+  const auto types = typesActivites(db, c.association);
+  const bool particulier = c.convention == data::ConventionParticuliers;
+  HorsContrat hors;
+  db.Stockage().Scan(
+      data::fichier::TPSDETAILSINTERV, data::KeyRange::Prefixe(c.codeAidant),
+      [&](std::string_view cle, std::string_view texte) {
+        if (cle.size() < T::LongueurCle) return true;
+        const auto activite = cle.substr(T::PosActivite - 1, T::LongueurActivite);
+        const auto type = types.find(activite);
+        if (type == types.end() || type->second != c.typeActivite) return true;
+        if (particulier && cle.substr(T::PosAide - 1, data::LongueurCodeAidant) != c.employeur) {
+          return true;
+        }
+        const long debut = jourLu(cle.substr(T::PosDebut - 1, 5));
+        const long fin = jourLu(texte.substr(0, texte.find(data::SepAttribut)));
+        const bool date = avantDebut(c, debut, fin) || (avecFin && apresFin(c, debut, fin));
+        const bool autre =
+            pendant(c, debut, fin) && !prevue(c, c.activitesOffertes.ParCode(activite));
+        if (!date && !autre) return true;
+        const data::CItem article(texte);
+        const Intervention intervention{std::string(cle), article(T::DateFin),
+                                        article(T::HeureFin)};
+        if (date) hors.dates.push_back(intervention);
+        if (autre) hors.activites.push_back(intervention);
+        return true;
+      });
+  return hors;
 }
 
 }  // namespace
@@ -163,10 +160,21 @@ std::string ligneIntervention(data::Db& db, const Intervention& i,
 std::string Verif_CoherencePlanning(data::Db& db, const ContratPlanifie& contrat, bool avecFin) {
   const ParametresPlanning parametres = parametresPlanning(db);
   if (!parametres.resteSansContrat) return "";
-  std::string texte = horsDates(db, contrat, avecFin, parametres);
-  const std::string activites = horsActivites(db, contrat, parametres);
-  if (!texte.empty() && !activites.empty()) texte += "\r\n\r\n";
-  return texte + activites;
+  const HorsContrat hors = examiner(db, contrat, avecFin);
+  std::string texte;
+  if (!hors.dates.empty()) {
+    texte = "Des interventions du planning sont en dehors des dates de validité du contrat : \r\n";
+  }
+  for (const auto& i : hors.dates) texte += ligneIntervention(db, i, parametres);
+  if (hors.activites.empty()) return texte;
+  if (!texte.empty()) texte += "\r\n\r\n";
+  texte += "Des interventions du planning sont sur des activités non définies pour ce contrat : ";
+  for (const auto& i : hors.activites) {
+    const std::string libelle = contrat.activitesOffertes.Libelle(i.Activite());
+    texte += ligneIntervention(db, i, parametres) +
+             "\r\n          ACTIVITE : " + (libelle.empty() ? i.Activite() : libelle);
+  }
+  return texte;
 }
 
 }  // namespace rules
