@@ -204,6 +204,9 @@ const std::vector<bench::Rapport> Rapports{
     {"walk one amendment, 1 ms", "parcourirAvenant", "brutVisiterCaracteristiques", 0, 1000},
     {"weigh the hours of 50 contracts / its raw reads", "peserHeures", "brutPeserHeures", 2},
     {"save a new contract / durable writes", "enregistrerContrat", "brutEnregistrerContrat", 1.3},
+    {"2,000 interventions in 500,000 held against a contract / raw key range", "coherencePlanning",
+     "brutCoherencePlanning", 2},
+    {"deletion guards / raw key ranges", "gardesSuppression", "brutGardesSuppression", 2},
     {"200,000 contracts sorted / 10,000", "trierMoyenne", "trierPetite", 60},
     {"50,000 rows walked and filtered / ten times 5,000", "resultat50000", "resultat5000", 15},
 };

@@ -26,7 +26,10 @@ bool FormeHebergee::Ouvrir(screen::Form& appelante) {
 }
 
 bool FormeHebergee::QueryUnload() {
-  return controle_ == nullptr || controle_->Lire(hebergement_.sortie) != hebergement_.retenue;
+  if (controle_ == nullptr) return true;
+  const std::string reponse = controle_->Lire(hebergement_.sortie);
+  return hebergement_.liberee != nullptr ? reponse == hebergement_.liberee
+                                         : reponse != hebergement_.retenue;
 }
 
 }  // namespace dialogs

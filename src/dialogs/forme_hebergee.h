@@ -27,6 +27,8 @@ class FormeHebergee : public screen::Form {
     // The property by which it says whether it can be left, and the answer that keeps it open.
     const char* sortie;
     const char* retenue;
+    // Instead: the one answer that lets it close.
+    const char* liberee = nullptr;
   };
 
   // Starts the control and shows the window until it is left. False, after a message, when the host

@@ -22,6 +22,8 @@ class Modulation {
   void Cesser() { Cac_Lissage.SetValue(0); }
   // What the button of the annual follow-up opens.
   void SurSuiviAnnuel(screen::Handler suite) { Cmd_SuiviAnnuel.Click = std::move(suite); }
+  bool Lissee() const { return Cac_Lissage.Value() != 0; }
+  void RetirerHeuresNegatives(bool retirees) { Cac_RetraitHeuresNeg.SetValue(retirees ? 1 : 0); }
   bool LissageManque() const { return Cdr_Lissage.Visible() && Cac_Lissage.Value() == 0; }
 
  private:

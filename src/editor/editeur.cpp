@@ -41,6 +41,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
   dossier_->CleContratCourant = cle;
   session_.F_CONTRAT.Lire(cle, dossier_->ItemContrat);
   dossier_->Initial = dossier_->ItemContrat;
+  conges.AfficherLiens();
   origine.Afficher();
   fin.Afficher();
   SelonDroits();
@@ -51,6 +52,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
 void Frm_ElementsContrat::Creer() {
   Commencer();
   dossier_->ModeCreation = true;
+  conges.AfficherLiens();
   for (Onglet* const onglet : onglets_) onglet->Afficher();
   SelonDroits();
   SelonEntite();
@@ -134,6 +136,11 @@ rules::Dates Frm_ElementsContrat::Dates() const {
   return {origine.Debut().value_or(0), fin.DateFin()};
 }
 
+rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
+  return {dossier_->CleContratCourant, origine.Convention(),    origine.Entite(),
+          origine.Employeur(),         origine.Administratif(), paie.TypeActivite()};
+}
+
 // Ways out.
 
 void Frm_ElementsContrat::Cmd_Ok_Click() {
@@ -200,6 +207,11 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
     default:
       return false;
   }
+}
+
+void Frm_ElementsContrat::Supprime() {
+  combosRemplis_ = false;
+  Refermer();
 }
 
 void Frm_ElementsContrat::Refermer() {

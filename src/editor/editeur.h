@@ -25,6 +25,7 @@
 #include "editor/onglet_origine.h"
 #include "editor/onglet_paie.h"
 #include "rules/chevauchement.h"
+#include "rules/traitements.h"
 #include "session/aide.h"
 
 namespace editor {
@@ -54,6 +55,7 @@ class Frm_ElementsContrat : public screen::Form {
   // The contract as it stands on the screen, for the rules.
   rules::Portee Portee() const;
   rules::Dates Dates() const;
+  rules::ContratTraite ContratTraite() const;
 
   // The tabs in their order, on which OK, leaving, saving and clearing work alike.
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
@@ -61,6 +63,8 @@ class Frm_ElementsContrat : public screen::Form {
   void ImprimerDeclaration() { impression_.Declaration(); }
   // While an amendment is entered, no other tab can be reached and no way out is open.
   void ReserverSaisie(bool saisie);
+  // The contract in hand was deleted: nothing of it is to be shown any more.
+  void Supprime();
   // Tells every tab the agreement that stands in its box.
   void AnnoncerConvention();
 

@@ -60,8 +60,14 @@ Avis Enregistrement::Ecrire_Nouveau() {
 
 bool Enregistrement::Ecrire_Existant() {
   session::Dossier& dossier = editeur_.Dossier();
-  Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
-  dossier.ItemContrat.DBWriteU();
+  editeur_.conges.EcrireLiens();
+  const auto rompus = RompreParBulletin(dossier);
+  dossier.Session.Db->Stockage().EnUnBloc([&] {
+    RompreEnRetour(dossier);
+    Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
+    dossier.ItemContrat.DBWriteU();
+  });
+  for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
   Marquer_Suivi();
   Ecrire_Tte();
   return Relire();

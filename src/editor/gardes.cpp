@@ -1,5 +1,6 @@
 #include "editor/gardes.h"
 
+#include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
@@ -19,11 +20,14 @@ constexpr const char* QuestionChevauchement =
 
 }  // namespace
 
-const Gardes::Garde Gardes::Confirmation[4] = {&Gardes::Onglets, &Gardes::Preparation,
-                                               &Gardes::Heures, &Gardes::AutresContrats};
-const Gardes::Garde Gardes::Ecriture[2] = {&Gardes::DateFinModifiee, &Gardes::CopieSimple};
-const Gardes::Garde Gardes::Depart[3] = {&Gardes::HeuresEnQuittant, &Gardes::DateFin,
-                                         &Gardes::CopieVerifiee};
+const Gardes::Garde Gardes::Confirmation[5] = {&Gardes::Onglets, &Gardes::Preparation,
+                                               &Gardes::Heures, &Gardes::AutresContrats,
+                                               &Gardes::CoherencePlanning};
+const Gardes::Garde Gardes::Ecriture[4] = {&Gardes::Modification, &Gardes::DateFinModifiee,
+                                           &Gardes::CopieSimple, &Gardes::ImpactPlanning};
+const Gardes::Garde Gardes::Depart[5] = {&Gardes::HeuresEnQuittant, &Gardes::Modification,
+                                         &Gardes::DateFin, &Gardes::CopieVerifiee,
+                                         &Gardes::ImpactPlanning};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -86,6 +90,21 @@ Avis Gardes::Chevauchement(const rules::Voisinage& voisins) {
   return changerLesDates ? Avis::Reste : Avis::Abandonne;
 }
 
+// Verif_ModificationPossible, for the end that is shown: the month of its last payslip counts where
+// it is the earlier one.
+Avis Gardes::Modification() {
+  const auto fin = editeur_.fin.FinAffichee();
+  if (editeur_.Dossier().ModeCreation || !fin) return Avis::Passe;
+  std::string mois = data::periodeDe(*fin);
+  const std::string& bulletin = editeur_.fin.DernierBulletin();
+  if (!bulletin.empty() && bulletin < mois) mois = bulletin;
+  const auto refus =
+      rules::Verif_ModificationPossible(*editeur_.Session().Db, editeur_.ContratTraite(), mois);
+  if (!refus) return Avis::Passe;
+  editeur_.MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
+  return Avis::Reste;
+}
+
 Avis Gardes::DateFinModifiee() {
   const auto fin = editeur_.fin.DateFin();
   const std::string finEcran = fin ? std::to_string(*fin) : "";
@@ -105,6 +124,17 @@ Avis Gardes::DateFin() {
   editeur_.MessageBox(refus->texte, screen::Boutons::Ok, refus->icone);
   editeur_.fin.RefuserDateFin();
   return Avis::Reste;
+}
+
+Avis Gardes::CoherencePlanning() {
+  if (!editeur_.Dossier().ModeCreation || !editeur_.Session().OptionCompteur999) {
+    return Avis::Passe;
+  }
+  return planning_.Coherence() ? Avis::Passe : Avis::Reste;
+}
+
+Avis Gardes::ImpactPlanning() {
+  return planning_.Verif_ImpactPlanning() ? Avis::Passe : Avis::Reste;
 }
 
 Avis Gardes::Copie(bool verifiee) {

@@ -5,6 +5,7 @@
 
 #include <span>
 
+#include "editor/planning_contrat.h"
 #include "rules/chevauchement.h"
 
 namespace editor {
@@ -30,9 +31,9 @@ class Gardes {
 
  private:
   using Garde = Avis (Gardes::*)();
-  static const Garde Confirmation[4];
-  static const Garde Ecriture[2];
-  static const Garde Depart[3];
+  static const Garde Confirmation[5];
+  static const Garde Ecriture[4];
+  static const Garde Depart[5];
   Avis Passer(std::span<const Garde> chaine);
 
   Avis Onglets();
@@ -43,13 +44,19 @@ class Gardes {
   Avis Heures();
   Avis HeuresEnQuittant();
   Avis AutresContrats();
+  // Payroll has computed nothing after the end.
+  Avis Modification();
   Avis DateFinModifiee();
+  // The planning that a new contract does not frame; what a changed one does to it.
+  Avis CoherencePlanning();
+  Avis ImpactPlanning();
   Avis DateFin();
   Avis CopieSimple() { return Copie(false); }
   Avis CopieVerifiee() { return Copie(true); }
   Avis Copie(bool verifiee);
 
   Frm_ElementsContrat& editeur_;
+  PlanningContrat planning_{editeur_};
 };
 
 }  // namespace editor

@@ -198,4 +198,17 @@ bool OngletCaracteristiques::Verif_NbHeures() {
                      [this](const auto& etat) { return HeuresPermises(etat.second); });
 }
 
+// The contract in hand answers for a box that shows nothing.
+std::optional<long> OngletCaracteristiques::DepartAnciennete() const {
+  const auto& lib = Session().Lib;
+  auto depart = lib.LireDate(Txt_DateAnciennete.Text());
+  if (!depart) depart = lib.LireDate(lib.DateFromInternal(Contrat().Vue(C::DateAnciennete)));
+  if (!depart) depart = editeur_.origine.Debut();
+  if (!depart) return std::nullopt;
+  const auto saisis = data::enUnites(Txt_JourSuspAnc.Text(), 2);
+  const long long centiemes =
+      saisis.value_or(data::entier(Contrat().Vue(C::JoursSuspensionAnciennete)));
+  return *depart + static_cast<long>(centiemes / 100);
+}
+
 }  // namespace editor

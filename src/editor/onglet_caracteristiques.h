@@ -35,6 +35,12 @@ class OngletCaracteristiques : public Onglet {
   // Administrative staff have no modulation.
   void FermerModulation() { modulation_.Ouvrir(false); }
   bool GrilleChoisie() const { return grille_.Choisie(); }
+  // What a notice looks at: the day from which seniority counts, its whole days of suspension
+  // added; nothing when none is given.
+  std::optional<long> DepartAnciennete() const;
+  bool Lissee() const { return modulation_.Lissee(); }
+  // What the reason of an end decides of the hours not worked.
+  void RetirerHeuresNegatives(bool retirees) { modulation_.RetirerHeuresNegatives(retirees); }
 
   // The legal hours, wherever the working time was changed: false when the user, asked, refuses
   // them, or when they cannot be weighed.

@@ -1,8 +1,8 @@
 #pragma once
-// Fourth tab, "Droits aux congés": the leave counters of the contract, fed by payroll.
-//
-// Its page takes no user act yet: what stands here follows the first tab.
+// Fourth tab, "Droits aux congés": the leave counters of the contract. Payroll feeds them; they may
+// be corrected by hand. A counter left empty is 0.
 
+#include "editor/conges_liens.h"
 #include "editor/onglet.h"
 
 namespace editor {
@@ -11,9 +11,47 @@ class OngletConges : public Onglet {
  public:
   explicit OngletConges(Frm_ElementsContrat& editeur);
 
+  void Afficher_Ong4();
+  bool Verif_Ong4();
+  // A tab that shows what it showed at first leaves the contract as it was, its empty counters
+  // included; any other writes every counter.
+  void Ecrire_Ong4();
   void SelonConvention(const std::string& convention) override;
+  void Entrer() override;
+  // The contracts that leave passes to or comes from: on opening, whether the tab is shown or not.
+  void AfficherLiens() { liens_.Afficher(Dossier()); }
+  void EcrireLiens() { liens_.Ecrire(Dossier()); }
+  void Grise_Conges() { Activer(false); }
+  void Affiche_Conges() { Activer(true); }
 
  private:
+  static const rules::Verification<OngletConges> Verifications[];
+  // What a counter of half-days does on leaving.
+  struct DemiJournee;
+
+  void Afficher_Ong() override { Afficher_Ong4(); }
+  bool Verif_Ong() override { return Verif_Ong4(); }
+  bool Ecrire_Ong(bool) override;
+  void Vider_Ong() override;
+
+  void Lier();
+  void LierCompteur(screen::TextField& champ, const session::FormeNombre& forme,
+                    const std::function<void()>& ensuite = {});
+  void LierEntier(screen::TextField& champ);
+  void QuitterDemiJournee(screen::TextField& champ, const char* message, screen::TextField& repris);
+  void QuitterAnticipation();
+  // The value of a day in the five-day count, from that of the six-day count.
+  void Ouvrer(const screen::TextField& ouvrable, screen::TextField& ouvree) const;
+  // Captions and the group of the notice-period leave, by agreement and status.
+  void SelonDecompte();
+  void MettreZero();
+  void Activer(bool actifs);
+  void Cmd_Conges_Click();
+  void Cmd_Detail_Click();
+
+  data::Monnaie Valeur(const screen::TextField& champ) const;
+  bool AvecSeparateur(const screen::TextField& champ) const;
+
   // Leave to use.
   screen::Label Etq_Periode{Page, "Etq_Periode", "Période"};
   screen::Label Etq_PeriodeConges{Page, "Etq_PeriodeConges", ""};
@@ -65,12 +103,15 @@ class OngletConges : public Onglet {
   screen::Label Etq_ProvisionCours{Page, "Etq_ProvisionCours", "Provision Employeur"};
   screen::TextField Txt_ProvisionCours{Page, "Txt_ProvisionCours", 10};
 
-  // Leave taken over from another contract, or carried over to one.
-  screen::CheckBox Cac_ReportConges{Page, "Cac_ReportConges", ""};
-  screen::Label Etq_ReportConges{Page, "Etq_ReportConges", ""};
-  screen::CheckBox Cac_RepriseConges{Page, "Cac_RepriseConges", ""};
-  screen::Label Etq_RepriseConges{Page, "Etq_RepriseConges", ""};
+  LiensConges liens_{Page};
   screen::Button Cmd_Conges{Page, "Cmd_Conges", "Détail décompte"};
+
+  // The contract as it was shown.
+  data::CItem montre_;
+  // The counters of every contract, those of notice-period leave, and the employer's provisions.
+  session::Zones compteurs_;
+  session::Zones delai_;
+  session::Zones provisions_;
 };
 
 }  // namespace editor

@@ -4,8 +4,9 @@
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
-#include "data/requete.h"
 #include "editor/editeur.h"
+#include "rules/preavis.h"
+#include "session/saisie.h"
 
 namespace editor {
 
@@ -13,23 +14,70 @@ namespace {
 
 namespace C = data::Contrat;
 
-// The one retirement body of private employers' staff, which is its own code.
-constexpr const char* RetraiteParticuliers = "IRCEM";
+constexpr const char* NotificationAvantDebut =
+    "Erreur la date de notification de licenciement / démission ne peut être inférieure à la date "
+    "de début du contrat, veuillez la ressaisir.";
+constexpr const char* DernierJourAvantDebut =
+    "Erreur la date du dernier jour travaillé ne peut être inférieure à la date de début du "
+    "contrat, veuillez la ressaisir.";
+constexpr const char* FinReelleAvantDebut =
+    "Erreur la date de fin réelle ne peut être inférieure à la date de début du contrat, veuillez "
+    "la ressaisir.";
+constexpr const char* FinSansNotification =
+    "Ce contrat a une date de fin, sans date de notification : rien n'en est affiché ici et rien "
+    "n'en change tant qu'une notification n'est pas saisie. Fin au ";
 
 }  // namespace
 
 OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat, "Cdr_Ong5") {
-  Page.SetEnabled(false);
+  Txt_DatNotifContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
+  Txt_DateFinContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
+  Txt_DatNotifContrat.LostFocus = [this] { Txt_DatNotifContrat_LostFocus(); };
+  Txt_DateFinContrat.LostFocus = [this] { Txt_DateFinContrat_LostFocus(); };
+  Txt_DernJrWContrat.LostFocus = [this] { QuitterJour(Txt_DernJrWContrat, DernierJourAvantDebut); };
+  Txt_FinReelle.LostFocus = [this] { QuitterJour(Txt_FinReelle, FinReelleAvantDebut); };
+  Cmd_SupprimerContrat.Click = [this] { suppression_.Cmd_SupprimerContrat_Click(); };
+  motif_.SurMotif = [this] { CalculPreavis(); };
+  Vider_Ong();
 }
+
+// Display.
 
 void OngletFin::Afficher_Ong5() {
   const auto& origine = editeur_.origine;
-  if (Session().EtatSuppAidant) Txt_DateFinContrat.SetEnabled(false);
   if (Creation()) {
     QuitterEntite();
   } else {
-    RemplirRetraite(origine.Entite(), origine.Particuliers());
+    retraite_.Afficher(origine.Entite(), origine.Particuliers(), Contrat()(C::OrganismeRetraite));
+    if (!Contrat().Vue(C::DateNotification).empty()) AfficherFin();
   }
+  montre_ = Contrat();
+  notificationInitiale_ = notificationVue_ = Txt_DatNotifContrat.Text();
+  dernierJourInitial_ = DernierJour();
+  empreinteInitiale_ = Empreinte();
+}
+
+void OngletFin::AfficherFin() {
+  const data::CItem& contrat = Contrat();
+  const auto date = [&](int attribut) {
+    return Session().Lib.DateFromInternal(contrat.Vue(attribut));
+  };
+  Txt_DatNotifContrat.SetText(date(C::DateNotification));
+  motif_.Afficher(contrat);
+  Txt_DateFinContrat.SetText(date(C::DateFin));
+  Txt_DernJrWContrat.SetText(date(C::DernierJourTravaille));
+  Txt_FinReelle.SetText(date(C::DateFinReelle));
+  Cac_PrecaLibContrat.SetValue(data::entier(contrat.Vue(C::PrimePrecarite)) == 1 ? 1 : 0);
+  preavis_.Montrer(contrat);
+  Txt_NonVersContrat.SetText(contrat.Vue(C::MotifNonVersement));
+  bulletin_.Montrer(contrat(C::DernierBulletin));
+  Txt_ObsFinContrat_0.SetText(contrat.Vue(C::ObservationsFin, 1));
+  Txt_ObsFinContrat_1.SetText(contrat.Vue(C::ObservationsFin, 2));
+  motif_.Activer(true);
+  ActiverFin(true);
+  derniereDateFin_ = Fin();
+  if (derniereDateFin_) bulletin_.Borner(editeur_.origine.Debut(), *derniereDateFin_);
+  Cmd_SupprimerContrat.SetVisible(Txt_DateFinContrat.Text() == editeur_.origine.DateDebut());
 }
 
 void OngletFin::SelonDroits(bool complet) {
@@ -37,9 +85,23 @@ void OngletFin::SelonDroits(bool complet) {
 }
 
 void OngletFin::Vider_Ong() {
+  notificationInitiale_.clear();
+  notificationVue_.clear();
+  derniereDateFin_.reset();
+  motif_.Vider();
+  preavis_.Vider();
+  bulletin_.Vider();
+  Cac_PrecaLibContrat.SetValue(0);
   Cmd_SupprimerContrat.SetVisible(false);
-  Cbo_OrgRetraite.SetListIndex(-1);
-  Etq_InfoComplMotifFin.SetVisible(false);
+  motif_.Activer(false);
+  ActiverFin(false);
+  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, false);
+}
+
+void OngletFin::SelonType(bool determine) {
+  screen::Activer({&Etq_DatNotifContrat, &Txt_DatNotifContrat, &Etq_DateFinContrat}, true);
+  Cac_PrecaLibContrat.SetEnabled(determine);
+  Cac_PrecaLibContrat.SetValue(determine ? 1 : 0);
 }
 
 // A private employer whose leave is provisioned is billed before the contract may end: refuses the
@@ -64,48 +126,136 @@ bool OngletFin::Admettre() {
   return false;
 }
 
-void OngletFin::SelonType(bool determine) {
-  screen::Activer({&Etq_DatNotifContrat, &Txt_DatNotifContrat, &Etq_DateFinContrat}, true);
-  Cac_PrecaLibContrat.SetEnabled(determine);
-  Cac_PrecaLibContrat.SetValue(determine ? 1 : 0);
-}
-
-void OngletFin::ChoisirEntite(const std::string& entite, bool particuliers) {
-  const session::Sourdine::Silence silence(sourdine_);
-  RemplirRetraite(entite, particuliers);
-  Cbo_OrgRetraite.SetListIndex(0);
-  Txt_OrgRetraite.SetText(ListeOrgRetraite_.A(0).code);
-}
-
-void OngletFin::QuitterEntite() {
-  const session::Sourdine::Silence silence(sourdine_);
-  ListeOrgRetraite_ = data::ListeCodes();
-  Cbo_OrgRetraite.Clear();
-  Txt_OrgRetraite.SetText("");
-}
-
-void OngletFin::RemplirRetraite(const std::string& entite, bool particuliers) {
-  using namespace data;
-  if (particuliers) {
-    ListeOrgRetraite_ =
-        ListeCodes(std::vector<ListeCodes::Ligne>{{RetraiteParticuliers, RetraiteParticuliers}});
-  } else {
-    ListeOrgRetraite_ = ListeCodes::DeSelection(
-        Requete(fichier::ORGANISMESOCIAL)
-            .Avec(Cle, "=", citerDebut(entite))
-            .Avec(OrganismeSocial::Genre, "=", citer(OrganismeSocial::GenreRetraite))
-            .Par(OrganismeSocial::Libelle)
-            .Lire(*Session().Db, {Cle, OrganismeSocial::Libelle}));
+void OngletFin::Entrer() {
+  const auto fin = montre_.Vue(C::DateFin);
+  if (Txt_DatNotifContrat.Text().empty() && !fin.empty()) {
+    editeur_.Services().indications.Montrer(
+        Txt_DatNotifContrat, FinSansNotification + Session().Lib.DateFromInternal(fin) + ".");
   }
-  Cbo_OrgRetraite.Clear();
-  for (const auto& ligne : ListeOrgRetraite_.Lignes()) Cbo_OrgRetraite.AddItem(ligne.libelle);
-  Cbo_OrgRetraite.SetEnabled(!particuliers);
 }
 
-std::optional<long> OngletFin::DateFin() const {
-  const auto fin = Contrat().Vue(C::DateFin);
-  if (fin.empty()) return std::nullopt;
-  return static_cast<long>(data::entier(fin));
+// Dates.
+
+std::optional<long> OngletFin::Jour(const screen::TextField& champ) const {
+  return Session().Lib.LireDate(champ.Text());
+}
+
+bool OngletFin::AvantDebut(const screen::TextField& champ) const {
+  const auto jour = Jour(champ);
+  const auto debut = editeur_.origine.Debut();
+  return jour && debut && *jour < *debut;
+}
+
+bool OngletFin::Apres(const screen::TextField& champ, const screen::TextField& autre) const {
+  const auto jour = Jour(champ);
+  const auto borne = Jour(autre);
+  return jour && borne && *jour > *borne;
+}
+
+// What follows a complete date can be gone to at once, by a click or the next Tab.
+void OngletFin::OuvrirSuite() {
+  if (Jour(Txt_DatNotifContrat)) {
+    motif_.Activer(true);
+    screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, !Session().EtatSuppAidant);
+  }
+  if (Fin()) ActiverFin(true);
+}
+
+// A notification left as it was found computes nothing anew: an end that was agreed on otherwise
+// stays.
+void OngletFin::Txt_DatNotifContrat_LostFocus() {
+  if (!session::QuitterDate(Session(), Txt_DatNotifContrat)) return;
+  if (AvantDebut(Txt_DatNotifContrat)) {
+    Message(NotificationAvantDebut, screen::Icone::Exclamation);
+    Txt_DatNotifContrat.SetFocus();
+    return;
+  }
+  if (Txt_DatNotifContrat.Text() == notificationVue_) return;
+  notificationVue_ = Txt_DatNotifContrat.Text();
+  if (notificationVue_.empty()) {
+    motif_.Quitter();
+    Txt_DateFinContrat.SetText("");
+    Txt_DateFinContrat_LostFocus();
+    screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, false);
+    return;
+  }
+  motif_.Cbo_MotifFinContrat_DropDown();
+  motif_.Activer(true);
+  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, !Session().EtatSuppAidant);
+  CalculPreavis();
+}
+
+// The last payslip is that of the end, until another is chosen for it.
+void OngletFin::Txt_DateFinContrat_LostFocus() {
+  if (!session::QuitterDate(Session(), Txt_DateFinContrat)) return;
+  const auto fin = Fin();
+  Cmd_SupprimerContrat.SetVisible(fin && !Creation() && Session().DroitComplet() &&
+                                  Txt_DateFinContrat.Text() == editeur_.origine.DateDebut());
+  ActiverFin(fin.has_value());
+  if (fin) {
+    const bool change = derniereDateFin_ != fin;
+    if (change) bulletin_.Effacer();
+    bulletin_.Borner(editeur_.origine.Debut(), *fin);
+    if (change) bulletin_.MontrerFin();
+  } else {
+    Txt_DernJrWContrat.SetText("");
+    Txt_FinReelle.SetText("");
+    bulletin_.Vider();
+  }
+  derniereDateFin_ = fin;
+  if (editeur_.origine.Particuliers()) retraite_.Choisir("", true);
+}
+
+void OngletFin::QuitterJour(screen::TextField& champ, const char* refus) {
+  if (!session::QuitterDate(Session(), champ) || !AvantDebut(champ)) return;
+  Message(refus, screen::Icone::Exclamation);
+  champ.SetFocus();
+}
+
+void OngletFin::ActiverFin(bool active) {
+  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat},
+                  !Session().EtatSuppAidant && (active || !Txt_DatNotifContrat.Text().empty()));
+  screen::Activer(
+      {&Etq_FinReelle, &Txt_FinReelle, &Etq_DernJrWContrat, &Txt_DernJrWContrat,
+       &Etq_NonVersContrat, &Txt_NonVersContrat, &Txt_ObsFinContrat_0, &Txt_ObsFinContrat_1},
+      active);
+  Cac_PrecaLibContrat.SetEnabled(active);
+  bulletin_.Activer(active);
+  preavis_.Activer(active);
+}
+
+// Notice.
+
+void OngletFin::CalculPreavis() {
+  const std::string motif = motif_.Code();
+  const auto notification = Jour(Txt_DatNotifContrat);
+  if (!rules::motifAvecPreavis(motif) || !notification) {
+    preavis_.OublierPaye();
+    Txt_DateFinContrat.SetText("");
+    return;
+  }
+  const data::CItem& contrat = Contrat();
+  const int avenant = std::max(contrat.DCount(C::Avenant), 1);
+  data::CItem grille, infos;
+  Session().F_GRILLESCC.Lire(contrat(C::Grille, avenant), grille);
+  Session().F_INFOSAIDANT.Lire(Session().CodeAidant, infos);
+  const long depart = editeur_.caracteristiques.DepartAnciennete().value_or(*notification);
+  const rules::SituationPreavis situation{
+      editeur_.origine.Convention(),
+      rules::lettreGrille(grille.Vue(data::GrillesCC::Categorie)),
+      rules::estCadre(contrat.Vue(C::CodePCS, avenant)),
+      rules::estHandicape(infos, *notification),
+      rules::ancienneteEntre(depart, *notification),
+      motif};
+  const rules::DureePreavis duree = rules::dureePreavis(situation);
+  if (duree.Aucune()) return;
+  Txt_DateFinContrat.SetText(data::dateAffichee(rules::finPreavis(*notification, duree)));
+  Txt_DateFinContrat_LostFocus();
+  preavis_.Payer(Txt_DatNotifContrat.Text(), Txt_DateFinContrat.Text(),
+                 "Préavis calculé : " + dureeEcrite(duree) + ", ancienneté depuis le " +
+                     data::dateAffichee(depart) +
+                     (situation.handicape ? ", travailleur handicapé." : "."));
+  bulletin_.RevenirAu(*notification);
 }
 
 }  // namespace editor

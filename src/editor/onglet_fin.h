@@ -1,10 +1,17 @@
 #pragma once
-// Fifth tab, "Fin du contrat": end of the contract, notice period and last payslip.
+// Fifth tab, "Fin du contrat": end of the contract, notice period and last payslip. A notification
+// date and a reason give the end and the notice; without a notification there is no end.
 //
-// Its page takes no user act yet: what stands here follows the first tab.
+// A contract on file can have an end and no notification, from other programs of the suite. The tab
+// then shows nothing of it, and its end and all that belongs to it stay as on file until a
+// notification is typed. Emptying a notification that is shown cancels the end as a whole.
 
-#include "data/liste_codes.h"
+#include "editor/fin_bulletin.h"
+#include "editor/fin_motif.h"
+#include "editor/fin_preavis.h"
+#include "editor/fin_retraite.h"
 #include "editor/onglet.h"
+#include "editor/suppression.h"
 
 namespace editor {
 
@@ -13,67 +20,84 @@ class OngletFin : public Onglet {
   explicit OngletFin(Frm_ElementsContrat& editeur);
 
   void Afficher_Ong5();
+  bool Verif_Ong5();
+  // Run again on other fields, it leaves what a single run on them would.
+  void Ecrire_Ong5();
   bool Admettre() override;
+  void Entrer() override;
   // What only a fixed term has: the insecurity bonus.
   void SelonType(bool determine);
-  // The retirement bodies of the entity: the first one is chosen.
-  void ChoisirEntite(const std::string& entite, bool particuliers);
-  void QuitterEntite();
+  void ChoisirEntite(const std::string& entite, bool particuliers) {
+    retraite_.Choisir(entite, particuliers);
+  }
+  void QuitterEntite() { retraite_.Vider(); }
+
   // The end of the contract as an internal day: the one place that says which end the rules see.
   std::optional<long> DateFin() const;
+  // The end that the tab shows, and the period of its last payslip, AAAAMM; "" for none.
+  std::optional<long> FinAffichee() const { return Fin(); }
+  const std::string& DernierBulletin() const { return bulletin_.Periode(); }
   // The end date was refused: the period of its last payslip is to be given anew.
-  void RefuserDateFin() { Txt_DernBullContrat.SetText(""); }
+  void RefuserDateFin() { bulletin_.Effacer(); }
+  // The last day worked as it is displayed, now and when the contract was opened.
+  std::string DernierJour() const;
+  const std::string& DernierJourInitial() const { return dernierJourInitial_; }
+  // The planning holds work of the contract: it is not offered for deletion any more.
+  void CacherSuppression() { Cmd_SupprimerContrat.SetVisible(false); }
 
  private:
+  static const rules::Verification<OngletFin> Verifications[];
+  static const rules::Verification<OngletFin> VerificationsFin[];
+
   void Afficher_Ong() override { Afficher_Ong5(); }
+  bool Verif_Ong() override { return Verif_Ong5(); }
+  bool Ecrire_Ong(bool) override;
   void Vider_Ong() override;
   void SelonDroits(bool complet) override;
-  void RemplirRetraite(const std::string& entite, bool particuliers);
 
-  // The retirement bodies that Cbo_OrgRetraite offers.
-  data::ListeCodes ListeOrgRetraite_;
+  void AfficherFin();
+  void CalculPreavis();
+  void OuvrirSuite();
+  void Txt_DatNotifContrat_LostFocus();
+  void Txt_DateFinContrat_LostFocus();
+  // A date that the contract cannot have before it starts.
+  void QuitterJour(screen::TextField& champ, const char* refus);
+  void ActiverFin(bool active);
+
+  std::optional<long> Jour(const screen::TextField& champ) const;
+  std::optional<long> Fin() const { return Jour(Txt_DateFinContrat); }
+  bool AvantDebut(const screen::TextField& champ) const;
+  bool Apres(const screen::TextField& champ, const screen::TextField& autre) const;
+  // What the user sees of the tab, as one text.
+  std::string Empreinte() const;
+  // The tab shows what it showed at first.
+  bool Intact() const;
+
+  // At the opening: the contract, what was shown of it, and what of that others ask for.
+  data::CItem montre_;
+  std::string notificationInitiale_;
+  std::string empreinteInitiale_;
+  std::string dernierJourInitial_;
+  // The notification from which the notice was computed, or that was shown with its end.
+  std::string notificationVue_;
+  Suppression suppression_{editeur_};
+  // The end for which the last payslip was chosen.
+  std::optional<long> derniereDateFin_;
 
   // The end and its reason.
   screen::Label Etq_DatNotifContrat{Page, "Etq_DatNotifContrat",
                                     "Date de Notification licenciement / démission"};
-  screen::TextField Txt_DatNotifContrat{Page, "Txt_DatNotifContrat", 10};
-  screen::Label Etq_MotifFinContrat{Page, "Etq_MotifFinContrat", "Motif"};
-  screen::ComboBox Cbo_MotifFinContrat{Page, "Cbo_MotifFinContrat", true};
-  screen::Label Etq_CmpltMotif{Page, "Etq_CmpltMotif", "Complément motif"};
-  screen::TextField Txt_CmpltMotif{Page, "Txt_CmpltMotif", 0};
-  screen::Label Etq_DateSignConvCol{Page, "Etq_DateSignConvCol",
-                                    "Date signature convention rupture conventionnelle"};
-  screen::TextField Txt_DateSignConvCol{Page, "Txt_DateSignConvCol", 10};
-  screen::CheckBox Cac_CalcIndLic{Page, "Cac_CalcIndLic", "Calcul indemnité licenciement"};
+  screen::TextField Txt_DatNotifContrat{Page, "Txt_DatNotifContrat", LongueurDate};
+  MotifFin motif_{editeur_, Page, sourdine_};
   screen::Label Etq_DateFinContrat{Page, "Etq_DateFinContrat", "Date Fin de Contrat"};
-  screen::TextField Txt_DateFinContrat{Page, "Txt_DateFinContrat", 10};
+  screen::TextField Txt_DateFinContrat{Page, "Txt_DateFinContrat", LongueurDate};
   screen::Label Etq_FinReelle{Page, "Etq_FinReelle", "Date de fin réelle"};
-  screen::TextField Txt_FinReelle{Page, "Txt_FinReelle", 10};
+  screen::TextField Txt_FinReelle{Page, "Txt_FinReelle", LongueurDate};
   screen::Label Etq_DernJrWContrat{Page, "Etq_DernJrWContrat", "Dernier Jour Travaillé"};
-  screen::TextField Txt_DernJrWContrat{Page, "Txt_DernJrWContrat", 10};
-  screen::Label Etq_DernBullContrat{Page, "Etq_DernBullContrat", "Période du Dernier Bulletin"};
-  screen::TextField Txt_DernBullContrat{Page, "Txt_DernBullContrat", 0};
-  screen::UpDown Bdh_Bulletin{Page, "Bdh_Bulletin"};
+  screen::TextField Txt_DernJrWContrat{Page, "Txt_DernJrWContrat", LongueurDate};
+  BulletinFin bulletin_{Page, sourdine_};
   screen::CheckBox Cac_PrecaLibContrat{Page, "Cac_PrecaLibContrat", "Versement prime de précarité"};
-
-  // Notice period.
-  screen::Frame Cdr_Preavis{Page, "Cdr_Preavis", "Préavis "};
-  screen::OptionButton Opt_Effectue{Cdr_Preavis, "Opt_Effectue", "Effectué"};
-  screen::Label Etq_DebEffContrat{Cdr_Preavis, "Etq_DebEffContrat", "Du"};
-  screen::TextField Txt_DebEffContrat{Cdr_Preavis, "Txt_DebEffContrat", 10};
-  screen::Label Etq_FinEffContrat{Cdr_Preavis, "Etq_FinEffContrat", "Au"};
-  screen::TextField Txt_FinEffContrat{Cdr_Preavis, "Txt_FinEffContrat", 10};
-  screen::OptionButton Opt_Paye{Cdr_Preavis, "Opt_Paye", "Payé mais non effectué"};
-  screen::Label Etq_DebPayeContrat{Cdr_Preavis, "Etq_DebPayeContrat", "Du"};
-  screen::TextField Txt_DebPayeContrat{Cdr_Preavis, "Txt_DebPayeContrat", 10};
-  screen::Label Etq_FinPayeContrat{Cdr_Preavis, "Etq_FinPayeContrat", "Au"};
-  screen::TextField Txt_FinPayeContrat{Cdr_Preavis, "Txt_FinPayeContrat", 10};
-  screen::OptionButton Opt_NonEffNonPaye{Cdr_Preavis, "Opt_NonEffNonPaye",
-                                         "Non effectué et non payé"};
-  screen::Label Etq_DebNonEffNonPaye{Cdr_Preavis, "Etq_DebNonEffNonPaye", "Du"};
-  screen::TextField Txt_DebNonEffNonPaye{Cdr_Preavis, "Txt_DebNonEffNonPaye", 10};
-  screen::Label Etq_FinNonEffNonPaye{Cdr_Preavis, "Etq_FinNonEffNonPaye", "Au"};
-  screen::TextField Txt_FinNonEffNonPaye{Cdr_Preavis, "Txt_FinNonEffNonPaye", 10};
+  PreavisFin preavis_{Session(), Page};
 
   // What is left to say.
   screen::Label Etq_NonVersContrat{
@@ -83,10 +107,7 @@ class OngletFin : public Onglet {
   screen::Label Etq_ObsFinContrat{Page, "Etq_ObsFinContrat", "Observations"};
   screen::TextField Txt_ObsFinContrat_0{Page, "Txt_ObsFinContrat(0)", 0};
   screen::TextField Txt_ObsFinContrat_1{Page, "Txt_ObsFinContrat(1)", 0};
-  screen::Label Etq_OrgRetraite{Page, "Etq_OrgRetraite", "Organisme de retraite"};
-  screen::TextField Txt_OrgRetraite{Page, "Txt_OrgRetraite", 0};
-  screen::ComboBox Cbo_OrgRetraite{Page, "Cbo_OrgRetraite", true};
-  screen::Label Etq_InfoComplMotifFin{Page, "Etq_InfoComplMotifFin", ""};
+  RetraiteFin retraite_{Session(), Page, sourdine_};
   screen::Button Cmd_SupprimerContrat{Page, "Cmd_SupprimerContrat", "Supprimer ce contrat"};
 };
 

@@ -35,6 +35,11 @@ class OngletOrigine : public Onglet {
   const std::string& Employeur() const { return codes_.Employeur(); }
   const std::string& LibelleEmployeur() const { return codes_.LibelleEmployeur(); }
   bool Particuliers() const { return codes_.Particuliers(); }
+  // Whom the leave statement and the reports name: the private employer, else the legal entity.
+  const std::string& CodeNomme() const { return Particuliers() ? Employeur() : Entite(); }
+  const std::string& LibelleNomme() const {
+    return Particuliers() ? codes_.LibelleEmployeur() : codes_.LibelleEntite();
+  }
   bool Administratif() const { return Opt_Administratif.Value(); }
   bool Production() const { return Opt_Production.Value(); }
   bool Mensuel() const { return Opt_Mensuel.Value(); }

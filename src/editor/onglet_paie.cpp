@@ -158,6 +158,19 @@ void OngletPaie::Cbo_CartOrangContrat_LostFocus() {
   Cbo_CartOrangContrat.SetFocus();
 }
 
+std::string OngletPaie::TypeActivite() const {
+  if (Charge()) return activites_.Type();
+  data::CItem activite;
+  Session().F_ACTIVITES.Lire(Contrat()(C::Activites, 1), activite);
+  return activite(data::Activites::Genre);
+}
+
+std::vector<std::string> OngletPaie::Activites() const {
+  std::vector<std::string> libelles;
+  for (const auto& activite : activites_.Activites()) libelles.push_back(activite.libelle);
+  return libelles;
+}
+
 // Writing.
 
 bool OngletPaie::Ecrire_Ong(bool) {

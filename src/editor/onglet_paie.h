@@ -41,14 +41,18 @@ class OngletPaie : public Onglet {
     return activites_.ChoisirEntite(entite, particuliers);
   }
   void ViderActivites() { activites_.Oublier(); }
-  // The type of the contract's activities, "M" for a private employer's.
-  std::string TypeActivite() const { return activites_.Type(); }
   void PrevoyanceEmployeur(const std::string& employeur) {
     cotisations_.PrevoyanceEmployeur(employeur);
   }
   void OublierPrevoyance() { cotisations_.OublierPrevoyance(); }
   void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
+  // The type of the contract's first activity: "M" for a private employer's, "P" for the entity's.
+  // Before the tab was shown, the contract in hand answers.
+  std::string TypeActivite() const;
+  // The activities of the entity, with their types, and the labels of the contract's own.
+  const data::ListeCodes& ActivitesOffertes() const { return activites_.Offertes(); }
+  std::vector<std::string> Activites() const;
   // The private employer is billed for leave that is provisioned.
   bool ProvisionFacturee() const { return paiement_.ProvisionFacturee(); }
   // The contract is paid otherwise than on file.

@@ -33,6 +33,7 @@ class CodesOrigine {
   const std::string& Convention() const { return Txt_ConvColContrat.Text(); }
   const std::string& Entite() const { return Txt_AssocContrat.Text(); }
   const std::string& Employeur() const { return Txt_EmplEtabContrat.Text(); }
+  const std::string& LibelleEntite() const { return Cbo_LibAssocContrat.Text(); }
   const std::string& LibelleEmployeur() const { return Cbo_LibEmplEtabContrat.Text(); }
   bool Particuliers() const { return Convention() == data::ConventionParticuliers; }
   // The agreement row of the code in the box: label, then the counting modes of paid and seniority

@@ -40,6 +40,8 @@ class PaieActivites {
   bool Manquent() const { return lignes_.Nombre() == 0; }
   bool PeriodeManque();
   bool TotalFaux();
+  // What the entity offers; the mark is the type.
+  const data::ListeCodes& Offertes() const { return ListeActivites_; }
   // The activities that the contract will have.
   const std::vector<std::string>& Codes() const { return lignes_.Codes(); }
   // The same with their labels.

@@ -80,6 +80,10 @@ class Imprimante {
  public:
   virtual ~Imprimante() = default;
   virtual std::vector<std::string> Noms() const = 0;
+  // Where the printer of that index is tied to, "" when that is not known; and the index of the one
+  // that the workstation prepares for whoever does not choose.
+  virtual std::string Port(int /*imprimante*/) const { return {}; }
+  virtual int ParDefaut() const { return 0; }
   // Makes the printer of that index the one that prints.
   virtual void Choisir(int imprimante) = 0;
   virtual void Police(const std::string& nom, double points, bool gras) = 0;

@@ -6,9 +6,11 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_anomalies_ajoutgraph.h"
 #include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_elem_droit_public.h"
+#include "dialogs/frm_impression_a4.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_motifs_embauche.h"
 #include "dialogs/frm_qualif_pro.h"
@@ -112,9 +114,11 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_TpsIndem indemnisation(bureau.Plateforme(), dossierContrat, "");
   dialogs::Frm_VESPAMOI telegestion(bureau.Plateforme(), {});
   dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossierContrat, {});
+  dialogs::Frm_AnomaliesAjoutgraph anomalies(bureau.Plateforme(), dossierContrat, {});
+  dialogs::Frm_ImpressionA4 impression(bureau.Plateforme());
   for (screen::Form* forme : std::initializer_list<screen::Form*>{
            &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic, &rubriques,
-           &commentaires, &indemnisation, &telegestion, &suivi}) {
+           &commentaires, &indemnisation, &telegestion, &suivi, &anomalies, &impression}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }

@@ -62,6 +62,8 @@ void imprimerEntete(const Ctr_Contrat& liste, screen::Imprimante& papier, const 
 
 void imprimerListe(const Ctr_Contrat& liste, screen::Platform& plateforme) {
   screen::Imprimante& papier = plateforme.imprimante;
+  // The list is always a PDF document, whatever else was printed before.
+  papier.Choisir(0);
   const int nombre = liste.Lst_DatDebContrat.ListCount();
   const int pages = nombre == 0 ? 1 : (nombre + LignesParPage - 1) / LignesParPage;
   const std::string jour = data::dateAffichee(plateforme.poste.Aujourdhui());

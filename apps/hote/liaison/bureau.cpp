@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "data/store_error.h"
+#include "liaison/imprimantes_qt.h"
 #include "liaison/liaison.h"
 #include "liaison/services_qt.h"
 #include "liaison/textes_qt.h"
@@ -33,7 +34,7 @@ struct Bureau::Services {
   MessagesQt messages;
   IndicationsQt indications;
   ModalesQt modales;
-  ImprimantePdf imprimante;
+  ImprimantesQt imprimante;
   ReglagesQt reglages;
   AideQt aide;
   AucunControle controles;

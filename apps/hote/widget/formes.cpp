@@ -5,10 +5,12 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_AnomaliesAjoutgraph.h"
 #include "ui_Frm_CommentBull.h"
 #include "ui_Frm_ContratAnnuel.h"
 #include "ui_Frm_ElemDroitPublic.h"
 #include "ui_Frm_ElementsContrat.h"
+#include "ui_Frm_ImpressionA4.h"
 #include "ui_Frm_MotifCDD.h"
 #include "ui_Frm_MotifsEmbauche.h"
 #include "ui_Frm_QualifPro.h"
@@ -106,6 +108,8 @@ void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
   bureau.Enregistrer("Frm_ContratAnnuel", construireSuivi);
+  bureau.Enregistrer("Frm_AnomaliesAjoutgraph", construire<Ui::Frm_AnomaliesAjoutgraph, Fenetre>);
+  bureau.Enregistrer("Frm_ImpressionA4", construire<Ui::Frm_ImpressionA4, Fenetre>);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
   bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
   bureau.Enregistrer("Frm_QualifPro", construire<Ui::Frm_QualifPro, Fenetre>);

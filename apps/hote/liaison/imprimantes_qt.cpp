@@ -1,0 +1,110 @@
+#include "liaison/imprimantes_qt.h"
+
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <stdexcept>
+
+#include "liaison/textes_qt.h"
+
+namespace hote {
+
+namespace {
+
+constexpr double TwipsParPouce = 1440;
+
+}  // namespace
+
+ImprimantesQt::ImprimantesQt(Bureau& bureau) : pdf_(bureau) {}
+ImprimantesQt::~ImprimantesQt() = default;
+
+std::vector<std::string> ImprimantesQt::Noms() const {
+  std::vector<std::string> noms = pdf_.Noms();
+  for (const QString& nom : QPrinterInfo::availablePrinterNames()) noms.push_back(versModele(nom));
+  return noms;
+}
+
+std::string ImprimantesQt::Port(int imprimante) const {
+  const QStringList noms = QPrinterInfo::availablePrinterNames();
+  if (imprimante == DocumentPdf || imprimante > noms.size()) return "Dossier Documents";
+  const QPrinterInfo info = QPrinterInfo::printerInfo(noms[imprimante - 1]);
+  return versModele(info.location().isEmpty() ? info.description() : info.location());
+}
+
+int ImprimantesQt::ParDefaut() const {
+  return static_cast<int>(
+             QPrinterInfo::availablePrinterNames().indexOf(QPrinterInfo::defaultPrinterName())) +
+         1;
+}
+
+void ImprimantesQt::Choisir(int imprimante) {
+  const QStringList noms = QPrinterInfo::availablePrinterNames();
+  if (imprimante < 0 || imprimante > noms.size()) {
+    throw std::out_of_range("no printer of index " + std::to_string(imprimante));
+  }
+  choisie_ = imprimante == DocumentPdf ? QString() : noms[imprimante - 1];
+}
+
+void ImprimantesQt::Police(const std::string& nom, double points, bool gras) {
+  pdf_.Police(nom, points, gras);
+  police_ = nom;
+  points_ = points;
+  gras_ = gras;
+}
+
+QPainter& ImprimantesQt::Pinceau() {
+  if (!imprimante_) {
+    imprimante_ =
+        std::make_unique<QPrinter>(QPrinterInfo::printerInfo(choisie_), QPrinter::HighResolution);
+    imprimante_->setFullPage(true);
+    pinceau_ = std::make_unique<QPainter>();
+    if (!pinceau_->begin(imprimante_.get())) {
+      pinceau_.reset();
+      imprimante_.reset();
+      throw std::runtime_error("L'imprimante « " + versModele(choisie_) +
+                               " » ne répond pas. Vérifiez qu'elle est allumée, ou choisissez-en "
+                               "une autre.");
+    }
+  } else if (pageFinie_) {
+    imprimante_->newPage();
+  }
+  pageFinie_ = false;
+  return *pinceau_;
+}
+
+void ImprimantesQt::Texte(int x, int y, const std::string& texte) {
+  if (choisie_.isEmpty()) return pdf_.Texte(x, y, texte);
+  QPainter& pinceau = Pinceau();
+  QFont police(versQt(police_));
+  police.setPointSizeF(points_);
+  police.setBold(gras_);
+  pinceau.setFont(police);
+  const double echelle = imprimante_->resolution() / TwipsParPouce;
+  pinceau.drawText(qRound(x * echelle), qRound(y * echelle) + pinceau.fontMetrics().ascent(),
+                   versQt(texte));
+}
+
+void ImprimantesQt::Image(int x, int y, int largeur, int hauteur, const std::string& fichier) {
+  if (choisie_.isEmpty()) return pdf_.Image(x, y, largeur, hauteur, fichier);
+  const QImage image(versQt(fichier));
+  if (image.isNull()) return;
+  QPainter& pinceau = Pinceau();
+  const double echelle = imprimante_->resolution() / TwipsParPouce;
+  pinceau.drawImage(QRectF(x * echelle, y * echelle, largeur * echelle, hauteur * echelle), image);
+}
+
+void ImprimantesQt::FinPage() {
+  if (choisie_.isEmpty()) return pdf_.FinPage();
+  Pinceau();
+  pageFinie_ = true;
+}
+
+void ImprimantesQt::FinDocument() {
+  if (!imprimante_) return pdf_.FinDocument();
+  pinceau_->end();
+  pinceau_.reset();
+  imprimante_.reset();
+  pageFinie_ = false;
+}
+
+}  // namespace hote

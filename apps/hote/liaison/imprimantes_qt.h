@@ -1,0 +1,44 @@
+#pragma once
+// The printers of the workstation: a PDF document, which is always there, then those of the system.
+
+#include "liaison/services_qt.h"
+
+class QPrinter;
+
+namespace hote {
+
+class ImprimantesQt : public screen::Imprimante {
+ public:
+  static constexpr int DocumentPdf = 0;
+
+  explicit ImprimantesQt(Bureau& bureau);
+  ~ImprimantesQt() override;
+
+  // The system is asked anew each time: printers come and go.
+  std::vector<std::string> Noms() const override;
+  std::string Port(int imprimante) const override;
+  // The system's own, where it has one.
+  int ParDefaut() const override;
+  // An index without a printer is a std::out_of_range. The choice stands until another is made.
+  void Choisir(int imprimante) override;
+  void Police(const std::string& nom, double points, bool gras) override;
+  void Texte(int x, int y, const std::string& texte) override;
+  void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) override;
+  void FinPage() override;
+  void FinDocument() override;
+
+ private:
+  QPainter& Pinceau();
+
+  ImprimantePdf pdf_;
+  // "" for the PDF document.
+  QString choisie_{};
+  std::unique_ptr<QPrinter> imprimante_;
+  std::unique_ptr<QPainter> pinceau_;
+  bool pageFinie_ = false;
+  std::string police_ = "Courier New";
+  double points_ = 10;
+  bool gras_ = false;
+};
+
+}  // namespace hote

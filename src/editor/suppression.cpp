@@ -1,0 +1,80 @@
+#include "editor/suppression.h"
+
+#include "data/layouts/voisins.h"
+#include "editor/editeur.h"
+#include "editor/evenement_dsn.h"
+#include "rules/traitements.h"
+#include "screen/attente.h"
+
+namespace editor {
+
+namespace {
+
+namespace C = data::Contrat;
+using screen::Boutons, screen::Icone, screen::Reponse;
+
+// Shows what stands in the way: true when nothing does.
+bool admis(Frm_ElementsContrat& editeur, const std::optional<rules::Refus>& refus) {
+  if (refus) editeur.MessageBox(refus->texte, Boutons::Ok, refus->icone);
+  return !refus;
+}
+
+}  // namespace
+
+void Suppression::Cmd_SupprimerContrat_Click() {
+  if (!Admise()) return;
+  if (editeur_.MessageBox("Etes-vous sûr de vouloir supprimer ce contrat ?", Boutons::OuiNon,
+                          Icone::Exclamation) != Reponse::Oui) {
+    return;
+  }
+  {
+    const screen::Attente attente(editeur_);
+    if (!admis(editeur_,
+               rules::Verif_Opposition(*editeur_.Session().Db, editeur_.ContratTraite())) ||
+        !PlanningLibre()) {
+      return;
+    }
+    Supprimer();
+    const session::Dossier& dossier = editeur_.Dossier();
+    editeur_.MessageBox("Le contrat " + dossier.CleContratCourant + " a été supprimé.", Boutons::Ok,
+                        Icone::Exclamation);
+  }
+  editeur_.Supprime();
+}
+
+bool Suppression::Admise() {
+  std::optional<rules::Refus> refus;
+  {
+    const screen::Attente attente(editeur_);
+    refus = rules::Verif_SuppressionPossible(*editeur_.Session().Db, editeur_.ContratTraite());
+  }
+  return admis(editeur_, refus);
+}
+
+bool Suppression::PlanningLibre() {
+  if (!editeur_.Session().OptionCompteur999) return true;
+  const auto& lib = editeur_.Session().Lib;
+  const auto refus = rules::Verif_PlanningSuppression(
+      *editeur_.Session().Db, editeur_.ContratTraite(),
+      {editeur_.Dates().debut, lib.LireDate(editeur_.fin.DernierJourInitial()),
+       editeur_.fin.FinAffichee()});
+  if (!refus) return true;
+  editeur_.fin.CacherSuppression();
+  return admis(editeur_, refus);
+}
+
+// The record as it is on file: what was typed and not saved goes with the screen.
+void Suppression::Supprimer() {
+  const session::Dossier& dossier = editeur_.Dossier();
+  data::CItem supprime = dossier.Initial;
+  supprime.Set(C::CongesReportesSur, "");
+  supprime.Set(C::CongesReprisDe, "");
+  supprime.Set(C::Annule, C::MarqueAnnule);
+  dossier.Session.Db->Stockage().EnUnBloc([&] {
+    Maj_EvenementDSN(dossier, dossier.CleContratCourant, supprime);
+    supprime.DBWriteU();
+    Nettoyer_LiensConges(dossier, dossier.CleContratCourant);
+  });
+}
+
+}  // namespace editor

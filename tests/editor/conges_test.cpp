@@ -1,0 +1,364 @@
+// The leave counters, and the contracts between which leave passes.
+
+#include "editor/editeur_essai.h"
+
+namespace {
+
+using essai::Acte, essai::jour, essai::valeurs;
+using screen::Reponse;
+namespace C = data::Contrat;
+
+class Conges : public essai::Editeur {
+ protected:
+  // 30 days acquired and 12,5 left, 2 and 1 for fractioning, 15 being acquired, 3 and 2 of
+  // seniority, 2 and 1 of notice-period leave.
+  static Attributs Compteurs() {
+    return {{C::CPAcquis, "3000"},          {C::CPRestants, "1250"},
+            {C::FractionnementAcquis, "2"}, {C::FractionnementRestants, "100"},
+            {C::ValeurJourHeures, "500"},   {C::ValeurJourMontant, "6505"},
+            {C::CPEnCoursJours, "1500"},    {C::CPEnCoursHeures, "7500"},
+            {C::CPEnCoursMontant, "97500"}, {C::AncienneteAcquis, "3"},
+            {C::AncienneteRestants, "200"}, {C::JoursAnticipation, "0"},
+            {C::DelaiPrevAcquis, "2"},      {C::DelaiPrevRestants, "100"}};
+  }
+  void ouvrirConges(Attributs autres = {}) {
+    autres.merge(Compteurs());
+    ouvrirContrat(autres);
+    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::DroitsConges);
+  }
+  data::CItem fiche(const std::string& cle = "00001001") {
+    return db.OpenFile("CONTRAT").Read(cle);
+  }
+};
+
+TEST_F(Conges, LesCompteursSontAffichesEtUneVisiteNeChangeRien) {
+  ouvrirConges({{C::PeriodeTraitee, "202610"}});
+  const std::pair<const char*, const char*> affiches[] = {{"CPConsoAcqContrat", "30,00"},
+                                                          {"CPRestConsoContrat", "12,50"},
+                                                          {"CFConsoAcqContrat", "2"},
+                                                          {"CFRestConsoContrat", "1,00"},
+                                                          {"JrOuvrHContrat", "5,00"},
+                                                          {"JrOuvreHContrat", "6,00"},
+                                                          {"JrOuvreMContrat", "78,06"},
+                                                          {"CPCoursJContrat", "15"},
+                                                          {"CPCoursHContrat", "75,00"},
+                                                          {"CPCoursMContrat", "975,00"},
+                                                          {"CAncAcqContrat", "3"},
+                                                          {"CAncRestContrat", "2,00"},
+                                                          {"CDPAcquis", "2"},
+                                                          {"CDPRestants", "1,00"}};
+  for (const auto& [champ, texte] : affiches) EXPECT_EQ(txt(champ).Text(), texte) << champ;
+  EXPECT_EQ(etq("PeriodeConges").Libelle(), "OCTOBRE 2026");
+  const Attributs douteux{{C::CPAcquis, ""}, {C::CPEnCoursJours, "1250"}, {C::CPRestants, "x"}};
+  for (const auto& autres : {Attributs{}, douteux}) {
+    ouvrirConges(autres);
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(messages(), "");
+  }
+}
+
+TEST_F(Conges, UnCompteurVideEstZero) {
+  ouvrirConges({{C::CPEnCoursHeures, ""}});
+  remplir(txt("CPRestConsoContrat"), "");
+  EXPECT_EQ(txt("CPRestConsoContrat").Text(), "0,00");
+  taper(txt("CAncAcqContrat"), "4");
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(fiche()(C::CPRestants) + fiche()(C::CPEnCoursHeures) + fiche()(C::AncienneteAcquis),
+            "004");
+  creer();
+  taper(txt("ConvColContrat"), "01");
+  taper(txt("AssocContrat"), "002");
+  taper(txt("EmplEtabContrat"), "001");
+  remplir(txt("DatDebContrat"), "01/12/2026");
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(fiche(cle())(C::CPAcquis) + fiche(cle())(C::DelaiPrevRestants), "00");
+}
+
+TEST_F(Conges, LesLibellesSuiventLeDecompte) {
+  const struct {
+    const char *convention, *statut, *cp, *anciennete, *delai;
+    const char* libelles;  // paid, seniority, notice-period: E for ouvrés, A for ouvrables
+    bool avecDelai;
+  } cas[] = {
+      {"01", "P", "1", "2", "", "EAE", true},   {"01", "P", "2", "1", "", "AEA", true},
+      {"01", "P", "2", "2", "1", "AAE", true},  {"01", "P", "1", "1", "2", "EEA", true},
+      {"01", "A", "2", "2", "2", "EEA", false}, {"02", "P", "2", "2", "1", "AAE", false},
+  };
+  for (const auto& c : cas) {
+    article("CONVENTIONCOL", c.convention,
+            {{1, "Branche"}, {2, c.cp}, {12, c.anciennete}, {76, c.delai}});
+    ouvrirConges({{C::Convention, c.convention},
+                  {C::Employeur, std::string(c.convention) == "02" ? "00007" : "001001"},
+                  {C::Statut, c.statut}});
+    std::string vus;
+    for (const char* nom : {"JO", "CA", "CDP"}) {
+      const std::string acquis = etq(std::string(nom) + "Acquis").Libelle();
+      const std::string mode = acquis.substr(0, acquis.size() - 7);
+      EXPECT_EQ(etq(std::string(nom) + "Restants").Libelle(), mode + " restants");
+      vus += mode == "Jours ouvrés" ? "E" : mode == "Jours ouvrables" ? "A" : "?";
+    }
+    EXPECT_EQ(vus, c.libelles) << c.convention << c.statut;
+    EXPECT_EQ(cdr("DelaiPrev").Enabled(), c.avecDelai);
+    EXPECT_EQ(txt("CDPRestants").Text(), c.avecDelai ? "1,00" : "0");
+  }
+}
+
+TEST_F(Conges, EnQuittantUnCompteur) {
+  const std::string fin =
+      " ne peut être qu'un nombre de jours entier ou un nombre de demi-journées.";
+  const struct {
+    const char *champ, *texte;
+    std::string message;
+    const char* revient;  // the field that takes the focus, empty
+  } cas[] = {
+      {"CPConsoAcqContrat", "2,25", "Le nombre de jours acquis" + fin, "CPConsoAcqContrat"},
+      {"CPConsoAcqContrat", "2,5", "", ""},
+      {"CPRestConsoContrat", "-2,25", "Le nombre de jours restants" + fin, "CPRestConsoContrat"},
+      {"CPRestConsoContrat", "-2,5", "", ""},
+      {"CFRestConsoContrat", "0,75", "Le nombre de jours restants" + fin, "CFRestConsoContrat"},
+      {"CAncRestContrat", "1,1", "Le nombre de jours en cours d'acquisition" + fin,
+       "CAncRestContrat"},
+      {"CDPRestants", "1,1", "Le nombre de jours en cours d'acquisition" + fin, "CAncRestContrat"},
+      {"JourAnticipation", "1,1", "Le nombre de jours pris par anticipation" + fin,
+       "JourAnticipation"},
+      {"JourAnticipation", "15,5", "", ""},
+      {"JourAnticipation", "16",
+       "Le nombre de jours pris par anticipation ne peut être supérieur au nombre de jours de "
+       "congès en cours d'acquisition.",
+       "JourAnticipation"},
+      {"JrOuvrMContrat", "7,77", "", ""},
+  };
+  for (const auto& [nom, texte, message, revient] : cas) {
+    ouvrirConges();
+    remplir(txt(nom), texte);
+    EXPECT_EQ(messages(), message) << nom;
+    if (*revient == '\0') continue;
+    EXPECT_EQ(actif(), std::string("Txt_") + revient) << nom;
+    EXPECT_EQ(txt(revient).Text(), "") << nom;
+  }
+}
+
+TEST_F(Conges, ChaqueVerificationARaisonDunSeulDefaut) {
+  const struct {
+    std::vector<std::pair<const char*, const char*>> saisies;
+    const char* message;
+    const char* focus;
+  } cas[] = {
+      {{{"CFConsoAcqContrat", "2,5"}},
+       "Le nombre de jours pour congés pour fractionnement acquis doit être un entier.",
+       ""},
+      {{{"CPCoursJContrat", "15,5"}},
+       "Le nombre de jours pour congés payés en-cours doit être un entier.",
+       ""},
+      {{{"CAncAcqContrat", "3,5"}},
+       "Le nombre de jours pour congés d'ancienneté acquis doit être un entier.",
+       ""},
+      {{{"CPRestConsoContrat", "-15,5"}},
+       "Le nombre de jours pour congés payés pris par avance doit être inférieur au nombre de "
+       "jours en cours d'acquisition.",
+       ""},
+      {{{"CPRestConsoContrat", "-15"}}, "", ""},
+      {{{"CPRestConsoContrat", "30,5"}},
+       "Le nombre de jours pour congés payés restants doit être inférieur au nombre de jours "
+       "acquis.",
+       ""},
+      {{{"CPRestConsoContrat", "30"}}, "", ""},
+      {{{"CFRestConsoContrat", "2,5"}},
+       "Le nombre de jours pour congés pour fractionnement restants doit être inférieur au nombre "
+       "de jours acquis.",
+       ""},
+      {{{"CAncRestContrat", "3,5"}},
+       "Le nombre de jours pour congés d'ancienneté restants doit être inférieur au nombre de "
+       "jours acquis.",
+       ""},
+      {{{"CDPAcquis", "2,5"}},
+       "Le nombre de jours pour congés délai prévenance acquis doit être un entier.",
+       ""},
+      {{{"CDPRestants", "2,5"}},
+       "Le nombre de jours pour congés délai prévenance restants doit être inférieur au nombre de "
+       "jours acquis.",
+       ""},
+  };
+  for (const auto& c : cas) {
+    ouvrirConges();
+    for (const auto& [champ, texte] : c.saisies) remplir(txt(champ), texte);
+    EXPECT_EQ(messages(), "");
+    cliquer(cmd("OK"));
+    EXPECT_EQ(messages(), c.message);
+    if (*c.message == '\0') continue;
+    EXPECT_EQ(actif(), std::string("Txt_") + c.saisies.back().first);
+  }
+  // Quarters of a day come from the file alone: the boxes do not take them.
+  const std::tuple<int, const char*, const char*> quarts[] = {
+      {C::CPRestants, "225",
+       "Le nombre de jours restants pour congés payés acquis doit être un entier ou une "
+       "demi-journée."},
+      {C::FractionnementRestants, "125",
+       "Le nombre de jours restants pour congés pour fractionnement acquis doit être un entier ou "
+       "une demi-journée."},
+      {C::AncienneteRestants, "175",
+       "Le nombre de jours restants pour congés d'ancienneté en-cours doit être un entier ou une "
+       "demi-journée."}};
+  for (const auto& [attribut, valeur, message] : quarts) {
+    ouvrirConges({{attribut, valeur}});
+    cliquer(cmd("OK"));
+    EXPECT_EQ(messages(), message);
+  }
+}
+
+// The two windows of other components: what is handed to each in its order, and when it may close.
+TEST_F(Conges, LesDetailsDesAutresEcrans) {
+  const struct {
+    const char *bouton, *controle, *propriete, *retenue, *libre;
+    std::string contexte;
+  } cas[] = {
+      {"Conges", "Ctr_Ventilation", "W_Sortir", "0", "-1",
+       "TheDatabase=Db|TheClient=LeClient|DroitsUtilisateur=W_Droits|W_CodeAidant=00001|"
+       "W_NomPrenom=DURAND Anne|W_CodeEmployeur=001|W_NomEmployeur=Aide du Val|"
+       "W_CodeContrat=00001001|W_NumMotif=|init()|"},
+      {"Detail", "Ctr_DetailCongesDelPrev", "W_Occupe", "-1", "0",
+       "DroitsUtilisateur=W_Droits|W_CodeAidant=00001|W_CodeAssoc=001|W_CodeEmployeur=001|"
+       "W_Periode=202610|TheDatabase=Db|TheClient=LeClient|init()|"},
+  };
+  for (const auto& c : cas) {
+    ouvrirConges({{C::PeriodeTraitee, "202610"}});
+    cliquer(cmd(c.bouton));
+    EXPECT_NE(messages().find("n'est pas installé sur ce poste"), std::string::npos);
+    auto& controle = hote.controles.Ajouter(c.controle);
+    hote.modales.Prevoir([&](screen::Form& form) {
+      screen::User clerc(form);
+      controle.Regler(c.propriete, c.retenue);
+      EXPECT_EQ(clerc.Fermer(), Acte::Avale) << c.bouton;
+      controle.Regler(c.propriete, c.libre);
+      EXPECT_EQ(clerc.Fermer(), Acte::Fait) << c.bouton;
+    });
+    cliquer(cmd(c.bouton));
+    std::string journal;
+    for (const auto& ligne : controle.Journal()) journal += ligne + "|";
+    EXPECT_TRUE(journal.starts_with(c.contexte)) << journal;
+    EXPECT_TRUE(editeur->Enabled() && !hote.curseur.EnAttente());
+  }
+  creer();
+  EXPECT_FALSE(cmd("Conges").Enabled() || cmd("Detail").Enabled());
+}
+
+// A fixed term 001 whose leave is carried onto the open-ended 002, which has been paid with it.
+class Lien : public Conges {
+ protected:
+  void lier(const char* rubrique = "843", const char* bulletin = "202606") {
+    contrat("00001001", {{C::Type, "D"},
+                         {C::DateDebut, jour("01/01/2026")},
+                         {C::DateFin, jour("30/06/2026")},
+                         {C::DateFinPresumee, jour("30/06/2026")},
+                         {C::MotifEmbauche, "01"},
+                         {C::MotifFin, "59"},
+                         {C::DateNotification, jour("20/06/2026")},
+                         {C::DernierJourTravaille, jour("30/06/2026")},
+                         {C::DernierBulletin, bulletin},
+                         {C::OrganismeRetraite, "001A"},
+                         {C::CongesReportesSur, "00001002"}});
+    contrat("00001002", {{C::DateDebut, jour("01/07/2026")},
+                         {C::Activites, "001DOM"},
+                         {C::DernierCalcul, "202607"},
+                         {C::CongesReprisDe, "00001001"}});
+    article("DETAILPREST", "00001002202607", {{5, valeurs(std::string("100|") + rubrique)}});
+    data::CItem motifs = db.OpenFile("TABLES").NewItem("FINCONTRAT");
+    motifs.Set(2, 1, "59");
+    motifs.Set(3, 1, "Démission");
+    motifs.DBWrite();
+  }
+  void ouvrirLien(const std::string& cle) {
+    ouvrir(cle);
+    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::DroitsConges);
+  }
+  std::string liens() {
+    return fiche("00001001")(C::CongesReportesSur) + "/" + fiche("00001002")(C::CongesReprisDe);
+  }
+};
+
+TEST_F(Lien, SAffichePuisSeDefaitALaMain) {
+  const std::pair<const char*, const char*> cas[] = {{"00001001", "Report"},
+                                                     {"00001002", "Reprise"}};
+  for (const auto& [cle, boite] : cas) {
+    lier();
+    ouvrirLien(cle);
+    auto& coche = cac(std::string(boite) + "Conges");
+    EXPECT_EQ(coche.Libelle(), std::string(boite) == "Report"
+                                   ? "Droits aux congés reportés sur le contrat débutant le "
+                                     "01/07/2026."
+                                   : "Droits aux congés repris à partir du contrat du 01/01/2026 "
+                                     "au 30/06/2026.");
+    EXPECT_TRUE(coche.Visible() && coche.Value() != 0);
+    EXPECT_FALSE(etq(std::string(boite) + "Conges").Visible());
+    // Taken back: nothing to save. Left without saving: nothing was written.
+    cliquer(coche);
+    quitter(Reponse::Annuler);
+    messages();
+    cliquer(coche);
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(messages(), "");
+    ouvrirLien(cle);
+    cliquer(coche);
+    quitter(Reponse::Non);
+    EXPECT_EQ(liens(), "00001002/00001001");
+    ouvrirLien(cle);
+    cliquer(coche);
+    messages();
+    cliquer(cmd("OK"));
+    EXPECT_EQ(messages(), "");
+    EXPECT_EQ(liens(), "/");
+  }
+}
+
+TEST_F(Lien, NeSeDefaitPlusUneFoisPaye) {
+  lier("101");
+  ouvrirLien("00001001");
+  EXPECT_FALSE(cac("ReportConges").Visible());
+  EXPECT_TRUE(etq("ReportConges").Visible());
+  EXPECT_TRUE(etq("ReportConges").Libelle().starts_with("Droits aux congés reportés"));
+  cliquer(cmd("OK"));
+  EXPECT_EQ(liens(), "00001002/00001001");
+  // To a contract that is not there: no word, and nothing to save.
+  memoire.Erase("CONTRAT", "00001002");
+  ouvrirLien("00001001");
+  EXPECT_FALSE(cac("ReportConges").Visible() || etq("ReportConges").Visible());
+  cliquer(editeur->Cmd_Retour);
+  EXPECT_EQ(messages(), "");
+}
+
+// The last payslip moves onto the period of the linked contract's, which has none.
+TEST_F(Lien, LeDernierBulletinLeRompt) {
+  lier("843", "202606");
+  ouvrir("00001001");
+  screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::FinContrat);
+  remplir(txt("DatNotifContrat"), "");
+  cliquer(cmd("OK"));
+  EXPECT_TRUE(messages().starts_with("Création impossible"));
+  db.OpenFile("CONTRAT").DeleteItem("00001002");
+  lier("843", "202606");
+  data::CItem suivant = fiche("00001002");
+  suivant.Set(C::DernierBulletin, "202605");
+  suivant.DBWrite();
+  ouvrir("00001001");
+  screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::FinContrat);
+  auto& spin = champ<screen::UpDown>("Bdh_Bulletin");
+  screen::User(*editeur).Barre(spin, -1);
+  const auto apres = [&] { return messages() + " " + liens(); };
+  const std::string dit =
+      "Suite au changement de la période du dernier bulletin, il n'est plus possible de reportés "
+      "les congés sur le contrat débutant le 01/07/2026.\r\nVérifiez l'état d'avancement des "
+      "bulletins de ces contrats.";
+  // A store that refuses a write leaves both sides, or none; trying again ends the same.
+  for (int n = 1; n <= 2; ++n) {
+    stockage->EchouerEcriture(n);
+    EXPECT_THROW(cliquer(cmd("OK")), data::StoreError) << n;
+    EXPECT_EQ(apres(), " 00001002/00001001") << n;
+  }
+  stockage->EchouerEcriture(0);
+  cliquer(cmd("OK"));
+  EXPECT_EQ(apres(), dit + " /");
+}
+
+}  // namespace

@@ -1,0 +1,308 @@
+// The fields of the last tab: what is shown, computed and stored.
+
+#include "editor/fin_essai.h"
+
+namespace {
+
+using essai::Acte, essai::jour, essai::valeurs;
+using screen::Reponse;
+namespace C = data::Contrat;
+
+class FinFiche : public essai::Fin {
+ protected:
+  // All that the tab can store.
+  const std::vector<int> Tout{C::DateFin,
+                              C::MotifFin,
+                              C::DateNotification,
+                              C::DernierJourTravaille,
+                              C::PrimePrecarite,
+                              C::PreavisPayeDu,
+                              C::PreavisPayeAu,
+                              C::PreavisEffectueDu,
+                              C::PreavisEffectueAu,
+                              C::MotifNonVersement,
+                              C::DernierBulletin,
+                              C::ObservationsFin,
+                              C::DateFinReelle,
+                              C::ComplementMotifFin,
+                              C::DateSignatureRupture,
+                              C::PreavisNonEffectueDu,
+                              C::PreavisNonEffectueAu,
+                              C::CalculLicenciement,
+                              C::OrganismeRetraite};
+};
+
+TEST_F(FinFiche, LaNotificationEtLeMotifDonnentLaFinEtLePreavis) {
+  article("INFOSAIDANT", "00001", {});
+  const struct {
+    const char *notification, *motif;
+    Attributs contrat;
+    Attributs infos;
+    const char* fin;
+  } cas[] = {
+      {"15/08/2026", "Licenciement", {}, {}, "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
+      // A single month of seniority less than two years: from the seniority date, suspension added.
+      {"15/08/2026",
+       "Licenciement",
+       {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "650"}},
+       {},
+       "14/09/2026, payé 15/08/2026-14/09/2026, août 2026"},
+      {"15/08/2026",
+       "Licenciement",
+       {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "550"}},
+       {},
+       "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
+      // The grid of the last amendment: an executive's.
+      {"15/08/2026",
+       "Licenciement",
+       {{C::Avenant, valeurs("0|01")},
+        {C::DateEffet, valeurs(jour("01/03/2024") + "|" + jour("01/01/2026"))},
+        {C::Grille, valeurs("01A|01G")}},
+       {},
+       "14/12/2026, payé 15/08/2026-14/12/2026, août 2026"},
+      {"15/08/2026",
+       "Licenciement",
+       {},
+       {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
+       "14/11/2026, payé 15/08/2026-14/11/2026, août 2026"},
+      {"15/08/2026",
+       "Faute",
+       {},
+       {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
+       "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
+      {"15/08/2026", "Démission", {}, {}, ", -, "},
+      {"15/08/2026", "Rupture conventionnelle", {}, {}, ", -, "},
+  };
+  article("GRILLESCC", "01A", {{1, "A"}, {7, "A"}});
+  article("GRILLESCC", "01G", {{1, "G"}, {7, "G"}});
+  for (const auto& [notification, motif, contrat, infos, attendu] : cas) {
+    article("INFOSAIDANT", "00001", infos);
+    ouvrirFin(contrat);
+    notifier(notification, motif);
+    EXPECT_EQ(fin(), attendu) << motif;
+    EXPECT_EQ(messages(), "") << motif;
+  }
+}
+
+TEST_F(FinFiche, UneNotificationQuiNeChangePasNeCalculeRien) {
+  auto negocie = Licencie();
+  negocie[C::DateFin] = jour("30/09/2026");
+  negocie[C::PreavisPayeAu] = jour("30/09/2026");
+  ouvrirFin(negocie);
+  const std::string vu = "30/09/2026, payé 15/08/2026-30/09/2026, août 2026";
+  EXPECT_EQ(fin(), vu);
+  for (const char* champ : {"DatNotifContrat", "DateFinContrat", "DernJrWContrat"}) {
+    screen::User(*editeur).Focus(txt(champ));
+    screen::User(*editeur).Quitter();
+  }
+  EXPECT_EQ(fin(), vu);
+  remplir(txt("DatNotifContrat"), "20/08/2026");
+  EXPECT_EQ(fin(), "19/10/2026, payé 20/08/2026-19/10/2026, août 2026");
+}
+
+// A contract that was opened, shown and left is as it was, whatever its end on file holds.
+TEST_F(FinFiche, VisiterLOngletNeChangeRien) {
+  auto douteux = Licencie();
+  douteux[C::CalculLicenciement] = "";
+  douteux[C::MotifFin] = "77";
+  douteux[C::DernierBulletin] = "";
+  douteux[C::DateFinReelle] = "demain";
+  const Attributs sansNotification{{C::DateFin, jour("30/09/2026")},
+                                   {C::DernierBulletin, "202609"},
+                                   {C::MotifFin, "31"},
+                                   {C::PrimePrecarite, "1"}};
+  for (const auto& fiche : {Licencie(), douteux, sansNotification, Attributs{}}) {
+    ouvrirFin(fiche);
+    cliquer(editeur->Cmd_Retour);
+    EXPECT_EQ(messages(), "");
+    EXPECT_FALSE(editeur->Visible());
+  }
+}
+
+TEST_F(FinFiche, SansNotificationLaFinSurFichierComptePourLesRegles) {
+  contrat("00001002", {{C::DateDebut, jour("01/10/2026")}});
+  ouvrirFin({{C::DateFin, jour("30/09/2026")}, {C::DernierBulletin, "202609"}});
+  EXPECT_EQ(txt("DateFinContrat").Text(), "");
+  EXPECT_EQ(hote.indications.Prendre().size(), 1u);
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin), jour("30/09/2026"));
+}
+
+TEST_F(FinFiche, ViderLaNotificationAnnuleLaFinEnEntier) {
+  ouvrirFin(Licencie());
+  remplir(txt("DatNotifContrat"), "");
+  EXPECT_EQ(fin(), ", -, ");
+  EXPECT_EQ(cbo("MotifFinContrat").ListIndex(), -1);
+  EXPECT_FALSE(txt("DateFinContrat").Enabled() || cbo("MotifFinContrat").Enabled());
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
+  for (const int a : Tout) EXPECT_EQ(ecrit(a), a == C::OrganismeRetraite ? "001A" : "") << a;
+}
+
+TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
+  ouvrirFin();
+  notifier("15/08/2026", "Licenciement");
+  remplir(txt("DernJrWContrat"), "20/08/2026");
+  remplir(txt("FinReelle"), "31/10/2026");
+  remplir(txt("NonVersContrat"), "Dispense");
+  remplir(txt("ObsFinContrat(1)"), "Deuxième");
+  remplir(txt("CmpltMotif"), "Économique");
+  cliquer(opt("Effectue"));
+  EXPECT_FALSE(txt("DebPayeContrat").Enabled());
+  remplir(txt("DebEffContrat"), "16/08/2026");
+  remplir(txt("FinEffContrat"), "14/10/2026");
+  cliquer(cac("CalcIndLic"));
+  cliquer(cmd("OK"));
+  EXPECT_EQ(messages(), "");
+  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
+  std::string texte;
+  for (const int a : Tout) texte += ecrit(a) + " ";
+  EXPECT_EQ(texte, jour("14/10/2026") + " 11 " + jour("15/08/2026") + " " + jour("20/08/2026") +
+                       " 0   " + jour("16/08/2026") + " " + jour("14/10/2026") +
+                       " Dispense 202608 " + valeurs("|Deuxième") + " " + jour("31/10/2026") +
+                       " Économique    0 001A ");
+  EXPECT_EQ(db.OpenFile("DSNEVENEMENT").Read("00001001")(2), "1");
+}
+
+TEST_F(FinFiche, LeMotifMontreCeQuiEnDepend) {
+  const struct {
+    const char* motif;
+    bool signature, indemnite;
+    const char* ecrit;  // 129 and 132
+  } cas[] = {{"Rupture conventionnelle", true, false, "21300  "},
+             {"Licenciement", false, true, " 1 "},
+             {"Démission", false, false, "  "}};
+  for (const auto& [motif, signature, indemnite, ecrit] : cas) {
+    ouvrirFin();
+    notifier("15/08/2026", motif);
+    EXPECT_EQ(txt("DateSignConvCol").Visible(), signature) << motif;
+    EXPECT_EQ(cac("CalcIndLic").Visible(), indemnite) << motif;
+    if (signature) remplir(txt("DateSignConvCol"), "25/04/2026");
+    quitter(Reponse::Annuler);
+    EXPECT_EQ(lu({C::DateSignatureRupture, C::CalculLicenciement}), ecrit) << motif;
+    messages();
+  }
+}
+
+TEST_F(FinFiche, LesMotifsObsoletesNeSontOffertsQueSurFichier) {
+  ouvrirFin();
+  notifier("15/08/2026", "Licenciement");
+  EXPECT_EQ(lignes(cbo("MotifFinContrat")), "Licenciement|Rupture conventionnelle|Faute|Démission");
+  auto ancien = Licencie();
+  ancien[C::MotifFin] = "60";
+  ouvrirFin(ancien);
+  EXPECT_EQ(cbo("MotifFinContrat").Text(), "Ancien");
+  remplir(cbo("MotifFinContrat"), "Licensiement");
+  EXPECT_EQ(messages(), "Le motif de fin de contrat saisi n'existe pas, veuillez le ressaisir.");
+  EXPECT_EQ(cbo("MotifFinContrat").Text() + actif(), "Cbo_MotifFinContrat");
+  remplir(cbo("MotifFinContrat"), "Licenciement");
+  EXPECT_EQ(txt("DateFinContrat").Text(), "14/10/2026");
+}
+
+// The box of the second tab, and the line beside the reason.
+TEST_F(FinFiche, LeMotifDecideDesHeuresNegatives) {
+  const std::string coche = "Contrat modulé : retrait des heures négatives coché par défaut.";
+  const std::string decoche = "Contrat modulé : retrait des heures négatives décoché par défaut.";
+  const struct {
+    const char *salaire, *statut;
+    bool lisse;
+    const char *motif, *surFichier, *modulation;
+    bool retire;
+    std::string info;
+  } cas[] = {
+      {"H", "P", false, "Licenciement", "", "S", true, ""},
+      {"M", "P", true, "Démission", "", "S", true, coche},
+      {"M", "P", true, "Licenciement", "", "C", false, decoche},
+      {"M", "P", false, "Démission", "", "C", false, decoche},
+      {"M", "A", true, "Démission", "", "C", false, decoche},
+      // Back on the reason on file: as on file.
+      {"M", "P", true, "Licenciement", "11", "C", true, decoche},
+      {"M", "P", true, "Démission", "59", "S", false, coche},
+  };
+  for (const auto& c : cas) {
+    auto fiche = Licencie();
+    fiche[C::MotifFin] = c.surFichier;
+    fiche[C::Salaire] = c.salaire;
+    fiche[C::Statut] = c.statut;
+    fiche[C::Modulation] = c.modulation;
+    ouvrirFin(fiche);
+    cac("Lissage").SetValue(c.lisse ? 1 : 0);
+    notifier("15/08/2026", c.motif);
+    EXPECT_EQ(cac("RetraitHeuresNeg").Value() != 0, c.retire) << c.motif << c.salaire << c.statut;
+    EXPECT_EQ(etq("InfoComplMotifFin").Libelle(), c.info);
+    EXPECT_EQ(etq("InfoComplMotifFin").Visible(), !c.info.empty());
+  }
+}
+
+TEST_F(FinFiche, LeDernierBulletinSeChoisitParMois) {
+  const struct {
+    const char *debut, *fin;
+    int pas;  // steps down, then one up
+    const char *bas, *haut;
+  } cas[] = {
+      {"01/03/2024", "14/02/2026", 9, "octobre 2025", "novembre 2025"},
+      {"15/12/2025", "14/02/2026", 9, "décembre 2025", "janvier 2026"},
+      {"01/02/2026", "14/02/2026", 9, "février 2026", "février 2026"},
+      {"01/03/2024", "31/12/2025", 1, "novembre 2025", "décembre 2025"},
+  };
+  for (const auto& c : cas) {
+    ouvrirFin({{C::DateDebut, jour(c.debut)}});
+    notifier("14/02/2026", "Démission");
+    remplir(txt("DateFinContrat"), c.fin);
+    auto& spin = champ<screen::UpDown>("Bdh_Bulletin");
+    screen::User user(*editeur);
+    for (int i = 0; i < c.pas; ++i) user.Barre(spin, spin.Value() - 1);
+    EXPECT_EQ(txt("DernBullContrat").Text(), c.bas) << c.fin;
+    user.Barre(spin, spin.Value() + 1);
+    EXPECT_EQ(txt("DernBullContrat").Text(), c.haut) << c.fin;
+    messages();
+  }
+  // Another end takes the period along.
+  remplir(txt("DateFinContrat"), "15/03/2026");
+  EXPECT_EQ(txt("DernBullContrat").Text(), "mars 2026");
+}
+
+TEST_F(FinFiche, LesDatesNePrecedentPasLeDebut) {
+  ouvrirFin(Licencie());
+  const struct {
+    const char *champ, *texte, *message;
+  } cas[] = {
+      {"DatNotifContrat", "29/02/2024",
+       "Erreur la date de notification de licenciement / démission ne peut être inférieure à la "
+       "date de début du contrat, veuillez la ressaisir."},
+      {"DernJrWContrat", "29/02/2024",
+       "Erreur la date du dernier jour travaillé ne peut être inférieure à la date de début du "
+       "contrat, veuillez la ressaisir."},
+      {"FinReelle", "29/02/2024",
+       "Erreur la date de fin réelle ne peut être inférieure à la date de début du contrat, "
+       "veuillez la ressaisir."},
+      {"DernJrWContrat", "32/01/2026", ""},
+      {"DebPayeContrat", "xx", ""},
+  };
+  for (const auto& [nom, texte, message] : cas) {
+    remplir(txt(nom), texte);
+    EXPECT_EQ(messages(), message) << nom;
+    EXPECT_EQ(actif(), std::string("Txt_") + nom);
+    taper(txt(nom), "01/09/2026");
+  }
+}
+
+TEST_F(FinFiche, UnParticulierEmployeurNADeRetraiteQueLaSienne) {
+  ouvrirFin({{C::Convention, "02"}, {C::Employeur, "00007"}, {C::OrganismeRetraite, ""}});
+  notifier("15/08/2026", "Démission");
+  remplir(txt("DateFinContrat"), "31/08/2026");
+  EXPECT_EQ(cbo("OrgRetraite").Text() + txt("OrgRetraite").Text(), "IRCEMIRCEM");
+  EXPECT_FALSE(cbo("OrgRetraite").Enabled());
+}
+
+TEST_F(FinFiche, UnAidantSupprimeGardeSaDateDeFin) {
+  session.EtatSuppAidant = true;
+  ouvrirFin(Licencie());
+  EXPECT_FALSE(txt("DateFinContrat").Enabled());
+  remplir(txt("DatNotifContrat"), "20/08/2026");
+  EXPECT_FALSE(txt("DateFinContrat").Enabled());
+}
+
+}  // namespace
