@@ -189,6 +189,7 @@ const std::vector<bench::Rapport> Rapports{
     {"list of 999 contracts / its raw reads", "rechercheContrat", "brutRecherche", 2},
     {"open a contract to its first tab / reads and selects", "ouvrirContrat", "brutOuvrirContrat",
      2},
+    {"open the annual follow-up / its reads", "ouvrirSuivi", "brutOuvrirSuivi", 2},
     {"save a new contract / durable writes", "enregistrerContrat", "brutEnregistrerContrat", 1.3},
     {"200,000 contracts sorted / 10,000", "trierMoyenne", "trierPetite", 60},
     {"50,000 rows walked and filtered / ten times 5,000", "resultat50000", "resultat5000", 15},

@@ -15,11 +15,13 @@ constexpr int Arrondi = 5;
 // Hours or days. Beyond, the product of two numbers of a line could not be held.
 constexpr std::int64_t Plafond = 1'000'000;
 
-Monnaie lue(std::string_view texte, int echelle) {
-  const auto unites = data::enUnites(texte, echelle);
-  if (!unites) return {};
-  const Monnaie valeur = echelle == 4 ? Monnaie::DeTexte(texte) : Monnaie::DeCentiemes(texte);
-  return valeur.Absolue() > Monnaie::Entier(Plafond) ? Monnaie() : valeur;
+Monnaie lue(Monnaie (*lire)(std::string_view), std::string_view texte) {
+  try {
+    const Monnaie valeur = lire(texte);
+    return valeur.Absolue() > Monnaie::Entier(Plafond) ? Monnaie() : valeur;
+  } catch (const data::NombreInvalide&) {
+    return {};
+  }
 }
 
 }  // namespace
@@ -38,20 +40,15 @@ std::string formeSuivi(Monnaie valeur, int avant, int apres) {
 }
 
 Monnaie lireForme(std::string_view texte) {
-  try {
-    const Monnaie valeur = Monnaie::Valeur(texte);
-    return valeur.Absolue() > Monnaie::Entier(Plafond) ? Monnaie() : valeur;
-  } catch (const data::NombreInvalide&) {
-    return {};
-  }
+  return lue(Monnaie::Valeur, texte);
 }
 
 Monnaie entierLu(std::string_view texte) {
-  return lue(texte, 4);
+  return lue(Monnaie::DeTexte, texte);
 }
 
 Monnaie centiemesLus(std::string_view texte) {
-  return lue(texte, 2);
+  return lue(Monnaie::DeCentiemes, texte);
 }
 
 long long centiemes(Monnaie valeur) {

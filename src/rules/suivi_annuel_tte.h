@@ -33,8 +33,9 @@ struct TempsMois {
   long long Difference() const;
 };
 
-// What a line shows beside what it holds. Hundredths of an hour are whole numbers.
+// A line with what it shows beside. Hundredths of an hour are whole numbers.
 struct CalculTemps {
+  TempsMois temps;
   data::Monnaie joursPotentiels;
   data::Monnaie heuresPotentielles;
   long long difference = 0;

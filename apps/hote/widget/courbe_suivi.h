@@ -32,7 +32,7 @@ class CourbeSuivi : public QWidget {
  private:
   void Relire();
   // Hours from the least to the greatest, zero among them.
-  std::pair<double, double> Etendue() const;
+  void Mesurer();
   QPointF Point(const QRectF& cadre, std::size_t mois, double heures) const;
   void TracerRepere(QPainter& pinceau, const QRectF& cadre) const;
   enum class Trait { Cumul, Solde };
@@ -48,4 +48,6 @@ class CourbeSuivi : public QWidget {
   QStringList mois_;
   std::vector<double> cumul_;
   std::vector<double> solde_;
+  double bas_ = -1;
+  double haut_ = 1;
 };
