@@ -78,7 +78,7 @@ void CourbeSuivi::paintEvent(QPaintEvent*) {
   if (periodes_ == nullptr) return;
   Relire();
   QPainter pinceau(this);
-  pinceau.setRenderHint(QPainter::Antialiasing);
+  pinceau.setRenderHint(QPainter::Antialiasing, cumul_.size() <= MoisMarques);
   const int ligne = fontMetrics().height();
   const double marge = fontMetrics().horizontalAdvance(heures(-8888.8)) + 6;
   const QRectF cadre(marge, ligne * 1.3, width() - marge - 12.0, height() - ligne * 2.6);
@@ -138,7 +138,7 @@ void CourbeSuivi::TracerRepere(QPainter& pinceau, const QRectF& cadre) const {
 // The two lines differ by stroke and mark, not by colour alone.
 QPen CourbeSuivi::Plume(Trait trait) const {
   const bool cumul = trait == Trait::Cumul;
-  return QPen(palette().color(cumul ? QPalette::WindowText : QPalette::Highlight), 1.6,
+  return QPen(palette().color(cumul ? QPalette::WindowText : QPalette::Highlight), 1,
               cumul ? Qt::DashLine : Qt::SolidLine);
 }
 
