@@ -18,7 +18,7 @@ class CourbeSuivi : public QWidget {
   // The lists are those of one table; they outlive the chart.
   void Suivre(const QListWidget& periodes, const QListWidget& cumul, const QListWidget& solde);
 
-  // The numbers that are drawn, as the lists say them when the chart is painted; 0 for what is none.
+  // The numbers drawn, as the lists say them when the chart is painted; 0 for what is none.
   const std::vector<double>& Cumul() const { return cumul_; }
   const std::vector<double>& Solde() const { return solde_; }
 
