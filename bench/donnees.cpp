@@ -203,6 +203,7 @@ const std::vector<bench::Rapport> Rapports{
      "brutVisiterCaracteristiques", 2},
     {"walk one amendment, 1 ms", "parcourirAvenant", "brutVisiterCaracteristiques", 0, 1000},
     {"weigh the hours of 50 contracts / its raw reads", "peserHeures", "brutPeserHeures", 2},
+    {"open the annual follow-up / its reads", "ouvrirSuivi", "brutOuvrirSuivi", 2},
     {"save a new contract / durable writes", "enregistrerContrat", "brutEnregistrerContrat", 1.3},
     {"2,000 interventions in 500,000 held against a contract / raw key range", "coherencePlanning",
      "brutCoherencePlanning", 2},

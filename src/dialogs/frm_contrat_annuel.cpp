@@ -74,8 +74,9 @@ void Frm_ContratAnnuel::init() {
     tempsEffectif.Ouvrir(rules::anneeSuivi(dossier_.ItemContrat,
                                            MoisCloture(dossier_.ItemContrat(C::Employeur)),
                                            session_.PeriodePaie()));
+    // A tab that is chosen shows itself.
     if (convention.Vue(data::ConventionCol::SuiviTte) == OuvreEnTempsEffectif) {
-      Ong_SuivContrat.SetTab(EnTempsEffectif);
+      return Ong_SuivContrat.SetTab(EnTempsEffectif);
     }
   }
   Afficher();

@@ -60,7 +60,7 @@ void SuiviEnRemunere::Montrer() {
   lignes_.Vider();
   int ligne = 0;
   for (const rules::CalculMois& calcul : Suivi().Calculs()) {
-    const rules::HeuresMois heures = Suivi().Heures(ligne);
+    const rules::HeuresMois& heures = calcul.heures;
     const std::string difference = colonne(heures.difference);
     lignes_.Ajouter({rules::etiquetteMois(Suivi().Table().Periode(ligne)), colonne(heures.contrat),
                      colonne(heures.absences), colonne(calcul.forfait), colonne(heures.reel),

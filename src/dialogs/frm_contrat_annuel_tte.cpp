@@ -92,7 +92,7 @@ void SuiviEnTempsEffectif::Montrer() {
   const rules::TableSuivi& table = Suivi().Table();
   int i = 0;
   for (const rules::CalculTemps& calcul : Suivi().Calculs()) {
-    const TempsMois temps = Suivi().Temps(i);
+    const TempsMois& temps = calcul.temps;
     lignes_.Ajouter({rules::etiquetteMois(table.Periode(i)), colonne(temps.heuresJour, 2, 2),
                      temps.joursMois + "  ", temps.samDim + "  ", temps.feries + "  ",
                      colonne(temps.conges, 2, 1, 1), temps.maladie.TexteCourt() + "  ",

@@ -31,7 +31,7 @@ std::vector<CalculMois> SuiviRemunere::Calculs() const {
     const HeuresMois heures = Heures(i);
     cumul += heures.difference;
     solde += heures.difference - heures.regul;
-    calculs.push_back({heures.Forfait(), cumul, solde});
+    calculs.push_back({heures, heures.Forfait(), cumul, solde});
   }
   return calculs;
 }

@@ -30,8 +30,9 @@ struct HeuresMois {
   data::Monnaie Forfait() const { return contrat - absences; }
 };
 
-// What is never stored.
+// A line with what is never stored.
 struct CalculMois {
+  HeuresMois heures;
   data::Monnaie forfait;
   data::Monnaie cumul;
   data::Monnaie solde;

@@ -41,7 +41,13 @@ std::vector<std::string> suite(std::string premier, const std::string& dernier) 
 }  // namespace
 
 std::vector<std::string> moisDeLAnnee(int annee) {
-  return suite(periode(annee, "01"), periode(annee, Decembre));
+  if (!estPeriode(periode(annee, Decembre))) return {};
+  std::vector<std::string> mois;
+  for (const char* const chiffres :
+       {"01", "02", "03", "04", "05", "06", "07", "08", "09", "10", "11", "12"}) {
+    mois.push_back(periode(annee, chiffres));
+  }
+  return mois;
 }
 
 std::vector<std::string> moisOfferts(const ExerciceSuivi& exercice) {

@@ -30,7 +30,8 @@ struct ExerciceSuivi {
 std::vector<std::string> moisOfferts(const ExerciceSuivi& exercice);
 
 // The year of the effective working time: that of the last period processed, the next one from the
-// closing month on; without such a period that of the last payslip computed, else of the pay period.
+// closing month on; without such a period that of the last payslip computed, else of the period
+// that is being paid.
 int anneeSuivi(const data::CItem& contrat, const std::string& moisCloture,
                const std::string& periodePaie);
 

@@ -15,10 +15,9 @@ namespace rules {
 // The number as a column shows it: the integer part on `avant` characters, always a comma, at least
 // `apres` decimals; a negative one has its "-" in place of the first character.
 //
-// Too many decimals are not rounded as elsewhere: 5 is added to them as a number, of which the first
-// two digits stand. Nothing is carried into the integer part and leading zeros are lost, so that
-// 0,125 shows 0,13 but 0,005 and 0,995 both show 0,10. Users compare these columns with lists
-// printed so for years: it stays.
+// Too many decimals are not rounded as elsewhere: 5 is added to them as a number, whose first two
+// digits stand. Nothing is carried into the integer part and leading zeros are lost, so that 0,125
+// shows 0,13 but 0,005 and 0,995 both show 0,10. It is what users know, and stays on purpose.
 std::string formeSuivi(data::Monnaie valeur, int avant, int apres);
 // What such a column says, or what was typed: the number of the longest beginning that is one.
 data::Monnaie lireForme(std::string_view texte);

@@ -46,10 +46,12 @@ std::vector<CalculTemps> SuiviTte::Calculs() const {
   std::vector<CalculTemps> calculs;
   long long cumul = 0;
   for (int i = 0; i < table_.Nombre(); ++i) {
-    const TempsMois temps = Temps(i);
-    const long long difference = temps.Difference();
-    cumul += difference;
-    calculs.push_back({temps.JoursPotentiels(), temps.HeuresPotentielles(), difference, cumul});
+    CalculTemps& calcul = calculs.emplace_back();
+    calcul.temps = Temps(i);
+    calcul.joursPotentiels = calcul.temps.JoursPotentiels();
+    calcul.heuresPotentielles = calcul.temps.heuresJour * calcul.joursPotentiels;
+    calcul.difference = centiemes(calcul.temps.effectif - calcul.heuresPotentielles);
+    calcul.cumul = cumul += calcul.difference;
   }
   return calculs;
 }

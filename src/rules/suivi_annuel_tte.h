@@ -1,6 +1,6 @@
 #pragma once
 // The annual follow-up in effective working time: the hours that were due, from the days of each
-// month and the hours of a day, beside those that were worked. One record of AIDANTTTE holds a year.
+// month and the hours of a day, beside those worked. One record of AIDANTTTE holds a year.
 //
 // potential days = days of the month less those off; monthly difference = hours worked - hours a
 // day x potential days, in whole hundredths; balance = running sum of the differences less the
@@ -33,8 +33,9 @@ struct TempsMois {
   long long Difference() const;
 };
 
-// What a line shows beside what it holds. Hundredths of an hour are whole numbers.
+// A line with what it shows beside. Hundredths of an hour are whole numbers.
 struct CalculTemps {
+  TempsMois temps;
   data::Monnaie joursPotentiels;
   data::Monnaie heuresPotentielles;
   long long difference = 0;

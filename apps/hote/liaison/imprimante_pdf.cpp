@@ -71,18 +71,20 @@ void ImprimantePdf::Texte(int x, int y, const std::string& texte, int largeur) {
   police.setBold(gras_);
   police.setStyleHint(QFont::TypeWriter);
   pinceau.setFont(police);
-  const QString ligne = versQt(texte);
+  ecrireLigne(pinceau, QPoint(enPoints(x), enPoints(y)), versQt(texte), enPoints(largeur));
+}
+
+void ecrireLigne(QPainter& pinceau, const QPoint& place, const QString& ligne, int largeur) {
   const QFontMetrics mesures = pinceau.fontMetrics();
-  // A place is the top of the line.
-  const QPoint base(enPoints(x), enPoints(y) + mesures.ascent());
+  const QPoint base = place + QPoint(0, mesures.ascent());
   const int pris = mesures.horizontalAdvance(ligne);
-  if (largeur == 0 || pris <= enPoints(largeur)) {
+  if (largeur == 0 || pris <= largeur) {
     pinceau.drawText(base, ligne);
     return;
   }
   pinceau.save();
   pinceau.translate(base);
-  pinceau.scale(static_cast<double>(enPoints(largeur)) / pris, 1);
+  pinceau.scale(static_cast<double>(largeur) / pris, 1);
   pinceau.drawText(QPoint(0, 0), ligne);
   pinceau.restore();
 }

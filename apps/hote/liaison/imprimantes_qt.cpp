@@ -15,7 +15,7 @@ constexpr double TwipsParPouce = 1440;
 
 }  // namespace
 
-ImprimantesQt::ImprimantesQt(Bureau& bureau) : pdf_(bureau) {}
+ImprimantesQt::ImprimantesQt(Bureau& bureau, CurseurQt& curseur) : pdf_(bureau, curseur) {}
 ImprimantesQt::~ImprimantesQt() = default;
 
 std::vector<std::string> ImprimantesQt::Noms() const {
@@ -61,9 +61,10 @@ QPainter& ImprimantesQt::Pinceau() {
     if (!pinceau_->begin(imprimante_.get())) {
       pinceau_.reset();
       imprimante_.reset();
-      throw std::runtime_error("L'imprimante « " + versModele(choisie_) +
-                               " » ne répond pas. Vérifiez qu'elle est allumée, ou choisissez-en "
-                               "une autre.");
+      throw screen::ErreurImpression(
+          "L'imprimante « " + versModele(choisie_) +
+          " » ne répond pas. Vérifiez qu'elle est allumée, ou choisissez-en "
+          "une autre.");
     }
   } else if (pageFinie_) {
     imprimante_->newPage();
@@ -72,16 +73,16 @@ QPainter& ImprimantesQt::Pinceau() {
   return *pinceau_;
 }
 
-void ImprimantesQt::Texte(int x, int y, const std::string& texte) {
-  if (choisie_.isEmpty()) return pdf_.Texte(x, y, texte);
+void ImprimantesQt::Texte(int x, int y, const std::string& texte, int largeur) {
+  if (choisie_.isEmpty()) return pdf_.Texte(x, y, texte, largeur);
   QPainter& pinceau = Pinceau();
   QFont police(versQt(police_));
   police.setPointSizeF(points_);
   police.setBold(gras_);
   pinceau.setFont(police);
   const double echelle = imprimante_->resolution() / TwipsParPouce;
-  pinceau.drawText(qRound(x * echelle), qRound(y * echelle) + pinceau.fontMetrics().ascent(),
-                   versQt(texte));
+  ecrireLigne(pinceau, QPoint(qRound(x * echelle), qRound(y * echelle)), versQt(texte),
+              qRound(largeur * echelle));
 }
 
 void ImprimantesQt::Image(int x, int y, int largeur, int hauteur, const std::string& fichier) {

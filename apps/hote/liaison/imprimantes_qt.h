@@ -11,7 +11,7 @@ class ImprimantesQt : public screen::Imprimante {
  public:
   static constexpr int DocumentPdf = 0;
 
-  explicit ImprimantesQt(Bureau& bureau);
+  ImprimantesQt(Bureau& bureau, CurseurQt& curseur);
   ~ImprimantesQt() override;
 
   // The system is asked anew each time: printers come and go.
@@ -22,7 +22,7 @@ class ImprimantesQt : public screen::Imprimante {
   // An index without a printer is a std::out_of_range. The choice stands until another is made.
   void Choisir(int imprimante) override;
   void Police(const std::string& nom, double points, bool gras) override;
-  void Texte(int x, int y, const std::string& texte) override;
+  void Texte(int x, int y, const std::string& texte, int largeur = 0) override;
   void Image(int x, int y, int largeur, int hauteur, const std::string& fichier) override;
   void FinPage() override;
   void FinDocument() override;

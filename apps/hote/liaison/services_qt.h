@@ -103,6 +103,10 @@ class ImprimantePdf : public screen::Imprimante {
   bool gras_ = false;
 };
 
+// One line in the painter's font, with its top at the place; drawn narrower where it would not fit
+// into `largeur`, 0 for any.
+void ecrireLigne(QPainter& pinceau, const QPoint& place, const QString& ligne, int largeur);
+
 class ReglagesQt : public screen::Reglages {
  public:
   explicit ReglagesQt(QSettings& reglages) : reglages_(reglages) {}

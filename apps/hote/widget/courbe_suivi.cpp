@@ -11,6 +11,8 @@ namespace {
 constexpr int RangeesHautes = 6;  // of text
 constexpr double RayonMarque = 2.5;
 constexpr int LettresMois = 4;
+// Beyond two years the marks would hide the lines.
+constexpr std::size_t MoisMarques = 24;
 
 // Hours of a column, blanks and all.
 double nombre(const QString& texte) {
@@ -61,6 +63,7 @@ void CourbeSuivi::Relire() {
       std::min({static_cast<std::size_t>(mois_.size()), cumul_.size(), solde_.size()});
   cumul_.resize(communs);
   solde_.resize(communs);
+  Mesurer();
 }
 
 QSize CourbeSuivi::sizeHint() const {
@@ -75,7 +78,7 @@ void CourbeSuivi::paintEvent(QPaintEvent*) {
   if (periodes_ == nullptr) return;
   Relire();
   QPainter pinceau(this);
-  pinceau.setRenderHint(QPainter::Antialiasing);
+  pinceau.setRenderHint(QPainter::Antialiasing, cumul_.size() <= MoisMarques);
   const int ligne = fontMetrics().height();
   const double marge = fontMetrics().horizontalAdvance(heures(-8888.8)) + 6;
   const QRectF cadre(marge, ligne * 1.3, width() - marge - 12.0, height() - ligne * 2.6);
@@ -87,35 +90,35 @@ void CourbeSuivi::paintEvent(QPaintEvent*) {
   TracerSerie(pinceau, cadre, cumul_, Trait::Cumul);
 }
 
-std::pair<double, double> CourbeSuivi::Etendue() const {
-  double bas = 0, haut = 0;
+void CourbeSuivi::Mesurer() {
+  bas_ = haut_ = 0;
   for (const auto* const serie : {&cumul_, &solde_}) {
     for (const double valeur : *serie) {
-      bas = std::min(bas, valeur);
-      haut = std::max(haut, valeur);
+      bas_ = std::min(bas_, valeur);
+      haut_ = std::max(haut_, valeur);
     }
   }
+  if (bas_ < haut_) return;
   // A year without any difference still has a zero line, in the middle.
-  return bas == haut ? std::pair(-1.0, 1.0) : std::pair(bas, haut);
+  bas_ = -1;
+  haut_ = 1;
 }
 
 // Each month has a part of the width; its point stands in the middle of it.
 QPointF CourbeSuivi::Point(const QRectF& cadre, std::size_t mois, double valeur) const {
-  const auto [bas, haut] = Etendue();
   const double x = (static_cast<double>(mois) + 0.5) / static_cast<double>(cumul_.size());
   return {cadre.left() + x * cadre.width(),
-          cadre.bottom() - (valeur - bas) / (haut - bas) * cadre.height()};
+          cadre.bottom() - (valeur - bas_) / (haut_ - bas_) * cadre.height()};
 }
 
 void CourbeSuivi::TracerRepere(QPainter& pinceau, const QRectF& cadre) const {
-  const auto [bas, haut] = Etendue();
   const int ligne = fontMetrics().height();
   pinceau.setPen(QPen(palette().color(QPalette::Mid), 1));
   const double zero = Point(cadre, 0, 0).y();
   pinceau.drawLine(QPointF(cadre.left(), zero), QPointF(cadre.right(), zero));
   pinceau.setPen(palette().color(QPalette::WindowText));
   double dernier = -1e9;
-  for (const double valeur : {haut, 0.0, bas}) {
+  for (const double valeur : {haut_, 0.0, bas_}) {
     const double y = Point(cadre, 0, valeur).y();
     if (y - dernier < ligne * 0.9) continue;
     dernier = y;
@@ -135,7 +138,7 @@ void CourbeSuivi::TracerRepere(QPainter& pinceau, const QRectF& cadre) const {
 // The two lines differ by stroke and mark, not by colour alone.
 QPen CourbeSuivi::Plume(Trait trait) const {
   const bool cumul = trait == Trait::Cumul;
-  return QPen(palette().color(cumul ? QPalette::WindowText : QPalette::Highlight), 1.6,
+  return QPen(palette().color(cumul ? QPalette::WindowText : QPalette::Highlight), 1,
               cumul ? Qt::DashLine : Qt::SolidLine);
 }
 
@@ -155,7 +158,8 @@ void CourbeSuivi::TracerSerie(QPainter& pinceau, const QRectF& cadre,
   QPolygonF points;
   for (std::size_t i = 0; i < serie.size(); ++i) points << Point(cadre, i, serie[i]);
   pinceau.drawPolyline(points);
-  pinceau.setPen(QPen(Plume(trait).color(), 1.6));
+  if (serie.size() > MoisMarques) return;
+  pinceau.setPen(Plume(trait).color());
   for (const QPointF& point : points) Marquer(pinceau, point, trait);
 }
 

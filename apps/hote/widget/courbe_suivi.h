@@ -18,8 +18,7 @@ class CourbeSuivi : public QWidget {
   // The lists are those of one table; they outlive the chart.
   void Suivre(const QListWidget& periodes, const QListWidget& cumul, const QListWidget& solde);
 
-  // The numbers that are drawn, as the lists say them when the chart is painted. One that is none is
-  // 0.
+  // The numbers drawn, as the lists say them when the chart is painted; 0 for what is none.
   const std::vector<double>& Cumul() const { return cumul_; }
   const std::vector<double>& Solde() const { return solde_; }
 
@@ -32,7 +31,7 @@ class CourbeSuivi : public QWidget {
  private:
   void Relire();
   // Hours from the least to the greatest, zero among them.
-  std::pair<double, double> Etendue() const;
+  void Mesurer();
   QPointF Point(const QRectF& cadre, std::size_t mois, double heures) const;
   void TracerRepere(QPainter& pinceau, const QRectF& cadre) const;
   enum class Trait { Cumul, Solde };
@@ -48,4 +47,6 @@ class CourbeSuivi : public QWidget {
   QStringList mois_;
   std::vector<double> cumul_;
   std::vector<double> solde_;
+  double bas_ = -1;
+  double haut_ = 1;
 };
