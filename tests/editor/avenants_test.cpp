@@ -350,6 +350,7 @@ TEST_F(Avenant, SansConstantesUneCreationEstAbandonnee) {
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2026");
   caracteriser();
+  payer();
   cliquer(cmd("OK"));
   EXPECT_EQ(messages(),
             "La création d'un contrat de travail est impossible tant que les constantes de paie "
@@ -369,6 +370,7 @@ TEST_F(Avenant, UnRefusAnnuleLeContratDejaStocke) {
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2026");
   caracteriser("18");
+  payer();
   // Contract and counter, then the mark of the follow-up.
   stockage->EchouerEcriture(3);
   EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);

@@ -344,6 +344,7 @@ TEST_F(Tab, UnNouveauContratCommenceAvecSaConvention) {
             "<0> <01/12/2026> Services 563b Aide à domicile  0 0");
   EXPECT_FALSE(cmd("AjoutAvenant").Visible());
   caracteriser("35");
+  payer();
   onglet(editor::Caracteristiques);
   choisir(cbo("GrilleContrat"), 0);
   taper(txt("DepartGrilContrat"), "");
@@ -363,6 +364,7 @@ TEST_F(Tab, UnNouveauContratEstEcritEnEntier) {
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2026");
   caracteriser("35");
+  payer();
   onglet(editor::Caracteristiques);
   choisir(cbo("GrilleContrat"), 0);
   cliquer(cmd("OK"));

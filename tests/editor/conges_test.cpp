@@ -23,7 +23,7 @@ class Conges : public essai::Editeur {
   }
   void ouvrirConges(Attributs autres = {}) {
     autres.merge(Compteurs());
-    ouvrirContrat(autres);
+    ouvrirContrat(complet(autres));
     screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::DroitsConges);
   }
   data::CItem fiche(const std::string& cle = "00001001") {
@@ -71,6 +71,10 @@ TEST_F(Conges, UnCompteurVideEstZero) {
   taper(txt("AssocContrat"), "002");
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2026");
+  caracteriser();
+  payer();
+  screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
+  choisir(cbo("Activite"), 0);
   cliquer(cmd("OK"));
   EXPECT_EQ(messages(), "");
   EXPECT_EQ(fiche(cle())(C::CPAcquis) + fiche(cle())(C::DelaiPrevRestants), "00");
@@ -248,21 +252,21 @@ TEST_F(Conges, LesDetailsDesAutresEcrans) {
 class Lien : public Conges {
  protected:
   void lier(const char* rubrique = "843", const char* bulletin = "202606") {
-    contrat("00001001", {{C::Type, "D"},
-                         {C::DateDebut, jour("01/01/2026")},
-                         {C::DateFin, jour("30/06/2026")},
-                         {C::DateFinPresumee, jour("30/06/2026")},
-                         {C::MotifEmbauche, "01"},
-                         {C::MotifFin, "59"},
-                         {C::DateNotification, jour("20/06/2026")},
-                         {C::DernierJourTravaille, jour("30/06/2026")},
-                         {C::DernierBulletin, bulletin},
-                         {C::OrganismeRetraite, "001A"},
-                         {C::CongesReportesSur, "00001002"}});
-    contrat("00001002", {{C::DateDebut, jour("01/07/2026")},
-                         {C::Activites, "001DOM"},
-                         {C::DernierCalcul, "202607"},
-                         {C::CongesReprisDe, "00001001"}});
+    contrat("00001001", complet({{C::Type, "D"},
+                                 {C::DateDebut, jour("01/01/2026")},
+                                 {C::DateFin, jour("30/06/2026")},
+                                 {C::DateFinPresumee, jour("30/06/2026")},
+                                 {C::MotifEmbauche, "01"},
+                                 {C::MotifFin, "59"},
+                                 {C::DateNotification, jour("20/06/2026")},
+                                 {C::DernierJourTravaille, jour("30/06/2026")},
+                                 {C::DernierBulletin, bulletin},
+                                 {C::OrganismeRetraite, "001A"},
+                                 {C::CongesReportesSur, "00001002"}}));
+    contrat("00001002", complet({{C::DateDebut, jour("01/07/2026")},
+                                 {C::Activites, "001DOM"},
+                                 {C::DernierCalcul, "202607"},
+                                 {C::CongesReprisDe, "00001001"}}));
     article("DETAILPREST", "00001002202607", {{5, valeurs(std::string("100|") + rubrique)}});
     data::CItem motifs = db.OpenFile("TABLES").NewItem("FINCONTRAT");
     motifs.Set(2, 1, "59");

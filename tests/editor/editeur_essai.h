@@ -117,6 +117,22 @@ class Editeur : public ::testing::Test {
                            {C::DateEffet, jour("01/03/2026")}});
     article("CONTRAT", cle, autres);
   }
+  // What the second and third tab of a contract on file need for its OK.
+  static Attributs complet(Attributs autres = {}) {
+    autres.merge(Attributs{{C::Qualification, "Agent"},
+                           {C::CodePCS, "563b"},
+                           {C::CategoriePCS, "Services"},
+                           {C::FonctionPCS, "Aide à domicile"},
+                           {C::DureeTravail, "2000"},
+                           {C::Frequence, "1"},
+                           {C::TauxHoraire, "12020"},
+                           {C::Profil, "P01"},
+                           {C::ModePaiement, "2"},
+                           {C::PaiementParEntite, "1"},
+                           {C::ConstanteB, "B"},
+                           {C::Activites, "001DOM"}});
+    return autres;
+  }
 
   void creer() {
     if (!editeur) charger();

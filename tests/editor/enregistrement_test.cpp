@@ -405,16 +405,17 @@ TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
   for (const bool acceptee : {false, true}) {
     precedent("30/11/2026", {{C::DateAnciennete, jour("01/02/2024")}});
     saisir("01/12/2026");
-    for (const int a : {C::DepartGrille, C::DateAnciennete}) {
-      editeur->Dossier().ItemContrat.Set(a, "20000");
-    }
+    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques);
+    choisir(cbo("GrilleContrat"), 0);
+    remplir(txt("DepartGrilContrat"), "05/01/2026");
+    remplir(txt("DateAnciennete"), "06/01/2026");
     repondreReprise([&](dialogs::Frm_Reprise& f) {
       screen::User(f).Cliquer(acceptee ? f.Cmd_Ok : f.Cmd_Annuler);
     });
     cliquer(cmd("OK"));
-    EXPECT_EQ(attribut("CONTRAT", "00001002", C::DepartGrille), "20000");
+    EXPECT_EQ(attribut("CONTRAT", "00001002", C::DepartGrille), jour("05/01/2026"));
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete),
-              acceptee ? jour("01/02/2024") : "20000");
+              acceptee ? jour("01/02/2024") : jour("06/01/2026"));
   }
 }
 

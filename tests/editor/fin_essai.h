@@ -21,7 +21,7 @@ class Fin : public Editeur {
     autres.merge(Attributs{{C::DateDebut, jour("01/03/2024")},
                            {C::DateEffet, jour("01/03/2024")},
                            {C::OrganismeRetraite, "001A"}});
-    ouvrirContrat(autres);
+    ouvrirContrat(complet(autres));
     screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::FinContrat);
   }
   // An end of which all stands on file: a dismissal with two months paid.

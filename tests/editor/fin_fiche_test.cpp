@@ -227,8 +227,8 @@ TEST_F(FinFiche, LeMotifDecideDesHeuresNegatives) {
     fiche[C::Salaire] = c.salaire;
     fiche[C::Statut] = c.statut;
     fiche[C::Modulation] = c.modulation;
+    fiche[C::Lissage] = c.lisse ? "1" : "0";
     ouvrirFin(fiche);
-    cac("Lissage").SetValue(c.lisse ? 1 : 0);
     notifier("15/08/2026", c.motif);
     EXPECT_EQ(cac("RetraitHeuresNeg").Value() != 0, c.retire) << c.motif << c.salaire << c.statut;
     EXPECT_EQ(etq("InfoComplMotifFin").Libelle(), c.info);

@@ -104,6 +104,8 @@ TEST_F(FinPlanning, UneCreationDitCeQuElleNEncadrePas) {
   taper(txt("AssocContrat"), "001");
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/09/2026");
+  caracteriser();
+  payer();
   repondre("Cmd_Annuler");
   cliquer(cmd("OK"));
   EXPECT_TRUE(editeur->Visible() && editeur->Enabled());

@@ -81,6 +81,8 @@ TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
     taper(txt("AssocContrat"), "001");
     taper(txt("EmplEtabContrat"), *panne == '\0' ? "00007" : "00008");
     remplir(txt("DatDebContrat"), "01/12/2026");
+    caracteriser();
+    payer();
     hote.imprimante.panne = panne;
     cliquer(editeur->Cmd_OK);
     EXPECT_EQ(messages(), panne);
@@ -94,6 +96,8 @@ TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
   taper(txt("AssocContrat"), "001");
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2027");
+  caracteriser();
+  payer();
   cliquer(editeur->Cmd_OK);
   EXPECT_EQ(messages(), "");
   EXPECT_EQ(imprimes(), 1U);

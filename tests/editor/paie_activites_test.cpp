@@ -258,6 +258,7 @@ TEST_F(Activites, LaSeuleActiviteDUneEntiteEstEntiere) {
   editeur->origine.Remplir_Combos();
   taper(txt("AssocContrat"), "003");
   remplir(txt("DatDebContrat"), "15/12/2026");
+  caracteriser();
   onglet(editor::ElementsPaie);
   EXPECT_EQ(repartition(), "Bureau 100 [decembre 2026]");
   taper(txt("ProfilContrat"), "P01");

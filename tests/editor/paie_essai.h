@@ -31,6 +31,7 @@ class Paie : public Editeur {
     taper(txt("AssocContrat"), "001");
     taper(txt("EmplEtabContrat"), "001");
     remplir(txt("DatDebContrat"), debut);
+    caracteriser();
     onglet(editor::ElementsPaie);
   }
   void double_(int ligne) { screen::User(*editeur).DoubleCliquer(lst("ActiviteContrat"), ligne); }

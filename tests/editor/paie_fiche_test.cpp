@@ -361,6 +361,7 @@ TEST_F(FichePaie, LeContratDUnParticulier) {
   taper(txt("AssocContrat"), "001");
   taper(txt("EmplEtabContrat"), "00007");
   remplir(txt("DatDebContrat"), "01/12/2026");
+  caracteriser();
   onglet(editor::ElementsPaie);
   EXPECT_EQ(profils(), "P02 Mandataire /   o");
   EXPECT_EQ(txt("PrevContrat").Text() + cbo("LibPrevContrat").Text(), "20Employés");

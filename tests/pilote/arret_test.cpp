@@ -277,10 +277,10 @@ TEST_F(Arret, PendantLAjoutDUnAvenant) {
       EXPECT_EQ(Lire(essai), Acquitte(ecrits));
       const int faits = quand == Quand::Avant ? n - 1 : n;
       EXPECT_EQ(ecrits, std::set<std::string>(ordre, ordre + faits));
-      EXPECT_EQ(Constats(essai), "");
+      EXPECT_EQ(Nouveaux(), "");
       EXPECT_EQ(Jouer(route, ajouter("01/02/2027")), Tenu);
       EXPECT_TRUE(Lire(essai).contains(faits == 0 ? ordre[3] : "AVENANT00101 0000700104"));
-      EXPECT_EQ(Constats(essai), "");
+      EXPECT_EQ(Nouveaux(), "");
     }
   }
 }
