@@ -86,6 +86,7 @@ constexpr Definition Definitions[] = {
     {"verifier", "verifier NOM PROPRIETE ATTENDU", 3, 3, verifierChamp, exigerPropriete},
     {"article", "article FICHIER CLE [A [V [S]]] = TEXTE", 4, 7, verifierArticle, exigerArticle},
     {"absent", "absent FICHIER CLE", 2, 2, verifierAbsent, exigerCle},
+    {"imprime", "imprime X Y TEXTE", 3, 3, verifierImprime},
     {"voir", "voir [NOM]", 0, 1, voir},
 };
 

@@ -48,6 +48,7 @@ void verifierMessage(Pilote& pilote, const Commande& commande);
 void verifierAucunMessage(Pilote& pilote, const Commande& commande);
 void verifierIndication(Pilote& pilote, const Commande& commande);
 void verifierForme(Pilote& pilote, const Commande& commande);
+void verifierImprime(Pilote& pilote, const Commande& commande);
 void verifierChamp(Pilote& pilote, const Commande& commande);
 void verifierArticle(Pilote& pilote, const Commande& commande);
 void verifierAbsent(Pilote& pilote, const Commande& commande);

@@ -88,6 +88,20 @@ void verifierAbsent(Pilote& pilote, const Commande& c) {
   }
 }
 
+// The last document, on any of its pages; a place is in centimetres, two decimals.
+void verifierImprime(Pilote& pilote, const Commande& c) {
+  const auto& documents = pilote.Imprimante().Documents();
+  if (documents.empty()) pilote.Echouer(c.Texte(2), "aucun document imprimé");
+  const std::string place = " : " + c.Texte(0) + " " + c.Texte(1) + " ";
+  std::string trouve = "rien à cette place";
+  for (const std::string& ligne : documents.back().Lignes()) {
+    if (ligne.find(place) == std::string::npos) continue;
+    if (ligne.ends_with(" : " + c.Texte(2))) return;
+    trouve = ligne;
+  }
+  pilote.Echouer(c.Texte(2), trouve);
+}
+
 void voir(Pilote& pilote, const Commande& c) {
   const auto json = c.mots.empty() ? enJson(pilote.Sommet()) : enJson(pilote.Champ(c.Texte(0)));
   // A record damaged before it came on the screen may hold bytes that are no text.

@@ -12,5 +12,7 @@ namespace data {
 std::string citer(std::string_view valeur);
 // The same as "begins with".
 std::string citerDebut(std::string_view valeur);
+// The same as "ends with".
+std::string citerFin(std::string_view valeur);
 
 }  // namespace data

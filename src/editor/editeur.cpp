@@ -27,11 +27,12 @@ Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Se
       aide_(platform.aide) {
   dossier_.emplace(session_);
   Ong_Contrat.Click = [this](int ancien) { Ong_Contrat_Click(ancien); };
-  Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
+  Cmd_OK.Click = [this] { Confirmer(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
+  Cmd_ImpContrat.Click = [this] { impression_.Contrat(); };
   Cmd_DPAE.Click = [this] { ImprimerDeclaration(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
-  screen::Activer({&Mnu_Aide, &Mnu_Sommaire, &Cmd_ImpContrat}, false);
+  screen::Activer({&Mnu_Aide, &Mnu_Sommaire}, false);
 }
 
 // Opening.
@@ -143,23 +144,24 @@ rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
 
 // Ways out.
 
-void Frm_ElementsContrat::Cmd_Ok_Click() {
+bool Frm_ElementsContrat::Confirmer(bool contratImprime) {
   Avis avis = gardes_.AvantConfirmation();
   if (avis == Avis::Passe) {
     DireCeQuiReste(*dossier_, [&] { avis = enregistrement_.Ecrire_Donnees(); });
   }
-  if (avis == Avis::Reste) return;
+  if (avis == Avis::Reste) return false;
   if (avis == Avis::Passe) {
     const screen::Attente attente(*this);
     DireCeQuiReste(*dossier_, [&] {
       enregistrement_.Maj_Missions();
-      enregistrement_.Maj_Index();
+      enregistrement_.Maj_Index(contratImprime);
     });
     cree_ = dossier_->ModeCreation;
   } else {
     enregistrement_.Abandonner();
   }
   Refermer();
+  return avis == Avis::Passe;
 }
 
 void Frm_ElementsContrat::Cmd_Retour_Click() {

@@ -61,6 +61,11 @@ class Frm_ElementsContrat : public screen::Form {
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
   // The hiring declaration of the contract, which stands on file.
   void ImprimerDeclaration() { impression_.Declaration(); }
+  // The letter of the amendment of that number.
+  void ImprimerAvenant(const std::string& numero) { impression_.Avenant(numero); }
+  // The user's OK: checks, writes and closes. False when he was refused or gave a new contract up.
+  // `contratImprime`: a new contract that goes on to its letter is not entered in the indexes.
+  bool Confirmer(bool contratImprime = false);
   // While an amendment is entered, no other tab can be reached and no way out is open.
   void ReserverSaisie(bool saisie);
   // The contract in hand was deleted: nothing of it is to be shown any more.
@@ -100,7 +105,6 @@ class Frm_ElementsContrat : public screen::Form {
   void SelonEntite();
   void Ong_Contrat_Click(int ancien);
 
-  void Cmd_Ok_Click();
   void Cmd_Retour_Click();
   void QuitterCreation();
   // True when the editor may close.

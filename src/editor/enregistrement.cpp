@@ -211,15 +211,15 @@ void Enregistrement::Maj_Missions() {
   });
 }
 
-void Enregistrement::Maj_Index() {
+void Enregistrement::Maj_Index(bool sansLiens) {
   if (editeur_.Dossier().ModeCreation) {
-    Maj_IndexCreation();
+    Maj_IndexCreation(sansLiens);
   } else {
     Maj_IndexAvenants();
   }
 }
 
-void Enregistrement::Maj_IndexCreation() {
+void Enregistrement::Maj_IndexCreation(bool sansLiens) {
   session::Dossier& dossier = editeur_.Dossier();
   session::Session& s = dossier.Session;
   const data::CItem& contrat = dossier.ItemContrat;
@@ -238,6 +238,7 @@ void Enregistrement::Maj_IndexCreation() {
       inverse.DBWriteU();
     });
   }
+  if (sansLiens) return;
   const std::string index = nomIndex(data::fichier::PrefixeContrats, contrat);
   CreationLien(data::fichier::LIENCONTRAT, index);
   CreationLien(data::fichier::LIENAVENANT, nomIndex(data::fichier::PrefixeAvenants, contrat));

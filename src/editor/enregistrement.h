@@ -29,7 +29,8 @@ class Enregistrement {
   bool Ecrire_Existant();
   // After a successful write: the missions that end with the contract, and the indexes.
   void Maj_Missions();
-  void Maj_Index();
+  // `sansLiens`: a new contract stays out of the indexes of its entity and agreement.
+  void Maj_Index(bool sansLiens = false);
   // The new contract is given up: what an attempt has stored of it is cancelled, and its number
   // counts as given. A store that refuses that too does not hold the user: he is told what stands.
   void Abandonner();
@@ -43,7 +44,7 @@ class Enregistrement {
   void Ecrire_Tte();
   bool Relire();
   void Maj_PremiereEmbauche();
-  void Maj_IndexCreation();
+  void Maj_IndexCreation(bool sansLiens);
   void Maj_IndexAvenants();
   void CreationLien(std::string_view fichier, const std::string& nomIndex);
 

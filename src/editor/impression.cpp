@@ -1,5 +1,7 @@
 #include "editor/impression.h"
 
+#include <utility>
+
 #include "documents/dossier_declaration.h"
 #include "editor/editeur.h"
 #include "screen/attente.h"
@@ -13,7 +15,27 @@ namespace C = data::Contrat;
 constexpr const char* ControleSignature = "Ctr_Signature";
 constexpr const char* CheminSignature = "W_Chemin";
 
+constexpr const char* ControleLettres = "Ctr_Edit";
+constexpr const char* SansControleLettres =
+    "La lettre ne peut pas être imprimée ici : l'éditeur de documents n'est pas installé sur ce "
+    "poste. Imprimez-la depuis un poste qui en dispose.";
+// Letters have named fields that the control fills.
+constexpr const char* DocumentVariable = "1";
+
+// The word processor of the workstation, as its settings store knows it.
+bool traitementDeTexte(const screen::Reglages& reglages) {
+  const std::string chemin = reglages.Lire("Office", "Word/Chemin", "Aucun");
+  const std::string version = reglages.Lire("Office", "Version", "Aucune");
+  return (chemin != "Aucun" || version == "97") && !chemin.empty();
+}
+
 }  // namespace
+
+struct Impression::Lettre {
+  const char* sansTraitement;
+  // An amendment's number; a contract has none.
+  std::string avenant;
+};
 
 void Impression::Declaration() {
   const session::Dossier& dossier = editeur_.Dossier();
@@ -42,6 +64,46 @@ void Impression::Declaration() {
   }
 }
 
+void Impression::Contrat() {
+  Imprimer({"Pour pouvoir lancer l'impression des contrats, vous devez posséder Word.", ""});
+}
+
+void Impression::Avenant(const std::string& numero) {
+  Imprimer({"Pour pouvoir lancer l'impression des avenants, vous devez posséder Word.", numero});
+}
+
+void Impression::Imprimer(const Lettre& lettre) {
+  using screen::Boutons, screen::Icone;
+  if (!traitementDeTexte(editeur_.Services().reglages)) {
+    editeur_.MessageBox(lettre.sansTraitement, Boutons::Ok, Icone::Information);
+    return;
+  }
+  screen::ControleHeberge* const edition = editeur_.Services().controles.Trouver(ControleLettres);
+  if (edition == nullptr) {
+    editeur_.MessageBox(SansControleLettres, Boutons::Ok, Icone::Exclamation);
+    return;
+  }
+  // The save clears the screen.
+  const session::Session& session = editeur_.Session();
+  const std::string cle = editeur_.origine.Convention() + session.CodeAidant;
+  const std::string nature = editeur_.origine.Nature();
+  if (session.DroitComplet() && !editeur_.Confirmer(lettre.avenant.empty())) return;
+
+  const data::CItem& contrat = editeur_.Dossier().ItemContrat;
+  const std::pair<const char*, std::string> contexte[] = {
+      {"TheDatabase", "Db"},
+      {"TheClient", "LeClient"},
+      {"DroitsUtilisateur", "W_Droits"},
+      {"W_Document",
+       lettre.avenant.empty() ? contrat(C::Convention) : lettre.avenant + contrat(C::Association)},
+      {"W_Cle", cle},
+      {"W_Nature", nature},
+      {"W_DocVariable", DocumentVariable}};
+  for (const auto& [propriete, valeur] : contexte) edition->Regler(propriete, valeur);
+  edition->Appeler("Imprimer");
+}
+
+// The printer that stands chosen, one copy.
 std::optional<int> Impression::Demander() const {
   return 1;
 }

@@ -31,6 +31,8 @@ class OngletOrigine : public Onglet {
   void Commencer() { codes_.SetFocus(); }
 
   const std::string& Convention() const { return codes_.Convention(); }
+  // The label of the contract's nature.
+  const std::string& Nature() const { return nature_.Libelle(); }
   const std::string& Entite() const { return codes_.Entite(); }
   const std::string& Employeur() const { return codes_.Employeur(); }
   const std::string& LibelleEmployeur() const { return codes_.LibelleEmployeur(); }

@@ -10,14 +10,10 @@ namespace rules {
 
 namespace {
 
-using data::citer, data::citerDebut;
+using data::citer, data::citerDebut, data::citerFin;
 
 bool trouve(data::Db& db, std::string_view fichier, const std::string& question) {
   return !db.Selectionner(question, fichier, "0").Vide();
-}
-
-std::string citerFin(const std::string& valeur) {
-  return citer("[" + valeur);
 }
 
 bool particulier(const ContratTraite& contrat) {

@@ -81,7 +81,7 @@ TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
     taper(txt("AssocContrat"), "001");
     taper(txt("EmplEtabContrat"), *panne == '\0' ? "00007" : "00008");
     remplir(txt("DatDebContrat"), "01/12/2026");
-    caracteriser();
+    caracteriser("5");
     payer();
     hote.imprimante.panne = panne;
     cliquer(editeur->Cmd_OK);
@@ -96,7 +96,7 @@ TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
   taper(txt("AssocContrat"), "001");
   taper(txt("EmplEtabContrat"), "001");
   remplir(txt("DatDebContrat"), "01/12/2027");
-  caracteriser();
+  caracteriser("5");
   payer();
   cliquer(editeur->Cmd_OK);
   EXPECT_EQ(messages(), "");
@@ -111,6 +111,92 @@ TEST_F(Declaration, LaSignatureVientDuControleDeLaSuite) {
   EXPECT_EQ(controle.Journal(), (std::vector<std::string>{"W_Chemin=signatures/001.png",
                                                           "TheDatabase=Db", "TheClient=LeClient"}));
   EXPECT_TRUE(porte("signatures/001.png"));
+}
+
+class Lettre : public essai::Editeur {
+ protected:
+  // The settings of a workstation with a word processor, and the suite's control.
+  screen::headless::ControleEnregistre& equiper() {
+    hote.reglages.Ecrire("Office", "Word/Chemin", "traitement");
+    return hote.controles.Ajouter("Ctr_Edit");
+  }
+  static std::string journal(const screen::headless::ControleEnregistre& controle) {
+    std::string texte;
+    for (const auto& ligne : controle.Journal()) texte += (texte.empty() ? "" : " ") + ligne;
+    return texte;
+  }
+};
+
+TEST_F(Lettre, ElleDemandeUnTraitementDeTexte) {
+  const struct {
+    const char* chemin;
+    const char* version;
+    bool present;
+  } cas[] = {{"Aucun", "Aucune", false},
+             {"Aucun", "97", true},
+             {"", "97", false},
+             {"", "Aucune", false},
+             {"soffice", "Aucune", true}};
+  ouvrirContrat();
+  for (const auto& c : cas) {
+    hote.reglages.Ecrire("Office", "Word/Chemin", c.chemin);
+    hote.reglages.Ecrire("Office", "Version", c.version);
+    cliquer(editeur->Cmd_ImpContrat);
+    EXPECT_EQ(messages().starts_with("La lettre ne peut pas être imprimée ici"), c.present)
+        << c.chemin << " " << c.version;
+  }
+  hote.reglages.Ecrire("Office", "Word/Chemin", "Aucun");
+  hote.reglages.Ecrire("Office", "Version", "Aucune");
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_EQ(messages(), "Pour pouvoir lancer l'impression des contrats, vous devez posséder Word.");
+  editeur->ImprimerAvenant("01");
+  EXPECT_EQ(messages(), "Pour pouvoir lancer l'impression des avenants, vous devez posséder Word.");
+  EXPECT_TRUE(editeur->Visible());
+}
+
+// The new contract is saved, its letter printed, and the indexes left to the next save.
+TEST_F(Lettre, UnNouveauContratEstEnregistrePuisImprime) {
+  auto& controle = equiper();
+  creer();
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_NE(messages(), "");
+  EXPECT_EQ(journal(controle), "");
+  taper(txt("ConvColContrat"), "01");
+  taper(txt("AssocContrat"), "001");
+  taper(txt("EmplEtabContrat"), "001");
+  remplir(txt("DatDebContrat"), "01/12/2026");
+  caracteriser();
+  payer();
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_EQ(messages(), "");
+  EXPECT_TRUE(editeur->Cree());
+  EXPECT_EQ(journal(controle),
+            "TheDatabase=Db TheClient=LeClient DroitsUtilisateur=W_Droits W_Document=01 "
+            "W_Cle=0100001 W_Nature= W_DocVariable=1 Imprimer()");
+  data::CItem lien;
+  EXPECT_FALSE(db.OpenFile("LIENCONTRAT").Lire("CONTRAT00101", lien));
+}
+
+TEST_F(Lettre, UnAvenantDonneSonNumeroEtSonEntite) {
+  auto& controle = equiper();
+  ouvrirContrat();
+  editeur->ImprimerAvenant("02");
+  EXPECT_EQ(messages(), "");
+  EXPECT_FALSE(editeur->Visible());
+  EXPECT_TRUE(journal(controle).ends_with(
+      "W_Document=02001 W_Cle=0100001 W_Nature=Normal W_DocVariable=1 Imprimer()"))
+      << journal(controle);
+}
+
+// Who may only read prints what is on file.
+TEST_F(Lettre, UneConsultationNEnregistreRien) {
+  auto& controle = equiper();
+  droits = session::DroitsUniformes(1);
+  ouvrirContrat();
+  taper(txt("PerEssaiContrat"), "30");
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_TRUE(journal(controle).ends_with("Imprimer()"));
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
 }
 
 }  // namespace
