@@ -275,7 +275,8 @@ TEST_F(Arret, PendantLAjoutDUnAvenant) {
       ASSERT_EQ(Jouer(route, ajouter("01/01/2027"), n, quand), std::nullopt);
       std::set<std::string> ecrits;
       EXPECT_EQ(Lire(essai), Acquitte(ecrits));
-      const int faits = quand == Quand::Avant ? n - 1 : n;
+      // The contract is written in a block, which is not done yet after its only write.
+      const int faits = quand == Quand::Avant || n == 1 ? n - 1 : n;
       EXPECT_EQ(ecrits, std::set<std::string>(ordre, ordre + faits));
       EXPECT_EQ(Nouveaux(), "");
       EXPECT_EQ(Jouer(route, ajouter("01/02/2027")), Tenu);

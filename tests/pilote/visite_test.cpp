@@ -32,6 +32,13 @@ const std::map<int, const char*> Reecrits = {
     {C::PointsNBI, "the same"},
     {C::Lissage, "pay by the hour is not evened out"},
     {C::Modulation, "what is not evened out has no modulation"},
+    {C::PaiementParEntite, "the entity pays, unless the employer is a private one"},
+    {C::ConstanteB, "a constant that the hiring declaration reads"},
+    {C::PartsActivites, "production staff do not split their time"},
+    {C::PeriodeEffet, "the same"},
+    {C::PeriodesEffetAnterieures, "the same"},
+    {C::ActivitesAnterieures, "the same"},
+    {C::PartsAnterieures, "the same"},
 };
 
 class Visite : public ::testing::Test {
@@ -107,6 +114,18 @@ TEST_F(Visite, NeChangeAucunContratBizarreHorsDeLaTable) {
     std::set<int> reecrits;
   } cas[] = {
       {"nothing but a start", {}, {}},
+      {"payment that nobody gave",
+       {{C::PaiementParEntite, ""}, {C::ConstanteB, ""}},
+       {C::PaiementParEntite, C::ConstanteB}},
+      {"a production contract that splits its time",
+       {{C::Activites, "001DOM"},
+        {C::PartsActivites, "10000"},
+        {C::PeriodeEffet, "202601"},
+        {C::PeriodesEffetAnterieures, "202501"},
+        {C::ActivitesAnterieures, "001DOM"},
+        {C::PartsAnterieures, "10000"}},
+       {C::PartsActivites, C::PeriodeEffet, C::PeriodesEffetAnterieures, C::ActivitesAnterieures,
+        C::PartsAnterieures}},
       {"no amendment number", {{C::Avenant, ""}, {C::DateEffet, ""}, {C::TauxHoraire, ""}}, {}},
       {"codes that no table knows",
        {{C::Qualification, "Autre"},
@@ -159,6 +178,8 @@ TEST_F(Visite, NeChangeAucunContratBizarreHorsDeLaTable) {
                          {C::Salaire, "H"},
                          {C::Statut, "P"},
                          {C::DateDebut, "21000"},
+                         {C::PaiementParEntite, "1"},
+                         {C::ConstanteB, "B"},
                          {C::Avenant, "0"},
                          {C::DateEffet, "21000"}});
     for (const auto& [a, texte] : tous) contrat.Set(a, texte);

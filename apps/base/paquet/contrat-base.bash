@@ -3,7 +3,7 @@ _contrat_base() {
   local mot=${COMP_WORDS[COMP_CWORD]} commande=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W "creer importer exporter lire ecrire select fichiers verifier historique \
+    mapfile -t COMPREPLY < <(compgen -W "creer importer exporter lire ecrire select fichiers verifier reparer historique \
       retablir supprimer oublier copier restaurer demo --help" -- "$mot")
     return
   fi
@@ -13,7 +13,8 @@ _contrat_base() {
       exporter) options=--fichier ;;
       lire) options="--ancien --json" ;;
       ecrire) options=--item ;;
-      select | historique) options=--json ;;
+      select) options="--json --plan" ;;
+      historique) options=--json ;;
       oublier) options="--avant --aidant --essai" ;;
       demo) options="--aidants --graine" ;;
     esac
