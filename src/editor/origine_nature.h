@@ -26,8 +26,8 @@ class NatureOrigine {
   bool StageRequis() const;
   void MontrerStage();
   void Cmd_Stage_Click();
-  // Only a trainee has a traineeship: it leaves the contract in hand when the nature is another, and
-  // comes back with the nature.
+  // Only a trainee has a traineeship: it leaves the contract in hand when the nature is another,
+  // and comes back with the nature.
   void EcrireStage();
   void RendreStage();
 
