@@ -1,5 +1,5 @@
 // bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
-// of the words demarrage, touches and liste, those given are measured, else all.
+// of the words demarrage, touches, liste and papier, those given are measured, else all.
 
 #include <QApplication>
 #include <algorithm>
@@ -22,12 +22,17 @@ const std::vector<bench::Rapport> Rapports{
     {"a key in the editor's slowest field / a bare text line", "toucheEditeur", "toucheLigneNue", 0,
      4000},
     {"list of 999 contracts shown / searched without screen", "listeAffichee", "listeSansEcran", 2},
+    {"declaration on its form, to a PDF file / an empty page", "declarationFormulaire", "pageVide",
+     0, 150000},
+    {"declaration of the dot-matrix form / an empty page", "declarationMatricielle", "pageVide", 0,
+     150000},
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
     {"demarrage", bench::mesurerDemarrage},
     {"touches", bench::mesurerTouches},
     {"liste", bench::mesurerListe},
+    {"papier", bench::mesurerPapier},
 };
 
 }  // namespace

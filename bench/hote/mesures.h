@@ -18,5 +18,7 @@ void mesurerDemarrage(Medianes& medianes);
 void mesurerTouches(Medianes& medianes);
 // The search of a carer with 999 contracts: "listeAffichee" at the screen, "listeSansEcran".
 void mesurerListe(Medianes& medianes);
+// A page brought to a PDF file: "declarationFormulaire", "declarationMatricielle", "pageVide".
+void mesurerPapier(Medianes& medianes);
 
 }  // namespace bench
