@@ -1,5 +1,5 @@
 // bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
-// of the words demarrage, touches, liste and suivi, those given are measured, else all.
+// of the words demarrage, touches, liste, suivi and papier, those given are measured, else all.
 
 #include <QApplication>
 #include <algorithm>
@@ -26,6 +26,10 @@ const std::vector<bench::Rapport> Rapports{
      "suiviRemunereSeul", 0, 4000},
     {"one of 120 months of effective time / without screen", "suiviEffectif", "suiviEffectifSeul",
      0, 4000},
+    {"declaration on its form, to a PDF file / an empty page", "declarationFormulaire", "pageVide",
+     0, 150000},
+    {"declaration of the dot-matrix form / an empty page", "declarationMatricielle", "pageVide", 0,
+     150000},
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
@@ -33,6 +37,7 @@ const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
     {"touches", bench::mesurerTouches},
     {"liste", bench::mesurerListe},
     {"suivi", bench::mesurerSuivi},
+    {"papier", bench::mesurerPapier},
 };
 
 }  // namespace

@@ -21,5 +21,7 @@ void mesurerListe(Medianes& medianes);
 // One of 120 months corrected in the annual follow-up and shown: "suiviRemunere", "suiviEffectif";
 // the same without a screen, "suiviRemunereSeul" and "suiviEffectifSeul".
 void mesurerSuivi(Medianes& medianes);
+// A page brought to a PDF file: "declarationFormulaire", "declarationMatricielle", "pageVide".
+void mesurerPapier(Medianes& medianes);
 
 }  // namespace bench

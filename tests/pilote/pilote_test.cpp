@@ -54,6 +54,7 @@ TEST(Pilote, ActesEtControles) {
        "1: un champ qui a la propriété texte / Cac_A est de genre case"},
       {"contrôle manqué", "verifier Lst_Noms nombre 3\nverifier Cac_A libelle Décocher",
        "2: Décocher / Cocher"},
+      {"rien d'imprimé", "imprime 1.00 2.00 X", "1: X / aucun document imprimé"},
       {"erreur du stockage", "cliquer Cmd_Panne", "1: une commande sans erreur / disque plein"},
       {"écran fermé", "cliquer Cmd_Fermer\naucun-message\nforme Frm_Ecran",
        "3: une forme ouverte / aucune : l'écran des contrats est fermé"},
