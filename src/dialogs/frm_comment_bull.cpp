@@ -150,15 +150,15 @@ void Frm_CommentBull::Cmd_Annuler_Click() {
     Sortir();
     return;
   }
-  if (enCreation_ &&
-      MessageBox(QuitterCreation, Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+  if (enCreation_ && Demander(QuitterCreation, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) !=
+                         Reponse::Oui) {
     return;
   }
   Finir();
 }
 
 void Frm_CommentBull::Cmd_Supprimer_Click() {
-  if (MessageBox(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation) == Reponse::Oui) {
+  if (Demander(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) == Reponse::Oui) {
     Retirer(ligne_);
   }
   Finir();

@@ -116,7 +116,7 @@ void Frm_ContratAnnuel::Prendre(LigneEnMain enMain) {
 }
 
 bool Frm_ContratAnnuel::Confirmer(const char* question) {
-  return MessageBox(question, Boutons::OuiNon, Icone::Exclamation) == Reponse::Oui;
+  return Demander(question, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) == Reponse::Oui;
 }
 
 // Acts on a line.

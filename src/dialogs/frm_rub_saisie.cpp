@@ -314,8 +314,8 @@ void Frm_RubSaisie::Cmd_Annuler_Click() {
     Sortir();
     return;
   }
-  if (enCreation_ &&
-      MessageBox(QuitterCreation, Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) {
+  if (enCreation_ && Demander(QuitterCreation, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) !=
+                         Reponse::Oui) {
     return;
   }
   Finir();
@@ -324,7 +324,8 @@ void Frm_RubSaisie::Cmd_Annuler_Click() {
 // The activities stay where they are, on purpose: each line below takes that of the line above it,
 // and the clerk looks them through.
 void Frm_RubSaisie::Cmd_Supprimer_Click() {
-  if (MessageBox(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation) != Reponse::Oui) return;
+  if (Demander(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) != Reponse::Oui)
+    return;
   colonnes_.Retirer(ligne_);
   lignes_.erase(lignes_.begin() + ligne_);
   Finir();

@@ -203,8 +203,9 @@ void Avenants::Cmd_OKAvenant_Click() {
 void Avenants::Cmd_AnnulerAvenant_Click() {
   if (!avenantEnCreation_) return;
   editeur_.Services().curseur.Bip();
-  if (editeur_.MessageBox("Etes-vous sûr de vouloir quitter cette création ?",
-                          screen::Boutons::OuiNon, Icone::Exclamation) != screen::Reponse::Oui) {
+  if (editeur_.Demander("Etes-vous sûr de vouloir quitter cette création ?",
+                        screen::Boutons::OuiNon, Icone::Exclamation,
+                        screen::Reponse::Non) != screen::Reponse::Oui) {
     return;
   }
   Reprendre();

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "dialogs/frm_impression_a4.h"
 #include "documents/dossier_declaration.h"
 #include "editor/editeur.h"
 #include "screen/attente.h"
@@ -103,9 +104,12 @@ void Impression::Imprimer(const Lettre& lettre) {
   edition->Appeler("Imprimer");
 }
 
-// The printer that stands chosen, one copy.
+// The copies, on the printer that was chosen.
 std::optional<int> Impression::Demander() const {
-  return 1;
+  dialogs::Frm_ImpressionA4 demande(editeur_.Services());
+  demande.ShowModal();
+  if (demande.ImpressionAnnulee) return std::nullopt;
+  return demande.NbCopies;
 }
 
 std::string Impression::Signature() const {

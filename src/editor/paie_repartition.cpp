@@ -263,8 +263,8 @@ void SaisieRepartition::Cmd_AnnulerActivite_Click() {
     Fermer();
     return;
   }
-  if (champs_.Page.Forme().MessageBox(QuitterAjout, Boutons::OuiNon, Icone::Information) !=
-      screen::Reponse::Oui) {
+  if (champs_.Page.Forme().Demander(QuitterAjout, Boutons::OuiNon, Icone::Information,
+                                    screen::Reponse::Non) != screen::Reponse::Oui) {
     return;
   }
   std::vector<std::string> periodes = tab_.Anterieures();

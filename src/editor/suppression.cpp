@@ -23,8 +23,8 @@ bool admis(Frm_ElementsContrat& editeur, const std::optional<rules::Refus>& refu
 
 void Suppression::Cmd_SupprimerContrat_Click() {
   if (!Admise()) return;
-  if (editeur_.MessageBox("Etes-vous sûr de vouloir supprimer ce contrat ?", Boutons::OuiNon,
-                          Icone::Exclamation) != Reponse::Oui) {
+  if (editeur_.Demander("Etes-vous sûr de vouloir supprimer ce contrat ?", Boutons::OuiNon,
+                        Icone::Exclamation, Reponse::Non) != Reponse::Oui) {
     return;
   }
   {

@@ -91,6 +91,13 @@ class Editeur : public ::testing::Test {
     }
     natures.DBWrite();
     session.OuvrirFichiers();
+    // Whoever is asked for a printer takes the one that is offered.
+    hote.modales.SetPompe([](screen::Form& form) {
+      if (form.Nom() != "Frm_ImpressionA4") {
+        throw screen::headless::FenetreInattendue("fenêtre inattendue : " + form.Nom());
+      }
+      screen::User(form).Cliquer(*form.Find("Cmd_Ok"));
+    });
   }
 
   void article(const char* fichier, const std::string& cle, const Attributs& attributs) {

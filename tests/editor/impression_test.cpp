@@ -58,6 +58,16 @@ TEST_F(Declaration, ElleNEnregistrePasCeQuiEstASaisie) {
   EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
 }
 
+TEST_F(Declaration, CellePourQuiOnRenonceNeSImprimePas) {
+  ouvrirContrat();
+  hote.modales.Prevoir(
+      [](screen::Form& form) { screen::User(form).Cliquer(*form.Find("Cmd_Annuler")); });
+  cliquer(cmd("DPAE"));
+  EXPECT_EQ(imprimes(), 0U);
+  EXPECT_EQ(noteSurLeDisque("00001001"), "");
+  EXPECT_TRUE(editeur->Visible());
+}
+
 // What did not come onto paper is not declared; the next try is a document of its own.
 TEST_F(Declaration, UneImprimanteEnPanneNeDateRien) {
   ouvrirContrat();

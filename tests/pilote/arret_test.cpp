@@ -56,19 +56,21 @@ const Route Reprise = {"00003",
                            "onglet 2\ntaper Txt_ProfilContrat 101\ncliquer Cmd_OK\n",
                        "002",
                        "003"};
-const Route Particulier = {
-    "00002",
-    "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-    "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
-    "taper Txt_DatDebContrat 01/12/2026\n" +
-        Caracteristiques + "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
-    "",
-    "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-    "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
-    "taper Txt_DatDebContrat 01/12/2026\n" +
-        Caracteristiques + "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
-    "001",
-    "002"};
+const Route Particulier = {"00002",
+                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
+                           "taper Txt_DatDebContrat 01/12/2026\n" +
+                               Caracteristiques +
+                               "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
+                           "forme Frm_ImpressionA4\ncliquer Cmd_Ok\n",
+                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
+                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
+                           "taper Txt_DatDebContrat 01/12/2026\n" +
+                               Caracteristiques +
+                               "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n"
+                               "forme Frm_ImpressionA4\ncliquer Cmd_Ok\n",
+                           "001",
+                           "002"};
 
 class Arret : public testing::Test {
  protected:
