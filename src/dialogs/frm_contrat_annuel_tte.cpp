@@ -35,21 +35,21 @@ Monnaie heures(long long centiemes) {
 SuiviEnTempsEffectif::SuiviEnTempsEffectif(screen::Form& forme, screen::TabStrip& onglets,
                                            session::Dossier& dossier)
     : PageSuivi(forme, onglets, 1, "Cdr_TTE", dossier),
-      champs_{{Txt_HresParContratTTE, HeuresJour, Champ::NombreEnForme},
-              {Txt_SDTTE, JoursEntiers, Champ::Jours},
-              {Txt_FerieTTE, JoursEntiers, Champ::Jours},
-              {Txt_CongeTTE, Jours, Champ::Nombre},
-              {Txt_MalTTE, Jours, Champ::Jours},
-              {Txt_AutreTTE, Jours, Champ::Nombre},
-              {Txt_TTE, HeuresMois, Champ::Nombre},
-              {Txt_RegulTTE, HeuresAnnee, Champ::Nombre}} {
+      champs_{{Txt_HresParContratTTE, HeuresJour, Champ::EnForme},
+              {Txt_SDTTE, JoursEntiers, Champ::EnJours},
+              {Txt_FerieTTE, JoursEntiers, Champ::EnJours},
+              {Txt_CongeTTE, Jours, Champ::EnNombre},
+              {Txt_MalTTE, Jours, Champ::EnJours},
+              {Txt_AutreTTE, Jours, Champ::EnNombre},
+              {Txt_TTE, HeuresMois, Champ::EnNombre},
+              {Txt_RegulTTE, HeuresAnnee, Champ::EnNombre}} {
   lignes_.SurDoubleClic = [this](int ligne) { ModifTTE(ligne); };
   Cbo_PeriodeTTE.Click = [this] { Cbo_PeriodeTTE_Click(); };
   for (const Champ& champ : champs_) Lier(champ);
 }
 
 void SuiviEnTempsEffectif::Lier(const Champ& champ) {
-  if (champ.genre == Champ::Jours) {
+  if (champ.genre == Champ::EnJours) {
     filtrerChiffres(champ.champ);
   } else {
     filtrerNombre(session_, champ.champ, true);
@@ -175,7 +175,7 @@ bool SuiviEnTempsEffectif::Quitter(const Champ& champ) {
   if (champ.champ.Text().empty()) champ.champ.SetText("0");
   const std::string tape = champ.champ.Text();
   if (!session::QuitterNombre(session_, champ.champ, champ.forme)) return false;
-  const bool enForme = champ.genre == Champ::NombreEnForme || champ.forme.apres == 0;
+  const bool enForme = champ.genre == Champ::EnForme || champ.forme.apres == 0;
   if (!enForme) champ.champ.SetText(tape);
   return true;
 }

@@ -75,7 +75,7 @@ class SuiviEnTempsEffectif : public PageSuivi {
   struct Champ {
     screen::TextField& champ;
     session::FormeNombre forme;
-    enum Genre { Jours, Nombre, NombreEnForme } genre;
+    enum Genre { EnJours, EnNombre, EnForme } genre;
   };
 
   void Lier(const Champ& champ);

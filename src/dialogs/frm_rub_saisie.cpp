@@ -162,12 +162,10 @@ void Frm_RubSaisie::AppliquerGenre(int nombre) {
     champ.SetText("");
   } else if (genre == "1") {
     fermer(Afficher(suite[nombre == TauxNombre ? Suite::Taux : Suite::Montant], nombre));
-  } else if (nombre == Base) {
+  } else if (nombre == Base || (nombre == TauxNombre && genre == "3")) {
     fermer(Afficher("0", nombre));
   } else if (nombre == TauxNombre && genre == "2") {
     fermer("0");
-  } else if (nombre == TauxNombre && genre == "3") {
-    fermer(Afficher("0", nombre));
   } else if (nombre == MontantNombre && genre == "2") {
     champ.SetEnabled(false);
   }

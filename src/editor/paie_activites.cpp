@@ -271,6 +271,7 @@ bool PaieActivites::TotalFaux() {
 
 std::vector<data::ListeCodes::Ligne> PaieActivites::Activites() const {
   std::vector<data::ListeCodes::Ligne> activites;
+  activites.reserve(Codes().size());
   for (int i = 0; i < lignes_.Nombre(); ++i) {
     activites.push_back({Codes()[static_cast<std::size_t>(i)], lignes_.Libelle(i)});
   }

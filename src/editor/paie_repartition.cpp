@@ -90,7 +90,7 @@ std::vector<std::string> SaisieRepartition::Periodes() const {
 }
 
 void SaisieRepartition::MontrerPeriodes(const std::vector<std::string>& periodes,
-                                        std::string montree) {
+                                        const std::string& montree) {
   const session::Sourdine::Silence silence(sourdine_);
   champs_.Cbo_PeriodeEffet.Clear();
   champs_.Cbo_PeriodeEffetAffichage.Clear();

@@ -67,7 +67,7 @@ class SaisieRepartition {
  private:
   const std::string& Periode() const { return champs_.Cbo_PeriodeEffet.Text(); }
   void Lier();
-  void MontrerPeriodes(const std::vector<std::string>& periodes, std::string montree);
+  void MontrerPeriodes(const std::vector<std::string>& periodes, const std::string& montree);
   std::vector<std::string> Periodes() const;
   void MontrerRepartition();
   void Cbo_PeriodeEffet_Click();

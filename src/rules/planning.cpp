@@ -74,7 +74,7 @@ std::string rapportIncidences(data::Db& db, const ContratPlanifie& contrat,
 }
 
 MiseAJourPlanning::MiseAJourPlanning(data::Db& db, const ContratPlanifie& contrat,
-                                     long ancienDernierJour, std::string utilisateur)
+                                     long ancienDernierJour, const std::string& utilisateur)
     : db_(db),
       contrat_(contrat),
       ancienDernierJour_(ancienDernierJour),
@@ -82,10 +82,10 @@ MiseAJourPlanning::MiseAJourPlanning(data::Db& db, const ContratPlanifie& contra
 
 void MiseAJourPlanning::Appliquer(const std::vector<Incidence>& incidences) {
   try {
-    for (const auto& [intervention, sort] : incidences) {
-      if (sort != Sort::SansContrat) {
-        Remplacer(intervention.cle);
-        db_.Stockage().EnUnBloc([&, s = sort] { Ecourter(intervention.cle, s); });
+    for (const Incidence& incidence : incidences) {
+      if (incidence.sort != Sort::SansContrat) {
+        Remplacer(incidence.intervention.cle);
+        db_.Stockage().EnUnBloc([&] { Ecourter(incidence.intervention.cle, incidence.sort); });
       }
       ++faites_;
     }

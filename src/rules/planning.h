@@ -79,7 +79,7 @@ std::string rapportIncidences(data::Db& db, const ContratPlanifie& contrat,
 class MiseAJourPlanning {
  public:
   MiseAJourPlanning(data::Db& db, const ContratPlanifie& contrat, long ancienDernierJour,
-                    std::string utilisateur);
+                    const std::string& utilisateur);
 
   void Appliquer(const std::vector<Incidence>& incidences);
   // The planning stays as it is: its work is without contract (Creer_TpsSansContrat).
