@@ -92,15 +92,13 @@ std::vector<std::string> SaisieRepartition::Periodes() const {
 void SaisieRepartition::MontrerPeriodes(const std::vector<std::string>& periodes,
                                         const std::string& montree) {
   const session::Sourdine::Silence silence(sourdine_);
-  // What is to be shown may be the text of the very list.
-  const std::string choisie = montree;
   champs_.Cbo_PeriodeEffet.Clear();
   champs_.Cbo_PeriodeEffetAffichage.Clear();
   for (const std::string& periode : periodes) {
     if (periode.empty()) continue;
     champs_.Cbo_PeriodeEffet.AddItem(periode);
     champs_.Cbo_PeriodeEffetAffichage.AddItem(data::Determinerdate(periode));
-    if (periode != choisie) continue;
+    if (periode != montree) continue;
     const int ligne = champs_.Cbo_PeriodeEffet.ListCount() - 1;
     champs_.Cbo_PeriodeEffet.SetListIndex(ligne);
     champs_.Cbo_PeriodeEffetAffichage.SetListIndex(ligne);
@@ -260,7 +258,8 @@ void SaisieRepartition::Cmd_AnnulerActivite_Click() {
   champs_.Cbo_Activite.SetEnabled(true);
   if (!ajoutPeriodeEnCours_) {
     // Nothing that was entered since the split was whole is kept.
-    MontrerPeriodes(Periodes(), Periode());
+    // A copy: the lists are cleared meanwhile.
+    MontrerPeriodes(Periodes(), std::string(Periode()));
     MontrerRepartition();
     Fermer();
     return;
