@@ -33,10 +33,8 @@ const std::vector<bench::Rapport> Rapports{
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
-    {"demarrage", bench::mesurerDemarrage},
-    {"touches", bench::mesurerTouches},
-    {"liste", bench::mesurerListe},
-    {"suivi", bench::mesurerSuivi},
+    {"demarrage", bench::mesurerDemarrage}, {"touches", bench::mesurerTouches},
+    {"liste", bench::mesurerListe},         {"suivi", bench::mesurerSuivi},
     {"papier", bench::mesurerPapier},
 };
 
