@@ -189,6 +189,7 @@ void creerUnContrat(Poste& poste, Base& base, benchmark::State* state) {
     user.Taper(*editeur.Find("Txt_TauxHorContrat"), "12,02");
     user.Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
     user.Taper(*editeur.Find("Txt_ProfilContrat"), "110");
+    user.Choisir(*editeur.Find("Cbo_LibPrevContrat"), 0);
     user.Choisir(*editeur.Find("Cbo_Activite"), 0);
     poste.journal.noter = true;
     if (state != nullptr) state->ResumeTiming();

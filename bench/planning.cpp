@@ -70,13 +70,13 @@ void coherencePlanning(benchmark::State& state) {
   bench::Base& base = planning();
   rules::ContratPlanifie contrat;
   contrat.codeAidant = Aidant;
-  contrat.convention = "01";
-  contrat.association = "001";
+  contrat.convention = std::string("01");
+  contrat.association = std::string("001");
   contrat.debut = 20000;
   contrat.termine = true;
   contrat.dernierJour = 21900;
   contrat.prochainDebutApres = rules::SansFin;
-  contrat.typeActivite = "P";
+  contrat.typeActivite = std::string("P");
   contrat.activitesOffertes =
       data::ListeCodes(std::vector<data::ListeCodes::Ligne>{{"001DOM", "Domicile", {"P"}}});
   contrat.activites = {"Domicile"};
