@@ -32,8 +32,6 @@ class Avenants {
   // A new contract starts on that displayed day: so does its first state.
   void DebuterLe(const std::string& date);
 
-  // The amendment shown is being entered.
-  bool EnCreation() const { return avenantEnCreation_; }
   // The value that the tab shows, from 1; while an amendment is entered, the one that it copies.
   int Rang() const { return Bdh_Avenant.Value() + 1; }
   // The value that the public-law elements of what is on the screen stand in.

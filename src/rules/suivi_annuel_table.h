@@ -29,8 +29,6 @@ class TableSuivi {
   // that holds what was read or written last writes nothing.
   void Ecrire(data::CItem& item);
   bool Modifiee() const { return lignes_ != lues_; }
-  // Back to what was read or written last.
-  void Restaurer() { lignes_ = lues_; }
 
   int Nombre() const { return static_cast<int>(lignes_.size()); }
   // "" beyond the ends.

@@ -22,7 +22,6 @@ class Sourdine {
     Pendant muette_;
   };
 
-  bool Muette() const { return muette_; }
   screen::Handler SiAudible(screen::Handler suite) const {
     return [this, suite = std::move(suite)] {
       if (!muette_) suite();
