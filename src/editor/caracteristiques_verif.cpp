@@ -27,8 +27,8 @@ const rules::Verification<OngletCaracteristiques> OngletCaracteristiques::Verifi
     {[](OngletCaracteristiques& o) { return o.grille_.TauxManque(); },
      "Le taux horaire est obligatoire.", Icone::Information, "Txt_TauxHorContrat"},
     {[](OngletCaracteristiques& o) {
-       return o.modulation_.LissageManque() && o.editeur_.origine.Mensuel() &&
-              o.editeur_.origine.Production();
+       return o.modulation_.LissageManque() && o.editeur_.origine.Genre().Mensuel() &&
+              o.editeur_.origine.Genre().Production();
      },
      "Le lissage des rémunérations est obligatoire.", Icone::Exclamation},
     {[](OngletCaracteristiques& o) { return !o.pcs_.CategorieJuste(); },

@@ -119,7 +119,7 @@ void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
     if (onglet.AReafficher()) onglet.Afficher();
     onglet.Entrer();
   }
-  if (!origine.Administratif() || origine.Particuliers()) return;
+  if (!origine.Genre().Administratif() || origine.Particuliers()) return;
   paie.MontrerParts();
   caracteristiques.FermerModulation();
 }
@@ -138,8 +138,9 @@ rules::Dates Frm_ElementsContrat::Dates() const {
 }
 
 rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
-  return {dossier_->CleContratCourant, origine.Convention(),    origine.Entite(),
-          origine.Employeur(),         origine.Administratif(), paie.TypeActivite()};
+  return {
+      dossier_->CleContratCourant,     origine.Convention(), origine.Entite(), origine.Employeur(),
+      origine.Genre().Administratif(), paie.TypeActivite()};
 }
 
 // Ways out.

@@ -73,11 +73,6 @@ std::string OngletFin::Empreinte() const {
 
 // Writing.
 
-bool OngletFin::Ecrire_Ong(bool) {
-  Ecrire_Ong5();
-  return true;
-}
-
 void OngletFin::Ecrire_Ong5() {
   data::CItem& contrat = Contrat();
   for (const int a : GroupeFin) contrat.Set(a, montre_.Vue(a));

@@ -115,17 +115,17 @@ void MotifFin::Cbo_MotifFinContrat_Click() {
 // Back on the reason on file, the box is what is on file.
 void MotifFin::SelonModulation() {
   const auto& origine = editeur_.origine;
-  const bool retirees = origine.Mensuel() && origine.Production() &&
+  const bool retirees = origine.Genre().Mensuel() && origine.Genre().Production() &&
                         editeur_.caracteristiques.Lissee() && rules::motifRetireHeures(Code());
-  Etq_InfoComplMotifFin.SetVisible(origine.Mensuel());
-  Etq_InfoComplMotifFin.SetLibelle(!origine.Mensuel() ? ""
-                                   : retirees         ? HeuresRetirees
-                                                      : HeuresGardees);
+  Etq_InfoComplMotifFin.SetVisible(origine.Genre().Mensuel());
+  Etq_InfoComplMotifFin.SetLibelle(!origine.Genre().Mensuel() ? ""
+                                   : retirees                 ? HeuresRetirees
+                                                              : HeuresGardees);
   const data::CItem& initial = editeur_.Dossier().Initial;
   const bool dejaLa = !Code().empty() && initial.Vue(C::MotifFin) == Code();
   editeur_.caracteristiques.RetirerHeuresNegatives(
       dejaLa ? initial.Vue(C::Modulation, initial.DCount(C::Avenant)) == ModulationRetrait
-             : !origine.Mensuel() || retirees);
+             : !origine.Genre().Mensuel() || retirees);
 }
 
 void MotifFin::Cbo_MotifFinContrat_Change() {

@@ -49,12 +49,12 @@ const rules::Verification<OngletFin> OngletFin::VerificationsFin[] = {
      },
      SignatureApresFin, Icone::Exclamation, "Txt_DateSignConvCol"},
     {[](OngletFin& o) {
-       return !o.editeur_.origine.Determine() && o.Txt_DatNotifContrat.Text().empty();
+       return !o.editeur_.origine.Genre().Determine() && o.Txt_DatNotifContrat.Text().empty();
      },
      "La date de notification de fin de contrat est obligatoire.", Icone::Exclamation,
      "Txt_DatNotifContrat"},
     {[](OngletFin& o) {
-       return !o.editeur_.origine.Determine() &&
+       return !o.editeur_.origine.Genre().Determine() &&
               o.Apres(o.Txt_DatNotifContrat, o.Txt_DateFinContrat);
      },
      "La date de notification ne peut être supérieure à la date de fin de contrat.",

@@ -55,7 +55,9 @@ void Onglet::Afficher() {
 
 bool Onglet::Ecrire(bool verifiee) {
   if (!charge_) return !verifiee || VerifFerme();
-  return (!verifiee || Verif_Ong()) && Ecrire_Ong(verifiee);
+  if (verifiee && !Verif_Ong()) return false;
+  Ecrire_Ong();
+  return true;
 }
 
 void Onglet::Vider() {

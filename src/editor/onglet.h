@@ -58,7 +58,7 @@ class Onglet {
   virtual void Afficher_Ong() {}
   virtual bool Verif_Ong() { return true; }
   virtual bool VerifFerme() { return true; }
-  virtual bool Ecrire_Ong(bool /*verifiee*/) { return true; }
+  virtual void Ecrire_Ong() {}
   virtual void Vider_Ong() {}
 
   session::Session& Session() const;

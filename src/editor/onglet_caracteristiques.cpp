@@ -54,7 +54,7 @@ void OngletCaracteristiques::Afficher_Ong2() {
   } else {
     Montrer_Etat(true);
   }
-  modulation_.Ouvrir(editeur_.origine.Mensuel() && editeur_.origine.Production());
+  modulation_.Ouvrir(editeur_.origine.Genre().Mensuel() && editeur_.origine.Genre().Production());
 }
 
 void OngletCaracteristiques::Montrer_Etat(bool dernier) {
@@ -90,7 +90,7 @@ void OngletCaracteristiques::Vider_Ong() {
 
 // The first tab may have said since what the staff's pay is.
 void OngletCaracteristiques::Entrer() {
-  modulation_.Ouvrir(editeur_.origine.Mensuel() && editeur_.origine.Production());
+  modulation_.Ouvrir(editeur_.origine.Genre().Mensuel() && editeur_.origine.Genre().Production());
 }
 
 void OngletCaracteristiques::SelonConvention(const std::string& convention) {
@@ -122,11 +122,6 @@ void OngletCaracteristiques::Cmd_ElemDrtPub_Click() {
 }
 
 // Writing.
-
-bool OngletCaracteristiques::Ecrire_Ong(bool) {
-  Ecrire_Ong2();
-  return true;
-}
 
 void OngletCaracteristiques::Ecrire_Ong2() {
   Ecrire_Etat(Contrat(), DebutContrat());

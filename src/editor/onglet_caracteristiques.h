@@ -61,7 +61,7 @@ class OngletCaracteristiques : public Onglet {
 
   void Afficher_Ong() override { Afficher_Ong2(); }
   bool Verif_Ong() override { return Verif_Ong2(); }
-  bool Ecrire_Ong(bool) override;
+  void Ecrire_Ong() override { Ecrire_Ong2(); }
   void Vider_Ong() override;
   void SelonDroits(bool complet) override { avenants_.SelonDroits(complet); }
 

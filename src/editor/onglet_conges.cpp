@@ -155,7 +155,7 @@ void OngletConges::Afficher_Ong4() {
 void OngletConges::SelonDecompte() {
   data::CItem convention;
   Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
-  const bool administratif = editeur_.origine.Administratif();
+  const bool administratif = editeur_.origine.Genre().Administratif();
   const auto mode = [&](int attribut) {
     return administratif ? jours(ModeOuvres) : jours(convention.Vue(attribut));
   };
@@ -265,11 +265,6 @@ void OngletConges::MettreZero() {
 
 // Writing.
 
-bool OngletConges::Ecrire_Ong(bool) {
-  Ecrire_Ong4();
-  return true;
-}
-
 void OngletConges::Ecrire_Ong4() {
   data::CItem& contrat = Contrat();
   MettreZero();
@@ -302,10 +297,10 @@ void OngletConges::Ecrire_Ong4() {
 // Dialogs.
 
 void OngletConges::Cmd_Conges_Click() {
-  const auto& origine = editeur_.origine;
+  const auto nomme = editeur_.origine.Nomme();
   dialogs::Frm_Ventilation(editeur_.Services(),
-                           {Session().CodeAidant, Session().NomPrenomAidant, origine.CodeNomme(),
-                            origine.LibelleNomme(), Dossier().CleContratCourant})
+                           {Session().CodeAidant, Session().NomPrenomAidant, nomme.code,
+                            nomme.libelle, Dossier().CleContratCourant})
       .Ouvrir(editeur_);
 }
 

@@ -31,7 +31,7 @@ class OngletConges : public Onglet {
 
   void Afficher_Ong() override { Afficher_Ong4(); }
   bool Verif_Ong() override { return Verif_Ong4(); }
-  bool Ecrire_Ong(bool) override;
+  void Ecrire_Ong() override { Ecrire_Ong4(); }
   void Vider_Ong() override;
 
   void Lier();

@@ -51,7 +51,7 @@ class OngletFin : public Onglet {
 
   void Afficher_Ong() override { Afficher_Ong5(); }
   bool Verif_Ong() override { return Verif_Ong5(); }
-  bool Ecrire_Ong(bool) override;
+  void Ecrire_Ong() override { Ecrire_Ong5(); }
   void Vider_Ong() override;
   void SelonDroits(bool complet) override;
 

@@ -1,11 +1,8 @@
-// The fields of the first tab and their handlers, those of the codes apart.
+// The first tab as a whole: showing and writing it, and what its parts lead to elsewhere.
 
 #include "editor/onglet_origine.h"
 
-#include <utility>
-
 #include "data/cles.h"
-#include "data/nombre.h"
 #include "data/texte.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "editor/editeur.h"
@@ -15,67 +12,38 @@ namespace editor {
 namespace {
 
 namespace C = data::Contrat;
-using screen::Icone;
 
 constexpr const char* Contreparties[] = {"Amplitude journée limitée à 11 heures",
                                          "2 jours de repos", "Paiement des inter-vacations"};
 // The agreement that gives something in return for an interrupted day.
 constexpr std::string_view ConventionContrepartie = "01";
 
-// Whole days by the keys; a text that stands there, or is pasted, is kept as it is.
-void chiffresSeuls(char32_t& touche) {
-  if (touche >= U' ' && (touche < U'0' || touche > U'9')) touche = 0;
-}
-
 }  // namespace
 
 OngletOrigine::OngletOrigine(Frm_ElementsContrat& editeur)
     : Onglet(editeur, Origine, "Cdr_Ong1"),
-      zones_({session::option(Opt_Determine, "D", Opt_Indetermine, "I", C::Type),
-              session::option(Opt_Administratif, "A", Opt_Production, "P", C::Statut),
-              session::option(Opt_Mensuel, "M", Opt_Horaire, "H", C::Salaire),
-              session::jour(Txt_DatDebContrat, C::DateDebut),
-              session::texte(Txt_PerEssaiContrat, C::PeriodeEssai),
-              session::drapeau(Cac_RenouvEssaiContrat, C::EssaiRenouvelable),
-              session::code(nature_.Champ(), C::Nature, nature_.Natures()),
-              session::jour(Txt_DatFinContrat, C::DateFinPresumee),
-              session::jour(Txt_DateSignConvEmplAide, C::DateConventionAidee),
-              session::texte(Txt_NumRef, C::ReferenceConventionAidee),
-              session::texte(Txt_DureeMinContrat, C::DureeMinimale),
-              session::ligne(Cbo_Contrepartie, C::ContrepartieInterruption)}) {
+      zones_(session::reunir({genre_.Zones(),
+                              duree_.Zones(),
+                              {session::code(nature_.Champ(), C::Nature, nature_.Natures())},
+                              emploiAide_.Zones(),
+                              {session::ligne(Cbo_Contrepartie, C::ContrepartieInterruption)}})) {
   Txt_NumContrat.SetEnabled(false);
   for (const char* contrepartie : Contreparties) Cbo_Contrepartie.AddItem(contrepartie);
-  // Before the handlers are tied: the other tabs, which these steer, do not stand yet.
-  Vider_Ong();
-  Lier();
-}
-
-void OngletOrigine::Lier() {
+  nature_.Vider();
   zones_.Lier(Session());
-  Opt_Determine.Click = sourdine_.SiAudible([this] { Opt_Determine_Click(); });
-  Opt_Indetermine.Click = sourdine_.SiAudible([this] { SelonType(); });
-  Opt_Horaire.Click = Opt_Mensuel.Click = sourdine_.SiAudible(
-      [this] { editeur_.caracteristiques.SelonSalaire(Mensuel(), Production()); });
-  Opt_Production.Click = Opt_Administratif.Click = sourdine_.SiAudible([this] {
-    SelonStatut();
-    editeur_.paie.ChangerStatut();
-  });
-  Txt_DatDebContrat.LostFocus = [this] { Txt_DatDebContrat_LostFocus(); };
-  Txt_PerEssaiContrat.KeyPress = chiffresSeuls;
-  Txt_DateSignConvEmplAide.Change = sourdine_.SiAudible([this] { AdapterReference(); });
+  genre_.SurType = [this] { SelonType(); };
+  duree_.Lier();
   Cmd_MotifCDD.Click = [this] { Cmd_MotifCDD_Click(); };
 }
 
 // Display.
 
 void OngletOrigine::Afficher_Ong1() {
-  debutDeplace_ = false;
-  finAvant_.clear();
+  duree_.Preparer();
   nature_.Preparer();
   if (Creation()) {
     zones_.Oublier();
     Txt_NumContrat.SetText("");
-    Cac_RenouvEssaiContrat.SetValue(0);
     codes_.AfficherNouveau();
     editeur_.AnnoncerConvention();
   } else {
@@ -83,19 +51,15 @@ void OngletOrigine::Afficher_Ong1() {
     codes_.AfficherExistant();
     zones_.Montrer(Session().Lib, Contrat());
   }
-  RafraichirEmployeur();
-  SelonType();
-  SelonStatut();
-  editeur_.caracteristiques.SelonSalaire(Mensuel(), Production());
+  duree_.Ouvrir();
+  genre_.Annoncer();
   nature_.MontrerStage();
-  AdapterReference();
+  emploiAide_.Adapter();
   if (!Creation()) zones_.Retenir(Contrat());
 }
 
 void OngletOrigine::Vider_Ong() {
-  Opt_Indetermine.SetValue(true);
-  Opt_Horaire.SetValue(true);
-  Opt_Production.SetValue(true);
+  genre_.Vider();
   nature_.Vider();
 }
 
@@ -104,135 +68,32 @@ void OngletOrigine::SelonConvention(const std::string& convention) {
   const bool contrepartie = convention == ConventionContrepartie;
   screen::Montrer({&Etq_Contrepartie, &Cbo_Contrepartie}, contrepartie);
   if (!contrepartie) Cbo_Contrepartie.SetListIndex(-1);
-  SelonStatut();
+  genre_.AnnoncerStatut();
 }
 
-void OngletOrigine::RafraichirEmployeur() {
-  const bool libre = !Creation() || Contrat().Vue(C::PeriodeTraitee).empty();
-  screen::Activer({&Txt_DatDebContrat, &Txt_DatFinContrat}, libre);
-}
-
-std::optional<long> OngletOrigine::Debut() const {
-  return Session().Lib.LireDate(Txt_DatDebContrat.Text());
-}
-
-// Options, nature and dates.
-
-// What only a fixed term has.
 void OngletOrigine::SelonType() {
-  screen::Montrer(
-      {&Etq_DatFinContrat, &Txt_DatFinContrat, &Etq_DureeMinContrat, &Txt_DureeMinContrat},
-      Determine());
-  editeur_.fin.SelonType(Determine());
-}
-
-// Back to a fixed term after a copy made it open-ended: the end that was emptied then comes back.
-void OngletOrigine::Opt_Determine_Click() {
-  SelonType();
-  const std::string fin = std::exchange(finAvant_, {});
-  if (Txt_DatFinContrat.Text().empty()) Txt_DatFinContrat.SetText(fin);
-}
-
-void OngletOrigine::SelonStatut() {
-  editeur_.paie.SelonStatut(Administratif(), Particuliers());
-}
-
-// A subsidised employment has a reference; without its date there is nothing to refer to.
-void OngletOrigine::AdapterReference() {
-  const bool aide = !Txt_DateSignConvEmplAide.Text().empty();
-  if (!aide) Txt_NumRef.SetText("");
-  screen::Activer({&Etq_NumRef, &Txt_NumRef}, aide);
-}
-
-// A first amendment may take effect on the very day on which the contract on file starts: only a
-// start that was moved is held against it.
-void OngletOrigine::Txt_DatDebContrat_LostFocus() {
-  if (!session::QuitterDate(Session(), Txt_DatDebContrat)) return;
-  if (Creation()) {
-    editeur_.caracteristiques.DebuterLe(Txt_DatDebContrat.Text());
-    return;
-  }
-  const auto avenant = Contrat().Vue(C::DateEffet, 2);
-  if (!DebutDeplace() || avenant.empty() || *Debut() < data::entier(avenant)) return;
-  Message("La date de début de contrat doit être inférieure à la date d'effet du 1er avenant.",
-          Icone::Exclamation);
-  Txt_DatDebContrat.SetText("");
-  Txt_DatDebContrat.SetFocus();
+  duree_.SelonType(genre_.Determine());
+  editeur_.fin.SelonType(genre_.Determine());
 }
 
 void OngletOrigine::DemanderDebut() {
-  Refuser({"Vous devez renseigner la date de début du contrat.", Icone::Exclamation,
-           Txt_DatDebContrat.Nom()});
+  Refuser({"Vous devez renseigner la date de début du contrat.", screen::Icone::Exclamation,
+           "Txt_DatDebContrat"});
 }
 
 void OngletOrigine::Cmd_MotifCDD_Click() {
-  dialogs::Frm_MotifCDD(editeur_.Services(), Dossier(), Txt_DatDebContrat.Text(),
+  dialogs::Frm_MotifCDD(editeur_.Services(), Dossier(), DateDebut(),
                         {Convention(), Entite(), Employeur()})
       .ShowModal();
 }
 
-// What the checks ask.
-
-std::optional<long> OngletOrigine::FinPresumee() const {
-  return Session().Lib.LireDate(Txt_DatFinContrat.Text());
-}
-
-// The start is another one than on file, where a copy of the screen may stand already.
-bool OngletOrigine::DebutDeplace() const {
-  const auto debut = Debut();
-  return !Creation() && debut && std::to_string(*debut) != Dossier().Initial.Vue(C::DateDebut);
-}
-
-bool OngletOrigine::BulletinCalcule(const std::string& periode) const {
-  data::CItem calcul;
-  return Session().F_DETAILCALCUL.Lire(Dossier().CleContratCourant + periode, calcul);
-}
-
 // Writing.
-
-bool OngletOrigine::Ecrire_Ong(bool) {
-  Ecrire_Ong1();
-  return true;
-}
 
 void OngletOrigine::Ecrire_Ong1() {
   if (Creation()) codes_.Ecrire(Contrat());
   zones_.Ecrire(Session().Lib, Contrat());
-  EcrireDebut();
-  EcrireTerme();
+  duree_.Ecrire(Contrat(), genre_.Determine());
   nature_.EcrireStage();
-}
-
-// A moved start takes along the effect date of the contract as signed, and its grid start where
-// that was the same day. What an earlier copy of the screen moved is put back first.
-void OngletOrigine::EcrireDebut() {
-  data::CItem& contrat = Contrat();
-  const std::string debut = contrat(C::DateDebut);
-  const std::string debutInitial = Dossier().Initial(C::DateDebut);
-  // What was typed in their place since stays.
-  if (debutDeplace_ && contrat.Vue(C::DateEffet, 1) == debutPose_) {
-    contrat.Set(C::DateEffet, 1, effetAvant_);
-  }
-  if (debutDeplace_ && contrat.Vue(C::DepartGrille, 1) == debutPose_) {
-    contrat.Set(C::DepartGrille, 1, departGrilleAvant_);
-  }
-  debutPose_ = debut;
-  debutDeplace_ = debut != debutInitial;
-  if (!debutDeplace_) return;
-  effetAvant_ = contrat(C::DateEffet, 1);
-  departGrilleAvant_ = contrat(C::DepartGrille, 1);
-  contrat.Set(C::DateEffet, 1, debut);
-  if (!departGrilleAvant_.empty() && departGrilleAvant_ == debutInitial) {
-    contrat.Set(C::DepartGrille, 1, debut);
-  }
-}
-
-// An open-ended contract has no presumed end, not even one typed before its type was changed.
-void OngletOrigine::EcrireTerme() {
-  if (Determine()) return;
-  if (!Txt_DatFinContrat.Text().empty()) finAvant_ = Txt_DatFinContrat.Text();
-  Txt_DatFinContrat.SetText("");
-  Contrat().Set(C::DateFinPresumee, "");
 }
 
 }  // namespace editor

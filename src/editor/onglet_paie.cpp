@@ -124,7 +124,7 @@ void OngletPaie::ProposerSelonConvention(const std::string& convention) {
 
 // A contract on file that has the other status is shown anew, as a contract of that status.
 void OngletPaie::ChangerStatut() {
-  const std::string statut = editeur_.origine.Administratif() ? "A" : "P";
+  const std::string statut = editeur_.origine.Genre().Administratif() ? "A" : "P";
   if (!Creation() && Charge() && Contrat().Vue(C::Statut) != statut) {
     profils_.ProfilContrat();
     Afficher();
@@ -172,11 +172,6 @@ std::vector<std::string> OngletPaie::Activites() const {
 }
 
 // Writing.
-
-bool OngletPaie::Ecrire_Ong(bool) {
-  Ecrire_Ong3();
-  return true;
-}
 
 // A mutual insurance part that is left empty is none; one that is empty on file stays so.
 void OngletPaie::Ecrire_Ong3() {

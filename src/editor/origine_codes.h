@@ -1,13 +1,11 @@
 #pragma once
 // The codes of the first tab: agreement, legal entity and employer, each with its label list. One
 // step leads to the next: a new agreement empties the entity, and a new entity what hangs on it, so
-// that no code outlives what it was chosen for. With agreement "02" the person helped is the
-// employer, who can be searched for by name.
+// that no code outlives what it was chosen for.
 
 #include <string>
 
-#include "session/dossier.h"
-#include "session/paire_code.h"
+#include "editor/origine_employeur.h"
 
 namespace editor {
 
@@ -21,7 +19,7 @@ class CodesOrigine {
   // Entities and agreements, which stay the same from contract to contract.
   void Remplir_Combos();
   // The looks under the agreement in the box.
-  void SelonConvention();
+  void SelonConvention() { employeur_.SelonConvention(); }
   void AfficherNouveau();
   // The agreement, the entity and the employer of a contract on file, which never change.
   void AfficherExistant();
@@ -32,15 +30,11 @@ class CodesOrigine {
 
   const std::string& Convention() const { return Txt_ConvColContrat.Text(); }
   const std::string& Entite() const { return Txt_AssocContrat.Text(); }
-  const std::string& Employeur() const { return Txt_EmplEtabContrat.Text(); }
-  const std::string& LibelleEntite() const { return Cbo_LibAssocContrat.Text(); }
-  const std::string& LibelleEmployeur() const { return Cbo_LibEmplEtabContrat.Text(); }
+  const std::string& Employeur() const { return employeur_.Code(); }
+  const std::string& LibelleEmployeur() const { return employeur_.Libelle(); }
   bool Particuliers() const { return Convention() == data::ConventionParticuliers; }
-  // The agreement row of the code in the box: label, then the counting modes of paid and seniority
-  // leave and the provident flag.
-  const data::ListeCodes::Ligne* LigneConvention() const {
-    return convention_.Lignes().ParCode(Convention());
-  }
+  // Whom the leave statement and the reports name: the private employer, else the legal entity.
+  data::ListeCodes::Ligne Nomme() const;
   // To the agreement, where it can be chosen.
   void SetFocus() {
     if (Txt_ConvColContrat.Enabled()) Txt_ConvColContrat.SetFocus();
@@ -50,25 +44,15 @@ class CodesOrigine {
   // Code lengths, in characters.
   static constexpr int LongueurConvention = 2;
   static constexpr int LongueurEntite = 3;
-  static constexpr int LongueurEtablissement = 3;
-  static constexpr int LongueurParticulier = 5;
   static constexpr int LongueurLibelle = 60;
 
   session::RegleCode RegleConvention();
   session::RegleCode RegleEntite();
-  session::RegleCode RegleEmployeur();
   void Activer(bool actifs);
 
   void ChoisirConvention();
   void ViderEntite();
   void ChoisirEntite();
-  void Remplir_Etablissements();
-  void QuitterEmployeur();
-  std::optional<std::string> NomEmployeur(const std::string& code) const;
-  std::optional<std::string> LibelleEtablissement(const std::string& code) const;
-  void ChercherEmployeur(char32_t& touche);
-  void Remplir_Aide(const std::string& nom);
-  void Cmd_DetailEmpl_Click();
   session::Session& Session() const;
 
   Frm_ElementsContrat& editeur_;
@@ -81,16 +65,11 @@ class CodesOrigine {
   screen::Label Etq_AssocContrat{page_, "Etq_AssocContrat", "Entité juridique"};
   screen::TextField Txt_AssocContrat{page_, "Txt_AssocContrat", LongueurEntite};
   screen::ComboBox Cbo_LibAssocContrat{page_, "Cbo_LibAssocContrat", true, LongueurLibelle};
-  screen::Label Etq_EmplEtabContrat{page_, "Etq_EmplEtabContrat", "Etablissement"};
-  screen::TextField Txt_EmplEtabContrat{page_, "Txt_EmplEtabContrat", LongueurParticulier};
-  screen::ComboBox Cbo_LibEmplEtabContrat{page_, "Cbo_LibEmplEtabContrat", true, LongueurLibelle};
-  screen::Button Cmd_DetailEmpl{page_, "Cmd_DetailEmpl", "Détail employeur"};
+  EmployeurOrigine employeur_{editeur_, *this, page_, sourdine_};
 
   session::PaireCode convention_{Txt_ConvColContrat, Cbo_LibConvColContrat, sourdine_,
                                  RegleConvention()};
   session::PaireCode entite_{Txt_AssocContrat, Cbo_LibAssocContrat, sourdine_, RegleEntite()};
-  session::PaireCode employeur_{Txt_EmplEtabContrat, Cbo_LibEmplEtabContrat, sourdine_,
-                                RegleEmployeur()};
 };
 
 }  // namespace editor

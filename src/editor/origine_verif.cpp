@@ -41,6 +41,11 @@ bool jamaisTraite(const data::CItem& contrat) {
   return contrat.Vue(C::PeriodeTraitee).empty();
 }
 
+bool bulletinCalcule(const session::Dossier& dossier, const std::string& periode) {
+  data::CItem calcul;
+  return dossier.Session.F_DETAILCALCUL.Lire(dossier.CleContratCourant + periode, calcul);
+}
+
 }  // namespace
 
 const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
@@ -54,29 +59,28 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
      "La date de début de contrat est obligatoire.", Icone::Information, "Txt_DatDebContrat"},
     {[](OngletOrigine& o) { return !o.Debut(); }, DateIncorrecte, Icone::Information,
      "Txt_DatDebContrat"},
-    {[](OngletOrigine& o) {
-       return !o.Txt_DateSignConvEmplAide.Text().empty() && o.Txt_NumRef.Text().empty();
-     },
+    {[](OngletOrigine& o) { return o.emploiAide_.ReferenceManque(); },
      "Le numéro de référence est obligatoire si la date de signature convention emploi aidé est "
      "renseignée.",
      Icone::Information, "Txt_NumRef"},
     {[](OngletOrigine& o) {
-       return o.Determine() && !o.Txt_DatFinContrat.Text().empty() && !o.FinPresumee();
+       return o.genre_.Determine() && !o.duree_.DateFin().empty() && !o.duree_.FinPresumee();
      },
      DateIncorrecte, Icone::Information, "Txt_DatFinContrat"},
     {[](OngletOrigine& o) {
-       return o.Determine() && o.FinPresumee() && *o.FinPresumee() < *o.Debut();
+       return o.genre_.Determine() && o.duree_.FinPresumee() &&
+              *o.duree_.FinPresumee() < *o.Debut();
      },
      "La date de fin de contrat présumée doit être supérieure ou égale à la date de début de "
      "contrat.",
      Icone::Information, "Txt_DatFinContrat"},
     {[](OngletOrigine& o) {
-       return o.Determine() && NatureExigeFin(o.nature_.Libelle()) &&
-              o.Txt_DatFinContrat.Text().empty();
+       return o.genre_.Determine() && NatureExigeFin(o.nature_.Libelle()) &&
+              o.duree_.DateFin().empty();
      },
      "La date de fin présumée est obligatoire pour un CDD.", Icone::Information,
      "Txt_DatFinContrat"},
-    {[](OngletOrigine& o) { return o.Determine() && sansMotif(o.Contrat()); },
+    {[](OngletOrigine& o) { return o.genre_.Determine() && sansMotif(o.Contrat()); },
      "La saisie d'un motif d'embauche est obligatoire.", Icone::Exclamation, "",
      [](OngletOrigine& o) { o.Cmd_MotifCDD_Click(); }, true},
     {[](OngletOrigine& o) { return o.nature_.StageRequis() && stageIncomplet(o.Contrat()); },
@@ -84,14 +88,14 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
      [](OngletOrigine& o) { o.nature_.Cmd_Stage_Click(); }},
     {[](OngletOrigine& o) {
        const auto depart = o.Contrat().Vue(C::DepartGrille, 2);
-       return o.DebutDeplace() && !depart.empty() && *o.Debut() > data::entier(depart);
+       return o.duree_.DebutDeplace() && !depart.empty() && *o.Debut() > data::entier(depart);
      },
      "La date de début de contrat ne peut être supérieure à la date d'effet du second avenant, "
      "veuillez supprimer le contrat et le recréer pour effectuer votre modification.",
      Icone::Exclamation, "Txt_DatDebContrat"},
     // Compared as texts on purpose: internal dates of today all have five digits.
     {[](OngletOrigine& o) {
-       if (!o.DebutDeplace() || !jamaisTraite(o.Contrat())) return false;
+       if (!o.duree_.DebutDeplace() || !jamaisTraite(o.Contrat())) return false;
        const auto premier = data::premierJour(o.Session().PeriodePaie());
        return premier && std::to_string(*o.Debut()) < std::to_string(*premier);
      },
@@ -102,14 +106,15 @@ const rules::Verification<OngletOrigine> OngletOrigine::Verifications[] = {
      }},
     {[](OngletOrigine& o) {
        const std::string periode = o.Session().PeriodePaie();
-       return o.DebutDeplace() && jamaisTraite(o.Contrat()) && data::premierJour(periode) &&
-              (o.BulletinCalcule(periode) || o.BulletinCalcule(data::decalePeriode(periode, 1)));
+       return o.duree_.DebutDeplace() && jamaisTraite(o.Contrat()) && data::premierJour(periode) &&
+              (bulletinCalcule(o.Dossier(), periode) ||
+               bulletinCalcule(o.Dossier(), data::decalePeriode(periode, 1)));
      },
      BulletinDejaCalcule, Icone::Exclamation, "Txt_DatDebContrat"},
     // The start on file, not the one that a copy of the screen may have put in the contract.
     {[](OngletOrigine& o) {
        const auto debut = data::entier(o.Dossier().Initial.Vue(C::DateDebut));
-       return o.DebutDeplace() && !jamaisTraite(o.Contrat()) &&
+       return o.duree_.DebutDeplace() && !jamaisTraite(o.Contrat()) &&
               o.Contrat().Vue(C::PeriodeTraitee) >= data::periodeDe(static_cast<long>(debut));
      },
      BulletinDejaCalcule, Icone::Exclamation, "Txt_DatDebContrat"},

@@ -59,7 +59,7 @@ data::CItem PaieActivites::Gestion_Activite(const std::string& entite, bool part
   using namespace data;
   Requete requete(fichier::ACTIVITES);
   requete.Avec(Cle, "=", citerDebut(entite));
-  if (!editeur_.origine.Administratif()) {
+  if (!editeur_.origine.Genre().Administratif()) {
     requete.Avec(Activites::Genre, particuliers ? "=" : "<>", citer(Mandat));
   }
   return requete.Par(Activites::Libelle)
@@ -125,7 +125,7 @@ void PaieActivites::Afficher() {
   Offrir(data::ListeCodes::DeSelection(Gestion_Activite(origine.Entite(), origine.Particuliers())));
   saisie_.SetDebut(origine.DateDebut());
   Remplir_TabActivite();
-  SelonStatut(origine.Administratif(), origine.Particuliers());
+  SelonStatut(origine.Genre().Administratif(), origine.Particuliers());
 }
 
 // The contract as it was opened: what a copy of the screen has put in it meanwhile comes back.
@@ -182,7 +182,8 @@ void PaieActivites::OffrirCellesDeLEmployeur() {
 void PaieActivites::SuivreDebut() {
   const auto& origine = editeur_.origine;
   saisie_.SetDebut(origine.DateDebut());
-  if (Creation() && origine.Administratif() && !origine.Particuliers()) saisie_.SuivreDebut();
+  if (Creation() && origine.Genre().Administratif() && !origine.Particuliers())
+    saisie_.SuivreDebut();
 }
 
 void PaieActivites::SelonStatut(bool administratif, bool particuliers) {
@@ -199,7 +200,7 @@ void PaieActivites::SelonStatut(bool administratif, bool particuliers) {
 void PaieActivites::Activer() {
   const auto& origine = editeur_.origine;
   const bool entite = !origine.Particuliers();
-  const bool administratif = origine.Administratif();
+  const bool administratif = origine.Genre().Administratif();
   const bool actif = !administratif || !origine.DateDebut().empty();
   const auto periodes = {static_cast<screen::Field*>(&champs_.Cbo_PeriodeEffetAffichage),
                          static_cast<screen::Field*>(&champs_.Etq_PeriodeEffet),
@@ -262,11 +263,11 @@ void PaieActivites::Lst_ActiviteContrat_DblClick(int ligne) {
 
 bool PaieActivites::PeriodeManque() {
   SuivreDebut();
-  return editeur_.origine.Administratif() && saisie_.PeriodeManque();
+  return editeur_.origine.Genre().Administratif() && saisie_.PeriodeManque();
 }
 
 bool PaieActivites::TotalFaux() {
-  return editeur_.origine.Administratif() && lignes_.Total() != rules::Repartition::Tout;
+  return editeur_.origine.Genre().Administratif() && lignes_.Total() != rules::Repartition::Tout;
 }
 
 std::vector<data::ListeCodes::Ligne> PaieActivites::Activites() const {
@@ -296,7 +297,7 @@ void PaieActivites::Ecrire(data::CItem& contrat) {
   for (const int a : C::GroupeActivites) contrat.Set(a, initial.Vue(a));
   contrat.Set(C::PeriodeEffet, initial.Vue(C::PeriodeEffet));
   for (const int a : C::GroupePeriodesEffet) contrat.Set(a, initial.Vue(a));
-  if (editeur_.origine.Administratif()) {
+  if (editeur_.origine.Genre().Administratif()) {
     const rules::Repartition& tab = saisie_.TabActivite();
     if (!(tab == rules::Repartition::DuContrat(initial))) tab.Ecrire(contrat);
     return;

@@ -47,7 +47,7 @@ void PaieDialogues::SelonTelegestion(bool utilisee) {
 
 void PaieDialogues::Cmd_RubSaisie_Click() {
   dialogs::Frm_RubSaisie(editeur_.Services(), editeur_.Dossier(),
-                         {editeur_.origine.Administratif(), activites_.Activites()})
+                         {editeur_.origine.Genre().Administratif(), activites_.Activites()})
       .ShowModal();
 }
 

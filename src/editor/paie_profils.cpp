@@ -176,7 +176,7 @@ const char* PaieProfils::RefusMensuel(const std::string& code) const {
 
 bool PaieProfils::Verif_Profil() {
   const auto& origine = editeur_.origine;
-  if (!origine.Production() || !origine.Mensuel()) return true;
+  if (!origine.Genre().Production() || !origine.Genre().Mensuel()) return true;
   const bool montres = editeur_.paie.Charge();
   const data::CItem& contrat = editeur_.Dossier().ItemContrat;
   const std::string codes[] = {montres ? Txt_ProfilContrat.Text() : contrat(C::Profil),

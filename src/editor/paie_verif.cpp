@@ -59,7 +59,7 @@ bool OngletPaie::PrevoyanceObligatoire() const {
 }
 
 bool OngletPaie::RubriqueSansActivite() const {
-  if (editeur_.origine.Administratif()) return false;
+  if (editeur_.origine.Genre().Administratif()) return false;
   const std::vector<std::string>& codes = activites_.Codes();
   for (int v = 1; v <= Contrat().DCount(C::RubriqueActivite); ++v) {
     const auto activite = Contrat().Vue(C::RubriqueActivite, v);

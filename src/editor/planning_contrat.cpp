@@ -94,10 +94,10 @@ void PlanningContrat::Appliquer(const rules::ContratPlanifie& contrat,
 }
 
 PlanningContrat::Reponse PlanningContrat::Demander(const std::string& texte) {
-  const auto& origine = editeur_.origine;
+  const auto nomme = editeur_.origine.Nomme();
   dialogs::Frm_AnomaliesAjoutgraph rapport(
       editeur_.Services(), editeur_.Dossier(),
-      {texte, origine.Determine(), origine.CodeNomme() + " " + origine.LibelleNomme()});
+      {texte, editeur_.origine.Genre().Determine(), nomme.code + " " + nomme.libelle});
   rapport.ShowModal();
   return {rapport.AnomaliesAcceptees, rapport.PlanningAApplier};
 }
@@ -112,7 +112,7 @@ rules::ContratPlanifie PlanningContrat::Contrat() const {
   contrat.convention = portee.convention;
   contrat.association = portee.association;
   contrat.employeur = portee.employeur;
-  contrat.determine = editeur_.origine.Determine();
+  contrat.determine = editeur_.origine.Genre().Determine();
   contrat.debut = dates.debut;
   contrat.termine = editeur_.fin.FinAffichee().has_value();
   contrat.dernierJour = editeur_.Session().Lib.LireDate(editeur_.fin.DernierJour());

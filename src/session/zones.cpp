@@ -121,6 +121,12 @@ void montrer(const data::Lib& lib, const Zone& zone, const std::string& attribut
 
 }  // namespace
 
+std::vector<Zone> reunir(std::initializer_list<std::vector<Zone>> parties) {
+  std::vector<Zone> toutes;
+  for (const auto& partie : parties) toutes.insert(toutes.end(), partie.begin(), partie.end());
+  return toutes;
+}
+
 void Zones::Lier(Session& session) const {
   for (const Zone& zone : zones_) {
     if (zone.forme == Forme::Jour) LierDate(session, comme<screen::TextField>(zone));

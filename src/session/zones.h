@@ -87,6 +87,9 @@ inline Zone code(screen::ComboBox& champ, int attribut, const data::ListeCodes& 
   return zone;
 }
 
+// The tables of the parts of a form as one.
+std::vector<Zone> reunir(std::initializer_list<std::vector<Zone>> parties);
+
 class Zones {
  public:
   explicit Zones(std::vector<Zone> zones) : zones_(std::move(zones)), montrees_(zones_.size()) {}
