@@ -2,6 +2,8 @@
 
 #include "data/layouts/contrat.h"
 #include "data/nombre.h"
+#include "dialogs/frm_contrat_annuel.h"
+#include "editor/editeur.h"
 
 namespace editor {
 
@@ -20,9 +22,11 @@ bool leve(const std::string& drapeau) {
 
 }  // namespace
 
-Modulation::Modulation(screen::Frame& page, session::Sourdine& sourdine)
-    : Cdr_Lissage(page, "Cdr_Lissage", "Accord de modulation") {
+Modulation::Modulation(Frm_ElementsContrat& editeur, screen::Frame& page,
+                       session::Sourdine& sourdine)
+    : editeur_(editeur), Cdr_Lissage(page, "Cdr_Lissage", "Accord de modulation") {
   Cac_Lissage.Click = sourdine.SiAudible([this] { Cac_Lissage_Click(); });
+  Cmd_SuiviAnnuel.Click = [this] { Cmd_SuiviAnnuel_Click(); };
   screen::Activer({&Cac_RetraitHeuresNeg, &Cac_PaiementHeuresPos, &Cmd_SuiviAnnuel}, false);
 }
 
@@ -35,7 +39,7 @@ void Modulation::Montrer(const data::CItem& contrat, int rang) {
   Cac_RetraitHeuresNeg.SetValue(traitementSurFichier_ == Retrait ? 1 : 0);
   Cac_PaiementHeuresPos.SetValue(
       traitementSurFichier_ == Retrait || traitementSurFichier_ == Paiement ? 1 : 0);
-  Cmd_SuiviAnnuel.SetEnabled(static_cast<bool>(Cmd_SuiviAnnuel.Click));
+  Cmd_SuiviAnnuel.SetEnabled(true);
   casesMontrees_ = Cases();
 }
 
@@ -79,6 +83,13 @@ void Modulation::Cac_Lissage_Click() {
   if (lisse) return;
   Cac_RetraitHeuresNeg.SetValue(0);
   Cac_PaiementHeuresPos.SetValue(0);
+}
+
+void Modulation::Cmd_SuiviAnnuel_Click() {
+  const auto& origine = editeur_.origine;
+  dialogs::Frm_ContratAnnuel(editeur_.Services(), editeur_.Dossier(),
+                             {origine.Convention(), origine.Entite(), origine.Employeur()})
+      .ShowModal();
 }
 
 }  // namespace editor

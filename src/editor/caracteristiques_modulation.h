@@ -8,10 +8,12 @@
 
 namespace editor {
 
+class Frm_ElementsContrat;
+
 class Modulation {
  public:
   // `sourdine` is the tab's.
-  Modulation(screen::Frame& page, session::Sourdine& sourdine);
+  Modulation(Frm_ElementsContrat& editeur, screen::Frame& page, session::Sourdine& sourdine);
 
   void Montrer(const data::CItem& contrat, int rang);
   void MontrerNouveau();
@@ -20,18 +22,18 @@ class Modulation {
   void Ouvrir(bool ouverte);
   // Pay by the hour has nothing to even out.
   void Cesser() { Cac_Lissage.SetValue(0); }
-  // What the button of the annual follow-up opens.
-  void SurSuiviAnnuel(screen::Handler suite) { Cmd_SuiviAnnuel.Click = std::move(suite); }
   bool Lissee() const { return Cac_Lissage.Value() != 0; }
   void RetirerHeuresNegatives(bool retirees) { Cac_RetraitHeuresNeg.SetValue(retirees ? 1 : 0); }
   bool LissageManque() const { return Cdr_Lissage.Visible() && Cac_Lissage.Value() == 0; }
 
  private:
   void Cac_Lissage_Click();
+  void Cmd_SuiviAnnuel_Click();
   // The three boxes as one text.
   std::string Cases() const;
   std::string Traitement() const;
 
+  Frm_ElementsContrat& editeur_;
   // As the boxes stand untouched, with their attributes; nothing is on file for a new contract.
   bool surFichier_ = false;
   std::string casesMontrees_;

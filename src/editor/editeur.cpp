@@ -138,9 +138,12 @@ rules::Dates Frm_ElementsContrat::Dates() const {
 }
 
 rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
-  return {
-      dossier_->CleContratCourant,     origine.Convention(), origine.Entite(), origine.Employeur(),
-      origine.Genre().Administratif(), paie.TypeActivite()};
+  return {dossier_->CleContratCourant,
+          origine.Convention(),
+          origine.Entite(),
+          origine.Employeur(),
+          origine.Genre().Administratif(),
+          paie.Activites().Type()};
 }
 
 // Ways out.
@@ -206,7 +209,7 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
       return true;
     }
     case Reponse::Non:
-      return !paie.ModePaiementChange() || !paie.RibManquant("paiment");
+      return !paie.Paiement().ModeChange() || !paie.RibManquant("paiment");
     default:
       return false;
   }

@@ -1,18 +1,19 @@
 #pragma once
 // Second tab, "Caractéristiques": what an amendment can change. Qualification, P.C.S., grid,
-// working time, modulation; and seniority. It shows one state of the contract at a time, the one of
-// Bdh_Avenant; a state that was changed goes into the contract in hand when another one is shown.
+// working time, modulation; and seniority; each in a file of its own (caracteristiques_*.h). It
+// shows one state of the contract at a time, the one of Bdh_Avenant; a state that was changed goes
+// into the contract in hand when another one is shown.
 
-#include <map>
 #include <string>
 
 #include "editor/avenants.h"
+#include "editor/caracteristiques_anciennete.h"
+#include "editor/caracteristiques_duree.h"
 #include "editor/caracteristiques_grille.h"
 #include "editor/caracteristiques_modulation.h"
 #include "editor/caracteristiques_pcs.h"
 #include "editor/caracteristiques_qualif.h"
 #include "editor/onglet.h"
-#include "rules/heures_legales.h"
 
 namespace editor {
 
@@ -37,16 +38,15 @@ class OngletCaracteristiques : public Onglet {
   bool GrilleChoisie() const { return grille_.Choisie(); }
   // What a notice looks at: the day from which seniority counts, its whole days of suspension
   // added; nothing when none is given.
-  std::optional<long> DepartAnciennete() const;
+  std::optional<long> DepartAnciennete() const { return anciennete_.Depart(); }
   bool Lissee() const { return modulation_.Lissee(); }
   // What the reason of an end decides of the hours not worked.
   void RetirerHeuresNegatives(bool retirees) { modulation_.RetirerHeuresNegatives(retirees); }
 
   // The legal hours, wherever the working time was changed: false when the user, asked, refuses
-  // them, or when they cannot be weighed.
-  bool Verif_NbHeures();
-  // The same for the state on the screen.
-  bool HeuresPermises() { return HeuresPermises(Temps()); }
+  // them, or when they cannot be weighed; and the same for the state on the screen.
+  bool Verif_NbHeures() { return duree_.Verif_NbHeures(); }
+  bool HeuresPermises() { return duree_.HeuresPermises(); }
 
   // For the amendments: shows the state of the bar, or the last one; takes the one on the screen
   // into the contract in hand, false when it is not fit to be left; asks for an effect date.
@@ -56,8 +56,6 @@ class OngletCaracteristiques : public Onglet {
 
  private:
   static const rules::Verification<OngletCaracteristiques> Verifications[];
-  static constexpr session::FormeNombre Duree{.avant = 5, .apres = 2};
-  static constexpr session::FormeNombre Jours{.avant = 5, .apres = 2};
 
   void Afficher_Ong() override { Afficher_Ong2(); }
   bool Verif_Ong() override { return Verif_Ong2(); }
@@ -68,36 +66,15 @@ class OngletCaracteristiques : public Onglet {
   void AfficherNouveau();
   void Ecrire_Etat(data::CItem& contrat, const rules::Debut& debut) const;
   rules::Debut DebutContrat() const;
-  rules::TempsTravail Temps() const;
-  bool HeuresPermises(const rules::TempsTravail& temps);
-  // Working time and frequency as they are displayed.
-  std::string DureeFreq() const { return Txt_DureeWContrat.Text() + Cbo_FreqWContrat.Text(); }
-  void Cmd_ElemDrtPub_Click();
-  void Cmd_SuiviAnnuel_Click();
-
-  std::string DureeFreqInitiale_;
-  // The working times changed in states that are no longer shown, by their rank.
-  std::map<int, rules::TempsTravail> tempsQuittes_;
 
   Avenants avenants_{editeur_, *this, Page, sourdine_};
   Qualification qualification_{editeur_, Page, sourdine_};
   NomenclaturePCS pcs_{Session(), Page, sourdine_};
 
-  screen::Label Etq_DureeWContrat{Page, "Etq_DureeWContrat", "Durée de travail"};
-  screen::TextField Txt_DureeWContrat{Page, "Txt_DureeWContrat", Duree.Largeur()};
-  screen::Label Etq_FreqWContrat{Page, "Etq_FreqWContrat", "Fréquence"};
-  screen::ComboBox Cbo_FreqWContrat{Page, "Cbo_FreqWContrat", false};
-  Modulation modulation_{Page, sourdine_};
+  DureeTravail duree_{editeur_, avenants_, Page};
+  Modulation modulation_{editeur_, Page, sourdine_};
   GrilleCarriere grille_{editeur_, Page, sourdine_};
-
-  // Seniority.
-  screen::Frame Cdr_Anciennete{Page, "Cdr_Anciennete", "Ancienneté"};
-  screen::Label Etq_DateAnciennete{Cdr_Anciennete, "Etq_DateAnciennete", "Date de départ"};
-  screen::TextField Txt_DateAnciennete{Cdr_Anciennete, "Txt_DateAnciennete", LongueurDate};
-  screen::Label Etq_JourSuspAnc{Cdr_Anciennete, "Etq_JourSuspAnc", "Jours de suspension"};
-  screen::TextField Txt_JourSuspAnc{Cdr_Anciennete, "Txt_JourSuspAnc", Jours.Largeur()};
-  screen::Label Etq_DatReferenceAnc{Cdr_Anciennete, "Etq_DatReferenceAnc", "Date référence"};
-  screen::TextField Txt_DatReferenceAnc{Cdr_Anciennete, "Txt_DatReferenceAnc", LongueurDate};
+  Anciennete anciennete_{editeur_, Page};
 
   // Comments and declarations.
   screen::Label Etq_Commentaire{Page, "Etq_Commentaire", "Commentaires"};
@@ -110,7 +87,6 @@ class OngletCaracteristiques : public Onglet {
   screen::TextField Txt_CodePop{Page, "Txt_CodePop", 0};
   screen::Button Cmd_ElemDrtPub{Page, "Cmd_ElemDrtPub", "Eléments droit public"};
 
-  DateReference anciennete_;
   session::Zones zones_;
 };
 

@@ -109,7 +109,8 @@ void OngletFin::SelonType(bool determine) {
 bool OngletFin::Admettre() {
   const auto& origine = editeur_.origine;
   const std::string periode = Contrat()(C::DernierCalcul);
-  if (periode.empty() || !origine.Particuliers() || !editeur_.paie.ProvisionFacturee()) return true;
+  if (periode.empty() || !origine.Particuliers() || !editeur_.paie.Paiement().ProvisionFacturee())
+    return true;
   data::CItem employeur;
   Session().Db->OpenFile(data::fichier::ELTSPARTEMP).Lire(origine.Employeur(), employeur);
   if (employeur.Vue(data::EltsPartEmp::DerniereFacture) == periode) return true;

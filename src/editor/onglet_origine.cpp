@@ -24,7 +24,7 @@ OngletOrigine::OngletOrigine(Frm_ElementsContrat& editeur)
     : Onglet(editeur, Origine, "Cdr_Ong1"),
       zones_(session::reunir({genre_.Zones(),
                               duree_.Zones(),
-                              {session::code(nature_.Champ(), C::Nature, nature_.Natures())},
+                              nature_.Zones(),
                               emploiAide_.Zones(),
                               {session::ligne(Cbo_Contrepartie, C::ContrepartieInterruption)}})) {
   Txt_NumContrat.SetEnabled(false);

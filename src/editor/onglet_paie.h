@@ -1,17 +1,16 @@
 #pragma once
-// Third tab, "Elements de paie": how the contract is paid. Ceilings and transport zone stand here;
-// what else the tab holds has a file of its own each: profiles, payment, contributions, activities,
+// Third tab, "Elements de paie": how the contract is paid. Its ceilings stand here; what else the
+// tab holds has a file of its own each: profiles, payment, contributions, transport, activities,
 // and the dialogs that it opens (paie_*.h).
 
-#include <vector>
-
-#include "data/liste_codes.h"
 #include "editor/onglet.h"
 #include "editor/paie_activites.h"
 #include "editor/paie_cotisations.h"
 #include "editor/paie_dialogues.h"
+#include "editor/paie_fermeture.h"
 #include "editor/paie_paiement.h"
 #include "editor/paie_profils.h"
+#include "editor/paie_transport.h"
 
 namespace editor {
 
@@ -41,22 +40,14 @@ class OngletPaie : public Onglet {
     return activites_.ChoisirEntite(entite, particuliers);
   }
   void ViderActivites() { activites_.Oublier(); }
+  // The provident contract of that private employer, none for "".
   void PrevoyanceEmployeur(const std::string& employeur) {
     cotisations_.PrevoyanceEmployeur(employeur);
   }
-  void OublierPrevoyance() { cotisations_.OublierPrevoyance(); }
   void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
-  // The type of the contract's first activity: "M" for a private employer's, "P" for the entity's.
-  // Before the tab was shown, the contract in hand answers.
-  std::string TypeActivite() const;
-  // The activities of the entity, with their types, and the labels of the contract's own.
-  const data::ListeCodes& ActivitesOffertes() const { return activites_.Offertes(); }
-  std::vector<std::string> Activites() const;
-  // The private employer is billed for leave that is provisioned.
-  bool ProvisionFacturee() const { return paiement_.ProvisionFacturee(); }
-  // The contract is paid otherwise than on file.
-  bool ModePaiementChange() const { return paiement_.ModeChange(); }
+  const PaieActivites& Activites() const { return activites_; }
+  const PaiePaiement& Paiement() const { return paiement_; }
   // A transfer needs bank details: refused here, when the carer has none. `modePaiement`: the word
   // "paiement" as that place spells it.
   bool RibManquant(const char* modePaiement) { return paiement_.RibManquant(modePaiement); }
@@ -65,7 +56,6 @@ class OngletPaie : public Onglet {
   // Ceilings, in euros a month.
   static constexpr session::FormeNombre Plafond{
       .avant = 5, .apres = 2, .affichage = session::FormeNombre::Milliers};
-  static constexpr session::FormeNombre Montant{.avant = 5, .apres = 2};
 
   static const rules::Verification<OngletPaie> Verifications[];
 
@@ -76,36 +66,25 @@ class OngletPaie : public Onglet {
   void Vider_Ong() override;
   void SelonDroits(bool complet) override { activites_.SelonDroits(complet); }
 
-  void Lier();
   void AfficherNouveau();
   void AfficherExistant();
-  void Cbo_CartOrangContrat_LostFocus();
-  void GriserSaufActivite(bool actif);
-  bool PrevoyanceObligatoire() const;
-  // An activity of the entry headings is not among the contract's.
-  bool RubriqueSansActivite() const;
 
   PaieProfils profils_{editeur_, Page, sourdine_};
   PaiePaiement paiement_{editeur_, Page, sourdine_};
   PaieCotisations cotisations_{editeur_, Page, sourdine_};
   screen::Label Etq_IdentCRCContrat{Page, "Etq_IdentCRCContrat", "Identification CRC"};
   screen::TextField Txt_IdentCRCContrat{Page, "Txt_IdentCRCContrat", LongueurTexte};
-  screen::Label Etq_CartOrangContrat{Page, "Etq_CartOrangContrat", "Zone carte orange"};
-  screen::ComboBox Cbo_CartOrangContrat{Page, "Cbo_CartOrangContrat", true, LongueurLibelle};
+  PaieTransport transport_{editeur_, Page};
   screen::Label Etq_PlafSecu{Page, "Etq_PlafSecu", "Plaf. sécu. mensuel individualisé"};
   screen::TextField Txt_PlafSecu{Page, "Txt_PlafSecu", 10};
   screen::Label Etq_AssietteSecu{Page, "Etq_AssietteSecu", "Assiette sécurité sociale"};
   screen::TextField Txt_AssietteSecu{Page, "Txt_AssietteSecu", 10};
+  PaieFermeture fermeture_{editeur_};
   PaieActivites activites_{editeur_, Page, sourdine_,
-                           [this](bool actif) { GriserSaufActivite(actif); }};
+                           [this](bool actif) { fermeture_.GriserSaufActivite(actif); }};
   PaieDialogues dialogues_{editeur_, Page, activites_, cotisations_};
 
-  // TABLES item.
-  data::ListeCodes zonesTransport_;
   session::Zones zones_;
-  // A split is being entered; what was closed already when it began.
-  bool grise_ = false;
-  std::vector<const screen::Field*> fermes_;
 };
 
 }  // namespace editor

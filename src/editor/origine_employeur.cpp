@@ -91,7 +91,7 @@ void EmployeurOrigine::Reprendre() {
 void EmployeurOrigine::Quitter() {
   employeur_.Montrer("");
   Cmd_DetailEmpl.SetEnabled(false);
-  if (codes_.Particuliers()) editeur_.paie.OublierPrevoyance();
+  if (codes_.Particuliers()) editeur_.paie.PrevoyanceEmployeur("");
   editeur_.origine.RafraichirEmployeur();
 }
 

@@ -24,6 +24,10 @@ NatureOrigine::NatureOrigine(Frm_ElementsContrat& editeur, screen::Frame& page)
   Cmd_Stage.Click = [this] { Cmd_Stage_Click(); };
 }
 
+std::vector<session::Zone> NatureOrigine::Zones() {
+  return {session::code(Cbo_NatureContrat, C::Nature, natures_)};
+}
+
 void NatureOrigine::Preparer() {
   stageAvant_ = data::CItem();
   Cbo_NatureContrat.Clear();

@@ -2,9 +2,10 @@
 // The nature of the contract on the first tab, and the traineeship that one of them needs: offered
 // are the natures that can still be chosen, and the one that the contract on file has already.
 
-#include "data/citem.h"
-#include "data/liste_codes.h"
-#include "screen/field.h"
+#include <string>
+#include <vector>
+
+#include "session/zones.h"
 
 namespace editor {
 
@@ -18,9 +19,8 @@ class NatureOrigine {
   void Preparer();
   // Clears what belongs to one contract.
   void Vider() { Cmd_Stage.SetVisible(false); }
-  screen::ComboBox& Champ() { return Cbo_NatureContrat; }
+  std::vector<session::Zone> Zones();
   const std::string& Libelle() const { return Cbo_NatureContrat.Text(); }
-  const data::ListeCodes& Natures() const { return natures_; }
 
   // The nature needs a traineeship agreement.
   bool StageRequis() const;

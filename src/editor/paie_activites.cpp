@@ -1,9 +1,7 @@
 #include "editor/paie_activites.h"
 
-#include "data/layouts/fichiers.h"
-#include "data/layouts/voisins.h"
-#include "data/nombre.h"
-#include "data/requete.h"
+#include <algorithm>
+
 #include "editor/editeur.h"
 
 namespace editor {
@@ -11,23 +9,14 @@ namespace editor {
 namespace {
 
 namespace C = data::Contrat;
-using data::citer, data::citerDebut;
 
 constexpr const char* PartEntiere = "100";
-// The type of the activities of private employers.
-constexpr const char* Mandat = "M";
-
 constexpr const char* SansMandat =
     "L'entité juridique que vous avez sélectionnée n'a pas d'activité mandataire, veuillez en "
     "sélectionner une autre.";
 constexpr const char* QueDesMandats =
     "L'entité juridique que vous avez sélectionnée ne possède que des activités mandataires, "
     "veuillez en sélectionner une autre.";
-
-// Mark of a row of ListeActivites.
-std::string type(const data::ListeCodes::Ligne& activite) {
-  return activite.suite.empty() ? std::string() : activite.suite.front();
-}
 
 }  // namespace
 
@@ -36,6 +25,7 @@ PaieActivites::PaieActivites(Frm_ElementsContrat& editeur, screen::Frame& page,
     : editeur_(editeur),
       sourdine_(sourdine),
       champs_(page),
+      offre_(editeur, champs_.Cbo_Activite),
       lignes_(editeur.Session().Lib, champs_.Lst_ActiviteContrat, champs_.Lst_RepartActContrat,
               champs_.VS_Bdv),
       saisie_(champs_, lignes_, editeur.Session(), sourdine, std::move(griser)) {
@@ -53,41 +43,22 @@ bool PaieActivites::Creation() const {
 
 // What is offered.
 
-// What the entity offers: all to administrative staff, to production staff what is of the
-// contract's kind.
-data::CItem PaieActivites::Gestion_Activite(const std::string& entite, bool particuliers) const {
-  using namespace data;
-  Requete requete(fichier::ACTIVITES);
-  requete.Avec(Cle, "=", citerDebut(entite));
-  if (!editeur_.origine.Genre().Administratif()) {
-    requete.Avec(Activites::Genre, particuliers ? "=" : "<>", citer(Mandat));
-  }
-  return requete.Par(Activites::Libelle)
-      .Lire(*editeur_.Session().Db, {Cle, Activites::Libelle, Activites::Genre});
-}
-
-void PaieActivites::Offrir(data::ListeCodes activites) {
-  ListeActivites_ = std::move(activites);
-  champs_.Cbo_Activite.Clear();
-  for (const auto& ligne : ListeActivites_.Lignes()) champs_.Cbo_Activite.AddItem(ligne.libelle);
-}
-
 bool PaieActivites::ChoisirEntite(const std::string& entite, bool particuliers) {
   const session::Sourdine::Silence silence(sourdine_);
-  data::ListeCodes offertes = data::ListeCodes::DeSelection(Gestion_Activite(entite, particuliers));
+  data::ListeCodes offertes = offre_.Gestion_Activite(entite, particuliers);
   if (Creation() && offertes.Vide()) {
     editeur_.MessageBox(particuliers ? SansMandat : QueDesMandats, screen::Boutons::Ok,
                         screen::Icone::Exclamation);
     return false;
   }
-  Offrir(std::move(offertes));
-  if (ListeActivites_.Nombre() == 1) Prendre(ListeActivites_.A(0));
+  offre_.Offrir(std::move(offertes));
+  PrendreLaSeule();
   return true;
 }
 
 void PaieActivites::Oublier() {
   const session::Sourdine::Silence silence(sourdine_);
-  Offrir({});
+  offre_.Offrir({});
   saisie_.Oublier();
   lignes_.Vider();
   lues_.clear();
@@ -95,7 +66,9 @@ void PaieActivites::Oublier() {
 }
 
 // An activity that comes by itself, with the whole of the time where it is split.
-void PaieActivites::Prendre(const data::ListeCodes::Ligne& activite) {
+void PaieActivites::PrendreLaSeule() {
+  if (offre_.ListeActivites().Nombre() != 1) return;
+  const data::ListeCodes::Ligne activite = offre_.ListeActivites().A(0);
   if (lignes_.Contient(activite.code)) return;
   const bool seule = champs_.Lst_RepartActContrat.Visible() && lignes_.Nombre() == 0;
   lignes_.Ajouter(activite.code, activite.libelle, seule ? PartEntiere : "");
@@ -104,7 +77,7 @@ void PaieActivites::Prendre(const data::ListeCodes::Ligne& activite) {
 void PaieActivites::RetirerAutres() {
   for (int i = lignes_.Nombre() - 1; i >= 0; --i) {
     const std::string code = lignes_.Codes()[static_cast<std::size_t>(i)];
-    if (ListeActivites_.ParCode(code) == nullptr) lignes_.Retirer(i);
+    if (offre_.ListeActivites().ParCode(code) == nullptr) lignes_.Retirer(i);
   }
   saisie_.Maj_Total();
 }
@@ -113,7 +86,7 @@ void PaieActivites::ChangerStatut() {
   const session::Sourdine::Silence silence(sourdine_);
   const auto& origine = editeur_.origine;
   if (origine.Entite().empty()) return;
-  Offrir(data::ListeCodes::DeSelection(Gestion_Activite(origine.Entite(), origine.Particuliers())));
+  offre_.Offrir(offre_.Gestion_Activite(origine.Entite(), origine.Particuliers()));
   RetirerAutres();
 }
 
@@ -122,7 +95,7 @@ void PaieActivites::ChangerStatut() {
 void PaieActivites::Afficher() {
   const auto& origine = editeur_.origine;
   Oublier();
-  Offrir(data::ListeCodes::DeSelection(Gestion_Activite(origine.Entite(), origine.Particuliers())));
+  offre_.Offrir(offre_.Gestion_Activite(origine.Entite(), origine.Particuliers()));
   saisie_.SetDebut(origine.DateDebut());
   Remplir_TabActivite();
   SelonStatut(origine.Genre().Administratif(), origine.Particuliers());
@@ -133,14 +106,7 @@ void PaieActivites::Remplir_TabActivite() {
   saisie_.Lire(editeur_.Dossier().Initial);
   for (const auto& part : saisie_.TabActivite().EnVigueur()) {
     if (part.activite.empty()) continue;
-    data::CItem activite;
-    std::string libelle = ListeActivites_.Libelle(part.activite);
-    if (libelle.empty() && editeur_.Session().F_ACTIVITES.Lire(part.activite, activite)) {
-      libelle = activite(data::Activites::Libelle);
-    }
-    // An activity that its file has lost shows its code.
-    lignes_.Ajouter(part.activite, libelle.empty() ? part.activite : libelle,
-                    lignes_.PartAffichee(part.part));
+    lignes_.Ajouter(part.activite, offre_.Libelle(part.activite), lignes_.PartAffichee(part.part));
   }
   lues_ = lignes_.Codes();
   saisie_.Maj_Total();
@@ -149,34 +115,14 @@ void PaieActivites::Remplir_TabActivite() {
 void PaieActivites::AfficherNouveau() {
   const auto& origine = editeur_.origine;
   if (origine.Particuliers() && !origine.Employeur().empty() && origine.Debut()) {
-    OffrirCellesDeLEmployeur();
+    data::ListeCodes siennes = offre_.DeLEmployeur();
+    if (!siennes.Vide()) {
+      offre_.Offrir(std::move(siennes));
+      RetirerAutres();
+      PrendreLaSeule();
+    }
   }
   SuivreDebut();
-}
-
-// A private employer's own activities that are open on the start of the contract.
-void PaieActivites::OffrirCellesDeLEmployeur() {
-  const auto& origine = editeur_.origine;
-  session::Session& s = editeur_.Session();
-  data::CItem ouvertes;
-  if (!s.F_ACTIVITESAIDE.Lire(origine.Employeur(), ouvertes)) return;
-  const long debut = origine.Debut().value_or(0);
-  std::vector<data::ListeCodes::Ligne> lignes;
-  for (int v = 1; v <= ouvertes.DCount(data::ActivitesAide::Codes); ++v) {
-    const std::string code = ouvertes(data::ActivitesAide::Codes, v);
-    data::CItem activite;
-    if (!s.F_ACTIVITES.Lire(code, activite)) break;
-    const auto du = ouvertes.Vue(data::ActivitesAide::Debuts, v);
-    const auto au = ouvertes.Vue(data::ActivitesAide::Fins, v);
-    const bool ouverte =
-        !du.empty() && data::entier(du) <= debut && (au.empty() || debut <= data::entier(au));
-    if (activite.Vue(data::Activites::Genre) != Mandat || !ouverte) continue;
-    lignes.push_back({code, activite(data::Activites::Libelle), {Mandat}});
-  }
-  if (lignes.empty()) return;
-  Offrir(data::ListeCodes(std::move(lignes)));
-  RetirerAutres();
-  if (ListeActivites_.Nombre() == 1) Prendre(ListeActivites_.A(0));
 }
 
 void PaieActivites::SuivreDebut() {
@@ -207,7 +153,7 @@ void PaieActivites::Activer() {
                          static_cast<screen::Field*>(&champs_.Cmd_AjoutePeriodeEffet)};
   screen::Montrer(periodes, administratif && entite);
   screen::Activer(periodes, actif);
-  const bool choix = entite || ListeActivites_.Nombre() != 1 || Manquent();
+  const bool choix = entite || offre_.ListeActivites().Nombre() != 1 || Manquent();
   screen::Montrer({&champs_.Cbo_Activite, &champs_.Etq_ListeActivite, &champs_.Cdr_AffectActiv},
                   choix);
   screen::Activer({&champs_.Cbo_Activite, &champs_.Etq_ListeActivite, &champs_.Cdr_AffectActiv},
@@ -237,9 +183,9 @@ void PaieActivites::MontrerParts() {
 void PaieActivites::Cbo_Activite_Click() {
   const int rang = champs_.Cbo_Activite.ListIndex();
   if (rang < 0) return;
-  const data::ListeCodes::Ligne activite = ListeActivites_.A(rang);
+  const data::ListeCodes::Ligne activite = offre_.ListeActivites().A(rang);
   const bool administratif = champs_.Txt_RepartActContrat.Visible();
-  const bool autreType = !administratif && !Manquent() && Type() != type(activite);
+  const bool autreType = !administratif && !Manquent() && Type() != offre_.Type(activite.code);
   if (lignes_.Contient(activite.code) || autreType) {
     champs_.Cbo_Activite.SetListIndex(-1);
   } else if (administratif) {
@@ -270,6 +216,19 @@ bool PaieActivites::TotalFaux() {
   return editeur_.origine.Genre().Administratif() && lignes_.Total() != rules::Repartition::Tout;
 }
 
+bool PaieActivites::RubriqueSansActivite() const {
+  if (editeur_.origine.Genre().Administratif()) return false;
+  const data::CItem& contrat = editeur_.Dossier().ItemContrat;
+  const std::vector<std::string>& codes = Codes();
+  for (int v = 1; v <= contrat.DCount(C::RubriqueActivite); ++v) {
+    const auto activite = contrat.Vue(C::RubriqueActivite, v);
+    if (!activite.empty() && std::find(codes.begin(), codes.end(), activite) == codes.end()) {
+      return true;
+    }
+  }
+  return false;
+}
+
 std::vector<data::ListeCodes::Ligne> PaieActivites::Activites() const {
   std::vector<data::ListeCodes::Ligne> activites;
   activites.reserve(Codes().size());
@@ -280,14 +239,8 @@ std::vector<data::ListeCodes::Ligne> PaieActivites::Activites() const {
 }
 
 std::string PaieActivites::Type() const {
-  return lignes_.Codes().empty() ? "" : TypeDe(lignes_.Codes().front());
-}
-
-std::string PaieActivites::TypeDe(const std::string& code) const {
-  if (const auto* const offerte = ListeActivites_.ParCode(code)) return type(*offerte);
-  data::CItem activite;
-  editeur_.Session().F_ACTIVITES.Lire(code, activite);
-  return activite(data::Activites::Genre);
+  if (!editeur_.paie.Charge()) return offre_.Type(editeur_.Dossier().ItemContrat(C::Activites, 1));
+  return Codes().empty() ? "" : offre_.Type(Codes().front());
 }
 
 // Splits that nobody has changed stay as they are on file, and so does a list of activities.

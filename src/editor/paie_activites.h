@@ -5,6 +5,7 @@
 // choose only where he has several.
 
 #include "data/liste_codes.h"
+#include "editor/paie_offre.h"
 #include "editor/paie_repartition.h"
 
 namespace editor {
@@ -40,36 +41,33 @@ class PaieActivites {
   bool Manquent() const { return lignes_.Nombre() == 0; }
   bool PeriodeManque();
   bool TotalFaux();
+  // An activity of the entry headings is not among the contract's.
+  bool RubriqueSansActivite() const;
   // What the entity offers; the mark is the type.
-  const data::ListeCodes& Offertes() const { return ListeActivites_; }
+  const data::ListeCodes& Offertes() const { return offre_.ListeActivites(); }
   // The activities that the contract will have.
   const std::vector<std::string>& Codes() const { return lignes_.Codes(); }
   // The same with their labels.
   std::vector<data::ListeCodes::Ligne> Activites() const;
-  // The type of the first one, "M" for a private employer's; "" without any.
+  // The type of the first one, "M" for a private employer's, "P" for the entity's; "" without any.
+  // Before the tab was shown, the contract in hand answers.
   std::string Type() const;
 
  private:
-  data::CItem Gestion_Activite(const std::string& entite, bool particuliers) const;
-  void Offrir(data::ListeCodes activites);
-  void Prendre(const data::ListeCodes::Ligne& activite);
+  void PrendreLaSeule();
   void RetirerAutres();
   void Remplir_TabActivite();
-  void OffrirCellesDeLEmployeur();
   void Cbo_Activite_Click();
   void Lst_ActiviteContrat_DblClick(int ligne);
   void SuivreDebut();
-  // The type of an activity, "" for one that its file does not have.
-  std::string TypeDe(const std::string& code) const;
   bool Creation() const;
 
   Frm_ElementsContrat& editeur_;
   session::Sourdine& sourdine_;
   ChampsActivites champs_;
+  OffreActivites offre_;
   LignesActivites lignes_;
   SaisieRepartition saisie_;
-  // The activities that Cbo_Activite offers; the mark is their type.
-  data::ListeCodes ListeActivites_;
   // The lines as they came from the contract on file.
   std::vector<std::string> lues_;
 };

@@ -16,14 +16,15 @@ using data::citer;
 constexpr const char* ChargeInconnue =
     "La rubrique de charge n'existe pas ou ne répond pas aux critères, veuillez la ressaisir.";
 constexpr const char* PrevoyanceInconnue = "Ce régime de prévoyance n'existe pas.";
-constexpr std::string_view Montant = "Montant";
+constexpr std::string_view EnMontant = "Montant";
 constexpr std::string_view MarqueInactive = "1";
 
 // A mutual insurance is charged as a fixed amount, to one side or the other.
 bool estChargeDeMutuelle(const data::CItem& rubrique) {
   using namespace data::RubCharge;
   return rubrique.Vue(Famille) == FamilleMutuelle && rubrique.Vue(Inactive) != MarqueInactive &&
-         (rubrique.Vue(BasePatronale, 1) == Montant || rubrique.Vue(BaseSalariale, 1) == Montant);
+         (rubrique.Vue(BasePatronale, 1) == EnMontant ||
+          rubrique.Vue(BaseSalariale, 1) == EnMontant);
 }
 
 }  // namespace
@@ -36,6 +37,13 @@ PaieCotisations::PaieCotisations(Frm_ElementsContrat& editeur, screen::Frame& pa
 
 session::Session& PaieCotisations::Session() const {
   return editeur_.Session();
+}
+
+std::vector<session::Zone> PaieCotisations::Zones() {
+  return {session::texte(Txt_PrevContrat, C::ContratPrevoyance),
+          session::nombre(Txt_MutSalContrat, C::MutuelleSalariale, Montant, 2),
+          session::nombre(Txt_MutPatContrat, C::MutuellePatronale, Montant, 2),
+          session::texte(Txt_ChargMutContrat, C::ChargeMutuelle)};
 }
 
 void PaieCotisations::Afficher() {
@@ -91,6 +99,16 @@ void PaieCotisations::Cbo_ChargMutContrat_DropDown() {
   charge_.Montrer(libelle);
 }
 
+void PaieCotisations::CompleterParts() {
+  const session::Dossier& dossier = editeur_.Dossier();
+  const auto completer = [&](screen::TextField& part, int attribut) {
+    const bool surFichier = !dossier.Initial.Vue(attribut).empty();
+    if (part.Text().empty() && (dossier.ModeCreation || surFichier)) part.SetText("0");
+  };
+  completer(Txt_MutSalContrat, C::MutuelleSalariale);
+  completer(Txt_MutPatContrat, C::MutuellePatronale);
+}
+
 bool PaieCotisations::ChargeManque() const {
   const auto patronale = data::enUnites(Txt_MutPatContrat.Text(), 2);
   return patronale.value_or(0) != 0 && Txt_ChargMutContrat.Text().empty();
@@ -120,10 +138,6 @@ std::optional<std::string> PaieCotisations::LibellePrevoyance(const std::string&
 void PaieCotisations::SelonConvention(bool particuliers) {
   screen::Activer({&Cdr_RegimePrev, &Etq_PrevContrat, &Txt_PrevContrat, &Cbo_LibPrevContrat},
                   !particuliers);
-}
-
-void PaieCotisations::Griser(bool actif) {
-  screen::Activer({&Cdr_Mutuelle, &Cdr_RegimePrev}, actif);
 }
 
 void PaieCotisations::OublierPrevoyance() {
@@ -174,6 +188,7 @@ void PaieCotisations::AfficherPrevoyance() {
 
 void PaieCotisations::PrevoyanceEmployeur(const std::string& employeur) {
   const session::Sourdine::Silence silence(sourdine_);
+  OublierPrevoyance();
   const session::Dossier& dossier = editeur_.Dossier();
   data::CItem elements;
   Session().Db->OpenFile(data::fichier::ELTSPARTEMP).Lire(employeur, elements);
@@ -189,6 +204,13 @@ void PaieCotisations::PrevoyanceEmployeur(const std::string& employeur) {
   prevoyance_.Remplir(data::ListeCodes(std::vector<data::ListeCodes::Ligne>{{code, libelle}}));
   prevoyance_.Afficher(code, libelle);
   PrevContratPrecedent_ = code;
+}
+
+bool PaieCotisations::PrevoyanceManque() const {
+  data::CItem convention;
+  Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
+  return convention.Vue(data::ConventionCol::PrevoyanceObligatoire) == "1" &&
+         Cbo_LibPrevContrat.Text().empty();
 }
 
 std::string PaieCotisations::ContratPrevoyance() const {

@@ -9,6 +9,7 @@
 
 #include "session/paire_code.h"
 #include "session/session.h"
+#include "session/zones.h"
 
 namespace editor {
 
@@ -18,32 +19,32 @@ class PaieCotisations {
  public:
   PaieCotisations(Frm_ElementsContrat& editeur, screen::Frame& page, session::Sourdine& sourdine);
 
+  std::vector<session::Zone> Zones();
   void Afficher();
   // The provident contracts of the agreement are offered; the only one is taken.
   void Proposer(const std::string& convention);
-  // The provident contract of a private employer, unless it has run out.
+  // The provident contract of a private employer, unless it has run out; none for "".
   void PrevoyanceEmployeur(const std::string& employeur);
   void OublierPrevoyance();
   // The employer had no provident scheme yet when the contract starts.
   void QuitterPrevoyance() { Txt_PrevContrat.SetText(""); }
   // Private employers each have a provident contract of their own: there is nothing to choose.
   void SelonConvention(bool particuliers);
-  void Griser(bool actif);
 
   // The provident contract that the contract takes.
   std::string ContratPrevoyance() const;
+  const std::string& PrevoyanceMontree() const { return Txt_PrevContrat.Text(); }
+  // A mutual insurance part that is left empty is none; one that is empty on file stays so.
+  void CompleterParts();
   bool ChargeManque() const;
-  bool PrevoyanceManque() const { return Cbo_LibPrevContrat.Text().empty(); }
+  // No provident contract is shown where the agreement asks for one.
+  bool PrevoyanceManque() const;
 
-  screen::TextField& PartSalariale() { return Txt_MutSalContrat; }
-  screen::TextField& PartPatronale() { return Txt_MutPatContrat; }
-  screen::TextField& Charge() { return Txt_ChargMutContrat; }
-  screen::TextField& Prevoyance() { return Txt_PrevContrat; }
-  screen::Frame& CadreMutuelle() { return Cdr_Mutuelle; }
-  screen::Frame& CadrePrevoyance() { return Cdr_RegimePrev; }
   void Vider();
 
  private:
+  // In euros.
+  static constexpr session::FormeNombre Montant{.avant = 5, .apres = 2};
   static constexpr int LongueurCharge = 3;
   static constexpr int LongueurPrevoyance = 2;
   static constexpr int LongueurLibelle = 60;

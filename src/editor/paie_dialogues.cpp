@@ -27,7 +27,7 @@ constexpr Prealable Prealables[] = {
 }  // namespace
 
 PaieDialogues::PaieDialogues(Frm_ElementsContrat& editeur, screen::Frame& page,
-                             const PaieActivites& activites, PaieCotisations& cotisations)
+                             const PaieActivites& activites, const PaieCotisations& cotisations)
     : editeur_(editeur), page_(page), activites_(activites), cotisations_(cotisations) {
   Cmd_RubSaisie.Click = [this] { Cmd_RubSaisie_Click(); };
   Cmd_Comment.Click = [this] {
@@ -35,7 +35,7 @@ PaieDialogues::PaieDialogues(Frm_ElementsContrat& editeur, screen::Frame& page,
   };
   Cmd_Telegestion.Click = [this] { Cmd_Telegestion_Click(); };
   Cmd_TpsIndem.Click = [this] {
-    dialogs::Frm_TpsIndem(editeur_.Services(), editeur_.Dossier(), cotisations_.Prevoyance().Text())
+    dialogs::Frm_TpsIndem(editeur_.Services(), editeur_.Dossier(), cotisations_.PrevoyanceMontree())
         .Ouvrir(editeur_);
   };
 }

@@ -10,7 +10,7 @@ namespace editor {
 class PaieDialogues {
  public:
   PaieDialogues(Frm_ElementsContrat& editeur, screen::Frame& page, const PaieActivites& activites,
-                PaieCotisations& cotisations);
+                const PaieCotisations& cotisations);
 
   // Remote time-tracking is in use in the entity of the contract.
   void SelonTelegestion(bool utilisee);
@@ -22,7 +22,7 @@ class PaieDialogues {
   Frm_ElementsContrat& editeur_;
   screen::Frame& page_;
   const PaieActivites& activites_;
-  PaieCotisations& cotisations_;
+  const PaieCotisations& cotisations_;
 
   screen::Button Cmd_RubSaisie{page_, "Cmd_RubSaisie", "Rubriques de saisie"};
   screen::Button Cmd_Comment{page_, "Cmd_Comment", "Commentaires sur bulletin"};

@@ -40,6 +40,13 @@ session::Session& PaiePaiement::Session() const {
   return editeur_.Session();
 }
 
+std::vector<session::Zone> PaiePaiement::Zones() {
+  return {session::ligne(Cbo_ModPaieContrat, C::ModePaiement),
+          session::drapeau(Cac_PaieSalContrat, C::PaiementParEntite),
+          session::drapeau(Cac_CPMoisContrat, C::CongesAuMois),
+          session::drapeau(Cac_ProvCP, C::ProvisionConges)};
+}
+
 void PaiePaiement::Oublier() {
   for (auto* const boite : {&Cac_PaieSalContrat, &Cac_CPMoisContrat, &Cac_ProvCP}) {
     boite->SetValue(0);

@@ -7,6 +7,7 @@
 #include "screen/field.h"
 #include "session/session.h"
 #include "session/sourdine.h"
+#include "session/zones.h"
 
 namespace editor {
 
@@ -16,6 +17,7 @@ class PaiePaiement {
  public:
   PaiePaiement(Frm_ElementsContrat& editeur, screen::Frame& page, session::Sourdine& sourdine);
 
+  std::vector<session::Zone> Zones();
   // The boxes of a new contract, before an agreement is known.
   void Oublier();
   // The mode that a new contract begins with; what is chosen by hand stays.
@@ -33,11 +35,6 @@ class PaiePaiement {
   // A transfer for a carer without bank details is refused. `modePaiement`: the word "paiement" as
   // that place spells it.
   bool RibManquant(const char* modePaiement);
-
-  screen::ComboBox& Mode() { return Cbo_ModPaieContrat; }
-  screen::CheckBox& ParEntite() { return Cac_PaieSalContrat; }
-  screen::CheckBox& CongesAuMois() { return Cac_CPMoisContrat; }
-  screen::CheckBox& Provision() { return Cac_ProvCP; }
 
  private:
   static constexpr int LongueurMode = 30;

@@ -90,6 +90,11 @@ void PaieProfils::ActiverSecond() {
 
 // Lists.
 
+std::vector<session::Zone> PaieProfils::Zones() {
+  return {session::texte(Txt_ProfilContrat, C::Profil),
+          session::texte(Txt_ProfilContrat2, C::Profil2)};
+}
+
 void PaieProfils::ProfilContrat() {
   using namespace data;
   const session::Sourdine::Silence silence(sourdine_);

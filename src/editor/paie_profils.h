@@ -8,6 +8,7 @@
 
 #include "session/paire_code.h"
 #include "session/session.h"
+#include "session/zones.h"
 
 namespace editor {
 
@@ -17,6 +18,7 @@ class PaieProfils {
  public:
   PaieProfils(Frm_ElementsContrat& editeur, screen::Frame& page, session::Sourdine& sourdine);
 
+  std::vector<session::Zone> Zones();
   // Refills both lists for the agreement; what stands in the boxes stays.
   void ProfilContrat();
   // The profiles of the contract on file.
@@ -30,11 +32,6 @@ class PaieProfils {
   // The profile rule for the boxes, or for the profiles on file: monthly paid production staff have
   // no profile with a home help heading. False after a message.
   bool Verif_Profil();
-
-  screen::TextField& Premier() { return Txt_ProfilContrat; }
-  screen::TextField& Second() { return Txt_ProfilContrat2; }
-  screen::ComboBox& LibPremier() { return Cbo_LibProfilContrat; }
-  screen::ComboBox& LibSecond() { return Cbo_LibProfilContrat2; }
 
  private:
   static constexpr int LongueurProfil = 3;

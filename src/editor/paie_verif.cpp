@@ -1,15 +1,11 @@
 // The checks of the third tab, in their order.
 
-#include <algorithm>
-
-#include "data/layouts/voisins.h"
 #include "editor/editeur.h"
 
 namespace editor {
 
 namespace {
 
-namespace C = data::Contrat;
 using screen::Icone;
 
 constexpr const char* RubriquesSansActivite =
@@ -28,7 +24,7 @@ const rules::Verification<OngletPaie> OngletPaie::Verifications[] = {
      Icone::Exclamation, "Cbo_ModPaieContrat"},
     {[](OngletPaie& o) { return o.activites_.Manquent(); },
      "Au moins une activité est obligatoire.", Icone::Exclamation, "Cbo_Activite"},
-    {[](OngletPaie& o) { return o.PrevoyanceObligatoire() && o.cotisations_.PrevoyanceManque(); },
+    {[](OngletPaie& o) { return o.cotisations_.PrevoyanceManque(); },
      "Le choix d'un contrat de prévoyance dans la liste est obligatoire."},
     {[](OngletPaie& o) { return o.activites_.PeriodeManque(); },
      "La période d'effet des activités est obligatoire.", Icone::Exclamation,
@@ -45,29 +41,11 @@ bool OngletPaie::Verif_Ong3() {
       !profils_.Verif_Profil()) {
     return false;
   }
-  if (RubriqueSansActivite()) {
+  if (activites_.RubriqueSansActivite()) {
     Refuser({RubriquesSansActivite});
     return false;
   }
   return !RibManquant("paiement");
-}
-
-bool OngletPaie::PrevoyanceObligatoire() const {
-  data::CItem convention;
-  Session().F_CONVENTIONCOL.Lire(editeur_.origine.Convention(), convention);
-  return convention.Vue(data::ConventionCol::PrevoyanceObligatoire) == "1";
-}
-
-bool OngletPaie::RubriqueSansActivite() const {
-  if (editeur_.origine.Genre().Administratif()) return false;
-  const std::vector<std::string>& codes = activites_.Codes();
-  for (int v = 1; v <= Contrat().DCount(C::RubriqueActivite); ++v) {
-    const auto activite = Contrat().Vue(C::RubriqueActivite, v);
-    if (!activite.empty() && std::find(codes.begin(), codes.end(), activite) == codes.end()) {
-      return true;
-    }
-  }
-  return false;
 }
 
 }  // namespace editor

@@ -118,9 +118,10 @@ rules::ContratPlanifie PlanningContrat::Contrat() const {
   contrat.dernierJour = editeur_.Session().Lib.LireDate(editeur_.fin.DernierJour());
   contrat.derniereFinAvant = voisins.derniereFinAvant;
   contrat.prochainDebutApres = voisins.prochainDebutApres;
-  contrat.typeActivite = editeur_.paie.TypeActivite();
-  contrat.activitesOffertes = editeur_.paie.ActivitesOffertes();
-  contrat.activites = editeur_.paie.Activites();
+  const PaieActivites& activites = editeur_.paie.Activites();
+  contrat.typeActivite = activites.Type();
+  contrat.activitesOffertes = activites.Offertes();
+  for (const auto& activite : activites.Activites()) contrat.activites.push_back(activite.libelle);
   return contrat;
 }
 

@@ -52,7 +52,7 @@ TEST_F(Activites, UneListeDeProductionEstDUnSeulType) {
   double_(0);
   choisir(cbo("Activite"), 3);
   EXPECT_EQ(lignes(lst("ActiviteContrat")), "Mandat");
-  EXPECT_EQ(editeur->paie.TypeActivite(), "X");
+  EXPECT_EQ(editeur->paie.Activites().Type(), "X");
 }
 
 TEST_F(Activites, UneRepartitionSeSaisitLigneApresLigne) {
