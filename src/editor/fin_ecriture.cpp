@@ -1,7 +1,6 @@
 // The end of a contract from the screen to the contract in hand, and what of it others ask for.
 
 #include "data/nombre.h"
-#include "data/texte.h"
 #include "editor/editeur.h"
 
 namespace editor {
@@ -34,62 +33,30 @@ constexpr int GroupeFin[] = {C::DateFin,
 
 // What others ask.
 
-std::string OngletFin::DernierJour() const {
-  return data::sansBlancs(Txt_DernJrWContrat.Text());
-}
-
-bool OngletFin::Intact() const {
-  if (Txt_DatNotifContrat.Text().empty()) return notificationInitiale_.empty();
-  return Empreinte() == empreinteInitiale_;
-}
-
 std::optional<long> OngletFin::DateFin() const {
-  if (!Intact()) {
-    return Txt_DatNotifContrat.Text().empty() ? std::nullopt : Fin();
+  if (!initiale_.Intact(Txt_DatNotifContrat.Text())) {
+    return Txt_DatNotifContrat.Text().empty() ? std::nullopt : FinAffichee();
   }
-  const auto fin = montre_.Vue(C::DateFin);
+  const auto fin = initiale_.Contrat().Vue(C::DateFin);
   if (fin.empty()) return std::nullopt;
   return static_cast<long>(data::entier(fin));
-}
-
-std::string OngletFin::Empreinte() const {
-  std::string texte;
-  for (const screen::Field* const champ : editeur_.Fields()) {
-    const screen::Frame* const cadre = champ->Cadre();
-    if (cadre == nullptr || (cadre != &Page && cadre->Cadre() != &Page)) continue;
-    if (champ->Genre() == screen::Kind::Texte) {
-      texte += static_cast<const screen::TextField*>(champ)->Text();
-    } else if (champ->Genre() == screen::Kind::Deroulante) {
-      texte += static_cast<const screen::ComboBox*>(champ)->Text();
-    } else if (champ->Genre() == screen::Kind::Case) {
-      texte += static_cast<const screen::CheckBox*>(champ)->Value() != 0 ? "1" : "0";
-    } else if (champ->Genre() == screen::Kind::Option) {
-      texte += static_cast<const screen::OptionButton*>(champ)->Value() ? "1" : "0";
-    }
-    texte += data::SepAttribut;
-  }
-  return texte;
 }
 
 // Writing.
 
 void OngletFin::Ecrire_Ong5() {
   data::CItem& contrat = Contrat();
-  for (const int a : GroupeFin) contrat.Set(a, montre_.Vue(a));
-  contrat.Set(C::OrganismeRetraite, montre_.Vue(C::OrganismeRetraite));
-  if (Intact()) return;
+  for (const int a : GroupeFin) contrat.Set(a, initiale_.Contrat().Vue(a));
+  contrat.Set(C::OrganismeRetraite, initiale_.Contrat().Vue(C::OrganismeRetraite));
+  if (initiale_.Intact(Txt_DatNotifContrat.Text())) return;
   if (Txt_DatNotifContrat.Text().empty()) {
     for (const int a : GroupeFin) contrat.Set(a, "");
     return;
   }
-  const auto date = [&](int attribut, const screen::TextField& champ) {
-    const auto jour = Jour(champ);
-    contrat.Set(attribut, jour ? std::to_string(*jour) : "");
-  };
-  date(C::DateFin, Txt_DateFinContrat);
+  dates_.Ecrire(contrat);
   motif_.Ecrire(contrat);
-  date(C::DateNotification, Txt_DatNotifContrat);
-  date(C::DernierJourTravaille, Txt_DernJrWContrat);
+  const auto notification = dates_.Jour(Txt_DatNotifContrat);
+  contrat.Set(C::DateNotification, notification ? std::to_string(*notification) : "");
   contrat.Set(C::PrimePrecarite, Cac_PrecaLibContrat.Value() != 0 ? "1" : "0");
   preavis_.Ecrire(contrat);
   contrat.Set(C::MotifNonVersement, Txt_NonVersContrat.Text());
@@ -97,7 +64,6 @@ void OngletFin::Ecrire_Ong5() {
   contrat.Set(C::ObservationsFin, 1, Txt_ObsFinContrat_0.Text());
   contrat.Set(C::ObservationsFin, 2, Txt_ObsFinContrat_1.Text());
   contrat.Set(C::OrganismeRetraite, retraite_.Code());
-  date(C::DateFinReelle, Txt_FinReelle);
 }
 
 }  // namespace editor

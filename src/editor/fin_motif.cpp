@@ -51,7 +51,7 @@ void MotifFin::Afficher(const data::CItem& contrat) {
 
 void MotifFin::Ecrire(data::CItem& contrat) const {
   const std::string code = Code();
-  const auto signature = editeur_.Session().Lib.LireDate(Txt_DateSignConvCol.Text());
+  const auto signature = Signature();
   const bool conventionnelle = code == rules::RuptureConventionnelle;
   contrat.Set(C::MotifFin, code);
   contrat.Set(C::DateSignatureRupture,
@@ -59,6 +59,10 @@ void MotifFin::Ecrire(data::CItem& contrat) const {
   const char* const calcul = Cac_CalcIndLic.Value() != 0 ? Coche : Decoche;
   contrat.Set(C::CalculLicenciement, rules::motifAvecIndemnite(code) ? calcul : "");
   contrat.Set(C::ComplementMotifFin, Txt_CmpltMotif.Text());
+}
+
+std::optional<long> MotifFin::Signature() const {
+  return editeur_.Session().Lib.LireDate(Txt_DateSignConvCol.Text());
 }
 
 void MotifFin::Vider() {

@@ -3,6 +3,7 @@
 // termination, the dismissal compensation, the negative hours of a modulated contract.
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "data/liste_codes.h"
@@ -36,7 +37,8 @@ class MotifFin {
   bool Vide() const { return Cbo_MotifFinContrat.Text().empty(); }
   // A negotiated termination is to be signed.
   bool Signee() const { return Txt_DateSignConvCol.Visible(); }
-  const screen::TextField& Signature() const { return Txt_DateSignConvCol; }
+  bool SignatureManque() const { return Txt_DateSignConvCol.Text().empty(); }
+  std::optional<long> Signature() const;
 
  private:
   void Cbo_MotifFinContrat_Click();

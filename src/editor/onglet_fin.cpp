@@ -17,12 +17,6 @@ namespace C = data::Contrat;
 constexpr const char* NotificationAvantDebut =
     "Erreur la date de notification de licenciement / démission ne peut être inférieure à la date "
     "de début du contrat, veuillez la ressaisir.";
-constexpr const char* DernierJourAvantDebut =
-    "Erreur la date du dernier jour travaillé ne peut être inférieure à la date de début du "
-    "contrat, veuillez la ressaisir.";
-constexpr const char* FinReelleAvantDebut =
-    "Erreur la date de fin réelle ne peut être inférieure à la date de début du contrat, veuillez "
-    "la ressaisir.";
 constexpr const char* FinSansNotification =
     "Ce contrat a une date de fin, sans date de notification : rien n'en est affiché ici et rien "
     "n'en change tant qu'une notification n'est pas saisie. Fin au ";
@@ -31,11 +25,9 @@ constexpr const char* FinSansNotification =
 
 OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat, "Cdr_Ong5") {
   Txt_DatNotifContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
-  Txt_DateFinContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
   Txt_DatNotifContrat.LostFocus = [this] { Txt_DatNotifContrat_LostFocus(); };
-  Txt_DateFinContrat.LostFocus = [this] { Txt_DateFinContrat_LostFocus(); };
-  Txt_DernJrWContrat.LostFocus = [this] { QuitterJour(Txt_DernJrWContrat, DernierJourAvantDebut); };
-  Txt_FinReelle.LostFocus = [this] { QuitterJour(Txt_FinReelle, FinReelleAvantDebut); };
+  dates_.SurSaisie = [this] { OuvrirSuite(); };
+  dates_.SurFin = [this] { FinQuittee(); };
   Cmd_SupprimerContrat.Click = [this] { suppression_.Cmd_SupprimerContrat_Click(); };
   motif_.SurMotif = [this] { CalculPreavis(); };
   Vider_Ong();
@@ -51,22 +43,15 @@ void OngletFin::Afficher_Ong5() {
     retraite_.Afficher(origine.Entite(), origine.Particuliers(), Contrat()(C::OrganismeRetraite));
     if (!Contrat().Vue(C::DateNotification).empty()) AfficherFin();
   }
-  montre_ = Contrat();
-  notificationInitiale_ = notificationVue_ = Txt_DatNotifContrat.Text();
-  dernierJourInitial_ = DernierJour();
-  empreinteInitiale_ = Empreinte();
+  notificationVue_ = Txt_DatNotifContrat.Text();
+  initiale_.Retenir(notificationVue_, DernierJour());
 }
 
 void OngletFin::AfficherFin() {
   const data::CItem& contrat = Contrat();
-  const auto date = [&](int attribut) {
-    return Session().Lib.DateFromInternal(contrat.Vue(attribut));
-  };
-  Txt_DatNotifContrat.SetText(date(C::DateNotification));
+  Txt_DatNotifContrat.SetText(Session().Lib.DateFromInternal(contrat.Vue(C::DateNotification)));
   motif_.Afficher(contrat);
-  Txt_DateFinContrat.SetText(date(C::DateFin));
-  Txt_DernJrWContrat.SetText(date(C::DernierJourTravaille));
-  Txt_FinReelle.SetText(date(C::DateFinReelle));
+  dates_.Montrer(contrat);
   Cac_PrecaLibContrat.SetValue(data::entier(contrat.Vue(C::PrimePrecarite)) == 1 ? 1 : 0);
   preavis_.Montrer(contrat);
   Txt_NonVersContrat.SetText(contrat.Vue(C::MotifNonVersement));
@@ -75,9 +60,9 @@ void OngletFin::AfficherFin() {
   Txt_ObsFinContrat_1.SetText(contrat.Vue(C::ObservationsFin, 2));
   motif_.Activer(true);
   ActiverFin(true);
-  derniereDateFin_ = Fin();
+  derniereDateFin_ = FinAffichee();
   if (derniereDateFin_) bulletin_.Borner(editeur_.origine.Debut(), *derniereDateFin_);
-  Cmd_SupprimerContrat.SetVisible(Txt_DateFinContrat.Text() == editeur_.origine.DateDebut());
+  Cmd_SupprimerContrat.SetVisible(dates_.DateFin() == editeur_.origine.DateDebut());
 }
 
 void OngletFin::SelonDroits(bool complet) {
@@ -85,7 +70,7 @@ void OngletFin::SelonDroits(bool complet) {
 }
 
 void OngletFin::Vider_Ong() {
-  notificationInitiale_.clear();
+  initiale_.Oublier();
   notificationVue_.clear();
   derniereDateFin_.reset();
   motif_.Vider();
@@ -95,11 +80,12 @@ void OngletFin::Vider_Ong() {
   Cmd_SupprimerContrat.SetVisible(false);
   motif_.Activer(false);
   ActiverFin(false);
-  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, false);
+  dates_.OuvrirFin(false);
 }
 
 void OngletFin::SelonType(bool determine) {
-  screen::Activer({&Etq_DatNotifContrat, &Txt_DatNotifContrat, &Etq_DateFinContrat}, true);
+  screen::Activer({&Etq_DatNotifContrat, &Txt_DatNotifContrat}, true);
+  dates_.Eclairer();
   Cac_PrecaLibContrat.SetEnabled(determine);
   Cac_PrecaLibContrat.SetValue(determine ? 1 : 0);
 }
@@ -128,7 +114,7 @@ bool OngletFin::Admettre() {
 }
 
 void OngletFin::Entrer() {
-  const auto fin = montre_.Vue(C::DateFin);
+  const auto fin = initiale_.Contrat().Vue(C::DateFin);
   if (Txt_DatNotifContrat.Text().empty() && !fin.empty()) {
     editeur_.Services().indications.Montrer(
         Txt_DatNotifContrat, FinSansNotification + Session().Lib.DateFromInternal(fin) + ".");
@@ -137,36 +123,20 @@ void OngletFin::Entrer() {
 
 // Dates.
 
-std::optional<long> OngletFin::Jour(const screen::TextField& champ) const {
-  return Session().Lib.LireDate(champ.Text());
-}
-
-bool OngletFin::AvantDebut(const screen::TextField& champ) const {
-  const auto jour = Jour(champ);
-  const auto debut = editeur_.origine.Debut();
-  return jour && debut && *jour < *debut;
-}
-
-bool OngletFin::Apres(const screen::TextField& champ, const screen::TextField& autre) const {
-  const auto jour = Jour(champ);
-  const auto borne = Jour(autre);
-  return jour && borne && *jour > *borne;
-}
-
 // What follows a complete date can be gone to at once, by a click or the next Tab.
 void OngletFin::OuvrirSuite() {
-  if (Jour(Txt_DatNotifContrat)) {
+  if (dates_.Jour(Txt_DatNotifContrat)) {
     motif_.Activer(true);
-    screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, !Session().EtatSuppAidant);
+    dates_.OuvrirFin(!Session().EtatSuppAidant);
   }
-  if (Fin()) ActiverFin(true);
+  if (FinAffichee()) ActiverFin(true);
 }
 
 // A notification left as it was found computes nothing anew: an end that was agreed on otherwise
 // stays.
 void OngletFin::Txt_DatNotifContrat_LostFocus() {
   if (!session::QuitterDate(Session(), Txt_DatNotifContrat)) return;
-  if (AvantDebut(Txt_DatNotifContrat)) {
+  if (apres(editeur_.origine.Debut(), dates_.Jour(Txt_DatNotifContrat))) {
     Message(NotificationAvantDebut, screen::Icone::Exclamation);
     Txt_DatNotifContrat.SetFocus();
     return;
@@ -175,23 +145,21 @@ void OngletFin::Txt_DatNotifContrat_LostFocus() {
   notificationVue_ = Txt_DatNotifContrat.Text();
   if (notificationVue_.empty()) {
     motif_.Quitter();
-    Txt_DateFinContrat.SetText("");
-    Txt_DateFinContrat_LostFocus();
-    screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, false);
+    dates_.Poser("");
+    dates_.OuvrirFin(false);
     return;
   }
   motif_.Cbo_MotifFinContrat_DropDown();
   motif_.Activer(true);
-  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat}, !Session().EtatSuppAidant);
+  dates_.OuvrirFin(!Session().EtatSuppAidant);
   CalculPreavis();
 }
 
 // The last payslip is that of the end, until another is chosen for it.
-void OngletFin::Txt_DateFinContrat_LostFocus() {
-  if (!session::QuitterDate(Session(), Txt_DateFinContrat)) return;
-  const auto fin = Fin();
+void OngletFin::FinQuittee() {
+  const auto fin = FinAffichee();
   Cmd_SupprimerContrat.SetVisible(fin && !Creation() && Session().DroitComplet() &&
-                                  Txt_DateFinContrat.Text() == editeur_.origine.DateDebut());
+                                  dates_.DateFin() == editeur_.origine.DateDebut());
   ActiverFin(fin.has_value());
   if (fin) {
     const bool change = derniereDateFin_ != fin;
@@ -199,26 +167,18 @@ void OngletFin::Txt_DateFinContrat_LostFocus() {
     bulletin_.Borner(editeur_.origine.Debut(), *fin);
     if (change) bulletin_.MontrerFin();
   } else {
-    Txt_DernJrWContrat.SetText("");
-    Txt_FinReelle.SetText("");
+    dates_.ViderJours();
     bulletin_.Vider();
   }
   derniereDateFin_ = fin;
   if (editeur_.origine.Particuliers()) retraite_.Choisir("", true);
 }
 
-void OngletFin::QuitterJour(screen::TextField& champ, const char* refus) {
-  if (!session::QuitterDate(Session(), champ) || !AvantDebut(champ)) return;
-  Message(refus, screen::Icone::Exclamation);
-  champ.SetFocus();
-}
-
 void OngletFin::ActiverFin(bool active) {
-  screen::Activer({&Etq_DateFinContrat, &Txt_DateFinContrat},
-                  !Session().EtatSuppAidant && (active || !Txt_DatNotifContrat.Text().empty()));
+  dates_.OuvrirFin(!Session().EtatSuppAidant && (active || !Txt_DatNotifContrat.Text().empty()));
+  dates_.Activer(active);
   screen::Activer(
-      {&Etq_FinReelle, &Txt_FinReelle, &Etq_DernJrWContrat, &Txt_DernJrWContrat,
-       &Etq_NonVersContrat, &Txt_NonVersContrat, &Txt_ObsFinContrat_0, &Txt_ObsFinContrat_1},
+      {&Etq_NonVersContrat, &Txt_NonVersContrat, &Txt_ObsFinContrat_0, &Txt_ObsFinContrat_1},
       active);
   Cac_PrecaLibContrat.SetEnabled(active);
   bulletin_.Activer(active);
@@ -229,10 +189,10 @@ void OngletFin::ActiverFin(bool active) {
 
 void OngletFin::CalculPreavis() {
   const std::string motif = motif_.Code();
-  const auto notification = Jour(Txt_DatNotifContrat);
+  const auto notification = dates_.Jour(Txt_DatNotifContrat);
   if (!rules::motifAvecPreavis(motif) || !notification) {
     preavis_.OublierPaye();
-    Txt_DateFinContrat.SetText("");
+    dates_.ViderFin();
     return;
   }
   const data::CItem& contrat = Contrat();
@@ -250,9 +210,8 @@ void OngletFin::CalculPreavis() {
       motif};
   const rules::DureePreavis duree = rules::dureePreavis(situation);
   if (duree.Aucune()) return;
-  Txt_DateFinContrat.SetText(data::dateAffichee(rules::finPreavis(*notification, duree)));
-  Txt_DateFinContrat_LostFocus();
-  preavis_.Payer(Txt_DatNotifContrat.Text(), Txt_DateFinContrat.Text(),
+  dates_.Poser(data::dateAffichee(rules::finPreavis(*notification, duree)));
+  preavis_.Payer(Txt_DatNotifContrat.Text(), dates_.DateFin(),
                  "Préavis calculé : " + dureeEcrite(duree) + ", ancienneté depuis le " +
                      data::dateAffichee(depart) +
                      (situation.handicape ? ", travailleur handicapé." : "."));

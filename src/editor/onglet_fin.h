@@ -7,6 +7,8 @@
 // notification is typed. Emptying a notification that is shown cancels the end as a whole.
 
 #include "editor/fin_bulletin.h"
+#include "editor/fin_dates.h"
+#include "editor/fin_initiale.h"
 #include "editor/fin_motif.h"
 #include "editor/fin_preavis.h"
 #include "editor/fin_retraite.h"
@@ -35,13 +37,13 @@ class OngletFin : public Onglet {
   // The end of the contract as an internal day: the one place that says which end the rules see.
   std::optional<long> DateFin() const;
   // The end that the tab shows, and the period of its last payslip, AAAAMM; "" for none.
-  std::optional<long> FinAffichee() const { return Fin(); }
+  std::optional<long> FinAffichee() const { return dates_.Fin(); }
   const std::string& DernierBulletin() const { return bulletin_.Periode(); }
   // The end date was refused: the period of its last payslip is to be given anew.
   void RefuserDateFin() { bulletin_.Effacer(); }
   // The last day worked as it is displayed, now and when the contract was opened.
-  std::string DernierJour() const;
-  const std::string& DernierJourInitial() const { return dernierJourInitial_; }
+  std::string DernierJour() const { return dates_.DernierJour(); }
+  const std::string& DernierJourInitial() const { return initiale_.DernierJour(); }
   // The planning holds work of the contract: it is not offered for deletion any more.
   void CacherSuppression() { Cmd_SupprimerContrat.SetVisible(false); }
 
@@ -59,25 +61,11 @@ class OngletFin : public Onglet {
   void CalculPreavis();
   void OuvrirSuite();
   void Txt_DatNotifContrat_LostFocus();
-  void Txt_DateFinContrat_LostFocus();
-  // A date that the contract cannot have before it starts.
-  void QuitterJour(screen::TextField& champ, const char* refus);
+  // The end has been left, as a date or empty.
+  void FinQuittee();
   void ActiverFin(bool active);
 
-  std::optional<long> Jour(const screen::TextField& champ) const;
-  std::optional<long> Fin() const { return Jour(Txt_DateFinContrat); }
-  bool AvantDebut(const screen::TextField& champ) const;
-  bool Apres(const screen::TextField& champ, const screen::TextField& autre) const;
-  // What the user sees of the tab, as one text.
-  std::string Empreinte() const;
-  // The tab shows what it showed at first.
-  bool Intact() const;
-
-  // At the opening: the contract, what was shown of it, and what of that others ask for.
-  data::CItem montre_;
-  std::string notificationInitiale_;
-  std::string empreinteInitiale_;
-  std::string dernierJourInitial_;
+  FinInitiale initiale_{editeur_, Page};
   // The notification from which the notice was computed, or that was shown with its end.
   std::string notificationVue_;
   Suppression suppression_{editeur_};
@@ -89,12 +77,7 @@ class OngletFin : public Onglet {
                                     "Date de Notification licenciement / démission"};
   screen::TextField Txt_DatNotifContrat{Page, "Txt_DatNotifContrat", LongueurDate};
   MotifFin motif_{editeur_, Page, sourdine_};
-  screen::Label Etq_DateFinContrat{Page, "Etq_DateFinContrat", "Date Fin de Contrat"};
-  screen::TextField Txt_DateFinContrat{Page, "Txt_DateFinContrat", LongueurDate};
-  screen::Label Etq_FinReelle{Page, "Etq_FinReelle", "Date de fin réelle"};
-  screen::TextField Txt_FinReelle{Page, "Txt_FinReelle", LongueurDate};
-  screen::Label Etq_DernJrWContrat{Page, "Etq_DernJrWContrat", "Dernier Jour Travaillé"};
-  screen::TextField Txt_DernJrWContrat{Page, "Txt_DernJrWContrat", LongueurDate};
+  DatesFin dates_{editeur_, Page, sourdine_};
   BulletinFin bulletin_{Page, sourdine_};
   screen::CheckBox Cac_PrecaLibContrat{Page, "Cac_PrecaLibContrat", "Versement prime de précarité"};
   PreavisFin preavis_{Session(), Page};
