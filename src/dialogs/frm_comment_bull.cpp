@@ -12,12 +12,8 @@ namespace dialogs {
 namespace {
 
 namespace C = data::Contrat;
-using screen::Boutons, screen::Icone, screen::Reponse;
+using screen::Boutons, screen::Icone;
 
-constexpr const char* QuestionSortie =
-    "Voulez-vous enregistrer les modifications apportées à cet article ?";
-constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
-constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
 constexpr const char* Incomplet = "La période ainsi que le libellé sont obligatoires.";
 constexpr const char* DejaLa = "La période sélectionnée est déjà renseignée.";
 
@@ -30,8 +26,7 @@ std::string libelle(const std::string& periode) {
 }  // namespace
 
 Frm_CommentBull::Frm_CommentBull(screen::Platform& platform, session::Dossier& dossier)
-    : DialogueContrat(platform, dossier, "Frm_CommentBull", "Commentaires sur bulletins",
-                      QuestionSortie) {
+    : DialogueLignes(platform, dossier, "Frm_CommentBull", "Commentaires sur bulletins") {
   screen::Montrer({&Cmd_Ajouter, &Cmd_OK, &Cmd_Supprimer}, session_.DroitComplet());
   colonnes_.SurDoubleClic = [this](int ligne) { Descendre(ligne); };
   Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
@@ -85,10 +80,7 @@ void Frm_CommentBull::Griser(bool saisie) {
   Cmd_Supprimer.SetEnabled(saisie && !enCreation_);
 }
 
-// Nothing in hand any more.
-void Frm_CommentBull::Finir() {
-  enCreation_ = false;
-  ligne_ = -1;
+void Frm_CommentBull::Liberer() {
   Cbo_Periode.SetListIndex(-1);
   Cbo_Periode.SetText("");
   Txt_Libelle.SetText("");
@@ -108,15 +100,6 @@ void Frm_CommentBull::Descendre(int ligne) {
   Txt_Libelle.SetText(Lst_Libelle.List(ligne));
   Griser(true);
   Txt_Libelle.SetFocus();
-}
-
-void Frm_CommentBull::Cmd_Ok_Click() {
-  if (!EnMain()) {
-    MAJ_TabDyn();
-    Sortir();
-  } else if (Ranger()) {
-    Finir();
-  }
 }
 
 bool Frm_CommentBull::Ranger() {
@@ -145,22 +128,8 @@ bool Frm_CommentBull::Ranger() {
   return true;
 }
 
-void Frm_CommentBull::Cmd_Annuler_Click() {
-  if (!EnMain()) {
-    Sortir();
-    return;
-  }
-  if (enCreation_ && Demander(QuitterCreation, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) !=
-                         Reponse::Oui) {
-    return;
-  }
-  Finir();
-}
-
 void Frm_CommentBull::Cmd_Supprimer_Click() {
-  if (Demander(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) == Reponse::Oui) {
-    Retirer(ligne_);
-  }
+  if (SuppressionConfirmee()) Retirer(ligne_);
   Finir();
 }
 

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/dialogue.h"
+#include "dialogs/dialogue_lignes.h"
 #include "screen/colonnes.h"
 
 namespace dialogs {
 
-class Frm_CommentBull : public DialogueContrat {
+class Frm_CommentBull : public DialogueLignes {
  public:
   Frm_CommentBull(screen::Platform& platform, session::Dossier& dossier);
 
@@ -35,6 +35,8 @@ class Frm_CommentBull : public DialogueContrat {
 
  protected:
   void Copier_Champs(data::CItem& contrat) const override;
+  bool Ranger() override;
+  void Liberer() override;
 
  private:
   struct Commentaire {
@@ -48,24 +50,15 @@ class Frm_CommentBull : public DialogueContrat {
   void Inserer(const Commentaire& commentaire);
   void Retirer(int ligne);
 
-  bool EnMain() const { return enCreation_ || ligne_ >= 0; }
   void Griser(bool saisie);
-  void Finir();
   void Cmd_Ajouter_Click();
   void Descendre(int ligne);
-  void Cmd_Ok_Click();
-  // False, after a message, when it cannot be kept.
-  bool Ranger();
-  void Cmd_Annuler_Click();
   void Cmd_Supprimer_Click();
 
   screen::Colonnes colonnes_{{&Lst_Periode, &Lst_Libelle}, Bdv_Detail, Visibles};
   // The rows of the lists, and the months of Cbo_Periode.
   std::vector<Commentaire> lignes_;
   std::vector<std::string> ouvertes_;
-  bool enCreation_ = false;
-  // The row that is being modified, -1 for none.
-  int ligne_ = -1;
 };
 
 }  // namespace dialogs

@@ -11,12 +11,8 @@ namespace dialogs {
 namespace {
 
 namespace C = data::Contrat;
-using screen::Boutons, screen::Icone, screen::Reponse;
+using screen::Icone;
 
-constexpr const char* QuestionSortie =
-    "Voulez-vous enregistrer les modifications apportées à cet article ?";
-constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
-constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
 constexpr const char* Inconnue = "Cette rubrique de saisie n'existe pas.";
 
 enum { Base, TauxNombre, MontantNombre };
@@ -41,7 +37,7 @@ const Frm_RubSaisie::Nombre Frm_RubSaisie::Nombres[3] = {
 
 Frm_RubSaisie::Frm_RubSaisie(screen::Platform& platform, session::Dossier& dossier,
                              ContexteRubriques contexte)
-    : DialogueContrat(platform, dossier, "Frm_RubSaisie", "Rubriques de saisie", QuestionSortie),
+    : DialogueLignes(platform, dossier, "Frm_RubSaisie", "Rubriques de saisie"),
       contexte_(std::move(contexte)) {
   Etq_Aidant.SetLibelle("Aidant : " + session_.CodeAidant + " " + session_.NomPrenomAidant);
   screen::Montrer({&Cmd_Ajouter, &Cmd_OK, &Cmd_Supprimer}, session_.DroitComplet());
@@ -201,10 +197,7 @@ void Frm_RubSaisie::Vider_Texte() {
   baseCalculee_.clear();
 }
 
-// No line in hand any more.
-void Frm_RubSaisie::Finir() {
-  enCreation_ = false;
-  ligne_ = -1;
+void Frm_RubSaisie::Liberer() {
   Vider_Texte();
   Griser_Liste(false);
 }
@@ -261,19 +254,9 @@ const rules::Verification<Frm_RubSaisie> Frm_RubSaisie::Verifications[5] = {
      "L'activité est obligatoire.", Icone::Exclamation, "Cbo_Activite"},
 };
 
-void Frm_RubSaisie::Cmd_Ok_Click() {
-  if (!EnMain()) {
-    MAJ_TabDyn();
-    Sortir();
-    return;
-  }
-  if (!Verifier<Frm_RubSaisie>(Verifications, *this)) return;
-  Ranger();
-  Finir();
-}
-
 // The line in hand goes into the lists; a number that was not touched stays as it is on file.
-void Frm_RubSaisie::Ranger() {
+bool Frm_RubSaisie::Ranger() {
+  if (!Verifier<Frm_RubSaisie>(Verifications, *this)) return false;
   if (enCreation_ && Genre(MontantNombre) == "2") {
     const long long montant =
         MontantCalcule(data::enUnites(Txt_Base.Text(), Nombres[Base].echelle).value_or(0),
@@ -305,25 +288,13 @@ void Frm_RubSaisie::Ranger() {
     if (!contexte_.administratif) Lst_CodeActSelect_[static_cast<std::size_t>(ligne_)] = activite;
     colonnes_.Remplacer(ligne_, textes);
   }
-}
-
-void Frm_RubSaisie::Cmd_Annuler_Click() {
-  if (!EnMain()) {
-    Sortir();
-    return;
-  }
-  if (enCreation_ && Demander(QuitterCreation, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) !=
-                         Reponse::Oui) {
-    return;
-  }
-  Finir();
+  return true;
 }
 
 // The activities stay where they are, on purpose: each line below takes that of the line above it,
 // and the clerk looks them through.
 void Frm_RubSaisie::Cmd_Supprimer_Click() {
-  if (Demander(SupprimerLigne, Boutons::OuiNon, Icone::Exclamation, Reponse::Non) != Reponse::Oui)
-    return;
+  if (!SuppressionConfirmee()) return;
   colonnes_.Retirer(ligne_);
   lignes_.erase(lignes_.begin() + ligne_);
   Finir();

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "data/liste_codes.h"
-#include "dialogs/dialogue.h"
+#include "dialogs/dialogue_lignes.h"
 #include "screen/colonnes.h"
 #include "session/paire_code.h"
 #include "session/saisie.h"
@@ -35,7 +35,7 @@ struct ContexteRubriques {
   std::vector<data::ListeCodes::Ligne> activites;
 };
 
-class Frm_RubSaisie : public DialogueContrat {
+class Frm_RubSaisie : public DialogueLignes {
  public:
   Frm_RubSaisie(screen::Platform& platform, session::Dossier& dossier, ContexteRubriques contexte);
 
@@ -75,6 +75,8 @@ class Frm_RubSaisie : public DialogueContrat {
 
  protected:
   void Copier_Champs(data::CItem& contrat) const override;
+  bool Ranger() override;
+  void Liberer() override;
 
  private:
   // Base, rate and amount as they stand on file.
@@ -102,15 +104,10 @@ class Frm_RubSaisie : public DialogueContrat {
   void AppliquerGenre(int nombre);
   void Txt_Base_LostFocus();
 
-  bool EnMain() const { return enCreation_ || ligne_ >= 0; }
   void Griser_Liste(bool saisie);
   void Vider_Texte();
-  void Finir();
   void Cmd_Ajouter_Click();
   void Descendre_Liste(int ligne);
-  void Cmd_Ok_Click();
-  void Ranger();
-  void Cmd_Annuler_Click();
   void Cmd_Supprimer_Click();
 
   ContexteRubriques contexte_;
@@ -123,9 +120,6 @@ class Frm_RubSaisie : public DialogueContrat {
   std::vector<Ligne> lignes_;
   // The activity of each line.
   std::vector<std::string> Lst_CodeActSelect_;
-  bool enCreation_ = false;
-  // The line that is being modified, -1 for none.
-  int ligne_ = -1;
   // The base as the coefficient has made it.
   std::string baseCalculee_;
 };
