@@ -16,7 +16,9 @@ namespace control {
 Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
     : Form(platform, "Ctr_Contrat"), session_(platform.poste), aide_(platform.aide) {
   Cbo_Association.Click = [this] { Cbo_Association_Click(); };
-  Cbo_Association.Change = [this] { Cbo_Association_Change(); };
+  Cbo_Association.Change = [this] {
+    if (Cbo_Association.Text().empty()) codeAssocFiltre_.clear();
+  };
   Cmd_Recherche.Click = [this] { Cmd_Recherche_Click(); };
   Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
@@ -96,7 +98,7 @@ void Ctr_Contrat::Effacer_Donnees() {
 }
 
 void Ctr_Contrat::Recherche_Contrat() {
-  const long debutPeriode = data::premierJour(session_.PeriodePaie()).value_or(0);
+  const FiltreContrats filtre = Filtre();
   ViderListes();
   data::CItem aidant;
   session_.F_CIVILAIDANT.Lire(W_Code, aidant);
@@ -104,18 +106,19 @@ void Ctr_Contrat::Recherche_Contrat() {
                                      data::DernierNumeroPossible);
 
   std::vector<LigneContrat> lignes;
-  std::string employeur;
+  LecteurLignes lecteur(session_);
   for (long numero = 1; numero <= dernier; ++numero) {
     data::CItem contrat;
     if (!session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) continue;
-    if (contrat.Vue(data::Contrat::Annule) == "O") continue;
-    if (!GarderValidite(contrat, debutPeriode) || !GarderType(contrat)) continue;
-    LireEmployeur(contrat, employeur);
-    LigneContrat ligne = FaireLigne(contrat, employeur);
+    if (!filtre.Garde(contrat)) continue;
+    LigneContrat ligne = lecteur.Lire(contrat);
     const auto rang = rangInsertion(lignes, ligne, TriChoisi());
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
   }
-  AfficherLignes(lignes);
+  for (const LigneContrat& ligne : lignes) {
+    lignes_.Ajouter(ligne.Textes());
+    clesContrats_.Append(ligne.cle);
+  }
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {
@@ -127,10 +130,6 @@ void Ctr_Contrat::MouseDown(int bouton) {
 
 void Ctr_Contrat::Cbo_Association_Click() {
   codeAssocFiltre_ = associations_.A(Cbo_Association.ListIndex()).code;
-}
-
-void Ctr_Contrat::Cbo_Association_Change() {
-  if (Cbo_Association.Text().empty()) codeAssocFiltre_.clear();
 }
 
 void Ctr_Contrat::Cmd_Recherche_Click() {
@@ -164,65 +163,23 @@ void Ctr_Contrat::ViderListes() {
   clesContrats_.SetText("");
 }
 
-bool Ctr_Contrat::GarderValidite(const data::CItem& contrat, long debutPeriode) const {
-  if (!codeAssocFiltre_.empty() && contrat.Vue(data::Contrat::Association) != codeAssocFiltre_) {
-    return false;
-  }
-  const std::string_view fin = contrat.Vue(data::Contrat::DateFin);
-  if (Opt_Actif.Value()) return fin.empty() || data::entier(fin) >= debutPeriode;
-  if (Opt_Historique.Value()) {
-    return !fin.empty() && data::entier(fin) < Services().poste.Aujourdhui();
-  }
-  return true;
-}
-
-bool Ctr_Contrat::GarderType(const data::CItem& contrat) const {
-  if (Opt_PartEmpl.Value()) return data::estParticulierEmployeur(contrat);
-  if (Opt_Autres.Value()) return !data::estParticulierEmployeur(contrat);
-  return true;
-}
-
-// The employer's name. A record that cannot be found leaves the former label in place.
-void Ctr_Contrat::LireEmployeur(const data::CItem& contrat, std::string& libelle) const {
-  if (data::estParticulierEmployeur(contrat)) {
-    data::CItem aide;
-    if (session_.F_CIVILAIDE.Lire(contrat.Vue(data::Contrat::Employeur), aide)) {
-      libelle = aide(data::CivilAide::Nom) + " " + aide(data::CivilAide::Prenom);
-    }
-  } else {
-    data::CItem association;
-    if (session_.F_ASSOCIATION.Lire(contrat.Vue(data::Contrat::Association), association)) {
-      libelle = association(data::Association::Nom);
-    }
-  }
-}
-
-LigneContrat Ctr_Contrat::FaireLigne(const data::CItem& contrat,
-                                     const std::string& employeur) const {
-  const session::Session& s = session_;
-  data::CItem convention;
-  s.F_CONVENTIONCOL.Lire(contrat.Vue(data::Contrat::Convention), convention);
-  LigneContrat ligne;
-  ligne.cle = contrat(0);
-  ligne.debut = s.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateDebut));
-  ligne.fin = s.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateFin));
-  ligne.type = contrat(data::Contrat::Type);
-  ligne.employeur = employeur;
-  ligne.convention = convention(data::ConventionCol::Libelle);
-  ligne.jourDebut = data::entier(contrat.Vue(data::Contrat::DateDebut));
-  return ligne;
+FiltreContrats Ctr_Contrat::Filtre() const {
+  FiltreContrats filtre;
+  filtre.validite = Opt_Actif.Value()        ? FiltreContrats::Actifs
+                    : Opt_Historique.Value() ? FiltreContrats::Historiques
+                                             : FiltreContrats::TousValid;
+  filtre.type = Opt_PartEmpl.Value() ? FiltreContrats::ParticuliersEmployeurs
+                : Opt_Autres.Value() ? FiltreContrats::Autres
+                                     : FiltreContrats::TousType;
+  filtre.association = codeAssocFiltre_;
+  filtre.debutPeriode = data::premierJour(session_.PeriodePaie()).value_or(0);
+  filtre.aujourdhui = Services().poste.Aujourdhui();
+  return filtre;
 }
 
 Tri Ctr_Contrat::TriChoisi() const {
   if (Opt_TriEmpl.Value()) return Tri::Employeur;
   return Opt_TriCroiss.Value() ? Tri::AncienneteCroissante : Tri::AncienneteDecroissante;
-}
-
-void Ctr_Contrat::AfficherLignes(const std::vector<LigneContrat>& lignes) {
-  for (const LigneContrat& ligne : lignes) {
-    lignes_.Ajouter(ligne.Textes());
-    clesContrats_.Append(ligne.cle);
-  }
 }
 
 }  // namespace control

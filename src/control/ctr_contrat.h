@@ -17,7 +17,8 @@
 #include <memory>
 #include <string>
 
-#include "control/placement.h"
+#include "control/filtre.h"
+#include "control/lecteur_lignes.h"
 #include "data/citem.h"
 #include "data/liste_codes.h"
 #include "editor/editeur.h"
@@ -120,19 +121,15 @@ class Ctr_Contrat : public screen::Form {
 
  private:
   void Cbo_Association_Click();
-  void Cbo_Association_Change();
   void Cmd_Recherche_Click();
   void Cmd_Ajouter_Click();
   void Cmd_Ok_Click();
   void Cmd_Retour_Click();
   void PrendreFiltresParDefaut();
   void ViderListes();
-  bool GarderValidite(const data::CItem& contrat, long debutPeriode) const;
-  bool GarderType(const data::CItem& contrat) const;
-  void LireEmployeur(const data::CItem& contrat, std::string& libelle) const;
-  LigneContrat FaireLigne(const data::CItem& contrat, const std::string& employeur) const;
+  // What the options and the legal entity ask for.
+  FiltreContrats Filtre() const;
   Tri TriChoisi() const;
-  void AfficherLignes(const std::vector<LigneContrat>& lignes);
 
   // Opens the contract of that key; a row of the list that it is follows.
   void OuvrirContrat(const std::string& cle);

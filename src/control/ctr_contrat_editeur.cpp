@@ -66,9 +66,7 @@ void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
 void Ctr_Contrat::AjouterLigneEnTete(const std::string& cle) {
   data::CItem contrat;
   if (!session_.F_CONTRAT.Lire(cle, contrat)) return;
-  std::string employeur;
-  LireEmployeur(contrat, employeur);
-  lignes_.Inserer(0, FaireLigne(contrat, employeur).Textes());
+  lignes_.Inserer(0, LecteurLignes(session_).Lire(contrat).Textes());
   clesContrats_.Insert(1, cle);
   if (!Lst_DatDebContrat.Enabled()) Afficher_Liste();
 }

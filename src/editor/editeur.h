@@ -50,7 +50,6 @@ class Frm_ElementsContrat : public screen::Form {
 
   session::Session& Session() const { return session_; }
   session::Dossier& Dossier() { return *dossier_; }
-  const session::Dossier& Dossier() const { return *dossier_; }
 
   // The contract as it stands on the screen, for the rules.
   rules::Portee Portee() const;
