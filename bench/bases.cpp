@@ -46,6 +46,21 @@ void ajouterAidantCharge(data::Storage& stockage) {
   }
 }
 
+void ajouterChoix(data::Storage& stockage) {
+  data::CItem activite;
+  for (int i = 0; i < Activites; ++i) {
+    activite.Set(data::Activites::Libelle, "Activité " + lettres(i));
+    activite.Set(data::Activites::Genre, "P");
+    stockage.Put(data::fichier::ACTIVITES, "001" + lettres(i), activite.Text());
+  }
+  data::CItem profil;
+  for (int i = 0; i < Profils; ++i) {
+    profil.Set(data::Profil::Libelle, "Profil " + lettres(i));
+    profil.Set(data::Profil::Mandataire, "0");
+    stockage.Put(data::fichier::PROFIL, std::to_string(PremierProfil + i), profil.Text());
+  }
+}
+
 // The first carer from `debut` on with as many contracts as in every other file.
 void choisirAidant(Base& b, const std::string& debut) {
   constexpr int contratsVoulus = 5;
@@ -119,6 +134,27 @@ Base& base(long contrats) {
 Base& baseAidantCharge() {
   static Base chargee = ouvrir("demo-charge", 10'000, true);
   return chargee;
+}
+
+std::string lettres(int rang) {
+  std::string code;
+  for (int i = 0; i < 3; ++i, rang /= 26) code.insert(0, 1, static_cast<char>('A' + rang % 26));
+  return code;
+}
+
+Base& baseChoix() {
+  static Base choix = ouvrirBase("choix", [](data::Storage& stockage) {
+    demo::genererDemo(stockage, demo::OptionsDemo());
+    ajouterChoix(stockage);
+  });
+  return choix;
+}
+
+std::string contratChoix() {
+  const data::CItem lignes = baseChoix().db->Selectionner(
+      "SSELECT CONTRAT AVEC 1 <> \"02\" AND AVEC 2 = \"001\" AND AVEC 6 = \"P\" AND AVEC 65 = \"\"",
+      "CONTRAT", "0");
+  return lignes(1, 1);
 }
 
 Brut::Brut(const std::string& chemin) {

@@ -35,6 +35,15 @@ Base& base(long contrats);
 Base& baseAidantCharge();
 constexpr const char* AidantCharge = "99998";
 
+// Demonstration data with 2,000 activities of entity "001" and 500 profiles, "500" to "999", both
+// labelled by three letters that tell their rank; a production contract of that entity.
+constexpr int Activites = 2'000;
+constexpr int Profils = 500;
+constexpr int PremierProfil = 500;
+std::string lettres(int rang);
+Base& baseChoix();
+std::string contratChoix();
+
 // A file of its own, made by `remplir` in one block and opened once; without carers.
 Base ouvrirBase(const std::string& nom, const std::function<void(data::Storage&)>& remplir);
 

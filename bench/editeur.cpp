@@ -88,38 +88,38 @@ void brutOuvrirContrat(benchmark::State& state) {
   relire(state, base, poste.journal);
 }
 
-// The first visit to the pay tab, alone: what is done before it is not counted.
-void visiter(Poste& poste, const std::function<void(bool)>& compter) {
+// The first visit to a tab, alone: what is done before it is not counted.
+void visiter(Poste& poste, int onglet, const std::function<void(bool)>& compter) {
   poste.acte = [&](screen::Form& form) {
     auto& editeur = dynamic_cast<Frm_ElementsContrat&>(form);
     compter(true);
-    screen::User(form).Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+    screen::User(form).Onglet(editeur.Ong_Contrat, onglet);
     compter(false);
     form.Hide();
   };
   poste.controle.Appel_Contrat();
 }
 
-void visiterPaie(benchmark::State& state) {
+void visiterOnglet(benchmark::State& state, int onglet) {
   Base& base = bench::base(Contrats);
   const std::string cle = contratOuvert(base);
   Poste poste(base, cle.substr(0, 5));
   poste.controle.W_CodeContrat = cle;
-  visiter(poste, [](bool) {});
+  visiter(poste, onglet, [](bool) {});
   for (auto _ : state) {
     state.PauseTiming();
-    visiter(poste, [&](bool debut) { debut ? state.ResumeTiming() : state.PauseTiming(); });
+    visiter(poste, onglet, [&](bool debut) { debut ? state.ResumeTiming() : state.PauseTiming(); });
     state.ResumeTiming();
   }
 }
 
 // The same reads and key ranges, under the same clock.
-void brutVisiterPaie(benchmark::State& state) {
+void brutVisiterOnglet(benchmark::State& state, int onglet) {
   Base& base = bench::base(Contrats);
   const std::string cle = contratOuvert(base);
   Poste poste(base, cle.substr(0, 5));
   poste.controle.W_CodeContrat = cle;
-  visiter(poste, [&](bool debut) { poste.journal.noter = debut; });
+  visiter(poste, onglet, [&](bool debut) { poste.journal.noter = debut; });
   bench::Brut brut(base.chemin);
   for (auto _ : state) {
     state.PauseTiming();
@@ -134,6 +134,25 @@ void brutVisiterPaie(benchmark::State& state) {
       }
     }
   }
+}
+
+void visiterPaie(benchmark::State& state) {
+  visiterOnglet(state, editor::ElementsPaie);
+}
+void brutVisiterPaie(benchmark::State& state) {
+  brutVisiterOnglet(state, editor::ElementsPaie);
+}
+void visiterConges(benchmark::State& state) {
+  visiterOnglet(state, editor::DroitsConges);
+}
+void brutVisiterConges(benchmark::State& state) {
+  brutVisiterOnglet(state, editor::DroitsConges);
+}
+void visiterFin(benchmark::State& state) {
+  visiterOnglet(state, editor::FinContrat);
+}
+void brutVisiterFin(benchmark::State& state) {
+  brutVisiterOnglet(state, editor::FinContrat);
 }
 
 // Reading and storing the splits of a contract, of that many periods of 20 activities.
@@ -335,6 +354,10 @@ BENCHMARK(ouvrirContrat)->Unit(benchmark::kMicrosecond);
 BENCHMARK(brutOuvrirContrat)->Unit(benchmark::kMicrosecond);
 BENCHMARK(visiterPaie)->Unit(benchmark::kMicrosecond)->Iterations(2000);
 BENCHMARK(brutVisiterPaie)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(visiterConges)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(brutVisiterConges)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(visiterFin)->Unit(benchmark::kMicrosecond)->Iterations(2000);
+BENCHMARK(brutVisiterFin)->Unit(benchmark::kMicrosecond)->Iterations(2000);
 BENCHMARK(repartir60)->Unit(benchmark::kMicrosecond);
 BENCHMARK(repartir6)->Unit(benchmark::kMicrosecond);
 BENCHMARK(enregistrerContrat)->Unit(benchmark::kMicrosecond)->Iterations(200)->UseRealTime();

@@ -1,5 +1,6 @@
 // bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
-// of the words demarrage, touches, liste, suivi and papier, those given are measured, else all.
+// of the words demarrage, touches, liste, suivi, papier and rapport, those given are measured, else
+// all.
 
 #include <QApplication>
 #include <algorithm>
@@ -21,6 +22,8 @@ const std::vector<bench::Rapport> Rapports{
     {"start to a carer's contracts / empty window", "contratsListes", "fenetreVide", 0},
     {"a key in the editor's slowest field / a bare text line", "toucheEditeur", "toucheLigneNue", 0,
      4000},
+    {"a key among 2,000 activities and 500 profiles / a bare text line", "toucheChoix",
+     "toucheLigneNue", 0, 4000},
     {"list of 999 contracts shown / searched without screen", "listeAffichee", "listeSansEcran", 2},
     {"one of 120 months of paid hours corrected / without screen", "suiviRemunere",
      "suiviRemunereSeul", 0, 4000},
@@ -30,12 +33,15 @@ const std::vector<bench::Rapport> Rapports{
      0, 150000},
     {"declaration of the dot-matrix form / an empty page", "declarationMatricielle", "pageVide", 0,
      150000},
+    {"report of 5,000 interventions shown", "rapportAffiche", "rapportAffiche", 0, 100000},
+    {"a page further in it", "rapportTourne", "rapportTourne", 0, 16000},
+    {"printed to a PDF file", "rapportImprime", "rapportImprime", 0, 500000},
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
     {"demarrage", bench::mesurerDemarrage}, {"touches", bench::mesurerTouches},
     {"liste", bench::mesurerListe},         {"suivi", bench::mesurerSuivi},
-    {"papier", bench::mesurerPapier},
+    {"papier", bench::mesurerPapier},       {"rapport", bench::mesurerRapport},
 };
 
 }  // namespace

@@ -14,7 +14,8 @@ double tempsProcesseur();
 // "aidantsListes", "contratsListes"; with an X display, "fenetreVideEcran", "fenetreHoteEcran".
 void mesurerDemarrage(Medianes& medianes);
 // A key in the editor's fields: "toucheEditeur", the field whose median is the worst, beside
-// "toucheLigneNue", a text line alone in its window. Prints every field.
+// "toucheLigneNue", a text line alone in its window, and "toucheChoix" among 2,000 activities and
+// 500 profiles. Prints every field.
 void mesurerTouches(Medianes& medianes);
 // The search of a carer with 999 contracts: "listeAffichee" at the screen, "listeSansEcran".
 void mesurerListe(Medianes& medianes);
@@ -23,5 +24,7 @@ void mesurerListe(Medianes& medianes);
 void mesurerSuivi(Medianes& medianes);
 // A page brought to a PDF file: "declarationFormulaire", "declarationMatricielle", "pageVide".
 void mesurerPapier(Medianes& medianes);
+// The report of 5,000 interventions: "rapportAffiche", "rapportTourne" by a page, "rapportImprime".
+void mesurerRapport(Medianes& medianes);
 
 }  // namespace bench

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <map>
 #include <stdexcept>
 
 #include "control/ctr_contrat.h"
@@ -258,6 +259,36 @@ void remplir(Base& base, hote::Bureau& bureau, Frm_ElementsContrat& editeur) {
   traiterTout();
 }
 
+// The keys with which one of 2,000 activities and one of 500 profiles is chosen, the worst of them:
+// the list is opened, the next row is taken, a code is erased by its end and typed again.
+double choisir(hote::Bureau& bureau, Frm_ElementsContrat& editeur, QWidget& fenetre) {
+  screen::User user(editeur);
+  user.Onglet(editeur.Ong_Contrat, editor::ElementsPaie);
+  user.Taper(*editeur.Find("Txt_ProfilContrat"), std::to_string(PremierProfil));
+  bureau.PousserTout();
+  traiterTout();
+  std::map<std::string, std::vector<double>> temps;
+  const auto frapperDans = [&](const char* champ, Qt::Key touche, const QString& texte) {
+    auto* const widget = fenetre.findChild<QWidget*>(champ);
+    widget->setFocus();
+    if (auto* const ligne = qobject_cast<QLineEdit*>(widget)) ligne->end(false);
+    traiterTout();
+    temps[champ + std::to_string(touche)].push_back(
+        frapper(*fenetre.windowHandle(), touche, texte));
+  };
+  const auto& liste = dynamic_cast<screen::ListBox&>(*editeur.Find("Lst_ActiviteContrat"));
+  const int avant = liste.ListCount();
+  for (int tour = 0; tour < Tours; ++tour) {
+    frapperDans("Cbo_Activite", Qt::Key_Down, "");
+    frapperDans("Txt_ProfilContrat", Qt::Key_Backspace, "\b");
+    frapperDans("Txt_ProfilContrat", Qt::Key_0, QString::number(tour % 10));
+  }
+  if (liste.ListCount() == avant) throw std::runtime_error("no activity was chosen");
+  double pire = 0;
+  for (const auto& [touche, prises] : temps) pire = std::max(pire, mediane(prises));
+  return pire;
+}
+
 void imprimer(const char* titre, const std::vector<Resultat>& resultats) {
   std::printf("\n%s\n", titre);
   for (const Resultat& r : resultats)
@@ -291,6 +322,13 @@ void mesurerTouches(Medianes& medianes) {
   ligneNue.Mesurer();
   taper("Un contrat nouveau", true, [&] { screen::User(liste).Cliquer(liste.Cmd_Ajouter); });
   ligneNue.Mesurer();
+  PosteEcran choix(bench::baseChoix(), contratChoix().substr(0, 5));
+  Visite visite(QMessageBox::NoRole, [&](QWidget& fenetre) {
+    medianes["toucheChoix"] = choisir(choix.bureau, editeurOuvert(choix.bureau), fenetre);
+  });
+  choix.ecran->Controle().W_CodeContrat = contratChoix();
+  choix.ecran->Controle().Appel_Contrat();
+  visite.Rendre();
   medianes["toucheEditeur"] = pire;
   medianes["toucheLigneNue"] = ligneNue.Mediane();
 }

@@ -14,6 +14,26 @@ const ListeCodes::Ligne* chercher(const std::vector<ListeCodes::Ligne>& lignes,
   return ligne == lignes.end() ? nullptr : &*ligne;
 }
 
+// The values of an attribute one after the other, then empty ones. Looked up by their number, each
+// would be counted from the first.
+class Valeurs {
+ public:
+  explicit Valeurs(std::string_view attribut) : reste_(attribut), fini_(attribut.empty()) {}
+
+  bool Reste() const { return !fini_; }
+  std::string Suivante() {
+    const auto fin = reste_.find(SepValeur);
+    const std::string valeur(reste_.substr(0, fin));
+    fini_ = fin == std::string_view::npos;
+    reste_.remove_prefix(fini_ ? reste_.size() : fin + 1);
+    return valeur;
+  }
+
+ private:
+  std::string_view reste_;
+  bool fini_;
+};
+
 }  // namespace
 
 ListeCodes ListeCodes::DeSelection(const CItem& lignes) {
@@ -27,10 +47,13 @@ ListeCodes ListeCodes::DeSelection(const CItem& lignes) {
 }
 
 ListeCodes ListeCodes::DeTable(const CItem& item, int codes, int libelles, int marques) {
+  Valeurs lesCodes(item.Vue(codes));
+  Valeurs lesLibelles(item.Vue(libelles));
+  Valeurs lesMarques(marques == 0 ? std::string_view() : item.Vue(marques));
   ListeCodes liste;
-  for (int v = 1; v <= std::max(item.DCount(codes), item.DCount(libelles)); ++v) {
-    Ligne ligne{item(codes, v), item(libelles, v)};
-    if (marques != 0) ligne.suite.push_back(item(marques, v));
+  while (lesCodes.Reste() || lesLibelles.Reste()) {
+    Ligne ligne{lesCodes.Suivante(), lesLibelles.Suivante()};
+    if (marques != 0) ligne.suite.push_back(lesMarques.Suivante());
     liste.lignes_.push_back(std::move(ligne));
   }
   return liste;

@@ -82,9 +82,11 @@ void MotifFin::Cbo_MotifFinContrat_DropDown() {
                                               data::Tables::FinObsoletes);
   const std::string actuel = editeur_.Dossier().Initial(C::MotifFin);
   std::vector<data::ListeCodes::Ligne> lignes;
+  lignes.reserve(tous.Lignes().size());
   for (const auto& motif : tous.Lignes()) {
     const bool obsolete = motif.suite.front() == "O";
-    if (!obsolete || (!actuel.empty() && motif.code == actuel)) lignes.push_back(motif);
+    if (!obsolete || (!actuel.empty() && motif.code == actuel))
+      lignes.push_back({motif.code, motif.libelle, {}});
   }
   motifs_ = data::ListeCodes(std::move(lignes));
   const session::Sourdine::Silence silence(sourdine_);

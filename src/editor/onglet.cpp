@@ -62,11 +62,17 @@ bool Onglet::Ecrire(bool verifiee) {
 
 void Onglet::Vider() {
   const session::Sourdine::Silence silence(sourdine_);
-  for (screen::Field* const champ : editeur_.Fields()) {
-    if (dans(*champ, Page) && !garde(*champ)) vider(*champ);
-  }
+  for (screen::Field* const champ : Saisies()) vider(*champ);
   Vider_Ong();
   charge_ = false;
+}
+
+const std::vector<screen::Field*>& Onglet::Saisies() {
+  if (!saisies_.empty()) return saisies_;
+  for (screen::Field* const champ : editeur_.Fields()) {
+    if (dans(*champ, Page) && !garde(*champ)) saisies_.push_back(champ);
+  }
+  return saisies_;
 }
 
 session::Session& Onglet::Session() const {

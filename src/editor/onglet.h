@@ -6,6 +6,7 @@
 // A tab's handlers are silent while it is filled, cleared or adapted by program.
 
 #include <string>
+#include <vector>
 
 #include "rules/verification.h"
 #include "screen/form.h"
@@ -78,6 +79,10 @@ class Onglet {
   session::Sourdine sourdine_;
 
  private:
+  // The page's fields whose text clearing empties, found when the editor stands.
+  const std::vector<screen::Field*>& Saisies();
+
+  std::vector<screen::Field*> saisies_;
   bool charge_ = false;
 };
 

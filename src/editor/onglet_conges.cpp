@@ -136,6 +136,7 @@ void OngletConges::Afficher_Ong4() {
   Etq_PeriodeConges.SetLibelle(data::majuscules(data::moisAnnee(Contrat()(C::PeriodeTraitee))));
   screen::Activer({&Cmd_Conges}, !Creation());
   SelonDecompte();
+  Affiche_Conges();
   if (Creation()) {
     compteurs_.Oublier();
     delai_.Oublier();
@@ -193,6 +194,7 @@ void OngletConges::Entrer() {
 void OngletConges::Vider_Ong() {
   montre_ = data::CItem();
   Etq_PeriodeConges.SetLibelle("");
+  Grise_Conges();
 }
 
 void OngletConges::Activer(bool actifs) {

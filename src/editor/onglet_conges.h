@@ -21,6 +21,7 @@ class OngletConges : public Onglet {
   // The contracts that leave passes to or comes from: on opening, whether the tab is shown or not.
   void AfficherLiens() { liens_.Afficher(Dossier()); }
   void EcrireLiens() { liens_.Ecrire(Dossier()); }
+  // What payroll goes on counting takes no correction before a contract's counters are shown.
   void Grise_Conges() { Activer(false); }
   void Affiche_Conges() { Activer(true); }
 

@@ -6,6 +6,7 @@
 #include "control/ctr_contrat.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
+#include "dialogs/frm_anim.h"
 #include "dialogs/frm_anomalies_ajoutgraph.h"
 #include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_contrat_annuel.h"
@@ -116,9 +117,11 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
   dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossierContrat, {});
   dialogs::Frm_AnomaliesAjoutgraph anomalies(bureau.Plateforme(), dossierContrat, {});
   dialogs::Frm_ImpressionA4 impression(bureau.Plateforme());
+  dialogs::Frm_Anim attente(bureau.Plateforme());
   for (screen::Form* forme : std::initializer_list<screen::Form*>{
            &liste, &editeur, &motif, &motifs, &stage, &reprise, &qualif, &droitPublic, &rubriques,
-           &commentaires, &indemnisation, &telegestion, &suivi, &anomalies, &impression}) {
+           &commentaires, &indemnisation, &telegestion, &suivi, &anomalies, &impression,
+           &attente}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
 }

@@ -1,6 +1,6 @@
-// The pilot's process is killed next to every write of a save, on a real file. What was
-// acknowledged stands, nothing else does: the contract with its number and its link, or nothing at
-// all. The data tool accepts the file, and the next process brings the work to its end.
+// The pilot's process is killed next to every write of a save or a deletion, on a real file.
+// What was acknowledged stands, nothing else does: the contract with its number and its link, or
+// nothing at all. The data tool accepts the file, and the next process brings the work to its end.
 
 #include <gmock/gmock.h>
 #include <sys/wait.h>
@@ -71,6 +71,8 @@ const Route Particulier = {"00002",
                                "forme Frm_ImpressionA4\ncliquer Cmd_Ok\n",
                            "001",
                            "002"};
+
+struct Modification;
 
 class Arret : public testing::Test {
  protected:
@@ -165,6 +167,7 @@ class Arret : public testing::Test {
   void ControlerArret(const Route& route, const Etat& entier);
   void Recommencer(const Route& route, const Etat& entier);
   void Continuer(const Route& route);
+  void EprouverModification(const Modification& m);
 
   support::TempDir dossier;
   std::string base = dossier.Chemin("base.contrats");
@@ -290,6 +293,98 @@ TEST_F(Arret, PendantLAjoutDUnAvenant) {
 
 TEST_F(Arret, PendantLaCreationPourUnParticulier) {
   EprouverArrets(Particulier);
+}
+
+// A contract on file that is ended, shortened, unlinked or deleted.
+struct Modification {
+  const char* nom;
+  const char* aidant;
+  std::string acte;     // up to what stores it
+  const char* rapport;  // the report that stands before it while the planning has something to lose
+  std::string reprise;  // the same once the contract is stored: what comes behind it is completed
+};
+
+std::string ouvrir(const std::string& debut) {
+  return "cliquer Opt_TousValid\ncliquer Cmd_Recherche\nchoisir Lst_DatDebContrat " + debut +
+         "\ndouble Lst_DatDebContrat\n";
+}
+std::string finir(const std::string& debut, const std::string& dates) {
+  return ouvrir(debut) + "onglet 4\n" + dates + "cliquer Cmd_OK\n";
+}
+std::string confirmer(const std::string& debut) {
+  return ouvrir(debut) + "cliquer Cmd_OK\nforme Ctr_Contrat\naucun-message\n";
+}
+const std::string Novembre = "taper Txt_DateFinContrat 30/11/2026\n";
+const std::string Raccourci = Novembre + "taper Txt_DernJrWContrat 30/11/2026\n";
+
+const Modification Modifications[] = {
+    {"end with its missions", "00010",
+     finir("01/03/2024",
+           "taper Txt_DatNotifContrat 15/11/2026\n"
+           "choisir Cbo_MotifFinContrat \"Démission avec préavis\"\n"
+           "taper Txt_DernJrWContrat 15/11/2026\n"),
+     "", confirmer("01/03/2024")},
+    {"open-ended, interventions cut and deleted", "00013", finir("01/01/2026", Raccourci),
+     "forme Frm_AnomaliesAjoutgraph\ncliquer Cmd_Ok\n", confirmer("01/01/2026")},
+    {"fixed term, planning left without contract", "00014",
+     finir("01/09/2026", Novembre + "taper Txt_DatNotifContrat 20/11/2026\n" + Raccourci),
+     "forme Frm_AnomaliesAjoutgraph\ncliquer Cmd_Non\n", confirmer("01/09/2026")},
+    {"leave unlinked by hand", "00015",
+     ouvrir("01/07/2026") + "onglet 3\ncliquer Cac_RepriseConges\ncliquer Cmd_OK\n", "",
+     confirmer("01/07/2026")},
+    {"leave unlinked by the last payslip", "00016", finir("01/01/2026", "barre Bdh_Bulletin 0\n"),
+     "", confirmer("01/01/2026")},
+    {"deletion", "00012",
+     ouvrir("01/04/2026") + "onglet 4\nrepondre OUI\ncliquer Cmd_SupprimerContrat\n", "",
+     "cliquer Opt_TousValid\ncliquer Cmd_Recherche\n"
+     "verifier Lst_DatDebContrat lignes \"01/07/2026|01/05/2026|02/03/2026|02/02/2026|"
+     "05/01/2026\"\n"}};
+
+// The texts of the files whose names begin so.
+Etat partie(const Etat& etat, const std::string& fichiers) {
+  Etat seuls;
+  for (const auto& [article, texte] : etat) {
+    if (article.starts_with(fichiers)) seuls[article] = texte;
+  }
+  return seuls;
+}
+
+// What was acknowledged stands, the links of leave point both ways or not at all, and the clerk who
+// does it again ends in the records of one who was never interrupted.
+void Arret::EprouverModification(const Modification& m) {
+  SCOPED_TRACE(m.nom);
+  const Route route{m.aidant, "", "", "", "", ""};
+  Remettre();
+  ASSERT_EQ(Jouer(route, m.acte + m.rapport), Tenu);
+  const Etat entier = Lire(essai);
+  ASSERT_EQ(Nouveaux(), "");
+  const std::string fait = lireTout(journal);
+  const auto ecritures = std::count(fait.begin(), fait.end(), '\n');
+  ASSERT_GE(ecritures, 3);
+  for (int n = 1; n <= ecritures; ++n) {
+    for (const Quand quand : {Quand::Avant, Quand::Apres}) {
+      SCOPED_TRACE((quand == Quand::Avant ? "before write " : "after write ") + std::to_string(n));
+      Remettre();
+      ASSERT_EQ(Jouer(route, m.acte + m.rapport, n, quand), std::nullopt);
+      std::set<std::string> ecrits;
+      const Etat etat = Acquitte(ecrits);
+      EXPECT_EQ(Lire(essai), etat);
+      EXPECT_EQ(Nouveaux(), "");
+      const bool planifie = partie(etat, "TPS") == partie(entier, "TPS");
+      const bool enregistre = partie(etat, "CONTRAT ") == partie(entier, "CONTRAT ");
+      const bool laisse = std::string(m.rapport).find("Cmd_Non") != std::string::npos;
+      EXPECT_TRUE(planifie || !enregistre) << "the contract never goes before its planning";
+      EXPECT_EQ(Jouer(route, enregistre            ? m.reprise
+                             : planifie && !laisse ? m.acte
+                                                   : m.acte + m.rapport),
+                Tenu);
+      EXPECT_EQ(Lire(essai), entier);
+    }
+  }
+}
+
+TEST_F(Arret, PendantUneModification) {
+  for (const Modification& m : Modifications) EprouverModification(m);
 }
 
 }  // namespace

@@ -215,7 +215,7 @@ void Liaison::PousserFocus() {
 
 QStringList Liaison::Ecarts() const {
   static const QRegularExpression nomDeChamp(
-      "^(Txt|Cbo|Lst|Cmd|Opt|Cac|Chk|Cdr|Fra|Etq|Lbl|Ong|Bd[hv]|VS|Img|Pic)_");
+      "^(Txt|Cbo|Lst|Cmd|Opt|Cac|Chk|Cdr|Fra|Etq|Lbl|Ong|Bd[hv]|VS|Img|Pic|Ani)_");
   QStringList ecarts;
   for (const screen::Field* const champ : forme_.Fields()) {
     if (champ->Genre() != screen::Kind::Menu && parChamp_.count(champ) == 0) {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -15,6 +16,7 @@
 
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
+#include "screen/animation.h"
 #include "screen/touches.h"
 
 namespace hote {
@@ -34,6 +36,24 @@ class LienEtiquette : public Lien {
     etiquette.setTextFormat(Qt::PlainText);
     etiquette.setText(texte);
   }
+};
+
+// A bar that runs to and fro while its animation is active: the toolkit's sign of work whose end is
+// not known.
+class LienAnimation : public Lien {
+ public:
+  LienAnimation(Liaison& liaison, screen::Animation& champ, QProgressBar& barre)
+      : Lien(liaison, champ, barre), modele_(champ), barre_(barre) {}
+
+ protected:
+  void PousserEtat() override {
+    const int etendue = modele_.Active() ? 0 : 1;
+    if (barre_.maximum() != etendue) barre_.setRange(0, etendue);
+  }
+
+ private:
+  screen::Animation& modele_;
+  QProgressBar& barre_;
 };
 
 // The page of a tab, in the area in which it scrolls.
@@ -177,6 +197,11 @@ std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget&
       if (qobject_cast<QLabel*>(&widget) == nullptr) return nullptr;
       return std::make_unique<LienEtiquette>(liaison, champ, widget);
     case Kind::Image:
+      if (auto* animation = dynamic_cast<screen::Animation*>(&champ)) {
+        auto* barre = qobject_cast<QProgressBar*>(&widget);
+        if (barre == nullptr) return nullptr;
+        return std::make_unique<LienAnimation>(liaison, *animation, *barre);
+      }
       return std::make_unique<Lien>(liaison, champ, widget);
     case Kind::Onglets:
       if (auto* onglets = qobject_cast<QTabWidget*>(&widget)) {

@@ -5,6 +5,7 @@
 
 #include "liaison/bureau.h"
 #include "ui_Ctr_Contrat.h"
+#include "ui_Frm_Anim.h"
 #include "ui_Frm_AnomaliesAjoutgraph.h"
 #include "ui_Frm_CommentBull.h"
 #include "ui_Frm_ContratAnnuel.h"
@@ -108,6 +109,7 @@ void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Ctr_Contrat", construire<Ui::Ctr_Contrat, QWidget>);
   bureau.Enregistrer("Frm_ElementsContrat", construireEditeur);
   bureau.Enregistrer("Frm_ContratAnnuel", construireSuivi);
+  bureau.Enregistrer("Frm_Anim", construire<Ui::Frm_Anim, Fenetre>);
   bureau.Enregistrer("Frm_AnomaliesAjoutgraph", construire<Ui::Frm_AnomaliesAjoutgraph, Fenetre>);
   bureau.Enregistrer("Frm_ImpressionA4", construire<Ui::Frm_ImpressionA4, Fenetre>);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
