@@ -182,7 +182,8 @@ TEST_F(Lettre, UnNouveauContratEstEnregistrePuisImprime) {
   EXPECT_TRUE(editeur->Cree());
   EXPECT_EQ(journal(controle),
             "TheDatabase=Db TheClient=LeClient DroitsUtilisateur=W_Droits W_Document=01 "
-            "W_Cle=0100001 W_Nature= W_DocVariable=1 Imprimer()");
+            "W_Cle=0100001 W_Nature= W_DocVariable=1 W_CodeContrat=" +
+                this->cle() + " Imprimer()");
   data::CItem lien;
   EXPECT_FALSE(db.OpenFile("LIENCONTRAT").Lire("CONTRAT00101", lien));
 }
@@ -194,7 +195,8 @@ TEST_F(Lettre, UnAvenantDonneSonNumeroEtSonEntite) {
   EXPECT_EQ(messages(), "");
   EXPECT_FALSE(editeur->Visible());
   EXPECT_TRUE(journal(controle).ends_with(
-      "W_Document=02001 W_Cle=0100001 W_Nature=Normal W_DocVariable=1 Imprimer()"))
+      "W_Document=02001 W_Cle=0100001 W_Nature=Normal W_DocVariable=1 W_CodeContrat=00001001 "
+      "Imprimer()"))
       << journal(controle);
 }
 
