@@ -153,7 +153,7 @@ std::string recours(const Dossier& d) {
 std::string remplaces(const Dossier& d) {
   std::string noms;
   for (const std::string& nom : d.remplaces) noms += (noms.empty() ? "" : ", ") + nom;
-  return noms;
+  return noms.empty() ? "néant" : noms;
 }
 std::string paiement(const Dossier& d) {
   static constexpr const char* Modes[] = {"virement bancaire", "chèque", "espèces"};
@@ -197,7 +197,8 @@ std::string coefficient(const Dossier& d) {
   return montant(etat<C::Coefficient>(d), 3, -1);
 }
 std::string commentaire(const Dossier& d) {
-  return joindre({etat<C::Commentaire1>(d), etat<C::Commentaire2>(d)}, "\n");
+  const std::string lignes = joindre({etat<C::Commentaire1>(d), etat<C::Commentaire2>(d)}, "\n");
+  return lignes.empty() ? "Néant." : lignes;
 }
 std::string numeroAvenant(const Dossier& d) {
   return d.avenant;
@@ -261,7 +262,7 @@ const std::vector<ThemeLettre>& champsLettres() {
         {"prevoyance", "le contrat de prévoyance", prevoyance, true},
         {"contrepartie", "la contrepartie aux interruptions", contrepartie, true},
         {"recours_motif", "pourquoi le contrat est à durée déterminée", recours},
-        {"recours_remplaces", "les personnes remplacées", remplaces, true}}},
+        {"recours_remplaces", "les personnes remplacées, ou « néant »", remplaces}}},
       {"L'emploi, au contrat ou à l'avenant que la lettre concerne",
        {{"emploi_qualification", "la qualification professionnelle", etat<C::Qualification>},
         {"emploi_pcs", "le code P.C.S.", etat<C::CodePCS>},
@@ -273,7 +274,7 @@ const std::vector<ThemeLettre>& champsLettres() {
       {"L'avenant",
        {{"avenant_numero", "le numéro de l'avenant", numeroAvenant},
         {"avenant_effet", "sa date d'effet", etatDate<C::DateEffet>},
-        {"avenant_commentaire", "les deux lignes de commentaire", commentaire, true},
+        {"avenant_commentaire", "les deux lignes de commentaire, ou « Néant. »", commentaire},
         {"avant_qualification", "la qualification d'avant", etat<C::Qualification, 1>},
         {"avant_taux", "le taux horaire d'avant", taux<1>},
         {"avant_duree", "la durée du travail d'avant", duree<1>}}},

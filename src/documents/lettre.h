@@ -1,11 +1,11 @@
 #pragma once
-// The letters of a contract and of its amendments: which template serves, the fields that a template
-// may name, and the values that a contract has for them. How a template is stored is its reader's
-// concern.
+// The letters of a contract and of its amendments: which template serves, the fields that a
+// template may name, and the values that a contract has for them. How a template is stored is its
+// reader's concern.
 //
 //   const DossierLettre d = lireDossierLettre(db, "00031001", "", aujourdhui);
-//   modeleLettre(d).fichier                        "cdi"
-//   fusionner({"salarie_nom", "prime"}, d)         valeurs {salarie_nom: "DURAND"}, inconnus {prime}
+//   modeleLettre(d).fichier                    "cdi"
+//   fusionner({"salarie_nom", "prime"}, d)     valeurs {salarie_nom: "DURAND"}, inconnus {prime}
 
 #include <map>
 #include <span>

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "composants/suite.h"
+#include "composants/controle_suite.h"
 
 namespace hote {
 

@@ -9,13 +9,13 @@
 #include <algorithm>
 
 #include "composants/controle_aide.h"
+#include "composants/controle_lettres.h"
 #include "composants/controle_table.h"
-#include "lettres/controle_lettres.h"
 #include "lettres/traitement_texte.h"
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
-#include "widget/fenetre.h"
 
 namespace hote {
 
@@ -99,18 +99,6 @@ std::unique_ptr<QWidget> construire(Bureau& bureau, const FormeHote& forme) {
 }
 
 }  // namespace
-
-void ControleSuite::Regler(const std::string& propriete, const std::string& valeur) {
-  std::erase_if(proprietes_, [&](const auto& p) { return p.first == propriete; });
-  proprietes_.emplace_back(propriete, valeur);
-}
-
-std::string ControleSuite::Lire(const std::string& propriete) const {
-  for (const auto& [nom, valeur] : proprietes_) {
-    if (nom == propriete) return valeur;
-  }
-  return "";
-}
 
 Suite::Suite(Bureau& bureau) : bureau_(bureau) {
   controles_[ControleLettres::Nom] = std::make_unique<ControleLettres>(bureau, objets_);

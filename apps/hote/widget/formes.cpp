@@ -23,7 +23,7 @@
 #include "ui_SuiviRemunere.h"
 #include "ui_SuiviTempsEffectif.h"
 #include "widget/apparence.h"
-#include "widget/fenetre.h"
+#include "liaison/fenetre.h"
 #include "widget/lignes_suivi.h"
 
 namespace hote {

@@ -1,4 +1,4 @@
-#include "lettres/controle_lettres.h"
+#include "composants/controle_lettres.h"
 
 #include <QDir>
 #include <QMessageBox>

@@ -3,7 +3,7 @@
 // and opens it or makes a PDF file of it.
 
 #include <QSettings>
-#include "composants/suite.h"
+#include "composants/controle_suite.h"
 
 #include "lettres/lettre_odt.h"
 
