@@ -200,6 +200,18 @@ TEST_F(Lettre, UnAvenantDonneSonNumeroEtSonEntite) {
       << journal(controle);
 }
 
+// What stands is the save; the letter can be asked for again.
+TEST_F(Lettre, UneLettreManqueeEstDite) {
+  equiper().SurAppel = [](const std::string&) {
+    throw screen::ErreurImpression("Le modèle « cdi.odt » ne peut pas servir.");
+  };
+  ouvrirContrat();
+  remplir(txt("PerEssaiContrat"), "30");
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_EQ(messages(), "Le modèle « cdi.odt » ne peut pas servir.");
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "30");
+}
+
 // Who may only read prints what is on file.
 TEST_F(Lettre, UneConsultationNEnregistreRien) {
   auto& controle = equiper();

@@ -6,8 +6,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
+#include <QTextBrowser>
 #include <QXmlStreamReader>
 
+#include "composants/controle_lettres.h"
+#include "composants/suite.h"
 #include "data/layouts/contrat.h"
 #include "documents/essai_declaration.h"
 #include "integration/hote_essai.h"
@@ -15,6 +19,7 @@
 #include "lettres/lettre_odt.h"
 #include "lettres/modele_odt.h"
 #include "screen/platform.h"
+#include "storage/memory.h"
 
 namespace {
 
@@ -160,6 +165,46 @@ TEST_F(Lettres, ALetterIsNeverWrittenOverNorHalfWritten) {
   ASSERT_TRUE(hote::ecrireFichier(dossier.filePath("lettres"), "in the way"));
   EXPECT_NE(refus(contrat()).find("lettres/Contrat 00031002 du 2026-11-22.odt » ne peut pas"),
             std::string::npos);
+}
+
+// The control as the editor drives it: the contract by its key, the amendment at the head of the
+// document's name.
+TEST_F(Lettres, TheControlShowsTheLetterOfTheContractOrOfItsAmendment) {
+  qputenv("HOME", dossier.path().toUtf8());
+  qputenv("XDG_CONFIG_HOME", dossier.path().toUtf8());
+  const data::PosteFixe poste{21511};
+  hote::Bureau bureau(
+      &poste, std::make_unique<QSettings>(dossier.filePath("reglages.ini"), QSettings::IniFormat));
+  data::Db db(std::make_shared<storage::MemoryStorage>(poste));
+  hote::Suite suite(bureau);
+  suite.Objets().Db = &db;
+  data::CItem article = db.OpenFile("CONTRAT").NewItem("00031002");
+  article.SetText(contrat().contrat.Text());
+  for (const int v : {1, 2, 3}) article.Set(C::Avenant, v, v == 1 ? "0" : v == 2 ? "01" : "02");
+  article.DBWrite();
+  screen::ControleHeberge& controle = *bureau.Plateforme().controles.Trouver("Ctr_Edit");
+  controle.Regler("W_CodeContrat", "00031002");
+  const struct {
+    const char* document;
+    const char* titre;
+    const char* fichier;
+  } cas[] = {{"01", "Contrat de travail à durée indéterminée", "Contrat 00031002 du"},
+             {"02001", "Avenant n° 02 au contrat", "Contrat 00031002 avenant 02 du"}};
+  for (const auto& c : cas) {
+    std::string lettre;
+    const essai::DansForme clerc(
+        "Lettres", {[&](QWidget& fenetre) {
+          lettre = fenetre.findChild<QTextBrowser*>()->toPlainText().toStdString();
+          EXPECT_NE(fenetre.findChild<QLabel*>("reserves"), nullptr);
+          essai::cliquer(fenetre, "fermer");
+        }});
+    controle.Regler("W_Document", c.document);
+    controle.Appeler("Imprimer");
+    EXPECT_TRUE(lettre.starts_with(c.titre)) << lettre;
+    EXPECT_EQ(QDir(hote::dossierLettres()).entryList({QString(c.fichier) + "*"}).size(), 1);
+  }
+  controle.Regler("W_Document", "07001");
+  EXPECT_THROW(controle.Appeler("Imprimer"), screen::ErreurImpression);
 }
 
 // The clerk's page names every field with its meaning, and no other.

@@ -1,10 +1,9 @@
 #include "composants/controle_lettres.h"
 
 #include <QDir>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QStandardPaths>
 
+#include "composants/fenetre_lettre.h"
 #include "data/layouts/contrat.h"
 #include "lettres/traitement_texte.h"
 #include "liaison/bureau.h"
@@ -53,21 +52,11 @@ void ControleLettres::Appeler(const std::string& methode) {
 }
 
 void ControleLettres::Annoncer(const LettreOdt& lettre) {
-  const TraitementTexte traitement(bureau_.Reglages());
-  QMessageBox boite(bureau_.FenetreCourante());
-  boite.setWindowTitle("Lettre");
-  boite.setTextFormat(Qt::PlainText);
-  const QString reserves = lettre.Reserves();
-  boite.setIcon(reserves.isEmpty() ? QMessageBox::Information : QMessageBox::Warning);
-  boite.setText("La lettre est prête, dans le fichier « " + lettre.fichier + " »." +
-                (reserves.isEmpty() ? "" : "\n\n" + reserves));
-  const QPushButton* const ouvrir = boite.addButton("&Ouvrir la lettre", QMessageBox::AcceptRole);
-  const QPushButton* const pdf =
-      boite.addButton("Enregistrer aussi en &PDF", QMessageBox::ActionRole);
-  boite.addButton("&Fermer", QMessageBox::RejectRole);
-  boite.exec();
-  if (boite.clickedButton() == pdf) return EnPdf(lettre.fichier);
-  if (boite.clickedButton() != ouvrir || traitement.Ouvrir(lettre.fichier)) return;
+  FenetreLettre fenetre(lettre, bureau_.FenetreCourante());
+  fenetre.exec();
+  if (fenetre.Choix() == FenetreLettre::Suite::Pdf) return EnPdf(lettre.fichier);
+  if (fenetre.Choix() != FenetreLettre::Suite::Ouvrir) return;
+  if (TraitementTexte(bureau_.Reglages()).Ouvrir(lettre.fichier)) return;
   throw screen::ErreurImpression(versModele("Aucun programme de ce poste n'ouvre le fichier « " +
                                             lettre.fichier +
                                             " ». Ouvrez-le depuis votre dossier de documents."));

@@ -46,6 +46,7 @@ class ControleTable::Lignes : public QWidget {
     liste_->setColumnHidden(2, table.Genre().regroupements == 0);
     liste_->header()->setStretchLastSection(false);
     liste_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    liste_->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
     connect(liste_, &QTreeWidget::currentItemChanged, this, [this] { Prendre(); });
     Remplir(0);
   }

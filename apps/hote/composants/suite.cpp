@@ -21,6 +21,8 @@ namespace hote {
 
 namespace {
 
+constexpr int LargeurRecues = 520;  // pixels
+
 // The forms that host a control. For one that this host does not bring along: what it is, and the
 // answer that lets its form close.
 struct FormeHote {
@@ -74,6 +76,7 @@ std::unique_ptr<QWidget> ControleAbsent::Vue() {
     recues->addTopLevelItem(new QTreeWidgetItem({versQt(nom), versQt(valeur)}));
   }
   recues->resizeColumnToContents(0);
+  recues->setMinimumWidth(LargeurRecues);
   colonne->addWidget(recues);
   auto* const boutons = new QDialogButtonBox(vue.get());
   QPushButton* const fermer = boutons->addButton("&Fermer", QDialogButtonBox::RejectRole);

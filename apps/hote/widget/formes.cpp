@@ -4,6 +4,7 @@
 
 #include "composants/suite.h"
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "ui_Ctr_Contrat.h"
 #include "ui_Frm_AnomaliesAjoutgraph.h"
 #include "ui_Frm_CommentBull.h"
@@ -23,7 +24,6 @@
 #include "ui_SuiviRemunere.h"
 #include "ui_SuiviTempsEffectif.h"
 #include "widget/apparence.h"
-#include "liaison/fenetre.h"
 #include "widget/lignes_suivi.h"
 
 namespace hote {
