@@ -99,9 +99,15 @@ void Impression::Imprimer(const Lettre& lettre) {
        lettre.avenant.empty() ? contrat(C::Convention) : lettre.avenant + contrat(C::Association)},
       {"W_Cle", cle},
       {"W_Nature", nature},
-      {"W_DocVariable", DocumentVariable}};
+      {"W_DocVariable", DocumentVariable},
+      // Agreement and carer alone do not tell one contract from another.
+      {"W_CodeContrat", editeur_.Dossier().CleContratCourant}};
   for (const auto& [propriete, valeur] : contexte) edition->Regler(propriete, valeur);
-  edition->Appeler("Imprimer");
+  try {
+    edition->Appeler("Imprimer");
+  } catch (const screen::ErreurImpression& erreur) {
+    editeur_.MessageBox(erreur.what(), Boutons::Ok, Icone::Exclamation);
+  }
 }
 
 // The copies, on the printer that was chosen.

@@ -182,7 +182,8 @@ TEST_F(Lettre, UnNouveauContratEstEnregistrePuisImprime) {
   EXPECT_TRUE(editeur->Cree());
   EXPECT_EQ(journal(controle),
             "TheDatabase=Db TheClient=LeClient DroitsUtilisateur=W_Droits W_Document=01 "
-            "W_Cle=0100001 W_Nature= W_DocVariable=1 Imprimer()");
+            "W_Cle=0100001 W_Nature= W_DocVariable=1 W_CodeContrat=" +
+                this->cle() + " Imprimer()");
   data::CItem lien;
   EXPECT_FALSE(db.OpenFile("LIENCONTRAT").Lire("CONTRAT00101", lien));
 }
@@ -194,8 +195,21 @@ TEST_F(Lettre, UnAvenantDonneSonNumeroEtSonEntite) {
   EXPECT_EQ(messages(), "");
   EXPECT_FALSE(editeur->Visible());
   EXPECT_TRUE(journal(controle).ends_with(
-      "W_Document=02001 W_Cle=0100001 W_Nature=Normal W_DocVariable=1 Imprimer()"))
+      "W_Document=02001 W_Cle=0100001 W_Nature=Normal W_DocVariable=1 W_CodeContrat=00001001 "
+      "Imprimer()"))
       << journal(controle);
+}
+
+// What stands is the save; the letter can be asked for again.
+TEST_F(Lettre, UneLettreManqueeEstDite) {
+  equiper().SurAppel = [](const std::string&) {
+    throw screen::ErreurImpression("Le modèle « cdi.odt » ne peut pas servir.");
+  };
+  ouvrirContrat();
+  remplir(txt("PerEssaiContrat"), "30");
+  cliquer(editeur->Cmd_ImpContrat);
+  EXPECT_EQ(messages(), "Le modèle « cdi.odt » ne peut pas servir.");
+  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "30");
 }
 
 // Who may only read prints what is on file.

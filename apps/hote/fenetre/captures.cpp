@@ -24,6 +24,8 @@
 #include "dialogs/frm_rub_saisie.h"
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
+#include "fenetre/album.h"
+#include "fenetre/captures_papier.h"
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
@@ -40,28 +42,6 @@ namespace {
 constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show and to leave
 constexpr QSize TailleControle{1010, 690};
 constexpr QSize TailleFenetre{1280, 720};
-
-class Album {
- public:
-  explicit Album(const QString& dossier) : dossier_(dossier) {
-    if (!dossier_.mkpath(".")) {
-      throw std::runtime_error(versModele("Le dossier « " + dossier + " » ne peut pas être créé."));
-    }
-  }
-  void Prendre(QWidget& widget, const QString& nom) {
-    QCoreApplication::processEvents();
-    const QString chemin = dossier_.filePath(nom + ".png");
-    if (!widget.grab().save(chemin)) {
-      throw std::runtime_error(versModele("L'image « " + chemin + " » ne s'écrit pas."));
-    }
-    images_ << chemin;
-  }
-  const QStringList& Images() const { return images_; }
-
- private:
-  QDir dossier_;
-  QStringList images_;
-};
 
 // Stands for the user while the editor's own loop runs: a picture of each tab, then out.
 class Visite : public QObject {
@@ -242,6 +222,8 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   if (!visite.Echec().isEmpty()) throw std::runtime_error(versModele(visite.Echec()));
   if (!visite.Vue()) throw std::runtime_error("L'éditeur ne s'est pas ouvert.");
   capturerDialogues(album, bureau, liste);
+  capturerPapiers(album, bureau, liste);
+  capturerHebergees(album, bureau, liste);
   capturerSelection(album, bureau, liste);
   FenetreAide aide(&fenetre);
   aide.setAttribute(Qt::WA_DeleteOnClose, false);

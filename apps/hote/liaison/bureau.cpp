@@ -37,7 +37,7 @@ struct Bureau::Services {
   ImprimantesQt imprimante;
   ReglagesQt reglages;
   AideQt aide;
-  AucunControle controles;
+  ControlesQt controles;
   screen::Platform platform;
 };
 
@@ -52,6 +52,18 @@ screen::Platform& Bureau::Plateforme() {
 
 QSettings& Bureau::Reglages() {
   return *services_->magasin;
+}
+
+bool Bureau::Heberger(const std::string& nom, screen::ControleHeberge& controle) {
+  return services_->controles.Ajouter(nom, controle);
+}
+
+void Bureau::Congedier(const screen::ControleHeberge& controle) {
+  services_->controles.Oter(controle);
+}
+
+void Bureau::ProposerReglage(const QString& cle, std::function<QString()> trouver) {
+  services_->reglages.Proposer(cle, std::move(trouver));
 }
 
 void Bureau::Enregistrer(const std::string& forme, Fabrique fabrique) {

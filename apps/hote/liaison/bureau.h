@@ -45,6 +45,13 @@ class Bureau {
   // A new window for the form; a std::logic_error when none was registered.
   std::unique_ptr<QWidget> Construire(const std::string& forme) const;
 
+  // A control of the suite that the screens may use by that name. The first one told holds: false
+  // for any other. It is taken back before it goes.
+  bool Heberger(const std::string& nom, screen::ControleHeberge& controle);
+  void Congedier(const screen::ControleHeberge& controle);
+  // What the screens read for a setting ("section/key") that nobody has made, "" for nothing.
+  void ProposerReglage(const QString& cle, std::function<QString()> trouver);
+
   // Help was asked for: the help file and a command of screen::Aide. Unset, nothing happens.
   std::function<void(const std::string& fichier, int commande)> SurAide;
   // A document was printed to that PDF file.

@@ -115,8 +115,12 @@ Lien* Liaison::LienDe(const QWidget* widget) const {
   return nullptr;
 }
 
+// What stands in the part of a hosted control is that control's own.
 bool Liaison::Contient(const QWidget& widget) const {
-  return &widget == &racine_ || racine_.isAncestorOf(&widget);
+  for (const QWidget* w = &widget; w != &racine_; w = w->parentWidget()) {
+    if (w == nullptr || w->isWindow() || w->property(ProprieteHebergee).isValid()) return false;
+  }
+  return true;
 }
 
 // Boxes, popups and the host's own widgets are none of the form's focus changes.

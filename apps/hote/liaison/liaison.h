@@ -49,6 +49,10 @@ class GroupeOptions {
   QButtonGroup* groupe_;
 };
 
+// Set on a widget of a form's window that is none of the form's, with all that stands in it: what a
+// hosted control shows.
+inline constexpr const char* ProprieteHebergee = "hebergee";
+
 class Liaison : public QObject {
   Q_OBJECT
 

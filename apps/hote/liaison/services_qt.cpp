@@ -140,7 +140,11 @@ void IndicationsQt::Montrer(const screen::Field& champ, const std::string& texte
 
 std::string ReglagesQt::Lire(const std::string& section, const std::string& cle,
                              const std::string& defaut) const {
-  return versModele(reglages_.value(versQt(section + "/" + cle), versQt(defaut)).toString());
+  const QString entiere = versQt(section + "/" + cle);
+  if (reglages_.contains(entiere)) return versModele(reglages_.value(entiere).toString());
+  const auto proposition = propositions_.find(entiere);
+  const QString trouve = proposition == propositions_.end() ? QString() : proposition->second();
+  return trouve.isEmpty() ? defaut : versModele(trouve);
 }
 
 void ReglagesQt::Ecrire(const std::string& section, const std::string& cle,
@@ -154,6 +158,15 @@ std::string AideQt::Dossier() const {
 
 void AideQt::Appeler(const std::string& fichier, int commande) {
   if (bureau_.SurAide) bureau_.SurAide(fichier, commande);
+}
+
+void ControlesQt::Oter(const screen::ControleHeberge& controle) {
+  std::erase_if(controles_, [&](const auto& entree) { return entree.second == &controle; });
+}
+
+screen::ControleHeberge* ControlesQt::Trouver(const std::string& nom) {
+  const auto trouve = controles_.find(nom);
+  return trouve == controles_.end() ? nullptr : trouve->second;
 }
 
 }  // namespace hote

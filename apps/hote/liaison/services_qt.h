@@ -2,6 +2,8 @@
 // The services of the platform, on Qt.
 
 #include <QString>
+#include <functional>
+#include <map>
 #include <memory>
 
 #include "screen/platform.h"
@@ -114,9 +116,14 @@ class ReglagesQt : public screen::Reglages {
                    const std::string& defaut) const override;
   void Ecrire(const std::string& section, const std::string& cle,
               const std::string& valeur) override;
+  // What the workstation answers for a setting that nobody has made.
+  void Proposer(const QString& cle, std::function<QString()> trouver) {
+    propositions_[cle] = std::move(trouver);
+  }
 
  private:
   QSettings& reglages_;
+  std::map<QString, std::function<QString()>> propositions_;
 };
 
 class AideQt : public screen::Aide {
@@ -131,10 +138,18 @@ class AideQt : public screen::Aide {
   Bureau& bureau_;
 };
 
-// A host without the suite's other controls.
-class AucunControle : public screen::ControlesHeberges {
+// The suite's other controls, those that the host has.
+class ControlesQt : public screen::ControlesHeberges {
  public:
-  screen::ControleHeberge* Trouver(const std::string&) override { return nullptr; }
+  // The first one told of a name holds; false for any other.
+  bool Ajouter(const std::string& nom, screen::ControleHeberge& controle) {
+    return controles_.try_emplace(nom, &controle).second;
+  }
+  void Oter(const screen::ControleHeberge& controle);
+  screen::ControleHeberge* Trouver(const std::string& nom) override;
+
+ private:
+  std::map<std::string, screen::ControleHeberge*> controles_;
 };
 
 }  // namespace hote

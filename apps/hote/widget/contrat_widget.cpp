@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "composants/suite.h"
 #include "control/ctr_contrat.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
@@ -24,10 +25,12 @@ struct ContratWidget::Prive {
   explicit Prive(hote::Bureau& bureauDonne)
       : bureau(avecFormes(bureauDonne)),
         controle(bureau.Plateforme()),
+        suite(bureau),
         racine(bureau.Construire(controle.Nom())) {}
 
   hote::Bureau& bureau;
   control::Ctr_Contrat controle;
+  hote::Suite suite;
   std::unique_ptr<QWidget> racine;
   std::unique_ptr<hote::Liaison> liaison;
   // The host is inside init or Affiche.
@@ -52,6 +55,7 @@ int ContratWidget::W_Sortir() const {
 
 void ContratWidget::TheDatabase(data::Db& db) {
   prive_->controle.TheDatabase(db);
+  prive_->suite.Objets().Db = &db;
 }
 
 void ContratWidget::TheClient(session::Client& client) {
@@ -60,6 +64,7 @@ void ContratWidget::TheClient(session::Client& client) {
 
 void ContratWidget::DroitsUtilisateur(const session::Droits& droits) {
   prive_->controle.DroitsUtilisateur(droits);
+  prive_->suite.Objets().W_Droits = &droits;
 }
 
 void ContratWidget::init() {

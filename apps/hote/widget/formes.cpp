@@ -1,9 +1,10 @@
 #include "widget/formes.h"
 
-#include <QDialog>
 #include <QScrollArea>
 
+#include "composants/suite.h"
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "ui_Ctr_Contrat.h"
 #include "ui_Frm_Anim.h"
 #include "ui_Frm_AnomaliesAjoutgraph.h"
@@ -13,13 +14,9 @@
 #include "ui_Frm_ElementsContrat.h"
 #include "ui_Frm_ImpressionA4.h"
 #include "ui_Frm_MotifCDD.h"
-#include "ui_Frm_MotifsEmbauche.h"
-#include "ui_Frm_QualifPro.h"
 #include "ui_Frm_Reprise.h"
 #include "ui_Frm_RubSaisie.h"
 #include "ui_Frm_Stage.h"
-#include "ui_Frm_TpsIndem.h"
-#include "ui_Frm_VESPAMOI.h"
 #include "ui_OngletCaracteristiques.h"
 #include "ui_OngletConges.h"
 #include "ui_OngletFin.h"
@@ -33,12 +30,6 @@
 namespace hote {
 
 namespace {
-
-// Esc asks for the same as the close box: the model decides.
-class Fenetre : public QDialog {
- public:
-  void reject() override { close(); }
-};
 
 template <typename Forme, typename Racine>
 std::unique_ptr<QWidget> construire() {
@@ -113,15 +104,12 @@ void enregistrerFormes(Bureau& bureau) {
   bureau.Enregistrer("Frm_AnomaliesAjoutgraph", construire<Ui::Frm_AnomaliesAjoutgraph, Fenetre>);
   bureau.Enregistrer("Frm_ImpressionA4", construire<Ui::Frm_ImpressionA4, Fenetre>);
   bureau.Enregistrer("Frm_MotifCDD", construire<Ui::Frm_MotifCDD, Fenetre>);
-  bureau.Enregistrer("Frm_MotifsEmbauche", construire<Ui::Frm_MotifsEmbauche, Fenetre>);
-  bureau.Enregistrer("Frm_QualifPro", construire<Ui::Frm_QualifPro, Fenetre>);
   bureau.Enregistrer("Frm_ElemDroitPublic", construire<Ui::Frm_ElemDroitPublic, Fenetre>);
   bureau.Enregistrer("Frm_Stage", construire<Ui::Frm_Stage, Fenetre>);
   bureau.Enregistrer("Frm_RubSaisie", construire<Ui::Frm_RubSaisie, Fenetre>);
   bureau.Enregistrer("Frm_CommentBull", construire<Ui::Frm_CommentBull, Fenetre>);
-  bureau.Enregistrer("Frm_TpsIndem", construire<Ui::Frm_TpsIndem, Fenetre>);
-  bureau.Enregistrer("Frm_VESPAMOI", construire<Ui::Frm_VESPAMOI, Fenetre>);
   bureau.Enregistrer("Frm_Reprise", construire<Ui::Frm_Reprise, Fenetre>);
+  enregistrerHebergees(bureau);
 }
 
 }  // namespace hote
