@@ -57,6 +57,13 @@ struct Chemin {
   KeyRange valeurs;
 };
 
+// Reads that a road is about to make in one file.
+struct Annonce {
+  std::string_view fichier;  // of data/layouts/fichiers.h
+  std::vector<std::string> cles;
+  std::vector<KeyRange> plages;
+};
+
 class Storage {
  public:
   // Called for each record in ascending byte order of the keys; the views live until it returns.
@@ -95,7 +102,37 @@ class Storage {
 
   // Runs `travail` so that all its writes stand when this returns, or none does when it throws. Not
   // to be nested.
+  //
+  // A store that several stations share may run `travail` again from its beginning, when another
+  // station got in between: nothing of the former run stands then, and `travail` keeps nothing of
+  // it.
   virtual void EnUnBloc(const std::function<void()>& travail) = 0;
+
+  // For Route alone. A store on this machine answers a read as fast as it would keep it.
+  virtual bool ALaLigne() const { return false; }
+  virtual void DebuterRoute() {}
+  virtual void FinirRoute() noexcept {}
+  virtual void Annoncer(const std::vector<Annonce>& /*annonces*/) {}
+};
+
+// A road: the reads between one act of the user and its answer. While it lasts, a store across a
+// line fetches what is announced in one trip, and answers the same read twice without a second one.
+// What this station writes meanwhile is read back as written; what others write may be seen later,
+// in a block never: it sees nothing of what was read before it. Nothing is kept once the road ends,
+// so no road lasts over a question to the user. Roads may nest: the outer one counts.
+class Route {
+ public:
+  explicit Route(Storage& storage) : storage_(storage) { storage_.DebuterRoute(); }
+  ~Route() { storage_.FinirRoute(); }
+  Route(const Route&) = delete;
+  Route& operator=(const Route&) = delete;
+
+  // Whether announcing gains anything: no need to put keys together where it does not.
+  bool Utile() const { return storage_.ALaLigne(); }
+  void Annoncer(const std::vector<Annonce>& annonces) { storage_.Annoncer(annonces); }
+
+ private:
+  Storage& storage_;
 };
 
 // Whether a file can bear that name: upper-case ASCII letters and digits.

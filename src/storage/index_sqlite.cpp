@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "data/citem.h"
-#include "data/dictionary.h"
 #include "storage/controle.h"
+#include "storage/signature_index.h"
 #include "storage/sqlite_erreur.h"
 
 namespace storage {
@@ -45,42 +44,6 @@ constexpr std::string_view kFin = "\xFF";
 
 std::string_view finDe(const data::KeyRange& valeurs) {
   return valeurs.sansFin ? kFin : std::string_view(valeurs.fin);
-}
-
-// Every letter that a name may be written with, and numbers in several forms: what an index takes
-// of them differently than before gives another signature.
-std::string exemples() {
-  std::string texte;
-  for (char c = ' '; c <= '~'; ++c) texte += c;
-  for (int point = 0xC0; point <= 0x17F; ++point) {
-    texte += static_cast<char>(0xC0 | (point >> 6));
-    texte += static_cast<char>(0x80 | (point & 0x3F));
-  }
-  for (const char* nombre : {"+12.50", ".50", "012", "-0"}) (texte += data::SepValeur) += nombre;
-  return texte;
-}
-
-std::int64_t calculerSignature() {
-  Controle controle;
-  const std::string contenu = exemples();
-  for (const data::Index& index : data::IndexTenus) {
-    controle.Texte(index.fichier);
-    controle.Texte(data::champIndex(index));
-    data::CItem exemple;
-    exemple.Set(
-        index.nom.empty() ? index.attribut : data::findDefinition(index.fichier, index.nom)->a,
-        contenu);
-    for (const auto& entree : data::entreesDe(index.fichier, "00001001", exemple.Text())) {
-      controle.Texte(entree.valeur);
-    }
-  }
-  const std::int64_t signature = controle.Valeur();
-  return signature == 0 ? 1 : signature;
-}
-
-std::int64_t signatureVoulue() {
-  static const std::int64_t signature = calculerSignature();
-  return signature;
 }
 
 std::string sqlSignature(std::int64_t signature) {
@@ -126,7 +89,7 @@ void parcourirArticles(Connexion& connexion, const Acte& acte, const Visite& vis
 }  // namespace
 
 std::string sqlTablesIndex() {
-  return kTables + ("INSERT INTO indice(signature) VALUES(" + std::to_string(signatureVoulue())) +
+  return kTables + ("INSERT INTO indice(signature) VALUES(" + std::to_string(signatureIndex())) +
          ");";
 }
 
@@ -153,13 +116,13 @@ std::int64_t IndexSqlite::Signature(const Acte& acte) {
 }
 
 bool IndexSqlite::Tenu(const Acte& acte) {
-  return Signature(acte) == signatureVoulue();
+  return Signature(acte) == signatureIndex();
 }
 
 void IndexSqlite::Suivre(const Acte& acte, const std::optional<std::string_view>& avant,
                          const std::optional<std::string_view>& apres) {
   const std::int64_t signature = Signature(acte);
-  if (signature != signatureVoulue()) {
+  if (signature != signatureIndex()) {
     if (signature != 0) connexion_.Executer(sqlSignature(0).c_str(), acte);
     return;
   }
@@ -174,7 +137,7 @@ std::optional<std::size_t> IndexSqlite::Compter(const Acte& acte, const data::Ch
   const Usage compter(chemin.index == nullptr ? requetes_->compterCles : requetes_->compterEntrees);
   lierChemin(compter, acte.fichier, chemin);
   compter->Lier(4, static_cast<std::int64_t>(plafond));
-  compter->Lier(5, signatureVoulue());
+  compter->Lier(5, signatureIndex());
   compter->Avancer(acte);
   const std::int64_t compte = compter->Nombre(0);
   if (compte < 0) return std::nullopt;
@@ -211,7 +174,7 @@ void IndexSqlite::Refaire(const std::function<void(long)>& avance) {
                       }
                       if (++lus % kPasAvance == 0 && avance) avance(lus);
                     });
-  connexion_.Executer(sqlSignature(signatureVoulue()).c_str(), kRefaire);
+  connexion_.Executer(sqlSignature(signatureIndex()).c_str(), kRefaire);
 }
 
 LectureUnie::LectureUnie(Connexion& connexion, bool tenue, const Acte& acte)

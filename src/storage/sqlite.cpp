@@ -121,6 +121,16 @@ void SqliteStorage::Oublier(std::string_view fichier, std::string_view cle) {
   moteur_->Ecrire(acte, [&] { moteur_->OterTout(acte); });
 }
 
+void SqliteStorage::ParcourirHistorique(const VisiteurTexte& visiteur) {
+  Lecteur().Histoire(visiteur);
+}
+
+void SqliteStorage::Reprendre(std::string_view fichier, std::string_view cle,
+                              const data::AncienTexte& ancien) {
+  const Acte acte{"Écriture", fichier, cle};
+  moteur_->Ecrire(acte, [&] { moteur_->Ranger(acte, ancien); });
+}
+
 bool SqliteStorage::Compacter() {
   return moteur_->Compacter();
 }

@@ -13,6 +13,7 @@
 
 #include "data/poste.h"
 #include "data/storage.h"
+#include "storage/magasin.h"
 
 namespace storage {
 
@@ -24,14 +25,7 @@ struct SqliteOptions {
   std::function<void(long)> avanceIndex = {};
 };
 
-// A place of the file that does not read back as it was written.
-struct Dommage {
-  std::string fichier;  // with `cle`, the damaged record; empty when it is no single record
-  std::string cle;
-  std::string message;  // French, one sentence
-};
-
-class SqliteStorage : public data::Storage {
+class SqliteStorage : public Magasin {
  public:
   // Of an existing data file. StoreError when it is absent, a directory, no data file, of another
   // version, damaged, or on a place that cannot be written. `poste` must outlive the store. A file
@@ -49,8 +43,7 @@ class SqliteStorage : public data::Storage {
                                               const SqliteOptions& options = {});
   ~SqliteStorage() override;
 
-  // What the opening had to do that the user should know, a French sentence; "" for nothing.
-  const std::string& Avis() const;
+  const std::string& Avis() const override;
   // What has become of a file that no longer stands under its name, and what its user can do; ""
   // while it is in place. Until it is put back, every write is a StoreError that says the same.
   std::string Defaut() const;
@@ -77,31 +70,21 @@ class SqliteStorage : public data::Storage {
   // programmer's error (std::logic_error).
   void EnUnBloc(const std::function<void()>& travail) override;
 
-  // Forgetting, which leaves no former text. The records that have former texts, with their number;
-  // with `avant`, a time as in the history, only those replaced before it.
-  using VisiteurAnciens =
-      std::function<void(std::string_view fichier, std::string_view cle, long anciens)>;
-  void ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur);
-  // Removes for good the former texts replaced before `avant`, or one record with all of its own.
-  // In a block or outside.
-  void OublierAvant(std::string_view avant);
-  void Oublier(std::string_view fichier, std::string_view cle);
-  // Gives the room of what was removed back to the disk, where nothing of it is left in the file or
-  // its log. False when a reader keeps a part of the log until it ends. Not in a block.
-  bool Compacter();
+  void ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) override;
+  void OublierAvant(std::string_view avant) override;
+  void Oublier(std::string_view fichier, std::string_view cle) override;
+  bool Compacter() override;
+  void ParcourirHistorique(const VisiteurTexte& visiteur) override;
+  void Reprendre(std::string_view fichier, std::string_view cle,
+                 const data::AncienTexte& ancien) override;
 
   // Reads every page, record and former text and reports each damaged one; where a damaged page
-  // cuts the way, what stands behind it is read from the other end. `avance`, if any, is told now
-  // and then how many records and former texts have been read. Others may go on working.
+  // cuts the way, what stands behind it is read from the other end.
   void Verifier(const std::function<void(const Dommage&)>& signaler,
-                const std::function<void(long)>& avance = {});
-
-  // Compares the indexes with the records, and reports where they differ. False, and no report, for
-  // a file without indexes that this program can use. Others may go on working.
+                const std::function<void(long)>& avance = {}) override;
   bool VerifierIndex(const std::function<void(const Dommage&)>& signaler,
-                     const std::function<void(long)>& avance = {});
-  // Makes all indexes anew from the records; others wait to write.
-  void RefaireIndex(const std::function<void(long)>& avance = {});
+                     const std::function<void(long)>& avance = {}) override;
+  void RefaireIndex(const std::function<void(long)>& avance = {}) override;
 
  private:
   class Moteur;

@@ -99,15 +99,6 @@ int codePrecise(sqlite3* db, int code) {
   }
 }
 
-std::string ou(const Acte& acte) {
-  std::string texte(acte.nom);
-  if (acte.fichier.empty()) return texte;
-  if (!acte.cle.empty() && !acte.apres) texte.append(" de l'article « ").append(acte.cle) += " »";
-  texte.append(" du fichier ").append(acte.fichier);
-  if (!acte.cle.empty() && acte.apres) texte.append(" après la clé « ").append(acte.cle) += " »";
-  return texte;
-}
-
 std::string suiteDe(sqlite3* db, int code, const std::string& chemin) {
   const Traduction* ligne = traduction(code);
   if (ligne == nullptr) {
@@ -142,14 +133,6 @@ StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const 
   const Traduction* ligne = traduction(precise);
   return erreur(ligne == nullptr ? NumeroErreur::EntreeSortie : ligne->numero, chemin, acte,
                 suiteDe(db, precise, chemin));
-}
-
-StoreError erreur(NumeroErreur numero, const std::string& chemin, const Acte& acte,
-                  const std::string& suite) {
-  const std::string lien = acte.fichier.empty() ? " « " : " impossible dans « ";
-  const std::string fin = acte.fichier.empty() ? " » impossible : " : " » : ";
-  return StoreError(numero, ou(acte) + lien + chemin + fin + suite, std::string(acte.fichier),
-                    std::string(acte.cle));
 }
 
 StoreError erreurControle(const std::string& chemin, const Acte& acte) {

@@ -6,19 +6,11 @@
 #include <string_view>
 
 #include "data/store_error.h"
+#include "storage/acte.h"
 
 struct sqlite3;
 
 namespace storage {
-
-// What was being done, to word an error. The views are only read while the call lasts.
-struct Acte {
-  // With a file: "Lecture", "Parcours". Without one, up to the data file's name: "Ouverture de".
-  std::string_view nom;
-  std::string_view fichier = {};
-  std::string_view cle = {};
-  bool apres = false;  // at some place after that key, not at its record
-};
 
 // For a file shorter than its header says, the two sizes, as a piece of a sentence; "" otherwise.
 // While a log stands beside the file nothing can be said: the end may be in it still.
@@ -27,10 +19,6 @@ std::string finManquante(sqlite3* db, const std::string& chemin);
 // The error for a result code of `db`, right after the call that gave it; `db` may be null.
 // `chemin` is the data file as the user named it.
 data::StoreError erreurSqlite(sqlite3* db, int code, const std::string& chemin, const Acte& acte);
-
-// An error that is found without SQLite: `suite` is the cause and what to do, in whole sentences.
-data::StoreError erreur(data::NumeroErreur numero, const std::string& chemin, const Acte& acte,
-                        const std::string& suite);
 
 // The error for a record, or a former text, whose checksum does not agree.
 data::StoreError erreurControle(const std::string& chemin, const Acte& acte);

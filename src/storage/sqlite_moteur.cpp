@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "storage/controle.h"
+#include "storage/parcours.h"
 #include "storage/sqlite_schema.h"
 
 namespace storage {
@@ -25,6 +26,9 @@ constexpr const char* kDernierNumero =
 constexpr const char* kAnciens =
     "SELECT numero, texte, horodatage, utilisateur, supprime, controle FROM ancien "
     "WHERE fichier = ?1 AND cle = ?2 ORDER BY numero";
+constexpr const char* kHistoire =
+    "SELECT fichier, cle, numero, texte, horodatage, utilisateur, supprime, controle FROM ancien "
+    "ORDER BY fichier, cle, numero";
 constexpr const char* kScan =
     "SELECT cle, texte, controle FROM article "
     "WHERE fichier = ?1 AND cle >= ?2 AND cle < ?3 ORDER BY cle";
@@ -188,6 +192,24 @@ std::vector<data::AncienTexte> SqliteStorage::Moteur::Anciens(const Acte& acte) 
   return anciens;
 }
 
+void SqliteStorage::Moteur::Histoire(const VisiteurTexte& visiteur) {
+  const Acte acte{"Lecture de l'historique de"};
+  Requete lire(*connexion_, kHistoire, acte);
+  const Parcours parcours(parcours_);
+  while (lire.Avancer(acte)) {
+    const std::string_view fichier = lire.Texte(0);
+    const std::string_view cle = lire.Texte(1);
+    const data::AncienTexte ancien{static_cast<long>(lire.Nombre(2)), std::string(lire.Texte(3)),
+                                   std::string(lire.Texte(4)), std::string(lire.Texte(5)),
+                                   lire.Nombre(6) != 0};
+    if (lire.Nombre(7) != controleAncien(fichier, cle, ancien)) {
+      throw erreurControle(connexion_->Chemin(), {"Lecture", fichier, cle});
+    }
+    visiteur(fichier, cle, ancien);
+  }
+  connexion_->ExigerTenue(acte);
+}
+
 void SqliteStorage::Moteur::Poser(const Acte& acte, std::string_view texte) {
   std::string avant;
   const bool present = Lire(acte, avant);
@@ -265,13 +287,17 @@ void SqliteStorage::Moteur::Archiver(const Acte& acte, std::string_view texte, b
     dernier->Lier(2, acte.cle);
     if (dernier->Avancer(acte)) ancien.numero = static_cast<long>(dernier->Nombre(0)) + 1;
   }
+  Ranger(acte, ancien);
+}
+
+void SqliteStorage::Moteur::Ranger(const Acte& acte, const data::AncienTexte& ancien) {
   archiver_.Lier(1, acte.fichier);
   archiver_.Lier(2, acte.cle);
   archiver_.Lier(3, std::int64_t{ancien.numero});
   archiver_.Lier(4, ancien.texte);
   archiver_.Lier(5, ancien.horodatage);
   archiver_.Lier(6, ancien.utilisateur);
-  archiver_.Lier(7, std::int64_t{supprime ? 1 : 0});
+  archiver_.Lier(7, std::int64_t{ancien.supprime ? 1 : 0});
   archiver_.Lier(8, controleAncien(acte.fichier, acte.cle, ancien));
   archiver_.Executer(acte);
 }

@@ -59,11 +59,14 @@ class SqliteStorage::Moteur {
   std::vector<data::FichierCompte> Compter();
   std::vector<data::AncienTexte> Anciens(const Acte& acte);
 
+  void Histoire(const VisiteurTexte& visiteur);
   void CompterAnciens(std::string_view avant, const VisiteurAnciens& visiteur);
 
   void Poser(const Acte& acte, std::string_view texte);
   bool Oter(const Acte& acte);
   void OterAnciens(const Acte& acte, std::string_view avant);
+  // Among the former texts, as it is.
+  void Ranger(const Acte& acte, const data::AncienTexte& ancien);
   void OterTout(const Acte& acte);
   bool Compacter();
 

@@ -14,7 +14,9 @@
 #include "data/query_plan.h"
 #include "data/select.h"
 #include "storage/memory.h"
+#include "storage/postgres.h"
 #include "storage/sqlite.h"
+#include "support/serveur.h"
 #include "support/temp_dir.h"
 
 namespace data {
@@ -203,8 +205,10 @@ class IndexedStoreTest : public testing::TestWithParam<std::string> {
   IndexedStoreTest() {
     if (GetParam() == "memory") {
       store_ = std::make_unique<storage::MemoryStorage>(poste_);
-    } else {
+    } else if (GetParam() == "sqlite") {
       store_ = storage::SqliteStorage::Creer(dir_.Chemin("test"), poste_);
+    } else {
+      store_ = storage::PostgresStorage::Creer(support::Serveur::Commun().NouvelleBase(), poste_);
     }
   }
 
@@ -235,7 +239,7 @@ class IndexedStoreTest : public testing::TestWithParam<std::string> {
   std::unique_ptr<Storage> store_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Stores, IndexedStoreTest, testing::Values("memory", "sqlite"),
+INSTANTIATE_TEST_SUITE_P(Stores, IndexedStoreTest, testing::Values("memory", "sqlite", "postgres"),
                          [](const auto& test) { return test.param; });
 
 TEST_P(IndexedStoreTest, RoadsFindWhatAScanFinds) {

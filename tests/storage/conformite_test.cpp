@@ -8,7 +8,9 @@
 #include "data/poste.h"
 #include "essai.h"
 #include "storage/memory.h"
+#include "storage/postgres.h"
 #include "storage/sqlite.h"
+#include "support/serveur.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -24,8 +26,10 @@ class Conformite : public testing::TestWithParam<std::string> {
   Conformite() {
     if (GetParam() == "memoire") {
       store_ = std::make_unique<storage::MemoryStorage>(poste_);
-    } else {
+    } else if (GetParam() == "sqlite") {
       store_ = storage::SqliteStorage::Creer(dossier_.Chemin("essai"), poste_);
+    } else {
+      store_ = storage::PostgresStorage::Creer(support::Serveur::Commun().NouvelleBase(), poste_);
     }
   }
   data::Storage& Store() { return *store_; }
@@ -47,7 +51,7 @@ class Conformite : public testing::TestWithParam<std::string> {
   std::unique_ptr<data::Storage> store_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Magasins, Conformite, testing::Values("memoire", "sqlite"),
+INSTANTIATE_TEST_SUITE_P(Magasins, Conformite, testing::Values("memoire", "sqlite", "postgres"),
                          [](const auto& essai) { return essai.param; });
 
 TEST_P(Conformite, ScanRangesInByteOrder) {

@@ -1,0 +1,100 @@
+#pragma once
+// What PostgresStorage holds: the connection, and the state of blocks, scans and roads. For
+// storage/postgres*.cpp alone.
+
+#include <chrono>
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "data/index.h"
+#include "storage/postgres.h"
+#include "storage/postgres_lien.h"
+#include "storage/postgres_route.h"
+
+namespace storage {
+
+class PostgresStorage::Moteur {
+ public:
+  Moteur(const std::string& adresse, const data::Poste& poste, const PostgresOptions& options,
+         bool lecture);
+  ~Moteur();
+
+  // Reads.
+  bool Lire(const Acte& acte, std::string& texte);
+  void Parcourir(const Acte& acte, const data::KeyRange& cles, const Visiteur& visiteur);
+  std::optional<std::size_t> Compter(const Acte& acte, const data::Chemin& chemin,
+                                     std::size_t plafond);
+  bool ParcourirChemins(const Acte& acte, const std::vector<data::Chemin>& chemins,
+                        const Visiteur& visiteur);
+  void Annoncer(const std::vector<data::Annonce>& annonces);
+  // The answers to the `nombre` orders that `envoyer` sends, in one trip: in the block under way,
+  // or over a connection that is made anew when it was lost.
+  std::vector<Reponse> Interroger(const Acte& acte, std::size_t nombre,
+                                  const std::function<void()>& envoyer);
+  // One state of the base for all reads of `travail`, however long they last.
+  void EnUnEtat(const Acte& acte, const std::function<void()>& travail);
+
+  // Writes.
+  void Poser(const Acte& acte, std::string_view texte);
+  bool Oter(const Acte& acte);
+  // Sends `nombre` orders in the block under way, or in a transaction of their own; their answers
+  // in that case, none in a block.
+  std::vector<Reponse> Ecrire(const Acte& acte, std::size_t nombre,
+                              const std::function<void()>& envoyer);
+  void EnUnBloc(const std::function<void()>& travail);
+  void EnvoyerEntrees(const Acte& acte, const std::vector<data::EntreeIndex>& entrees);
+
+  Lien& LaLigne() { return lien_; }
+  MemoireDeRoute& Route() { return route_; }
+  bool EnBloc() const { return enBloc_; }
+  void ExigerRepos() const;
+
+ private:
+  using Horloge = std::chrono::steady_clock;
+  class Attente;
+
+  void ExigerBlocSain() const;
+  void ExigerEcriture(const Acte& acte) const;
+  // The block is lost; throws what it was first lost by.
+  [[noreturn]] void Rompre(const PanneServeur& panne);
+  void Annuler() noexcept;
+  void Noter(const Acte& acte, std::optional<std::int64_t> controle);
+  std::vector<Reponse> Exiger(std::vector<Reponse> reponses, std::size_t nombre) const;
+  std::shared_ptr<const Rangs> Relire(const Reponse& reponse, std::string_view fichier,
+                                      int colonne) const;
+  std::string_view TexteSain(const Reponse& reponse, int ligne, int colonne, const Acte& acte,
+                             std::string_view cle) const;
+  bool Servir(const Rangs& rangs, const data::KeyRange& cles, const Visiteur& visiteur);
+  void Feuilleter(const Acte& acte, data::KeyRange cles, const Visiteur& visiteur);
+  void EnvoyerChemin(const Acte& acte, const data::Chemin& chemin);
+  std::optional<std::size_t> CompterEtRetenir(const Acte& acte, const data::Chemin& chemin,
+                                              std::size_t plafond);
+  std::optional<Rangs> LireChemins(const Acte& acte, const std::vector<data::Chemin>& chemins);
+  bool Tenter(const std::function<void()>& travail);
+  // After a connection that was lost with the end of a block on its way: whether it stands.
+  bool Confirmer(const Acte& acte);
+  bool ToutEcrit(const Acte& acte);
+
+  Lien lien_;
+  const data::Poste& poste_;
+  PostgresOptions options_;
+  bool lecture_;
+  MemoireDeRoute route_;
+  bool enBloc_ = false;
+  bool enUnEtat_ = false;
+  int parcours_ = 0;            // scans under way
+  std::exception_ptr rupture_;  // the first order of the block that failed
+  bool aReprendre_ = false;     // it failed because another station got in between
+  // What the block under way has written: the checksum of each record, none of one that went. A
+  // block stands whole or not at all: some of its records tell.
+  std::map<std::pair<std::string, std::string>, std::optional<std::int64_t>> ecrits_;
+};
+
+}  // namespace storage
