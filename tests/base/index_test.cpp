@@ -76,9 +76,6 @@ TEST_F(IndexOutilTest, PlanDitCommentLaQuestionSeraitTraitee) {
       {R"(SELECT CONTRAT = "A" AVEC 0 = "B")", "parcours du fichier CONTRAT, clés : aucune\n"},
   };
   for (const auto& c : cas) EXPECT_EQ(Outil({"select", c.question, "--plan"}), c.plan);
-  EXPECT_EQ(Outil({"select", "SELECT CONTRAT", "--plan", "--json"}),
-            "--plan et --json ne se donnent pas ensemble.\n");
-  EXPECT_EQ(code_, 2);
 }
 
 TEST_F(IndexOutilTest, VerifierCompareEtReparerRefait) {

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <optional>
 #include <sstream>
@@ -110,41 +109,39 @@ TEST_F(VerificationTest, TrouveChaqueDefautPlante) {
   EXPECT_EQ(Constats(store), "PCS 11 | le texte n'est pas sous sa forme canonique\n");
 }
 
-// Days, entities, agreements and employers of one carer's contracts: "from-to entity agreement
-// employer", a cancelled one with a dash before.
+// One carer's contracts: first and last day, entity, agreement, then the private employer, or O for
+// a cancelled one.
 TEST_F(VerificationTest, NommeLesContratsQuiSeChevauchent) {
   constexpr const char* kPar = "le contrat chevauche le contrat « ";
   const struct {
     const char* cas;
-    std::vector<std::array<std::string, 5>> contrats;
+    std::vector<std::string> contrats;
     std::string paires;
-  } cas[] = {
-      {"one after the other", {{"1", "9", "001", "01", ""}, {"10", "", "001", "01", ""}}, ""},
-      {"the last day", {{"1", "9", "001", "01", ""}, {"9", "20", "001", "03", ""}}, "2>1 "},
-      {"open-ended", {{"30", "40", "001", "01", ""}, {"1", "", "001", "01", ""}}, "1>2 "},
-      {"other entity", {{"1", "", "001", "01", ""}, {"1", "", "002", "01", ""}}, ""},
-      {"private employer beside",
-       {{"1", "", "001", "01", ""}, {"1", "", "001", "02", "00007"}},
-       ""},
-      {"two employers", {{"1", "", "001", "02", "00006"}, {"1", "", "001", "02", "00007"}}, ""},
-      {"one employer", {{"1", "", "001", "02", "00007"}, {"5", "", "001", "02", "00007"}}, "2>1 "},
-      {"inside a long one",
-       {{"1", "90", "001", "01", ""}, {"5", "9", "001", "01", ""}, {"20", "30", "001", "01", ""}},
-       "2>1 3>1 "},
-      {"cancelled", {{"1", "", "001", "01", ""}, {"-5", "", "001", "01", ""}}, ""}};
+  } cas[] = {{"one after the other", {"1 9 001 01", "10 - 001 01"}, ""},
+             {"the last day", {"1 9 001 01", "9 20 001 03"}, "2>1 "},
+             {"open-ended", {"30 40 001 01", "1 - 001 01"}, "1>2 "},
+             {"other entity", {"1 - 001 01", "1 - 002 01"}, ""},
+             {"private employer beside", {"1 - 001 01", "1 - 001 02 00007"}, ""},
+             {"two employers", {"1 - 001 02 00006", "1 - 001 02 00007"}, ""},
+             {"one employer", {"1 - 001 02 00007", "5 - 001 02 00007"}, "2>1 "},
+             {"inside a long one", {"1 90 001 01", "5 9 001 01", "20 30 001 01"}, "2>1 3>1 "},
+             {"cancelled", {"1 - 001 01", "5 - 001 01 O"}, ""}};
   for (const auto& c : cas) {
     SCOPED_TRACE(c.cas);
     storage::MemoryStorage store(poste_);
     for (std::size_t i = 0; i < c.contrats.size(); ++i) {
-      const auto& [debut, fin, entite, convention, employeur] = c.contrats[i];
-      const bool annule = debut[0] == '-';
+      std::istringstream mots(c.contrats[i]);
       CItem contrat;
-      contrat.Set(Contrat::DateDebut, debut.substr(annule ? 1 : 0));
-      contrat.Set(Contrat::DateFin, fin);
-      contrat.Set(Contrat::Association, entite);
-      contrat.Set(Contrat::Convention, convention);
-      contrat.Set(Contrat::Employeur, employeur);
-      if (annule) contrat.Set(Contrat::Annule, "O");
+      std::string mot;
+      for (const int a : {Contrat::DateDebut, Contrat::DateFin, Contrat::Association,
+                          Contrat::Convention, Contrat::Employeur}) {
+        mots >> mot;
+        if (mots && mot == "O") {
+          contrat.Set(Contrat::Annule, mot);
+        } else if (mots && mot != "-") {
+          contrat.Set(a, mot);
+        }
+      }
       store.Put("CONTRAT", "0000100" + std::to_string(i + 1), contrat.Text());
     }
     // Another carer's contracts have nothing to do with these.

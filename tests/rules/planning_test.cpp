@@ -61,6 +61,14 @@ class Planning : public ::testing::Test {
     }
     return trouves;
   }
+  void vider(const char* fichier) {
+    std::vector<std::string> cles;
+    memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto) {
+      cles.emplace_back(cle);
+      return true;
+    });
+    for (const auto& cle : cles) memoire.Erase(fichier, cle);
+  }
   std::string reste() {
     std::string cles;
     for (const char* fichier : {"TPSDETAILSINTERV", "TPSEXCEPTIONS", "TPSSANSCONTRAT"}) {
@@ -200,14 +208,7 @@ TEST_F(Planning, LesIncidencesAppliqueesUneParUne) {
                     sansContrat = "000010000721202001DOM20830";
   const auto preparer = [&](const char* mode) {
     stockage->EchouerEcriture(0);
-    for (const char* fichier : {"TPSDETAILSINTERV", "TPSEXCEPTIONS"}) {
-      std::vector<std::string> cles;
-      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto) {
-        cles.emplace_back(cle);
-        return true;
-      });
-      for (const auto& cle : cles) memoire.Erase(fichier, cle);
-    }
+    for (const char* fichier : {"TPSDETAILSINTERV", "TPSEXCEPTIONS"}) vider(fichier);
     parametres(mode);
     intervention("21100", "", "001DOM", "0");
     intervention("21201", "", "001DOM", "1");

@@ -28,9 +28,7 @@ TEST(Preavis, ChaqueCaseDuBareme) {
     const char* attendus[4];
   } cas[] = {
       {"01", 'A', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'B', true, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'C', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'D', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
+      {"01", 'D', true, {"6 jours", "1 mois", "1 mois", "2 mois"}},
       {"01", 0, false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
       {"01", 'E', false, {"1 mois", "1 mois", "1 mois", "2 mois"}},
       {"01", 'F', true, {"1 mois", "1 mois", "1 mois", "2 mois"}},
@@ -163,14 +161,15 @@ TEST(Preavis, CeQuiFaitLaSituation) {
 TEST(Preavis, LesMotifs) {
   const struct {
     const char* motif;
-    bool preavis, indemnite, retrait;
-  } cas[] = {{"11", true, true, false}, {"33", false, true, false},  {"91", false, true, false},
-             {"92", true, true, false}, {"43", false, false, false}, {"59", false, false, true},
-             {"20", true, true, true},  {"", false, false, false},   {"1", false, false, false}};
-  for (const auto& c : cas) {
-    EXPECT_EQ(rules::motifAvecPreavis(c.motif), c.preavis) << c.motif;
-    EXPECT_EQ(rules::motifAvecIndemnite(c.motif), c.indemnite) << c.motif;
-    EXPECT_EQ(rules::motifRetireHeures(c.motif), c.retrait) << c.motif;
+    const char* attendu;  // p: notice, i: allowance, r: hours withdrawn
+  } cas[] = {{"11", "pi"}, {"33", "i"},   {"91", "i"}, {"92", "pi"}, {"43", ""},
+             {"59", "r"},  {"20", "pir"}, {"", ""},    {"1", ""}};
+  for (const auto& [motif, attendu] : cas) {
+    EXPECT_EQ(std::string(rules::motifAvecPreavis(motif) ? "p" : "") +
+                  (rules::motifAvecIndemnite(motif) ? "i" : "") +
+                  (rules::motifRetireHeures(motif) ? "r" : ""),
+              attendu)
+        << motif;
   }
 }
 

@@ -72,6 +72,7 @@ TEST_F(Traitements, LePlanningRetient) {
   article("ACTIVITES", "001DOM", {{12, "P"}});
   article("ACTIVITES", "001MAN", {{12, "M"}});
   const ContratTraite entite = contrat("01", false, "P"), mandat = contrat("02", false, "M");
+  const rules::JoursPlanifies jour{21100, {}, {}}, fin{21100, 21150, 21200};
   // An intervention of carer 00001, by person helped, first day, activity and last day.
   const struct {
     const char* nom;
@@ -80,30 +81,16 @@ TEST_F(Traitements, LePlanningRetient) {
     rules::JoursPlanifies jours;
     bool libre;
   } cas[] = {
-      {"without end", entite, "00008", "21000", "001DOM", "", {21100, {}, {}}, false},
-      {"over before", entite, "00008", "21000", "001DOM", "21099", {21100, {}, {}}, true},
-      {"on its first day", entite, "00008", "21000", "001DOM", "21100", {21100, {}, {}}, false},
-      {"another entity's", entite, "00008", "21000", "002DOM", "", {21100, {}, {}}, true},
-      {"a private employer's", entite, "00007", "21000", "001MAN", "", {21100, {}, {}}, true},
-      {"that employer's", mandat, "00007", "21000", "001MAN", "", {21100, {}, {}}, false},
-      {"another employer's", mandat, "00008", "21000", "001MAN", "", {21100, {}, {}}, true},
-      {"up to the end", entite, "00008", "21150", "001DOM", "21200", {21100, 21150, 21200}, false},
-      {"after the last day",
-       entite,
-       "00008",
-       "21151",
-       "001DOM",
-       "21200",
-       {21100, 21150, 21200},
-       true},
-      {"over before the end",
-       entite,
-       "00008",
-       "21150",
-       "001DOM",
-       "21199",
-       {21100, 21150, 21200},
-       true},
+      {"without end", entite, "00008", "21000", "001DOM", "", jour, false},
+      {"over before", entite, "00008", "21000", "001DOM", "21099", jour, true},
+      {"on its first day", entite, "00008", "21000", "001DOM", "21100", jour, false},
+      {"another entity's", entite, "00008", "21000", "002DOM", "", jour, true},
+      {"a private employer's", entite, "00007", "21000", "001MAN", "", jour, true},
+      {"that employer's", mandat, "00007", "21000", "001MAN", "", jour, false},
+      {"another employer's", mandat, "00008", "21000", "001MAN", "", jour, true},
+      {"up to the end", entite, "00008", "21150", "001DOM", "21200", fin, false},
+      {"after the last day", entite, "00008", "21151", "001DOM", "21200", fin, true},
+      {"over before the end", entite, "00008", "21150", "001DOM", "21199", fin, true},
   };
   for (const auto& c : cas) {
     const std::string cle = std::string("00001") + c.aide + c.debut + c.activite + "00830";
@@ -111,9 +98,9 @@ TEST_F(Traitements, LePlanningRetient) {
     EXPECT_EQ(!rules::Verif_PlanningSuppression(db, c.contrat, c.jours), c.libre) << c.nom;
     db.OpenFile("TPSDETAILSINTERV").DeleteItem(cle);
   }
-  EXPECT_FALSE(rules::Verif_PlanningSuppression(db, entite, {21100, {}, {}}));
+  EXPECT_FALSE(rules::Verif_PlanningSuppression(db, entite, jour));
   article("TPSMOI", "1", {{4, "00001002"}});
-  const auto refus = rules::Verif_PlanningSuppression(db, entite, {21100, {}, {}});
+  const auto refus = rules::Verif_PlanningSuppression(db, entite, jour);
   ASSERT_TRUE(refus);
   EXPECT_TRUE(refus->texte.starts_with("Impossible de supprimer ce contrat car de la Main"));
 }
