@@ -30,8 +30,8 @@ void sansNumero(Dossier& d) {
 void etrangere(Dossier& d, const char* zone) {
   sansNumero(d);
   d.aidant.Set(19, "ITALIE");
-  d.paysNationalite = item({{1, "République italienne du Nord"}, {2, zone}});
-  d.etranger = item({{1, "2"}, {3, "0000123"}});
+  d.paysNationalite = item(std::string("1=République italienne du Nord|2=") + zone);
+  d.etranger = item("1=2|3=0000123");
 }
 
 TEST(DeclarationFormulaire, EachPlaceTakesItsTextOrItsDigits) {
@@ -76,7 +76,7 @@ TEST(DeclarationFormulaire, TheOriginIsAskedOnlyOfACarerWithoutNumber) {
       {14.7, "4.75 Maroc",
        [](Dossier& d) {
          sansNumero(d);
-         d.paysNaissance = item({{1, "Maroc"}});
+         d.paysNaissance = item("1=Maroc");
        }},
   });
 }
@@ -102,22 +102,17 @@ TEST(DeclarationFormulaire, AddressesAreJoinedAndTheEmployersIsCut) {
 TEST(DeclarationFormulaire, TheKindOfEmployerChoosesTheCrosses) {
   const struct {
     const char* code;
-    const char* y2255;
-    const char* y22;
-    const char* y238;
-  } cas[] = {
-      {"00", "1.9 X", "", ""},      {"01", "1.9 X", "", ""},      {"", "", "1.9 X", ""},
-      {"04", "", "1.9 X", "2 X"},   {"02", "", "1.9 X", "3.2 X"}, {"03", "", "1.9 X", "4.4 X"},
-      {"07", "", "1.9 X", "5.6 X"}, {"06", "", "1.9 X", "5.6 X"}, {"10", "", "1.9 X", "6.8 X"},
-      {"08", "", "1.9 X", "6.8 X"}, {"09", "", "1.9 X", "8 X"},   {"05", "", "1.9 X", "8 X"},
-  };
-  for (const auto& c : cas) {
+    const char* croix;  // of the rows 22.55, 22 and 23.8
+  } cas[] = {{"00", "1.9 X//"},      {"01", "1.9 X//"},      {"", "/1.9 X/"},
+             {"04", "/1.9 X/2 X"},   {"02", "/1.9 X/3.2 X"}, {"03", "/1.9 X/4.4 X"},
+             {"07", "/1.9 X/5.6 X"}, {"06", "/1.9 X/5.6 X"}, {"10", "/1.9 X/6.8 X"},
+             {"08", "/1.9 X/6.8 X"}, {"09", "/1.9 X/8 X"},   {"05", "/1.9 X/8 X"}};
+  for (const auto& [code, croix] : cas) {
     Dossier d = declaration();
-    d.part.Set(9, c.code);
+    d.part.Set(9, code);
     const documents::Page page = documents::declarationFormulaire(d);
-    EXPECT_EQ(rangee(page, 22.55), c.y2255) << c.code;
-    EXPECT_EQ(rangee(page, 22), c.y22) << c.code;
-    EXPECT_EQ(rangee(page, 23.8), c.y238) << c.code;
+    EXPECT_EQ(rangee(page, 22.55) + "/" + rangee(page, 22) + "/" + rangee(page, 23.8), croix)
+        << code;
   }
 }
 
@@ -126,16 +121,16 @@ TEST(DeclarationFormulaire, PicturesLieUnderAndAfterTheTexts) {
   Dossier d = declaration();
   d.signature = "signature.png";
   const documents::Page page = documents::declarationFormulaire(d);
-  const auto& fond = std::get<documents::Image>(page.elements.front());
-  EXPECT_EQ(fond.fichier, "images/URSSAF.jpg");
-  EXPECT_EQ(std::lround(fond.largeur * 567), 11800);
-  EXPECT_EQ(std::lround(fond.hauteur * 567), 16895);
-  const auto& signature = std::get<documents::Image>(page.elements.back());
-  EXPECT_EQ(signature.fichier, "signature.png");
-  EXPECT_EQ(std::lround(signature.x * 567), 6500);
-  EXPECT_EQ(std::lround(signature.y * 567), 15500);
-  EXPECT_EQ(std::lround(signature.largeur * 567), 3000);
-  EXPECT_EQ(std::lround(signature.hauteur * 567), 1000);
+  const auto image = [](const auto& element) {
+    const auto& i = std::get<documents::Image>(element);
+    std::string texte = i.fichier;
+    for (const double cm : {i.x, i.y, i.largeur, i.hauteur}) {
+      texte += " " + std::to_string(std::lround(cm * 567));
+    }
+    return texte;
+  };
+  EXPECT_EQ(image(page.elements.front()), "images/URSSAF.jpg 0 0 11800 16895");
+  EXPECT_EQ(image(page.elements.back()), "signature.png 6500 15500 3000 1000");
   const auto& titre = std::get<documents::Texte>(page.elements[1]);
   EXPECT_TRUE(titre.police.gras && titre.police.points == 11);
   d.signature = "";
