@@ -12,6 +12,7 @@
 #include "rules/suivi_annuel_mois.h"
 #include "rules/suivi_annuel_nombre.h"
 #include "rules/suivi_annuel_tte.h"
+#include "support/table.h"
 
 namespace {
 
@@ -33,20 +34,12 @@ void setValeurs(data::CItem& item, int attribut, std::string texte) {
 }
 
 TEST(SuiviNombre, ShownForm) {
-  const struct {
-    const char* valeur;
-    int avant, apres;
-    const char* forme;
-  } Cas[] = {
-      {"0", 4, 2, "   0,00"},     {"151,67", 4, 2, " 151,67"}, {"12,5", 4, 2, "  12,50"},
-      {"8,05", 4, 2, "   8,05"},  {"-12,5", 4, 2, "- 12,50"},  {"-0,05", 4, 2, "-  0,05"},
-      {"0,125", 4, 2, "   0,13"}, {"0,005", 4, 2, "   0,10"},  {"0,995", 4, 2, "   0,10"},
-      {"7,999", 4, 2, "   7,10"}, {"0,1234", 4, 2, "   0,12"}, {"0,5", 2, 1, " 0,5"},
-      {"0,25", 2, 1, " 0,30"},    {"12345", 4, 2, "12345,00"}, {"159,285", 3, 2, "159,29"},
-      {"-1234", 4, 2, "-234,00"},
-  };
-  for (const auto& cas : Cas) {
-    EXPECT_EQ(rules::formeSuivi(h(cas.valeur), cas.avant, cas.apres), cas.forme) << cas.valeur;
+  for (const auto& [valeur, avant, apres, forme] :
+       support::table<4>("rules/suivi_annuel.md", "Un nombre affiché")) {
+    EXPECT_EQ(
+        "`" + rules::formeSuivi(Monnaie::DeTexte(valeur), std::stoi(avant), std::stoi(apres)) + "`",
+        forme)
+        << valeur;
   }
   EXPECT_EQ(rules::lireForme("- 12,50"), h("-12,5"));
   EXPECT_EQ(rules::lireForme("abc"), Monnaie());
@@ -55,49 +48,25 @@ TEST(SuiviNombre, ShownForm) {
 }
 
 TEST(SuiviMois, OfferedMonths) {
-  const struct {
-    const char* cas;  // with the month that closes the year, where there is one
-    rules::ExerciceSuivi exercice;
-    const char *premier, *dernier;
-    std::size_t nombre;
-  } Cas[] = {
-      {"year of the pay period", {"", "202611"}, "202601", "202612", 12},
-      {"December processed: turned", {"202612", "202612"}, "202701", "202712", 12},
-      {"from December", {"", "202611", true}, "202512", "202611", 12},
-      {"from December, turned", {"202612", "202701", true}, "202612", "202711", 12},
-      {"August, paid after", {"", "202611", false, true, "08"}, "202609", "202612", 4},
-      {"August, paid December", {"", "202612", false, true, "08"}, "202609", "202701", 5},
-      {"August, paid before", {"", "202603", false, true, "08"}, "202509", "202604", 8},
-      {"August itself", {"", "202608", false, true, "08"}, "202509", "202609", 13},
-      {"August, turned", {"202612", "202701", false, true, "08"}, "202609", "202702", 6},
-      {"December, paid December", {"", "202612", false, true, "12"}, "202601", "202701", 13},
-      {"no closing month", {"", "202611", false, true, ""}, "202601", "202612", 12},
-      {"no pay period", {"", ""}, "", "", 0},
-  };
-  for (const auto& cas : Cas) {
-    const auto mois = rules::moisOfferts(cas.exercice);
-    ASSERT_EQ(mois.size(), cas.nombre) << cas.cas;
+  for (const auto& [traitee, paie, decembre, particulier, cloture, premier, dernier, nombre] :
+       support::table<8>("rules/suivi_annuel.md", "Les mois offerts")) {
+    SCOPED_TRACE(traitee + " " + paie + " " + cloture);
+    const auto mois =
+        rules::moisOfferts({traitee, paie, decembre == "oui", particulier == "oui", cloture});
+    ASSERT_EQ(mois.size(), std::stoul(nombre));
     if (mois.empty()) continue;
-    EXPECT_EQ(mois.front() + " " + mois.back(), std::string(cas.premier) + " " + cas.dernier)
-        << cas.cas;
+    EXPECT_EQ(mois.front() + " " + mois.back(), premier + " " + dernier);
   }
 }
 
 TEST(SuiviMois, YearOfTheEffectiveTime) {
-  const struct {
-    const char *traitee, *calculee, *cloture;
-    int annee;
-  } Cas[] = {
-      {"", "", "12", 2026},        {"202505", "", "08", 2025},       {"202508", "", "08", 2026},
-      {"202512", "", "12", 2026},  {"202511", "", "", 2025},         {"", "202403", "08", 2024},
-      {"abc", "2024", "08", 2026}, {"202505", "202401", "08", 2025},
-  };
-  for (const auto& cas : Cas) {
+  for (const auto& [traitee, calculee, cloture, annee] :
+       support::table<4>("rules/suivi_annuel.md", "L'année du temps effectif")) {
     data::CItem contrat;
-    contrat.Set(C::PeriodeTraitee, cas.traitee);
-    contrat.Set(C::DernierCalcul, cas.calculee);
-    EXPECT_EQ(rules::anneeSuivi(contrat, cas.cloture, "202611"), cas.annee)
-        << cas.traitee << "/" << cas.calculee << "/" << cas.cloture;
+    contrat.Set(C::PeriodeTraitee, traitee);
+    contrat.Set(C::DernierCalcul, calculee);
+    EXPECT_EQ(rules::anneeSuivi(contrat, cloture, "202611"), std::stoi(annee))
+        << traitee << "/" << calculee << "/" << cloture;
   }
 }
 
