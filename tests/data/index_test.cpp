@@ -15,6 +15,7 @@
 #include "data/select.h"
 #include "storage/memory.h"
 #include "storage/sqlite.h"
+#include "support/table.h"
 #include "support/temp_dir.h"
 
 namespace data {
@@ -63,8 +64,8 @@ TEST(IndexTest, HoldsEveryValueOfARecord) {
 }
 
 // "[a;b] [c;", each range with its bounds, or "none" where no index can answer.
-std::string ranges(const char* comparisons) {
-  const std::string text = std::string("SELECT TPSMOI AVEC 4 ") + comparisons;
+std::string ranges(const std::string& comparisons) {
+  const std::string text = "SELECT TPSMOI AVEC 4 " + comparisons;
   const Query query = parseQuery(text);
   const auto found = valueRanges(query, query.clauses.front());
   if (!found) return "none";
@@ -78,30 +79,10 @@ std::string ranges(const char* comparisons) {
 }
 
 TEST(IndexTest, AnswersForTheValuesThatCanSatisfyAClause) {
-  const struct {
-    const char* comparisons;
-    const char* expected;
-  } cases[] = {
-      {R"(= "A")", "[A;A~]"},
-      {R"(= "A" OR = "Z]")", "[A;A~] [Z;[]"},
-      {R"(= "A]" AND > "AB" AND <= "AD")", "[AB~;AD~]"},
-      {R"(= "A" AND = "B")", ""},
-      // Numbers are found by their shortest form, which begins and orders otherwise than the text.
-      {R"(= "+12.0")", "[12;12~]"},
-      {R"(= "12" AND = "12.]")", "[12;12~]"},
-      {R"(= "012")", "[012;012~]"},
-      {R"(> "12")", "none"},
-      // What an empty value can satisfy.
-      {R"(= "")", "none"},
-      {R"(= "A" OR = "")", "none"},
-      {R"(< "B")", "none"},
-      {R"(<> "A")", "none"},
-      {R"(= "]")", "none"},
-      {R"(= "[A")", "none"},
-      {R"(<> "")", "[~;"},
-      {"", "[~;"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(ranges(c.comparisons), c.expected) << c.comparisons;
+  for (const auto& [comparisons, expected] :
+       support::table<2>("data/tables.md", "Values that can satisfy a clause")) {
+    EXPECT_EQ(ranges(support::code(comparisons)), expected) << comparisons;
+  }
   const Query without = parseQuery(R"(SELECT TPSMOI SANS 4 = "A")");
   EXPECT_FALSE(valueRanges(without, without.clauses.front()));
 }

@@ -39,4 +39,9 @@ std::vector<std::array<std::string, N>> table(const std::string& page, const std
   return rangees;
 }
 
+// The text of a cell in back quotes, which keep its blanks; that of another one as it is.
+inline std::string code(const std::string& cellule) {
+  return cellule.starts_with('`') ? cellule.substr(1, cellule.size() - 2) : cellule;
+}
+
 }  // namespace support
