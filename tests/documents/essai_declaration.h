@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <sstream>
@@ -12,6 +13,7 @@
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "documents/dossier_declaration.h"
+#include "support/table.h"
 
 namespace essai {
 
@@ -70,7 +72,33 @@ inline documents::DossierDeclaration declaration() {
   return d;
 }
 
-// What stands on a row of the page, in the order of printing: "5.6 MARTIN|15.2 Rose".
+// "contrat 24=3550; aidant 17=", or that the entity declares for its establishment.
+inline void changer(documents::DossierDeclaration& d, const std::string& changements) {
+  const std::map<std::string, data::CItem*> dossiers{{"contrat", &d.contrat},
+                                                     {"aide", &d.aide},
+                                                     {"part", &d.part},
+                                                     {"aidant", &d.aidant},
+                                                     {"etranger", &d.etranger},
+                                                     {"etablissement", &d.etablissement},
+                                                     {"paysNationalite", &d.paysNationalite},
+                                                     {"paysNaissance", &d.paysNaissance}};
+  if (changements == "par l'entité") {
+    d.etablissement.Set(2, "001");
+    d.declarant = d.association;
+    return;
+  }
+  for (std::size_t debut = 0; debut < changements.size();) {
+    const std::size_t fin = std::min(changements.find("; ", debut), changements.size());
+    const std::string un = changements.substr(debut, fin - debut);
+    const std::size_t blanc = un.find(' '), egal = un.find('=');
+    const std::string texte = un.substr(egal + 1);
+    dossiers.at(un.substr(0, blanc))
+        ->Set(std::stoi(un.substr(blanc)), texte[0] == '@' ? jour(texte.substr(1)) : texte);
+    debut = fin + 2;
+  }
+}
+
+// What stands on a row of the page, in the order of printing: "5.6 MARTIN¦15.2 Rose".
 inline std::string rangee(const documents::Page& page, double y) {
   std::string lu;
   for (const auto& element : page.elements) {
@@ -79,9 +107,20 @@ inline std::string rangee(const documents::Page& page, double y) {
     std::string x = std::to_string(texte->x);
     x.erase(x.find_last_not_of('0') + 1);
     if (x.back() == '.') x.pop_back();
-    lu += (lu.empty() ? "" : "|") + x + " " + texte->texte;
+    lu += (lu.empty() ? "" : "¦") + x + " " + texte->texte;
   }
   return lu;
+}
+
+// Every row of that table, for the page that `faire` makes.
+inline void verifier(const std::string& table, const std::string& titre,
+                     const documents::DossierDeclaration& depart,
+                     documents::Page (*faire)(const documents::DossierDeclaration&)) {
+  for (const auto& [y, textes, changements] : support::table<3>(table, titre)) {
+    documents::DossierDeclaration d = depart;
+    changer(d, changements);
+    EXPECT_EQ(rangee(faire(d), std::stod(y)), support::code(textes)) << y << " " << changements;
+  }
 }
 
 }  // namespace essai
