@@ -7,10 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <fstream>
+#include <map>
 #include <string>
 #include <vector>
+
+#include "data/citem.h"
 
 namespace support {
 
@@ -42,6 +46,19 @@ std::vector<std::array<std::string, N>> table(const std::string& page, const std
 // The text of a cell in back quotes, which keep its blanks; that of another one as it is.
 inline std::string code(const std::string& cellule) {
   return cellule.starts_with('`') ? cellule.substr(1, cellule.size() - 2) : cellule;
+}
+
+// The attributes of a cell, "14=0^01; 15=": "^" between values.
+inline std::map<int, std::string> attributs(std::string cellule) {
+  std::replace(cellule.begin(), cellule.end(), '^', data::SepValeur);
+  std::map<int, std::string> lus;
+  for (std::size_t debut = 0; debut < cellule.size();) {
+    const std::size_t fin = std::min(cellule.find("; ", debut), cellule.size());
+    const std::size_t egal = cellule.find('=', debut);
+    lus[std::stoi(cellule.substr(debut))] = cellule.substr(egal + 1, fin - egal - 1);
+    debut = fin + 2;
+  }
+  return lus;
 }
 
 }  // namespace support
