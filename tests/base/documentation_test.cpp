@@ -1,4 +1,5 @@
-// docs/donnees.md says what is true: its sessions are run, its table of files is the real one.
+// docs/donnees.md says what is true: its sessions are run, its table of files is the real one. The
+// sessions of sessions.md go further, into every refusal.
 
 #include <gtest/gtest.h>
 
@@ -14,8 +15,8 @@
 
 namespace {
 
-std::string document() {
-  std::ifstream fichier(CONTRATS_SOURCE_DIR "/docs/donnees.md");
+std::string document(const std::string& nom) {
+  std::ifstream fichier(CONTRATS_SOURCE_DIR "/" + nom);
   return {std::istreambuf_iterator<char>(fichier), {}};
 }
 
@@ -52,9 +53,11 @@ class Terminal {
     if (redirection == ">") fichier.open(args.back());
     if (redirection == "<" || redirection == ">") args.resize(args.size() - 2);
     std::ostringstream ecran;
+    std::ostringstream erreurs;
     std::ostream& sortie = redirection == ">" ? static_cast<std::ostream&>(fichier) : ecran;
-    code_ = base::executer(args, entree, sortie, ecran);
-    return ecran.str();
+    code_ = base::executer(args, entree, sortie, erreurs);
+    EXPECT_TRUE(code_ < 2 || ecran.str().empty()) << ligne;
+    return ecran.str() + erreurs.str();
   }
 
  private:
@@ -82,14 +85,14 @@ bool convient(std::string_view texte, std::string_view attendu) {
   return texte.empty();
 }
 
-TEST(Documentation, SesSessionsDonnentCeQuElleMontre) {
+void jouer(const std::string& nom) {
   const support::TempDir dossier;
   const std::filesystem::path avant = std::filesystem::current_path();
   std::filesystem::current_path(dossier.Dossier());
 
   Terminal terminal;
   int commandes = 0;
-  std::istringstream lignes(document());
+  std::istringstream lignes(document(nom));
   std::string ligne;
   while (std::getline(lignes, ligne)) {
     const bool session = ligne == "```console";
@@ -120,8 +123,12 @@ TEST(Documentation, SesSessionsDonnentCeQuElleMontre) {
   EXPECT_GT(commandes, 20);
 }
 
+TEST(Documentation, SesSessionsDonnentCeQuElleMontre) {
+  for (const char* const nom : {"docs/donnees.md", "tests/base/sessions.md"}) jouer(nom);
+}
+
 TEST(Documentation, DecritTousLesFichiers) {
-  const std::string texte = document();
+  const std::string texte = document("docs/donnees.md");
   for (const auto& fichier : data::FichiersConnus) {
     const std::string rangee = "| `" + std::string(fichier.nom) + (fichier.prefixe ? "…" : "") +
                                "` | " + std::string(fichier.contenu) + " |";

@@ -10,6 +10,7 @@
 #include "data/poste.h"
 #include "storage/sqlite.h"
 #include "storage/sqlite_pages.h"
+#include "support/table.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -52,33 +53,11 @@ class IndexOutilTest : public testing::Test {
 };
 
 TEST_F(IndexOutilTest, PlanDitCommentLaQuestionSeraitTraitee) {
-  const struct {
-    const char* question;
-    const char* plan;
-  } cas[] = {
-      {R"(SELECT TPSMOI AVEC 4 = "00001001")",
-       "index 4 : « 00001001 »\n10 articles à regarder au plus\n"},
-      {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC @ID = "00002]")",
-       "index 4 : « 00001001 »\nclés : commençant par « 00002 »\n10 articles à regarder au plus\n"},
-      {R"(SELECT TPSMOI AVEC 4 = "00001001" OR AVEC 1 = "x")",
-       "parcours du fichier TPSMOI, clés : toutes\n"},
-      {R"(SELECT TPSMOI AVEC 4 = "00001]")", "parcours du fichier TPSMOI, clés : toutes\n"},
-      {R"(SELECT TPSMOI AVEC 4 = "00001]" AND AVEC 0 = "00001125")",
-       "parcours du fichier TPSMOI, clés : « 00001125 »\n"},
-      {R"(SELECT CIVILAIDANT AVEC NomPrenomAidant = "mart]" AND AVEC 36 = "")",
-       "index NomPrenomAidant : commençant par « MART »\n1 article à regarder au plus\n"},
-      {R"(SELECT CONTRAT AVEC 116)",
-       "index 116 : toutes les valeurs\n0 article à regarder au plus\n"},
-      {R"(SELECT CONTRAT AVEC 116 > "A" AND <= "C")",
-       "index 116 : après « A », jusqu'à « C »\n0 article à regarder au plus\n"},
-      {R"(SELECT CONTRAT AVEC 0 >= "00001" AND < "00002")",
-       "parcours du fichier CONTRAT, clés : toutes\n"},
-      {R"(SELECT CONTRAT = "A" AVEC 0 = "B")", "parcours du fichier CONTRAT, clés : aucune\n"},
-  };
-  for (const auto& c : cas) EXPECT_EQ(Outil({"select", c.question, "--plan"}), c.plan);
-  EXPECT_EQ(Outil({"select", "SELECT CONTRAT", "--plan", "--json"}),
-            "--plan et --json ne se donnent pas ensemble.\n");
-  EXPECT_EQ(code_, 2);
+  for (const auto& [question, attendu] : support::table<2>("base/plans.md", "Les plans")) {
+    std::string plan = Outil({"select", support::code(question), "--plan"});
+    for (std::size_t n; (n = plan.find('\n')) != std::string::npos;) plan.replace(n, 1, " / ");
+    EXPECT_EQ(plan, attendu + " / ");
+  }
 }
 
 TEST_F(IndexOutilTest, VerifierCompareEtReparerRefait) {

@@ -11,6 +11,7 @@
 #include "base/cles_vues.h"
 #include "data/citem.h"
 #include "data/texte.h"
+#include "support/table.h"
 
 namespace {
 
@@ -35,45 +36,23 @@ std::string avecItem(const std::string& item) {
 }
 
 TEST(ArticleJson, RefuseAvecPlaceEtRaison) {
-  // A caret stands before the character that the refusal must point at.
-  const struct {
-    std::string ligne;
-    std::string debutRaison;
-  } cas[] = {
-      // JSON that is none.
-      {R"({"fichier":"PCS","cle":"1","item":["a"^)", "JSON incomplet"},
-      {"^", "JSON incomplet"},
-      {avecItem(R"(["a",^])"), "JSON invalide"},
-      {avecItem(R"(["é\^x"])"), "JSON invalide"},
-      {R"({"fichier" ^12})", "JSON invalide"},
-      {avecItem("[]") + " ^é", "JSON invalide"},
-      // Another shape.
-      {R"(^["a"])", "un enregistrement est un objet"},
-      {avecItem(R"(^"a")"), "un article est le tableau"},
-      {avecItem(R"(["a",^{"b":"c"}])"), "objet à l'intérieur"},
-      {avecItem(R"([["a",["b",^["c"]]]])"), "tableau trop profond"},
-      {avecItem(R"(["é",^-3.5])"), "nombre au lieu d'un texte"},
-      {avecItem("[^null]"), "« true », « false » et « null »"},
-      {R"({"fichier":^["PCS"],"cle":"1","item":[]})", "« fichier » doit être un texte"},
-      // Members.
-      {R"({"fichier":"PCS","cle":"1","item":[], ^"autre":1})", "membre inconnu « autre »"},
-      {R"({"fichier":"PCS","item":[]^})", "il manque le membre « cle »"},
-      {R"({"fichier":"PCS","cle":"1","item":[],^"cle":"2"})", "membre « cle » donné deux fois"},
-      {R"({"fichier": ^"pcs","cle":"1","item":[]})", "Le nom de fichier « pcs »"},
-      {R"({"cle" : ^"","fichier":"PCS","item":[]})", "Un article du fichier PCS"},
-      // Characters that no text may hold.
-      {avecItem("[\"é^\x1e\"]"), "séparateur U+001E"},
-      {avecItem("[\"é^\tb\"]"), "caractère de contrôle U+0009 ; dans un texte il s'écrit \\u0009"},
-      {avecItem(R"(["é^\u001Db"])"), "séparateur U+001D"},
-      {avecItem("[]") + "^" + std::string(1, '\0') + "x", "caractère U+0000"},
-      {R"({"fichier":"PCS","cle":^"1\n","item":[]})", "La clé « 1? »"},
-      {avecItem("[]") + "^\xE2\x82", "octet qui n'est pas de l'UTF-8"},
-  };
-  for (const auto& c : cas) {
-    const std::size_t place = c.ligne.find('^');
-    const std::string avant = c.ligne.substr(0, place);
-    const std::string attendu = std::to_string(data::longueur(avant) + 1) + ": " + c.debutRaison;
-    const std::string ligne = avant + c.ligne.substr(place + 1);
+  auto cas = support::table<2>("base/refus_json.md", "Les refus");
+  // Characters that no text may hold.
+  for (const std::array<std::string, 2>& octets : std::initializer_list<std::array<std::string, 2>>{
+           {avecItem("[\"é^\x1e\"]"), "séparateur U+001E"},
+           {avecItem("[\"é^\tb\"]"),
+            "caractère de contrôle U+0009 ; dans un texte il s'écrit \\u0009"},
+           {avecItem("[]") + "^" + std::string(1, '\0') + "x", "caractère U+0000"},
+           {avecItem("[]") + "^\xE2\x82", "octet qui n'est pas de l'UTF-8"},
+       }) {
+    cas.push_back(octets);
+  }
+  for (const auto& [cellule, debut] : cas) {
+    std::string ligne = support::code(cellule);
+    const std::size_t place = ligne.find('^');
+    ligne.erase(place, 1);
+    const std::string attendu =
+        std::to_string(data::longueur(ligne.substr(0, place)) + 1) + ": " + debut;
     EXPECT_EQ(lecture(ligne).substr(0, attendu.size()), attendu) << ligne;
   }
 }

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <optional>
 #include <sstream>
@@ -16,6 +15,7 @@
 #include "data/store_error.h"
 #include "demo/generateur.h"
 #include "storage/memory.h"
+#include "support/table.h"
 
 namespace {
 
@@ -37,8 +37,8 @@ class VerificationTest : public testing::Test {
     Ecrit(store, "CONTRAT", "00002001", Contrat::Type, "I");
   }
   // Over what the record holds already.
-  static void Ecrit(data::Storage& store, const char* fichier, const char* cle, int attribut,
-                    const char* texte) {
+  static void Ecrit(data::Storage& store, const std::string& fichier, const std::string& cle,
+                    int attribut, const std::string& texte) {
     std::string avant;
     store.Get(fichier, cle, avant);
     CItem item(avant);
@@ -60,92 +60,44 @@ class VerificationTest : public testing::Test {
 };
 
 TEST_F(VerificationTest, TrouveChaqueDefautPlante) {
-  const struct {
-    const char* fichier;
-    const char* cle;
-    int attribut;
-    const char* texte;
-    const char* constat;  // the beginning of the only finding
-  } cas[] = {
-      {"CONTRAT", "0000100", 1, "", "la clé n'a pas la forme"},
-      {"CONTRAT", "00003001", 1, "", "l'aidant « 00003 » n'existe pas"},
-      {"CONTRAT", "00002001", Contrat::CongesReportesSur, "00002009",
-       "attribut 116 : le contrat lié « 00002009 » n'existe pas"},
-      {"CONTRAT", "00002001", Contrat::CongesReprisDe, "00002001",
-       "attribut 117 : le contrat lié « 00002001 » est ce contrat lui-même"},
-      {"CONTRAT", "00002001", Contrat::CongesReprisDe, "00001001",
-       "attribut 117 : le contrat lié « 00001001 » ne renvoie pas ici : son attribut 116 vaut "
-       "« 00001002 »"},
-      {"CIVILAIDANT", "00002", CivilAidant::DernierNumero, "000",
-       "attribut 41 : le compteur est « 000 », et le plus haut contrat 001"},
-      {"CIVILAIDANT", "00002", CivilAidant::DernierNumero, "",
-       "attribut 41 : le compteur est vide"},
-      {"CIVILAIDANT", "00002", CivilAidant::DernierNumero, "1",
-       "attribut 41 : le compteur « 1 » n'est pas un nombre à 3 chiffres"},
-      {"CIVILAIDANT", "00001", CivilAidant::NumerosLibres, "002",
-       "attribut 42 : le numéro libre « 002 » est celui d'un contrat existant"},
-      {"CIVILAIDANT", "00001", CivilAidant::NumerosLibres, "004",
-       "attribut 42 : le numéro libre « 004 » n'a jamais été donné"},
-      {"CIVILAIDANT", "00001", CivilAidant::NumerosLibres, "3",
-       "attribut 42 : le numéro libre « 3 » n'est pas un nombre"},
-      {"CIVILAIDANT", "00001", CivilAidant::NumerosLibres, "003\x1d\x30\x30\x33",
-       "attribut 42 : le numéro libre « 003 » est donné deux fois"}};
-  for (const auto& c : cas) {
+  for (const auto& [fichier, cle, attribut, constat] :
+       support::table<4>("base/verification.md", "Chaque défaut planté")) {
     storage::MemoryStorage store(poste_);
     Remplir(store);
-    Ecrit(store, c.fichier, c.cle, c.attribut, c.texte);
+    for (const auto& [a, texte] : support::attributs(attribut)) {
+      Ecrit(store, fichier, cle, a, texte);
+    }
     const std::string constats = Constats(store);
     EXPECT_EQ(std::count(constats.begin(), constats.end(), '\n'), 1) << constats;
-    const std::string debut = std::string(c.fichier) + ' ' + c.cle + " | " + c.constat;
-    EXPECT_EQ(constats.substr(0, debut.size()), debut);
-  }
-  for (const char* fichier : {"ASSOCIATION", "CONVENTIONCOL"}) {
-    storage::MemoryStorage store(poste_);
-    store.Put(fichier, fichier[0] == 'A' ? "a01" : "é1", "");
-    EXPECT_NE(Constats(store).find("ne peut pas entrer dans le nom d'un fichier index"),
-              std::string::npos);
+    EXPECT_TRUE(constats.starts_with(fichier + " " + cle + " | " + constat)) << constats;
   }
   storage::MemoryStorage store(poste_);
   store.Put("PCS", "11", std::string("a") + data::SepAttribut);
   EXPECT_EQ(Constats(store), "PCS 11 | le texte n'est pas sous sa forme canonique\n");
 }
 
-// Days, entities, agreements and employers of one carer's contracts: "from-to entity agreement
-// employer", a cancelled one with a dash before.
 TEST_F(VerificationTest, NommeLesContratsQuiSeChevauchent) {
   constexpr const char* kPar = "le contrat chevauche le contrat « ";
-  const struct {
-    const char* cas;
-    std::vector<std::array<std::string, 5>> contrats;
-    std::string paires;
-  } cas[] = {
-      {"one after the other", {{"1", "9", "001", "01", ""}, {"10", "", "001", "01", ""}}, ""},
-      {"the last day", {{"1", "9", "001", "01", ""}, {"9", "20", "001", "03", ""}}, "2>1 "},
-      {"open-ended", {{"30", "40", "001", "01", ""}, {"1", "", "001", "01", ""}}, "1>2 "},
-      {"other entity", {{"1", "", "001", "01", ""}, {"1", "", "002", "01", ""}}, ""},
-      {"private employer beside",
-       {{"1", "", "001", "01", ""}, {"1", "", "001", "02", "00007"}},
-       ""},
-      {"two employers", {{"1", "", "001", "02", "00006"}, {"1", "", "001", "02", "00007"}}, ""},
-      {"one employer", {{"1", "", "001", "02", "00007"}, {"5", "", "001", "02", "00007"}}, "2>1 "},
-      {"inside a long one",
-       {{"1", "90", "001", "01", ""}, {"5", "9", "001", "01", ""}, {"20", "30", "001", "01", ""}},
-       "2>1 3>1 "},
-      {"cancelled", {{"1", "", "001", "01", ""}, {"-5", "", "001", "01", ""}}, ""}};
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.cas);
+  for (const auto& [nom, texte, attendues] :
+       support::table<3>("base/verification.md", "Ceux qui se chevauchent")) {
+    SCOPED_TRACE(nom);
     storage::MemoryStorage store(poste_);
-    for (std::size_t i = 0; i < c.contrats.size(); ++i) {
-      const auto& [debut, fin, entite, convention, employeur] = c.contrats[i];
-      const bool annule = debut[0] == '-';
+    std::istringstream contrats(texte);
+    std::string un;
+    for (int i = 1; std::getline(contrats, un, ','); ++i) {
+      std::istringstream mots(un);
       CItem contrat;
-      contrat.Set(Contrat::DateDebut, debut.substr(annule ? 1 : 0));
-      contrat.Set(Contrat::DateFin, fin);
-      contrat.Set(Contrat::Association, entite);
-      contrat.Set(Contrat::Convention, convention);
-      contrat.Set(Contrat::Employeur, employeur);
-      if (annule) contrat.Set(Contrat::Annule, "O");
-      store.Put("CONTRAT", "0000100" + std::to_string(i + 1), contrat.Text());
+      std::string mot;
+      for (const int a : {Contrat::DateDebut, Contrat::DateFin, Contrat::Association,
+                          Contrat::Convention, Contrat::Employeur}) {
+        mots >> mot;
+        if (mots && mot == "O") {
+          contrat.Set(Contrat::Annule, mot);
+        } else if (mots && mot != "-") {
+          contrat.Set(a, mot);
+        }
+      }
+      store.Put("CONTRAT", "0000100" + std::to_string(i), contrat.Text());
     }
     // Another carer's contracts have nothing to do with these.
     store.Put("CONTRAT", "00002001", CItem("\x1e\x30\x30\x31").Text());
@@ -154,9 +106,10 @@ TEST_F(VerificationTest, NommeLesContratsQuiSeChevauchent) {
     for (std::string ligne; std::getline(constats, ligne);) {
       const auto place = ligne.find(kPar);
       if (place == std::string::npos) continue;
-      paires += ligne.substr(15, 1) + ">" + ligne.substr(place + std::strlen(kPar) + 7, 1) + " ";
+      paires += (paires.empty() ? "" : " ") + ligne.substr(15, 1) + ">" +
+                ligne.substr(place + std::strlen(kPar) + 7, 1);
     }
-    EXPECT_EQ(paires, c.paires);
+    EXPECT_EQ(paires, attendues);
   }
 }
 

@@ -11,6 +11,7 @@
 
 #include "data/layouts/fichiers.h"
 #include "data/texte.h"
+#include "support/table.h"
 
 namespace {
 
@@ -38,36 +39,14 @@ TEST(Contrat, GroupesDAttributsParalleles) {
 }
 
 TEST(Fichiers, FormeDesCles) {
-  const struct {
-    const char *fichier, *bonnes, *mauvaises;
-  } cas[] = {
-      {"CONTRAT", "00001001 A0001001", "00001 0000100A 000010011 0000\xc3\xa9\x30\x30\x31"},
-      // An exact name before a name made at run time: "CONTRATSPREV" is "CONTRAT" and 5 characters.
-      {"CONTRATSPREV", "01", "00001001"},
-      {"CONTRAT00101", "00001001", "0000100101"},
-      {"AVENANT00101", "0000100101 00001001100", "000010011"},
-      {"LIENCONTRAT", "CONTRAT00101", "AVENANT00101"},
-      {"LIENAVENANT", "", "AVENANT0010"},
-      {"DETAILCALCUL", "00001001202610", "00001001202613 00001001202600"},
-      {"DETAILINTER", "00001001000202612", "00001001202612"},
-      {"AIDANTTTE", "000010012026", "00001001202610"},
-      {"PCS", "56 563b", "563 5"},
-      {"TPSDETAILSINTERV", "00001000022151100110100800", "0000100002215110011010080"},
-      {"TPSEXCEPTIONS", "00001215110800", "0000121511080"},
-      {"ABSENCESAIDANT", "000010121511", "00001AB21511"},
-      {"TPSSANSCONTRAT", "00001001M", "00001"},
-      {"OPPOSITION", "00001001", "0000100"},
-      // Files of other programs of the suite, or too short a name: nothing is known of their keys.
-      {"AUTRE", "x", ""},
-      {"CONTRAT0010", "x", ""},
-      {"AVENANT", "x", ""}};
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.fichier);
-    for (const auto& cle : data::mots(c.bonnes)) EXPECT_TRUE(data::cleBienFormee(c.fichier, cle));
-    for (const auto& cle : data::mots(c.mauvaises)) {
-      EXPECT_FALSE(data::cleBienFormee(c.fichier, cle)) << cle;
+  for (const auto& [fichier, bonnes, mauvaises] :
+       support::table<3>("data/tables.md", "Shapes of keys")) {
+    SCOPED_TRACE(fichier);
+    for (const auto& cle : data::mots(bonnes)) EXPECT_TRUE(data::cleBienFormee(fichier, cle));
+    for (const auto& cle : data::mots(mauvaises)) {
+      EXPECT_FALSE(data::cleBienFormee(fichier, cle)) << cle;
     }
-    EXPECT_FALSE(data::cleBienFormee(c.fichier, ""));
+    EXPECT_FALSE(data::cleBienFormee(fichier, ""));
   }
   EXPECT_FALSE(data::cleBienFormee("CONTRAT", "00 01001"));
 }

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "data/jour.h"
+#include "support/table.h"
 
 namespace data {
 namespace {
@@ -67,26 +68,10 @@ TEST(Jour, Periods) {
 
 TEST(LibDate, NormalisesWhatAClerkTypes) {
   Lib lib(poste);
-  const struct {
-    const char *saisie, *attendu;
-  } bons[] = {{"22/11/2026", "22/11/2026"},
-              {"1/5/26", "01/05/2026"},
-              {"01-05-49", "01/05/2049"},
-              {"1.5.50", "01/05/1950"},
-              {" 1 5  26 ", "01/05/2026"},
-              {"1 / 5 / 2026", "01/05/2026"},
-              {"010526", "01/05/2026"},
-              {"01052026", "01/05/2026"},
-              {"29/2/00", "29/02/2000"},
-              {"1/1/1900", "01/01/1900"},
-              {"31/12/2199", "31/12/2199"},
-              // Day and month of this year; as other programs write dates.
-              {"1/5", "01/05/2026"},
-              {"3112", "31/12/2026"},
-              {"2027-02-28", "28/02/2027"}};
-  for (const auto& c : bons) {
-    EXPECT_EQ(lib.NormaliseDateText(c.saisie), c.attendu) << c.saisie;
-    EXPECT_FALSE(lib.DateError()) << c.saisie;
+  for (const auto& [saisie, attendue] :
+       support::table<2>("data/tables.md", "Dates that a clerk types")) {
+    EXPECT_EQ(lib.NormaliseDateText(support::code(saisie)), attendue);
+    EXPECT_FALSE(lib.DateError()) << saisie;
   }
   const char* mauvais[] = {
       "",         "demain",   "29/02/2100", "31/04/2026", "1/13/2026",   "29/2",         "1/5/26/",
@@ -136,22 +121,12 @@ TEST(LibNumber, FilterKey) {
 
 TEST(LibNumber, FormatNumber) {
   const Lib lib(poste);
-  const struct {
-    const char* texte;
-    int avant, apres;
-    bool signe;
-    const char* attendu;
-  } cas[] = {{"12,5", 5, 2, false, "   12,50"},
-             {"12.5", 5, 2, true, "    12,50"},
-             {"-    5,0", 5, 2, true, "-    5,00"},
-             {",5", 1, 3, false, "0,500"},
-             {"0,005", 5, 2, false, "    0,01"},
-             {"99999,994", 5, 2, false, "99999,99"},
-             {"-0,004", 1, 2, false, "0,00"},
-             {"+7", 2, 0, false, " 7"},
-             {"999999999,00005", 9, 4, false, "999999999,0001"}};
-  for (const auto& c : cas) {
-    EXPECT_EQ(lib.FormatNumber(c.texte, c.avant, c.apres, c.signe), c.attendu) << c.texte;
+  for (const auto& [texte, avant, apres, signe, attendu] :
+       support::table<5>("data/tables.md", "Numbers in their columns")) {
+    EXPECT_EQ(
+        lib.FormatNumber(support::code(texte), std::stoi(avant), std::stoi(apres), signe == "true"),
+        support::code(attendu))
+        << texte;
   }
   for (const char* t :
        {"", "99999,995", "123456", "12,3,4", "1 23", "12-", "-", ",", "1e3", "\xC3"}) {
@@ -193,29 +168,14 @@ TEST(LibNumber, Routines) {
 }
 
 TEST(LibNumber, ZoneNumCarac) {
-  constexpr const char* longue = "erreur: Zone numerique trop longue";
-  constexpr const char* avantVirgule = "Trop de chiffres avant la virgule";
-  const struct {
-    const char* texte;
-    int avant, apres, avantApres;
-    const char* dit;  // after the kind, where it has one
-  } cas[] = {
-      {"", 3, 2, 3, ""},
-      {"-1,5", 1, 1, 2, ""},
-      {",5", 0, 1, 0, ""},
-      {"-", 3, 2, 4, "information: Vous ne pouvez pas saisir seulement un moins."},
-      {",", 3, 2, 3, "information: Vous ne pouvez pas saisir une virgule seule."},
-      {"-,", 3, 2, 4, "information: Vous ne pouvez pas saisir un moins et une virgule seuls."},
-      {"1234,5", 3, 2, 3, avantVirgule},
-      {"1234", 3, 2, 3, longue},
-      {"12,345", 3, 2, 3, "erreur: Trop de chiffres après la virgule"}};
-  for (const auto& c : cas) {
-    int avant = c.avant;
-    const ControleZoneNum r = ZoneNumCarac(c.texte, avant, c.apres, ",");
+  for (const auto& [texte, places, apres, ensuite, dit] :
+       support::table<5>("data/tables.md", "A numeric zone, key by key")) {
+    int avant = std::stoi(places);
+    const ControleZoneNum r = ZoneNumCarac(texte, avant, std::stoi(apres), ",");
     const char* genre = r.erreur ? "erreur: " : r.information ? "information: " : "";
-    EXPECT_EQ(genre + r.message, c.dit) << c.texte;
-    EXPECT_EQ(r.Focus(), !r.Passe()) << c.texte;
-    EXPECT_EQ(avant, c.avantApres) << c.texte;
+    EXPECT_EQ(genre + r.message, dit) << texte;
+    EXPECT_EQ(r.Focus(), !r.Passe()) << texte;
+    EXPECT_EQ(avant, std::stoi(ensuite)) << texte;
   }
 }
 

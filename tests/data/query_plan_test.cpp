@@ -8,6 +8,7 @@
 #include "data/poste.h"
 #include "data/select.h"
 #include "storage/memory.h"
+#include "support/table.h"
 
 namespace data {
 namespace {
@@ -25,8 +26,6 @@ class ForgetfulStore : public storage::MemoryStorage {
 
 class QueryPlanTest : public testing::Test {
  protected:
-  // 1000 contracts, keys 10000 to 10999. Of 116, one in two is "C" and one in four "D"; of 117, one
-  // in a hundred "R".
   QueryPlanTest() {
     for (int i = 0; i < 1000; ++i) {
       CItem item;
@@ -54,32 +53,9 @@ class QueryPlanTest : public testing::Test {
 };
 
 TEST_F(QueryPlanTest, TakesTheCheapestRoad) {
-  const struct {
-    const char* condition;
-    const char* expected;
-  } cases[] = {
-      {R"(AVEC 117 = "R")", "117 10"},
-      {R"(AVEC 116 = "C" AND AVEC 117 = "R")", "117 10"},
-      {R"(AVEC 117 = "R" AND AVEC 0 = "10]")", "117 10"},
-      {R"(AVEC 117 = "R" AND AVEC 116 = "X")", "116 0"},
-      {R"(AVEC 116 = "D")", "116 250"},
-      {R"(AVEC 116)", "scan"},  // 750 single records cost more than a scan of 1000
-      {R"(AVEC 116 = "C")", "scan"},
-      // Ten keys against 250 records; one against ten.
-      {R"(AVEC 116 = "D" AND AVEC 0 = "1000]")", "scan"},
-      {R"(AVEC 117 = "R" AND AVEC 0 = "10100")", "scan"},
-      {R"(= "1000]" AVEC 116 = "D")", "scan"},
-      // Every alternative needs a road, and all of them together count.
-      {R"(AVEC 117 = "R" OR AVEC 0 = "1000]")", "117 keys 20"},
-      {R"(AVEC 117 = "R" OR AVEC 116 = "D")", "117 116 260"},
-      {R"(AVEC 117 = "R" OR AVEC 116 = "C")", "scan"},
-      {R"(AVEC 117 = "R" OR AVEC 4 = "x")", "scan"},
-      {R"(AVEC 117 = "R" OR AVEC 4 = "x" AND AVEC 116 = "X")", "117 116 10"},
-      {R"(AVEC 117 = "R" OR = "Q")", "117 117 10"},
-      {R"(SANS 117 = "R")", "scan"},
-      {R"(AVEC 4 = "x")", "scan"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(plan(c.condition), c.expected) << c.condition;
+  for (const auto& [condition, expected] : support::table<2>("data/tables.md", "Roads")) {
+    EXPECT_EQ(plan(support::code(condition)), expected) << condition;
+  }
 }
 
 TEST_F(QueryPlanTest, AnswersByAScanWhenTheIndexesHaveGone) {

@@ -11,7 +11,6 @@
 #include <set>
 #include <sstream>
 
-#include "base/verification.h"
 #include "base_demo.h"
 #include "pilote/programme.h"
 #include "storage/sqlite.h"
@@ -25,52 +24,26 @@ using Quand = support::KillingStorage::Quand;
 // Text by "FICHIER CLE".
 using Etat = std::map<std::string, std::string>;
 
-// The creation of a contract, and another one that no contract stands in the way of.
+// The creation of a contract, and another one that no contract stands in the way of: the three
+// blocks under a title of arrets.md.
 struct Route {
-  std::string aidant;
-  std::string creation;  // up to Cmd_OK
-  std::string dialogue;  // what Cmd_OK opens when no contract is in the way
-  std::string ailleurs;
-  std::string numero;
-  std::string suivant;
-
+  Route(std::string aidant_, const std::string& titre, std::string numero_, std::string suivant_)
+      : aidant(std::move(aidant_)), numero(std::move(numero_)), suivant(std::move(suivant_)) {
+    std::istringstream lignes(lireTout(CONTRATS_SOURCE_DIR "/tests/pilote/arrets.md"));
+    std::string ligne;
+    while (std::getline(lignes, ligne) && ligne != "# " + titre) {
+    }
+    for (std::string* const bloc : {&creation, &dialogue, &ailleurs}) {
+      while (std::getline(lignes, ligne) && ligne != "```scenario") {
+      }
+      while (std::getline(lignes, ligne) && ligne != "```") *bloc += ligne + "\n";
+    }
+  }
   std::string Contrat() const { return "CONTRAT " + aidant + numero; }
+
+  std::string aidant, numero, suivant;
+  std::string creation, dialogue, ailleurs;
 };
-
-// What an amendment can change, and every contract must have.
-const std::string Caracteristiques =
-    "onglet 1\nchoisir Cbo_QualifContrat #0\ntaper Txt_DureeWContrat 20\n"
-    "choisir Cbo_FreqWContrat Hebdo\ntaper Txt_TauxHorContrat 12,02\n";
-
-const Route Reprise = {"00003",
-                       "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
-                       "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 001\n"
-                       "taper Txt_DatDebContrat 03/12/2026\n" +
-                           Caracteristiques +
-                           "onglet 2\ntaper Txt_ProfilContrat 101\nchoisir Cbo_Activite #0\n"
-                           "cliquer Cmd_OK\n",
-                       "forme Frm_Reprise\ncliquer Cac_CpPerenne\ncliquer Cmd_Ok\n",
-                       "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 01\n"
-                       "taper Txt_AssocContrat 002\ntaper Txt_DatDebContrat 03/12/2026\n" +
-                           Caracteristiques +
-                           "onglet 2\ntaper Txt_ProfilContrat 101\ncliquer Cmd_OK\n",
-                       "002",
-                       "003"};
-const Route Particulier = {"00002",
-                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00008\n"
-                           "taper Txt_DatDebContrat 01/12/2026\n" +
-                               Caracteristiques +
-                               "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n",
-                           "forme Frm_ImpressionA4\ncliquer Cmd_Ok\n",
-                           "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\n"
-                           "taper Txt_AssocContrat 001\ntaper Txt_EmplEtabContrat 00007\n"
-                           "taper Txt_DatDebContrat 01/12/2026\n" +
-                               Caracteristiques +
-                               "onglet 2\ntaper Txt_ProfilContrat 201\ncliquer Cmd_OK\n"
-                               "forme Frm_ImpressionA4\ncliquer Cmd_Ok\n",
-                           "001",
-                           "002"};
 
 struct Modification;
 
@@ -79,7 +52,6 @@ class Arret : public testing::Test {
   Arret() {
     creerBaseDemo(base);
     initial = Lire(base);
-    anciens = Constats(base);
   }
 
   static Etat Lire(const std::string& chemin) {
@@ -94,19 +66,6 @@ class Arret : public testing::Test {
     }
     return etat;
   }
-  static std::string Constats(const std::string& chemin) {
-    std::string lignes;
-    const data::PosteSysteme poste;
-    const auto stockage = storage::SqliteStorage::OuvrirEnLecture(chemin, poste);
-    base::verifier(
-        *stockage,
-        [&](const base::Constat& c) {
-          lignes += c.fichier + " " + c.cle + " " + c.anomalie + "\n";
-        },
-        [](long, long) {});
-    return lignes;
-  }
-
   // Plays in a process of its own, on the file `essai`. Nothing comes back when it was killed.
   std::optional<int> Jouer(const Route& route, const std::string& scenario, int ecriture = 0,
                            Quand quand = Quand::Avant) const {
@@ -153,15 +112,7 @@ class Arret : public testing::Test {
     std::filesystem::remove(journal);
   }
 
-  // The findings that the file did not have from the start: its contracts came without indexes.
-  std::string Nouveaux() const {
-    std::string lignes;
-    std::istringstream constats(Constats(essai));
-    for (std::string ligne; std::getline(constats, ligne);) {
-      if (anciens.find(ligne + "\n") == std::string::npos) lignes += ligne + "\n";
-    }
-    return lignes;
-  }
+  std::string Nouveaux() const { return constatsNouveaux(base, essai); }
   void EprouverArrets(const Route& route);
   std::string Manquants(const Route& route, Etat etat, const Etat& entier);
   void ControlerArret(const Route& route, const Etat& entier);
@@ -174,7 +125,6 @@ class Arret : public testing::Test {
   std::string essai = dossier.Chemin("essai.contrats");
   std::string journal = dossier.Chemin("journal");
   Etat initial;
-  std::string anciens;
 
  private:
   int JouerIci(const Route& route, const std::string& scenario, int ecriture, Quand quand) const {
@@ -197,7 +147,8 @@ std::string Arret::Manquants(const Route& route, Etat etat, const Etat& entier) 
     const std::string fichier = article.substr(0, article.find(' '));
     const std::string cle = article.substr(fichier.size() + 1);
     const bool manque = !initial.contains(article) && !etat.contains(article);
-    const std::string debut = route.Contrat() + " le contrat n'est pas dans ";
+    const std::string debut =
+        "CONTRAT\t" + route.aidant + route.numero + "\tle contrat n'est pas dans ";
     if (manque && fichier == "CONTRATINV") lignes += debut + "CONTRATINV « " + cle + " »\n";
     if (manque && fichier.starts_with("CONTRAT0")) {
       lignes.insert(0, debut + "son index " + fichier + "\n");
@@ -252,17 +203,17 @@ void Arret::Continuer(const Route& route) {
   Etat apres = Lire(essai);
   EXPECT_EQ(apres[route.Contrat()], texte);
   EXPECT_NE(apres["CONTRAT " + route.aidant + route.suivant], "");
-  EXPECT_EQ(Nouveaux().find("CONTRAT " + route.aidant + route.suivant), std::string::npos);
+  EXPECT_EQ(Nouveaux().find("CONTRAT\t" + route.aidant + route.suivant), std::string::npos);
 }
 
 TEST_F(Arret, PendantLaRepriseDUnContrat) {
-  EprouverArrets(Reprise);
+  EprouverArrets({"00003", "Reprise", "002", "003"});
 }
 
 // Contract, mark of the follow-up, mark of the index, then the amendment in it: what stands is a
 // beginning of that order, and the next amendment follows whatever was lost.
 TEST_F(Arret, PendantLAjoutDUnAvenant) {
-  const Route route{"00007", "", "", "", "001", ""};
+  const Route route{"00007", "", "001", ""};
   const auto ajouter = [](const char* effet) {
     return "cliquer Opt_TousValid\ncliquer Cmd_Recherche\n"
            "choisir Lst_DatDebContrat 01/03/2024\ndouble Lst_DatDebContrat\nonglet 1\n"
@@ -292,7 +243,7 @@ TEST_F(Arret, PendantLAjoutDUnAvenant) {
 }
 
 TEST_F(Arret, PendantLaCreationPourUnParticulier) {
-  EprouverArrets(Particulier);
+  EprouverArrets({"00002", "Particulier", "001", "002"});
 }
 
 // A contract on file that is ended, shortened, unlinked or deleted.

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "pilote/commandes.h"
+#include "support/table.h"
 
 namespace pilote {
 namespace {
@@ -49,37 +50,17 @@ TEST(Scenario, Mots) {
   EXPECT_EQ(lire("  taper T \"a  b\" # note").commandes[0].source, "taper T \"a  b\"");
 }
 
-// Each fault with its column; the reason begins so.
 TEST(Scenario, Fautes) {
-  const struct {
-    const char* texte;
-    int colonne;
-    const char* raison;
-  } cas[] = {
-      {"clique Cmd_OK", 1, "La commande « clique » n'existe pas"},
-      {"taper Txt_A", 1, "Cette commande s'écrit : taper CHAMP TEXTE."},
-      {"taper Txt_A é\"a\"", 14, "Un guillemet ne peut pas"},
-      {"taper Txt_é \"a b", 13, "Le guillemet ouvert ici"},
-      {"taper Txt_A \"a\"b", 16, "Un blanc est attendu"},
-      {"taper é\x1e", 8, "Un caractère de contrôle"},
-      {"taper Txt_A \xff", 1, "La ligne n'est pas un texte UTF-8"},
-      {"touche T Entrée", 10, "« Entrée » n'est pas Entree"},
-      {"repondre oui", 10, "« oui » n'est pas OUI"},
-      {"onglet 1.5", 8, "« 1.5 » n'est pas un nombre entier"},
-      {"double L 2", 10, "« 2 » n'est pas une ligne"},
-      {"verifier L taille 3", 12, "« taille » n'est pas une propriété : texte, valeur"},
-      {"verifier L actif 1", 18, "« 1 » n'est pas oui ou non"},
-      {"article CONTRAT 1 7 21511", 19, "Le signe ="},
-      {"article Contrat 1 = x", 9, "« Contrat » n'est pas un nom de fichier"},
-      {"absent CONTRAT \"\"", 16, "«  » n'est pas une clé"},
-  };
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.texte);
-    const Scenario scenario = lire(std::string("quitter\n") + c.texte + "\nfermer");
+  auto cas = support::table<3>("pilote/fautes.md", "Les fautes");
+  cas.push_back({"taper é\x1e", "8", "Un caractère de contrôle"});
+  cas.push_back({"taper Txt_A \xff", "1", "La ligne n'est pas un texte UTF-8"});
+  for (const auto& [ligne, colonne, raison] : cas) {
+    SCOPED_TRACE(ligne);
+    const Scenario scenario = lire("quitter\n" + support::code(ligne) + "\nfermer");
     ASSERT_EQ(scenario.fautes.size(), 1u);
     EXPECT_EQ(scenario.fautes[0].ligne, 2);
-    EXPECT_EQ(scenario.fautes[0].colonne, c.colonne);
-    EXPECT_EQ(scenario.fautes[0].raison.substr(0, std::string(c.raison).size()), c.raison);
+    EXPECT_EQ(scenario.fautes[0].colonne, std::stoi(colonne));
+    EXPECT_TRUE(scenario.fautes[0].raison.starts_with(raison)) << scenario.fautes[0].raison;
   }
   EXPECT_EQ(lire("a\nquitter\nb\n\nonglet x").fautes.size(), 3u);
 }

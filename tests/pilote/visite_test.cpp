@@ -1,45 +1,38 @@
 // Looking is not changing: a contract that is opened, looked at on every tab and in every state,
-// and left is the one on file, byte for byte, but for what stands in the table below.
+// and left is the one on file, byte for byte, but for what stands in a table of visite.md.
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <iterator>
 #include <memory>
 #include <set>
+#include <sstream>
 
-#include "data/layouts/contrat.h"
 #include "demo/generateur.h"
 #include "editor/editeur.h"
 #include "screen/headless/hote.h"
 #include "screen/user.h"
 #include "storage/memory.h"
+#include "support/table.h"
 
 namespace {
 
-namespace C = data::Contrat;
-
 constexpr long Aujourdhui = 21511;  // 22/11/2026
 
+std::set<int> numeros(const std::string& texte) {
+  std::istringstream mots(texte);
+  return {std::istream_iterator<int>(mots), {}};
+}
+
 // Attributes that a visit rewrites on purpose.
-const std::map<int, const char*> Reecrits = {
-    {C::PopulationEmploi, "the public-law elements go on up to the last amendment"},
-    {C::StatutJuridique, "the same"},
-    {C::EmploiStatutaire, "the same"},
-    {C::Echelon, "the same"},
-    {C::CategorieStatutaire, "the same"},
-    {C::IndiceBrut, "the same"},
-    {C::IndiceMajore, "the same"},
-    {C::PointsNBI, "the same"},
-    {C::Lissage, "pay by the hour is not evened out"},
-    {C::Modulation, "what is not evened out has no modulation"},
-    {C::PaiementParEntite, "the entity pays, unless the employer is a private one"},
-    {C::ConstanteB, "a constant that the hiring declaration reads"},
-    {C::PartsActivites, "production staff do not split their time"},
-    {C::PeriodeEffet, "the same"},
-    {C::PeriodesEffetAnterieures, "the same"},
-    {C::ActivitesAnterieures, "the same"},
-    {C::PartsAnterieures, "the same"},
-};
+std::set<int> Reecrits() {
+  std::set<int> tous;
+  for (const auto& [attributs, raison] :
+       support::table<2>("pilote/visite.md", "Ce qu'une visite récrit exprès")) {
+    tous.merge(numeros(attributs));
+  }
+  return tous;
+}
 
 class Visite : public ::testing::Test {
  protected:
@@ -74,10 +67,6 @@ class Visite : public ::testing::Test {
     }
     return differents;
   }
-  static std::string valeurs(std::string texte) {
-    for (char& c : texte) c = c == '|' ? data::SepValeur : c;
-    return texte;
-  }
 
   screen::headless::Hote hote{Aujourdhui};
   storage::MemoryStorage memoire{hote.poste};
@@ -95,9 +84,10 @@ TEST_F(Visite, LaisseChaqueContratTelQuel) {
     return true;
   });
   ASSERT_GT(cles.size(), 4000U);
+  const std::set<int> reecrits = Reecrits();
   for (const auto& cle : cles) {
     for (const int a : visiter(cle)) {
-      EXPECT_TRUE(Reecrits.contains(a)) << "attribute " << a << " of " << cle;
+      EXPECT_TRUE(reecrits.contains(a)) << "attribute " << a << " of " << cle;
     }
     if (HasFailure()) break;
   }
@@ -107,90 +97,20 @@ TEST_F(Visite, LaisseChaqueContratTelQuel) {
 // table has one that needs it.
 TEST_F(Visite, NeChangeAucunContratBizarreHorsDeLaTable) {
   preparer(1);
-  using Attributs = std::map<int, std::string>;
-  const struct {
-    const char* nom;
-    Attributs attributs;
-    std::set<int> reecrits;
-  } cas[] = {
-      {"nothing but a start", {}, {}},
-      {"payment that nobody gave",
-       {{C::PaiementParEntite, ""}, {C::ConstanteB, ""}},
-       {C::PaiementParEntite, C::ConstanteB}},
-      {"a production contract that splits its time",
-       {{C::Activites, "001DOM"},
-        {C::PartsActivites, "10000"},
-        {C::PeriodeEffet, "202601"},
-        {C::PeriodesEffetAnterieures, "202501"},
-        {C::ActivitesAnterieures, "001DOM"},
-        {C::PartsAnterieures, "10000"}},
-       {C::PartsActivites, C::PeriodeEffet, C::PeriodesEffetAnterieures, C::ActivitesAnterieures,
-        C::PartsAnterieures}},
-      {"no amendment number", {{C::Avenant, ""}, {C::DateEffet, ""}, {C::TauxHoraire, ""}}, {}},
-      {"codes that no table knows",
-       {{C::Qualification, "Autre"},
-        {C::CodePCS, "1"},
-        {C::CategoriePCS, "Rien"},
-        {C::FonctionPCS, "Rien non plus"},
-        {C::Grille, "ZZ"},
-        {C::DepartGrille, "demain"},
-        {C::Frequence, "9"}},
-       {}},
-      {"numbers that are none",
-       {{C::Coefficient, "abc"},
-        {C::TauxHoraire, "12,5x"},
-        {C::DureeTravail, "99999999999999999999"},
-        {C::JoursSuspensionGrille, "deux"},
-        {C::JoursSuspensionAnciennete, "00"},
-        {C::DateAnciennete, "31/02/2020"}},
-       {}},
-      {"a grid that has no date and a category by hand",
-       {{C::Grille, "01A1"}, {C::Categorie, "K"}, {C::TauxHoraire, ""}, {C::DepartGrille, ""}},
-       {}},
-      {"empty flags", {{C::Lissage, ""}, {C::ChangementSituation, ""}}, {}},
-      {"evened out, paid by the hour",
-       {{C::Lissage, "1"}, {C::Modulation, "C"}},
-       {C::Lissage, C::Modulation}},
-      {"evened out, monthly", {{C::Salaire, "M"}, {C::Lissage, "1"}, {C::Modulation, "X"}}, {}},
-      {"public law that stops before the last amendment",
-       {{C::Convention, "07"},
-        {C::Avenant, valeurs("0|01|02")},
-        {C::DateEffet, valeurs("21000|21100|21200")},
-        {C::PopulationEmploi, "40"},
-        {C::StatutJuridique, "011"},
-        {C::EmploiStatutaire, "0123010007"},
-        {C::Echelon, "001"},
-        {C::CategorieStatutaire, "30"},
-        {C::IndiceBrut, "367"},
-        {C::IndiceMajore, "340"},
-        {C::PointsNBI, "1000"},
-        {C::Grade, "Agent"}},
-       {std::begin(C::GroupeDroitPublic), std::end(C::GroupeDroitPublic)}},
-  };
   std::set<int> rencontres;
-  for (const auto& [nom, attributs, reecrits] : cas) {
+  for (const auto& [nom, attributs, reecrits] :
+       support::table<3>("pilote/visite.md", "Des contrats que personne n'aurait faits")) {
     data::CItem contrat = db.OpenFile("CONTRAT").NewItem("00001900");
-    Attributs tous = attributs;
-    tous.merge(Attributs{{C::Convention, "01"},
-                         {C::Association, "001"},
-                         {C::Employeur, "001001"},
-                         {C::Type, "I"},
-                         {C::Salaire, "H"},
-                         {C::Statut, "P"},
-                         {C::DateDebut, "21000"},
-                         {C::PaiementParEntite, "1"},
-                         {C::ConstanteB, "B"},
-                         {C::Avenant, "0"},
-                         {C::DateEffet, "21000"}});
+    auto tous = support::attributs(attributs);
+    tous.merge(support::attributs(
+        "1=01; 2=001; 3=001001; 4=I; 5=H; 6=P; 7=21000; 14=0; 15=21000; 28=1; 30=B"));
     for (const auto& [a, texte] : tous) contrat.Set(a, texte);
     contrat.DBWrite();
     const std::set<int> differents = visiter("00001900");
-    EXPECT_EQ(differents, reecrits) << nom;
+    EXPECT_EQ(differents, numeros(reecrits)) << nom;
     rencontres.insert(differents.begin(), differents.end());
   }
-  for (const auto& [attribut, raison] : Reecrits) {
-    EXPECT_TRUE(rencontres.contains(attribut)) << attribut << ": " << raison;
-  }
+  EXPECT_EQ(rencontres, Reecrits()) << "each line of the table has a contract that needs it";
 }
 
 }  // namespace

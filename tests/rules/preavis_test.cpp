@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "data/jour.h"
+#include "support/table.h"
 
 namespace {
 
@@ -18,113 +19,46 @@ std::string ecrite(const DureePreavis& duree) {
   return duree.jours > 0 ? std::to_string(duree.jours) + " jours" : "-";
 }
 
-// The notice at both sides of each bound: before 6 months, from 6 months on, just before 2 years,
-// from 2 years on.
+char lettre(const std::string& cellule) {
+  return cellule.empty() ? '\0' : cellule[0];
+}
+
 TEST(Preavis, ChaqueCaseDuBareme) {
-  const struct {
-    const char* convention;
-    char lettre;
-    bool cadre;
-    const char* attendus[4];
-  } cas[] = {
-      {"01", 'A', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'B', true, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'C', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'D', false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 0, false, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'E', false, {"1 mois", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'F', true, {"1 mois", "1 mois", "1 mois", "2 mois"}},
-      {"01", 'G', false, {"2 mois", "2 mois", "2 mois", "4 mois"}},
-      {"01", 'Z', false, {"2 mois", "2 mois", "2 mois", "4 mois"}},
-      {"02", 'G', true, {"6 jours", "1 mois", "1 mois", "2 mois"}},
-      {"05", 'A', true, {"4 mois", "4 mois", "4 mois", "4 mois"}},
-      {"05", 'A', false, {"1 mois", "1 mois", "1 mois", "2 mois"}},
-      {"06", 'A', true, {"3 mois", "3 mois", "3 mois", "3 mois"}},
-      {"06", 'A', false, {"1 mois", "1 mois", "1 mois", "2 mois"}},
-      {"03", 'G', true, {"-", "1 mois", "1 mois", "2 mois"}},
-      {"", 0, false, {"-", "1 mois", "1 mois", "2 mois"}},
-  };
   constexpr Anciennete Bornes[] = {{0, 5}, {0, 6}, {1, 11}, {2, 0}};
-  for (const auto& c : cas) {
-    for (int i = 0; i < 4; ++i) {
-      const SituationPreavis s{c.convention, c.lettre, c.cadre, false, Bornes[i], "11"};
-      EXPECT_EQ(ecrite(rules::dureePreavis(s)), c.attendus[i])
-          << c.convention << c.lettre << " " << Bornes[i].ans << "/" << Bornes[i].mois;
+  for (const auto& rangee : support::table<7>("rules/preavis.md", "Le barème")) {
+    for (std::size_t i = 0; i < std::size(Bornes); ++i) {
+      const SituationPreavis s{rangee[0], lettre(rangee[1]), rangee[2] == "oui",
+                               false,     Bornes[i],         "11"};
+      EXPECT_EQ(ecrite(rules::dureePreavis(s)), rangee[3 + i]) << rangee[0] << rangee[1] << i;
     }
   }
 }
 
 TEST(Preavis, UnTravailleurHandicapeADroitAuDouble) {
-  const struct {
-    const char *convention, *motif;
-    char lettre;
-    bool cadre;
-    Anciennete anciennete;
-    const char* attendu;
-  } cas[] = {
-      {"01", "11", 'A', false, {0, 0}, "12 jours"},
-      {"01", "11", 'A', false, {1, 0}, "2 mois"},
-      // Twice two months is more than the law gives.
-      {"01", "11", 'A', false, {2, 0}, "3 mois"},
-      {"06", "11", 0, true, {0, 0}, "3 mois"},
-      // Doubling never shortens.
-      {"05", "11", 0, true, {0, 0}, "4 mois"},
-      {"03", "11", 0, false, {0, 5}, "-"},
-      {"01", "92", 'A', false, {2, 0}, "2 mois"},
-      {"01", "92", 'A', false, {0, 0}, "6 jours"},
-  };
-  for (const auto& c : cas) {
-    const SituationPreavis s{c.convention, c.lettre, c.cadre, true, c.anciennete, c.motif};
-    EXPECT_EQ(ecrite(rules::dureePreavis(s)), c.attendu) << c.convention << c.motif << c.lettre;
+  for (const auto& [convention, motif, grille, cadre, ans, mois, preavis] :
+       support::table<7>("rules/preavis.md", "Un travailleur handicapé")) {
+    const Anciennete anciennete{std::stoi(ans), std::stoi(mois)};
+    const SituationPreavis s{convention, lettre(grille), cadre == "oui", true, anciennete, motif};
+    EXPECT_EQ(ecrite(rules::dureePreavis(s)), preavis) << convention << motif << grille;
   }
 }
 
 TEST(Preavis, LAncienneteSeCompteSurLeCalendrier) {
-  const struct {
-    const char *depart, *notification, *attendue;
-  } cas[] = {
-      {"15/03/2024", "15/03/2026", "2/0"},  {"15/03/2024", "14/03/2026", "1/11"},
-      {"15/03/2026", "15/09/2026", "0/6"},  {"15/03/2026", "14/09/2026", "0/5"},
-      {"01/12/2025", "31/05/2026", "0/5"},  {"01/12/2025", "01/06/2026", "0/6"},
-      {"29/02/2024", "28/02/2026", "1/11"}, {"29/02/2024", "01/03/2026", "2/0"},
-      {"31/08/2025", "28/02/2026", "0/5"},  {"10/05/2026", "10/05/2026", "0/0"},
-  };
-  for (const auto& c : cas) {
-    const auto a = rules::ancienneteEntre(jour(c.depart), jour(c.notification));
-    EXPECT_EQ(std::to_string(a.ans) + "/" + std::to_string(a.mois), c.attendue)
-        << c.depart << " " << c.notification;
+  for (const auto& [depart, notification, attendue, preavis] :
+       support::table<4>("rules/preavis.md", "L'ancienneté")) {
+    const auto a = rules::ancienneteEntre(jour(depart), jour(notification));
+    if (!attendue.empty()) {
+      EXPECT_EQ(std::to_string(a.ans) + "/" + std::to_string(a.mois), attendue) << depart;
+    }
+    const SituationPreavis s{"01", 'A', false, false, a, "11"};
+    EXPECT_EQ(ecrite(rules::dureePreavis(s)), preavis) << depart << " " << notification;
   }
-  // Suspension can carry the departure beyond the notification.
-  const SituationPreavis s{
-      "01", 'A', false, false, rules::ancienneteEntre(jour("01/06/2026"), jour("15/05/2026")),
-      "11"};
-  EXPECT_EQ(ecrite(rules::dureePreavis(s)), "6 jours");
 }
 
 TEST(Preavis, LaFinEstLaVeilleOuLeDernierJourDuMois) {
-  const struct {
-    const char* notification;
-    DureePreavis duree;
-    const char* fin;
-  } cas[] = {
-      {"15/03/2026", {.mois = 2}, "14/05/2026"},
-      {"15/03/2026", {.jours = 6}, "21/03/2026"},
-      {"26/02/2024", {.jours = 6}, "03/03/2024"},
-      // The 1st: the last day of the month where the notice ends.
-      {"01/03/2026", {.mois = 1}, "30/04/2026"},
-      {"01/12/2025", {.mois = 1}, "31/01/2026"},
-      {"01/01/2026", {.mois = 1}, "28/02/2026"},
-      {"01/12/2023", {.mois = 2}, "29/02/2024"},
-      // A shorter month ends the notice on its last day.
-      {"31/12/2025", {.mois = 2}, "28/02/2026"},
-      {"31/12/2023", {.mois = 2}, "29/02/2024"},
-      {"30/01/2024", {.mois = 1}, "29/02/2024"},
-      {"31/05/2026", {.mois = 1}, "30/06/2026"},
-      {"31/08/2026", {.mois = 4}, "30/12/2026"},
-      {"15/11/2026", {.mois = 4}, "14/03/2027"},
-      {"15/12/2026", {.jours = 20}, "04/01/2027"},
-  };
-  for (const auto& [notification, duree, fin] : cas) {
+  for (const auto& [notification, mois, jours, fin] :
+       support::table<4>("rules/preavis.md", "La fin du préavis")) {
+    const DureePreavis duree{.mois = std::stoi(mois), .jours = std::stoi(jours)};
     EXPECT_EQ(data::dateAffichee(rules::finPreavis(jour(notification), duree)), fin)
         << notification << " + " << ecrite(duree);
   }
@@ -138,39 +72,25 @@ TEST(Preavis, CeQuiFaitLaSituation) {
        {std::pair{"372c", true}, {"233a", true}, {"563b", false}, {"043a", false}, {"", false}}) {
     EXPECT_EQ(rules::estCadre(code), cadre) << code;
   }
-  const std::string le = "15/05/2026";
-  const struct {
-    const char *du, *type, *au;
-    bool attendu;
-  } cas[] = {
-      {"15/05/2026", "01", "15/05/2026", true},  {"", "01", "15/05/2026", true},
-      {"16/05/2026", "01", "31/12/2026", false}, {"01/01/2026", "01", "14/05/2026", false},
-      {"01/01/2026", "01", "", false},           {"01/01/2026", "08", "31/12/2026", false},
-      {"01/01/2026", "", "31/12/2026", false},
+  const auto texte = [](const std::string& date) {
+    return date.empty() ? date : std::to_string(jour(date));
   };
-  const auto texte = [](const char* date) {
-    return *date == '\0' ? std::string() : std::to_string(jour(date));
-  };
-  for (const auto& c : cas) {
+  for (const auto& [du, type, au, attendu] :
+       support::table<4>("rules/preavis.md", "Handicapé le 15/05/2026")) {
     data::CItem infos;
-    infos.Set(6, texte(c.du));
-    infos.Set(10, c.type);
-    infos.Set(11, texte(c.au));
-    EXPECT_EQ(rules::estHandicape(infos, jour(le)), c.attendu) << c.du << c.type << c.au;
+    infos.Set(6, texte(du));
+    infos.Set(10, type);
+    infos.Set(11, texte(au));
+    EXPECT_EQ(rules::estHandicape(infos, jour("15/05/2026")), attendu == "oui") << du << type << au;
   }
 }
 
 TEST(Preavis, LesMotifs) {
-  const struct {
-    const char* motif;
-    bool preavis, indemnite, retrait;
-  } cas[] = {{"11", true, true, false}, {"33", false, true, false},  {"91", false, true, false},
-             {"92", true, true, false}, {"43", false, false, false}, {"59", false, false, true},
-             {"20", true, true, true},  {"", false, false, false},   {"1", false, false, false}};
-  for (const auto& c : cas) {
-    EXPECT_EQ(rules::motifAvecPreavis(c.motif), c.preavis) << c.motif;
-    EXPECT_EQ(rules::motifAvecIndemnite(c.motif), c.indemnite) << c.motif;
-    EXPECT_EQ(rules::motifRetireHeures(c.motif), c.retrait) << c.motif;
+  for (const auto& [motif, preavis, indemnite, retrait] :
+       support::table<4>("rules/preavis.md", "Les motifs")) {
+    EXPECT_EQ(rules::motifAvecPreavis(motif), preavis == "oui") << motif;
+    EXPECT_EQ(rules::motifAvecIndemnite(motif), indemnite == "oui") << motif;
+    EXPECT_EQ(rules::motifRetireHeures(motif), retrait == "oui") << motif;
   }
 }
 

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "data/layouts/contrat.h"
+#include "support/table.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ constexpr int Attributs[] = {C::Activites,
                              C::ActivitesAnterieures,
                              C::PartsAnterieures};
 
-// A contract of those six attributes, parted by blanks; "-" none, "|" values, "," subvalues.
+// A contract of those six attributes, in the form of the tables.
 data::CItem contrat(const std::string& texte) {
   data::CItem item;
   std::size_t debut = 0;
@@ -28,7 +29,7 @@ data::CItem contrat(const std::string& texte) {
     std::string attribut = texte.substr(debut, fin - debut);
     debut = fin == std::string::npos ? texte.size() : fin + 1;
     for (char& c : attribut) {
-      c = c == '|' ? data::SepValeur : c == ',' ? data::SepSousValeur : c;
+      c = c == '^' ? data::SepValeur : c == ',' ? data::SepSousValeur : c;
     }
     if (attribut != "-") item.Set(a, attribut);
   }
@@ -40,7 +41,7 @@ std::string lisible(const data::CItem& item) {
   for (const int a : Attributs) {
     std::string attribut = item(a).empty() ? "-" : item(a);
     for (char& c : attribut) {
-      c = c == data::SepValeur ? '|' : c == data::SepSousValeur ? ',' : c;
+      c = c == data::SepValeur ? '^' : c == data::SepSousValeur ? ',' : c;
     }
     texte += (texte.empty() ? "" : " ") + attribut;
   }
@@ -67,74 +68,24 @@ Repartition::Parts parts(const std::string& texte) {
 }
 
 TEST(Repartition, GardeCeQuElleLit) {
-  const struct {
-    const char* contrat;
-    const char* periodes;  // the latest, then the earlier ones
-    const char* garde;     // nullptr: as read
-  } cas[] = {
-      {"A|B 6000|4000 202611 - - -", "202611", nullptr},
-      {"A 10000 202611 202607|202601 A,B|C 5000,5000|10000", "202611 202607 202601", nullptr},
-      // Shares that are missing or wrong stay with their activity.
-      {"A|B|C 6000||x 202611 - - -", "202611", nullptr},
-      {"A - - - - -", "", nullptr},
-      // Without activities the period of the latest split says nothing.
-      {"- - 202611 202607 A 10000", " 202607", "- - - 202607 A 10000"},
-      // An earlier split ends at its first empty code.
-      {"A 10000 202611 202607 A,,B 6000,1000,4000", "202611 202607",
-       "A 10000 202611 202607 A 6000"},
-      {"- - - - - -", "", nullptr},
-  };
-  for (const auto& [texte, periodes, garde] : cas) {
+  for (const auto& [texte, periodes, garde] :
+       support::table<3>("rules/repartition.md", "Ce qui est lu")) {
     const Repartition r = Repartition::DuContrat(contrat(texte));
     std::string lues = r.Derniere();
-    for (const auto& periode : r.Anterieures()) lues += " " + periode;
+    for (const auto& p : r.Anterieures()) lues += (lues.empty() ? "" : " ") + p;
     EXPECT_EQ(lues, periodes) << texte;
-    EXPECT_EQ(ecrit(r), garde == nullptr ? texte : garde);
+    EXPECT_EQ(ecrit(r), garde);
   }
 }
 
 TEST(Repartition, PrendUneAutreRepartition) {
-  const char* const depart = "A 10000 202611 202607|202601 A,B|C 5000,5000|10000";
-  const struct {
-    char acte;  // "R" replaces, "A" adds
-    const char* periode;
-    const char* parts;
-    const char* apres;  // nullptr: refused
-  } cas[] = {
-      {'R', "202611", "B 3333,C 3333,A 3334",
-       "B|C|A 3333|3333|3334 202611 202607|202601 A,B|C 5000,5000|10000"},
-      {'R', "202607", "C 10000", "A 10000 202611 202607|202601 C|C 10000|10000"},
-      {'R', "202608", "C 10000", nullptr},
-      {'R', "", "C 10000", nullptr},
-      {'R', "202611", "A 10001", nullptr},
-      {'R', "202611", "A 5000,B 4999", nullptr},
-      {'R', "202611", "", nullptr},
-      {'A', "202612", "A 2500,B 7500",
-       "A|B 2500|7500 202612 202611|202607|202601 A|A,B|C 10000|5000,5000|10000"},
-      {'A', "202609", "C 10000",
-       "A 10000 202611 202609|202607|202601 C|A,B|C 10000|5000,5000|10000"},
-      {'A', "202602", "D 10000",
-       "A 10000 202611 202607|202602|202601 A,B|D|C 5000,5000|10000|10000"},
-      // Before the first period there is nothing to put it before.
-      {'A', "202512", "D 10000", nullptr},
-      {'A', "202611", "D 10000", nullptr},
-      {'A', "202601", "D 10000", nullptr},
-      {'A', "202613", "D 10000", nullptr},
-      {'A', "", "D 10000", nullptr},
-      {'A', "202612", "A 9999", nullptr},
-  };
-  for (const auto& [acte, periode, nouvelles, apres] : cas) {
-    Repartition r = Repartition::DuContrat(contrat(depart));
+  for (const auto& [avant, acte, periode, nouvelles, apres] :
+       support::table<5>("rules/repartition.md", "Une autre répartition")) {
+    Repartition r = Repartition::DuContrat(contrat(avant));
     const bool fait =
-        acte == 'R' ? r.Remplacer(periode, parts(nouvelles)) : r.Ajouter(periode, parts(nouvelles));
-    EXPECT_EQ(fait, apres != nullptr) << acte << periode << nouvelles;
-    EXPECT_EQ(ecrit(r), apres == nullptr ? depart : apres);
-  }
-  // The first period of a contract, of one that was never split and of one without a period.
-  for (const char* texte : {"- - - - - -", "A - - - - -"}) {
-    Repartition r = Repartition::DuContrat(contrat(texte));
-    EXPECT_TRUE(r.Ajouter("202611", parts("B 10000")));
-    EXPECT_EQ(ecrit(r), "B 10000 202611 - - -") << texte;
+        acte == "R" ? r.Remplacer(periode, parts(nouvelles)) : r.Ajouter(periode, parts(nouvelles));
+    EXPECT_EQ(fait, !apres.empty()) << acte << periode << nouvelles;
+    EXPECT_EQ(ecrit(r), apres.empty() ? avant : apres);
   }
 }
 

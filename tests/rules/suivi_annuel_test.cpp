@@ -12,6 +12,7 @@
 #include "rules/suivi_annuel_mois.h"
 #include "rules/suivi_annuel_nombre.h"
 #include "rules/suivi_annuel_tte.h"
+#include "support/table.h"
 
 namespace {
 
@@ -33,20 +34,12 @@ void setValeurs(data::CItem& item, int attribut, std::string texte) {
 }
 
 TEST(SuiviNombre, ShownForm) {
-  const struct {
-    const char* valeur;
-    int avant, apres;
-    const char* forme;
-  } Cas[] = {
-      {"0", 4, 2, "   0,00"},     {"151,67", 4, 2, " 151,67"}, {"12,5", 4, 2, "  12,50"},
-      {"8,05", 4, 2, "   8,05"},  {"-12,5", 4, 2, "- 12,50"},  {"-0,05", 4, 2, "-  0,05"},
-      {"0,125", 4, 2, "   0,13"}, {"0,005", 4, 2, "   0,10"},  {"0,995", 4, 2, "   0,10"},
-      {"7,999", 4, 2, "   7,10"}, {"0,1234", 4, 2, "   0,12"}, {"0,5", 2, 1, " 0,5"},
-      {"0,25", 2, 1, " 0,30"},    {"12345", 4, 2, "12345,00"}, {"159,285", 3, 2, "159,29"},
-      {"-1234", 4, 2, "-234,00"},
-  };
-  for (const auto& cas : Cas) {
-    EXPECT_EQ(rules::formeSuivi(h(cas.valeur), cas.avant, cas.apres), cas.forme) << cas.valeur;
+  for (const auto& [valeur, avant, apres, forme] :
+       support::table<4>("rules/suivi_annuel.md", "Un nombre affiché")) {
+    EXPECT_EQ(
+        "`" + rules::formeSuivi(Monnaie::DeTexte(valeur), std::stoi(avant), std::stoi(apres)) + "`",
+        forme)
+        << valeur;
   }
   EXPECT_EQ(rules::lireForme("- 12,50"), h("-12,5"));
   EXPECT_EQ(rules::lireForme("abc"), Monnaie());
@@ -55,64 +48,25 @@ TEST(SuiviNombre, ShownForm) {
 }
 
 TEST(SuiviMois, OfferedMonths) {
-  const struct {
-    const char* cas;
-    rules::ExerciceSuivi exercice;
-    const char* premier;
-    const char* dernier;
-    std::size_t nombre;
-  } Cas[] = {
-      {"calendar year of the pay period", {"", "202611"}, "202601", "202612", 12},
-      {"November processed: same year", {"202611", "202612"}, "202601", "202612", 12},
-      {"December processed: the year turns", {"202612", "202612"}, "202701", "202712", 12},
-      {"from December", {"", "202611", true}, "202512", "202611", 12},
-      {"from December, turned", {"202612", "202701", true}, "202612", "202711", 12},
-      {"closing August, pay period after",
-       {"", "202611", false, true, "08"},
-       "202609",
-       "202612",
-       4},
-      {"closing August, paid December", {"", "202612", false, true, "08"}, "202609", "202701", 5},
-      {"closing August, pay period before",
-       {"", "202603", false, true, "08"},
-       "202509",
-       "202604",
-       8},
-      {"closing month itself", {"", "202608", false, true, "08"}, "202509", "202609", 13},
-      {"closing December", {"", "202611", false, true, "12"}, "202601", "202612", 12},
-      {"closing December, paid December",
-       {"", "202612", false, true, "12"},
-       "202601",
-       "202701",
-       13},
-      {"closing August, turned", {"202612", "202701", false, true, "08"}, "202609", "202702", 6},
-      {"no closing month", {"", "202611", false, true, ""}, "202601", "202612", 12},
-      {"no pay period", {"", ""}, "", "", 0},
-  };
-  for (const auto& cas : Cas) {
-    const auto mois = rules::moisOfferts(cas.exercice);
-    ASSERT_EQ(mois.size(), cas.nombre) << cas.cas;
+  for (const auto& [traitee, paie, decembre, particulier, cloture, premier, dernier, nombre] :
+       support::table<8>("rules/suivi_annuel.md", "Les mois offerts")) {
+    SCOPED_TRACE(traitee + " " + paie + " " + cloture);
+    const auto mois =
+        rules::moisOfferts({traitee, paie, decembre == "oui", particulier == "oui", cloture});
+    ASSERT_EQ(mois.size(), std::stoul(nombre));
     if (mois.empty()) continue;
-    EXPECT_EQ(mois.front() + " " + mois.back(), std::string(cas.premier) + " " + cas.dernier)
-        << cas.cas;
+    EXPECT_EQ(mois.front() + " " + mois.back(), premier + " " + dernier);
   }
 }
 
 TEST(SuiviMois, YearOfTheEffectiveTime) {
-  const struct {
-    const char *traitee, *calculee, *cloture;
-    int annee;
-  } Cas[] = {
-      {"", "", "12", 2026},        {"202505", "", "08", 2025},       {"202508", "", "08", 2026},
-      {"202512", "", "12", 2026},  {"202511", "", "", 2025},         {"", "202403", "08", 2024},
-      {"abc", "2024", "08", 2026}, {"202505", "202401", "08", 2025},
-  };
-  for (const auto& cas : Cas) {
+  for (const auto& [traitee, calculee, cloture, annee] :
+       support::table<4>("rules/suivi_annuel.md", "L'année du temps effectif")) {
     data::CItem contrat;
-    contrat.Set(C::PeriodeTraitee, cas.traitee);
-    contrat.Set(C::DernierCalcul, cas.calculee);
-    EXPECT_EQ(rules::anneeSuivi(contrat, cas.cloture, "202611"), cas.annee)
-        << cas.traitee << "/" << cas.calculee << "/" << cas.cloture;
+    contrat.Set(C::PeriodeTraitee, traitee);
+    contrat.Set(C::DernierCalcul, calculee);
+    EXPECT_EQ(rules::anneeSuivi(contrat, cloture, "202611"), std::stoi(annee))
+        << traitee << "/" << calculee << "/" << cloture;
   }
 }
 
@@ -123,30 +77,6 @@ std::string calculs(const SuiviRemunere& suivi) {
     texte += "[" + c.forfait.Texte(2) + " " + c.cumul.Texte(2) + " " + c.solde.Texte(2) + "]";
   }
   return texte;
-}
-
-TEST(SuiviRemunere, MonthsTypedInDisorder) {
-  SuiviRemunere suivi;
-  data::CItem contrat;
-  suivi.Lire(contrat, rules::Annee::EnCours);
-  EXPECT_EQ(suivi.Ajouter("202603", h("151,67")), 0);
-  EXPECT_EQ(suivi.Ajouter("202601", h("151,67")), 0);
-  EXPECT_EQ(suivi.Ajouter("202602", h("151,67")), 1);
-  suivi.Corriger(0, {h("151,67"), h("0"), h("160"), h("8,33"), h("0")});
-  suivi.Corriger(1, {h("151,67"), h("7"), h("140"), h("-4,67"), h("2")});
-  EXPECT_EQ(calculs(suivi), "[151,67 8,33 8,33][144,67 3,66 1,66][151,67 3,66 1,66]");
-  suivi.Ecrire(contrat);
-  EXPECT_EQ(lisible(contrat(76)), "202601^202602^202603");
-  EXPECT_EQ(lisible(contrat(77)), "15167^15167^15167");
-  EXPECT_EQ(lisible(contrat(78)), "0^700^0");
-  EXPECT_EQ(lisible(contrat(79)), "16000^14000^15167");
-  EXPECT_EQ(lisible(contrat(80)), "833^-467^0");
-  EXPECT_EQ(lisible(contrat(100)), "0^200^0");
-  suivi.Retirer(1);
-  EXPECT_EQ(calculs(suivi), "[151,67 8,33 8,33][151,67 8,33 8,33]");
-  suivi.Vider();
-  suivi.Ecrire(contrat);
-  EXPECT_EQ(contrat.Text(), "");
 }
 
 // A missing period ends the table, other missing or wrong numbers count as 0, and a visit leaves it
@@ -197,7 +127,6 @@ std::string calculs(const SuiviTte& suivi) {
 
 TEST(SuiviTte, HalfDaysAndLeapFebruary) {
   SuiviTte suivi;
-  data::CItem article;
   // 31 - 9 - 2 = 20 days of 7,77 h: 155,40. 150,00 - 155,40 = -5,40.
   suivi.Ajouter("202803", temps("31", "9", "2", "7,77", "0", "150", "-1"));
   // 29 - 8 - 0,5 = 20,5 days of 7,77 h: 159,285. 150 - 159,285 = -9,285, that is -9,28.
@@ -206,29 +135,12 @@ TEST(SuiviTte, HalfDaysAndLeapFebruary) {
   suivi.Ajouter("202801", temps("31", "10", "1", "7", "5,5", "110,25", "0"));
   EXPECT_EQ(calculs(suivi),
             "[14,5 101,5 875 875|875][20,5 159,285 -928 -53|-153][20 155,4 -540 -593|-593]");
-  suivi.Ecrire(article);
-  EXPECT_EQ(lisible(article.Text()),
-            "202801^202802^202803|700^777^777|31^29^31|10^8^9|1^0^2|550^50^0|0^0^0|0^0^0|"
-            "11025^15000^15000|0^100^-100|875^-153^-593");
   // The second half hundredth goes up as well: 159,285 under 159 is -0,28 and not -0,29.
   suivi.Corriger(1, temps("29", "8", "0", "7,77", "0,5", "159", "0"));
   EXPECT_EQ(calculs(suivi),
             "[14,5 101,5 875 875|875][20,5 159,285 -28 847|847][20 155,4 -540 307|407]");
   suivi.Retirer(0);
   EXPECT_EQ(calculs(suivi), "[20,5 159,285 -28 -28|-28][20 155,4 -540 -568|-468]");
-}
-
-// Earlier lines count their regularisation the other way round until the line is confirmed.
-TEST(SuiviTte, DisplayWhileTyping) {
-  SuiviTte suivi;
-  suivi.Ajouter("202601", temps("31", "10", "1", "7", "0", "150", "3"));  // 140 due: +10,00
-  suivi.Ajouter("202603", temps("31", "9", "0", "7", "0", "150", "0"));   // 154 due: -4,00
-  const auto fevrier = temps("28", "8", "0", "7", "0", "141", "2");       // 140 due: +1,00
-  const auto saisie = suivi.PendantLaSaisie("202602", fevrier);
-  EXPECT_EQ(saisie.cumul, 1100);
-  EXPECT_EQ(saisie.solde, 1000 + 300 + 100 - 200);
-  suivi.Ajouter("202602", fevrier);
-  EXPECT_EQ(suivi.Table().Texte(1, SuiviTte::Solde), "600");
 }
 
 // A balance on file is shown as it is until a line is confirmed; fields that this system does not

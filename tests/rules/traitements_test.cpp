@@ -4,6 +4,7 @@
 
 #include "data/poste.h"
 #include "storage/memory.h"
+#include "support/table.h"
 
 namespace {
 
@@ -17,7 +18,8 @@ class Traitements : public ::testing::Test {
     for (const auto& [a, texte] : attributs) item.Set(a, texte);
     item.DBWrite();
   }
-  static ContratTraite contrat(const char* convention, bool administratif, const char* type) {
+  static ContratTraite contrat(const std::string& convention, bool administratif,
+                               const std::string& type) {
     return {"00001002", convention, "001", "00007", administratif, type};
   }
   // The record in that file alone; the key of a neighbour where none counts.
@@ -45,24 +47,19 @@ TEST_F(Traitements, LesFichiersDesBulletins) {
                                                           {"DETAILADMIN", ""},
                                                           {"DETAILPREST", ""},
                                                           {"DETAILINTER", "000"}};
-  const struct {
-    ContratTraite contrat;
-    const char* comptent;  // in the order above
-  } cas[] = {
-      {contrat("01", false, "P"), "1--1-"}, {contrat("01", false, "M"), "1---1"},
-      {contrat("01", false, ""), "1---1"},  {contrat("02", false, "M"), "11--1"},
-      {contrat("01", true, "P"), "1-11-"},  {contrat("01", true, "X"), "1-1-1"},
-  };
-  for (const auto& [c, comptent] : cas) {
+  for (const auto& rangee :
+       support::table<8>("rules/traitements.md", "Les fichiers des bulletins")) {
+    const ContratTraite c = contrat(rangee[0], rangee[1] == "oui", rangee[2]);
+    SCOPED_TRACE(rangee[0] + rangee[1] + rangee[2]);
     for (std::size_t i = 0; i < 5; ++i) {
       const auto& [fichier, zeros] = fichiers[i];
-      const bool compte = comptent[i] == '1';
+      const bool compte = rangee[3 + i] == "oui";
       const std::string cle = c.cle + zeros;
-      EXPECT_NE(supprimable(c, fichier, cle + "202601"), compte) << fichier << comptent;
+      EXPECT_NE(supprimable(c, fichier, cle + "202601"), compte) << fichier;
       EXPECT_TRUE(supprimable(c, fichier, std::string("00001003") + zeros + "202601")) << fichier;
       // After the month of the end, and not in it.
-      EXPECT_NE(modifiable(c, fichier, cle + "202607"), compte) << fichier << comptent;
-      EXPECT_TRUE(modifiable(c, fichier, cle + "202606")) << fichier << comptent;
+      EXPECT_NE(modifiable(c, fichier, cle + "202607"), compte) << fichier;
+      EXPECT_TRUE(modifiable(c, fichier, cle + "202606")) << fichier;
       EXPECT_TRUE(modifiable(c, fichier, std::string("00001003") + zeros + "202607")) << fichier;
     }
   }
@@ -72,48 +69,20 @@ TEST_F(Traitements, LePlanningRetient) {
   article("ACTIVITES", "001DOM", {{12, "P"}});
   article("ACTIVITES", "001MAN", {{12, "M"}});
   const ContratTraite entite = contrat("01", false, "P"), mandat = contrat("02", false, "M");
-  // An intervention of carer 00001, by person helped, first day, activity and last day.
-  const struct {
-    const char* nom;
-    const ContratTraite& contrat;
-    const char *aide, *debut, *activite, *fin;
-    rules::JoursPlanifies jours;
-    bool libre;
-  } cas[] = {
-      {"without end", entite, "00008", "21000", "001DOM", "", {21100, {}, {}}, false},
-      {"over before", entite, "00008", "21000", "001DOM", "21099", {21100, {}, {}}, true},
-      {"on its first day", entite, "00008", "21000", "001DOM", "21100", {21100, {}, {}}, false},
-      {"another entity's", entite, "00008", "21000", "002DOM", "", {21100, {}, {}}, true},
-      {"a private employer's", entite, "00007", "21000", "001MAN", "", {21100, {}, {}}, true},
-      {"that employer's", mandat, "00007", "21000", "001MAN", "", {21100, {}, {}}, false},
-      {"another employer's", mandat, "00008", "21000", "001MAN", "", {21100, {}, {}}, true},
-      {"up to the end", entite, "00008", "21150", "001DOM", "21200", {21100, 21150, 21200}, false},
-      {"after the last day",
-       entite,
-       "00008",
-       "21151",
-       "001DOM",
-       "21200",
-       {21100, 21150, 21200},
-       true},
-      {"over before the end",
-       entite,
-       "00008",
-       "21150",
-       "001DOM",
-       "21199",
-       {21100, 21150, 21200},
-       true},
-  };
-  for (const auto& c : cas) {
-    const std::string cle = std::string("00001") + c.aide + c.debut + c.activite + "00830";
-    article("TPSDETAILSINTERV", cle, {{1, c.fin}, {2, "1000"}});
-    EXPECT_EQ(!rules::Verif_PlanningSuppression(db, c.contrat, c.jours), c.libre) << c.nom;
+  const rules::JoursPlanifies jour{21100, {}, {}}, fin{21100, 21150, 21200};
+  for (const auto& [nom, convention, aide, debut, activite, dernier, acte, libre] :
+       support::table<8>("rules/traitements.md", "Le planning")) {
+    const std::string cle = "00001" + aide + debut + activite + "00830";
+    article("TPSDETAILSINTERV", cle, {{1, dernier}, {2, "1000"}});
+    EXPECT_EQ(!rules::Verif_PlanningSuppression(db, convention == "02" ? mandat : entite,
+                                                acte == "supprimé" ? jour : fin),
+              libre == "oui")
+        << nom;
     db.OpenFile("TPSDETAILSINTERV").DeleteItem(cle);
   }
-  EXPECT_FALSE(rules::Verif_PlanningSuppression(db, entite, {21100, {}, {}}));
+  EXPECT_FALSE(rules::Verif_PlanningSuppression(db, entite, jour));
   article("TPSMOI", "1", {{4, "00001002"}});
-  const auto refus = rules::Verif_PlanningSuppression(db, entite, {21100, {}, {}});
+  const auto refus = rules::Verif_PlanningSuppression(db, entite, jour);
   ASSERT_TRUE(refus);
   EXPECT_TRUE(refus->texte.starts_with("Impossible de supprimer ce contrat car de la Main"));
 }
