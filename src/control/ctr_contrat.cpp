@@ -139,11 +139,13 @@ void Ctr_Contrat::Cmd_Recherche_Click() {
   Recherche_Contrat();
   attente.Finir();
   Cmd_Ajouter.SetEnabled(!W_EtatSuppAidant);
+  Lst_DatDebContrat.SetFocus();
 }
 
 // This OK opens nothing: it closes the list and goes back to the choice of filters.
 void Ctr_Contrat::Cmd_Ok_Click() {
   Effacer_Donnees();
+  Opt_Actif.SetFocus();
 }
 
 void Ctr_Contrat::Cmd_Retour_Click() {

@@ -24,6 +24,7 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
   screen::Attente retour(*this);
   if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
   retour.Finir();
+  Lst_DatDebContrat.SetFocus();
 }
 
 // An editor that could not be filled is let go of: the next one must not show half of this
@@ -71,6 +72,7 @@ void Ctr_Contrat::AjouterLigneEnTete(const std::string& cle) {
   lignes_.Inserer(0, FaireLigne(contrat, employeur).Textes());
   clesContrats_.Insert(1, cle);
   if (!Lst_DatDebContrat.Enabled()) Afficher_Liste();
+  lignes_.Choisir(0);
 }
 
 }  // namespace control

@@ -183,10 +183,19 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     touche(Qt::Key_Return);
     forme = &ecran->Controle();
   });
+  // The keyboard goes where work goes on, in the model and in the widgets.
+  const auto clavier = [&] {
+    return forme->Active()->Nom() + " " + QApplication::focusWidget()->objectName().toStdString();
+  };
   aller("Cmd_Recherche");
   touche(Qt::Key_Space);
+  EXPECT_EQ(clavier(), "Lst_DatDebContrat Lst_DatDebContrat");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(clavier(), "Opt_Actif Opt_Actif");
+  touche(Qt::Key_F5);
   aller("Cmd_Ajouter");
   touche(Qt::Key_Return);
+  EXPECT_EQ(clavier(), "Lst_DatDebContrat Lst_DatDebContrat");
   EXPECT_EQ(clerc.Fois(), 1);
   data::CItem contrat;
   ASSERT_TRUE(db.OpenFile("CONTRAT").Lire("00001001", contrat));

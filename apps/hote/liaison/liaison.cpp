@@ -89,10 +89,10 @@ void Liaison::LierListes() {
   for (const auto& barre : liens_) {
     if (barre->Champ().Genre() != screen::Kind::Barre) continue;
     std::vector<QListWidget*> colonnes;
-    for (const auto& lien : liens_) {
-      const bool colonne = lien->Champ().Genre() == screen::Kind::Liste &&
-                           lien->Champ().Cadre() == barre->Champ().Cadre();
-      if (colonne) colonnes.push_back(static_cast<QListWidget*>(&lien->Widget()));
+    for (const screen::Field* const champ : colonnesDe(barre->Champ())) {
+      const auto lien = parChamp_.find(champ);
+      if (lien == parChamp_.end()) continue;
+      colonnes.push_back(static_cast<QListWidget*>(&lien->second->Widget()));
     }
     for (QListWidget* const colonne : colonnes) {
       colonne->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
