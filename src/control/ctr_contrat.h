@@ -46,6 +46,8 @@ class Ctr_Contrat : public screen::Form {
   int W_Sortir = 0;
   // Called when W_Sortir has become 1, so that the host closes the form that holds the control.
   screen::Handler Sortie;
+  // What the user may like to know and need not answer: "Contrat 061 enregistré".
+  std::function<void(const std::string& texte)> SurAvis;
 
   void TheDatabase(data::Db& db) { session_.Db = &db; }
   void TheClient(session::Client& client) { session_.LeClient = &client; }
@@ -70,6 +72,8 @@ class Ctr_Contrat : public screen::Form {
   // The contract key of each row: attribute = row + 1.
   const data::CItem& ClesContrats() const { return clesContrats_; }
   const session::Session& Etat() const { return session_; }
+  // The contract in the editor is another than the one that was opened.
+  bool EnMainModifie() const { return editeur_ != nullptr && editeur_->Dossier().Modifie(); }
 
   // The rows that fit the lists without a scroll bar.
   static constexpr int LignesVisibles = 15;
@@ -139,6 +143,8 @@ class Ctr_Contrat : public screen::Form {
   // The editor, prepared by `preparer` under the wait state.
   editor::Frm_ElementsContrat& Editeur(
       const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
+  // What became of the contract of that key.
+  void Annoncer(const std::string& cle, const char* sort) const;
   void ActualiserLigne(const std::string& cle);
   void AjouterLigneEnTete(const std::string& cle);
 

@@ -1,6 +1,7 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
 #include "control/ctr_contrat.h"
+#include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "screen/attente.h"
 
@@ -12,9 +13,12 @@ void Ctr_Contrat::Appel_Contrat() {
 }
 
 void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
-  Editeur([&](editor::Frm_ElementsContrat& editeur) { editeur.Ouvrir(cle); }).ShowModal();
+  const editor::Frm_ElementsContrat& editeur =
+      Editeur([&](editor::Frm_ElementsContrat& e) { e.Ouvrir(cle); });
+  editeur_->ShowModal();
   screen::Attente retour(*this);
   ActualiserLigne(cle);
+  if (editeur.Enregistre()) Annoncer(cle, "enregistré");
   retour.Finir();
 }
 
@@ -23,6 +27,7 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
   editeur.ShowModal();
   screen::Attente retour(*this);
   if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
+  if (editeur.Enregistre()) Annoncer(editeur.Dossier().CleContratCourant, "enregistré");
   retour.Finir();
   Lst_DatDebContrat.SetFocus();
 }
@@ -45,6 +50,11 @@ editor::Frm_ElementsContrat& Ctr_Contrat::Editeur(
   return *editeur_;
 }
 
+void Ctr_Contrat::Annoncer(const std::string& cle, const char* sort) const {
+  if (!SurAvis || cle.size() < data::LongueurCodeAidant) return;
+  SurAvis("Contrat " + cle.substr(data::LongueurCodeAidant) + " " + sort);
+}
+
 // The dates of the row that was opened, from the record as it stands now; employer and agreement
 // wait for the next search. A contract that was cancelled meanwhile leaves the list.
 void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
@@ -57,6 +67,7 @@ void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
   if (contrat.Vue(data::Contrat::Annule) == data::Contrat::MarqueAnnule) {
     lignes_.Retirer(ligne);
     clesContrats_.Delete(ligne + 1);
+    Annoncer(cle, "supprimé");
     return;
   }
   lignes_.Remplacer(ligne, {session_.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateDebut)),

@@ -49,6 +49,7 @@ class OngletOrigine : public Onglet {
   // The start as displayed, and its internal day; nothing for what is no date.
   const std::string& DateDebut() const { return Txt_DatDebContrat.Text(); }
   std::optional<long> Debut() const;
+  std::optional<long> FinPresumee() const;
 
  private:
   static const rules::Verification<OngletOrigine> Verifications[];
@@ -68,7 +69,6 @@ class OngletOrigine : public Onglet {
   void EcrireDebut();
   void EcrireTerme();
 
-  std::optional<long> FinPresumee() const;
   bool DebutDeplace() const;
   bool BulletinCalcule(const std::string& periode) const;
 

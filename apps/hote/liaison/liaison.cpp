@@ -177,16 +177,26 @@ void Liaison::Pousser() {
   {
     const Compte pousse(*this, poussees_);
     for (const auto& lien : liens_) lien->Pousser();
-    if (racine_.isWindow() && !forme_.Titre().empty()) {
-      const QString titre = versQt(forme_.Titre());
-      if (racine_.windowTitle() != titre) racine_.setWindowTitle(titre);
-    }
+    PousserTitre();
   }
   if (!forme_.Visible()) {
     emit formeCachee();
     return;
   }
   PousserFocus();
+  emit poussee();
+}
+
+void Liaison::PousserTitre() {
+  if (!racine_.isWindow() || forme_.Titre().empty()) return;
+  const QString titre = (aEnregistrer_ ? "* " : "") + versQt(forme_.Titre());
+  if (racine_.windowTitle() != titre) racine_.setWindowTitle(titre);
+}
+
+void Liaison::Marquer(bool aEnregistrer) {
+  if (aEnregistrer == aEnregistrer_) return;
+  aEnregistrer_ = aEnregistrer;
+  PousserTitre();
 }
 
 // The toolkit's focus follows the model's. Where the model has none, the field in which the toolkit
