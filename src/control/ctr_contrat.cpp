@@ -103,11 +103,13 @@ void Ctr_Contrat::Recherche_Contrat() {
   const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
                                      data::DernierNumeroPossible);
 
+  contrats_.clear();
   std::vector<LigneContrat> lignes;
   std::string employeur;
   for (long numero = 1; numero <= dernier; ++numero) {
     data::CItem contrat;
     if (!session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) continue;
+    contrats_.push_back(ContratAidant::De(contrat));
     if (contrat.Vue(data::Contrat::Annule) == "O") continue;
     if (!GarderValidite(contrat, debutPeriode) || !GarderType(contrat)) continue;
     LireEmployeur(contrat, employeur);
@@ -116,6 +118,7 @@ void Ctr_Contrat::Recherche_Contrat() {
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
   }
   AfficherLignes(lignes);
+  if (SurContrats) SurContrats();
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {

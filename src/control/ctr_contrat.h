@@ -16,7 +16,9 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "control/contrat_aidant.h"
 #include "control/placement.h"
 #include "data/citem.h"
 #include "data/liste_codes.h"
@@ -71,6 +73,11 @@ class Ctr_Contrat : public screen::Form {
 
   // The contract key of each row: attribute = row + 1.
   const data::CItem& ClesContrats() const { return clesContrats_; }
+  // Every contract that the last search has read, kept by the filters or not; what was opened or
+  // created since is as it stands now.
+  const std::vector<ContratAidant>& Contrats() const { return contrats_; }
+  // Called when they are others. Unset, nothing happens.
+  screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
   // The contract in the editor is another than the one that was opened.
   bool EnMainModifie() const { return editeur_ != nullptr && editeur_->Dossier().Modifie(); }
@@ -145,6 +152,8 @@ class Ctr_Contrat : public screen::Form {
       const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
   // What became of the contract of that key.
   void Annoncer(const std::string& cle, const char* sort) const;
+  // Notes a contract that was opened or created as it stands on file now.
+  void Noter(const std::string& cle);
   void ActualiserLigne(const std::string& cle);
   void AjouterLigneEnTete(const std::string& cle);
 
@@ -155,6 +164,7 @@ class Ctr_Contrat : public screen::Form {
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
+  std::vector<ContratAidant> contrats_;
   screen::Colonnes lignes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,

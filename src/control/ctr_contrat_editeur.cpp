@@ -1,5 +1,7 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
+#include <algorithm>
+
 #include "control/ctr_contrat.h"
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
@@ -17,6 +19,7 @@ void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
       Editeur([&](editor::Frm_ElementsContrat& e) { e.Ouvrir(cle); });
   editeur_->ShowModal();
   screen::Attente retour(*this);
+  Noter(cle);
   ActualiserLigne(cle);
   if (editeur.Enregistre()) Annoncer(cle, "enregistré");
   retour.Finir();
@@ -28,6 +31,7 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
   screen::Attente retour(*this);
   if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
   if (editeur.Enregistre()) Annoncer(editeur.Dossier().CleContratCourant, "enregistré");
+  if (editeur.Enregistre()) Noter(editeur.Dossier().CleContratCourant);
   retour.Finir();
   Lst_DatDebContrat.SetFocus();
 }
@@ -53,6 +57,19 @@ editor::Frm_ElementsContrat& Ctr_Contrat::Editeur(
 void Ctr_Contrat::Annoncer(const std::string& cle, const char* sort) const {
   if (!SurAvis || cle.size() < data::LongueurCodeAidant) return;
   SurAvis("Contrat " + cle.substr(data::LongueurCodeAidant) + " " + sort);
+}
+
+void Ctr_Contrat::Noter(const std::string& cle) {
+  data::CItem contrat;
+  if (!session_.F_CONTRAT.Lire(cle, contrat)) return;
+  const auto connu = std::find_if(contrats_.begin(), contrats_.end(),
+                                  [&](const ContratAidant& c) { return c.cle == cle; });
+  if (connu == contrats_.end()) {
+    contrats_.push_back(ContratAidant::De(contrat));
+  } else {
+    *connu = ContratAidant::De(contrat);
+  }
+  if (SurContrats) SurContrats();
 }
 
 // The dates of the row that was opened, from the record as it stands now; employer and agreement

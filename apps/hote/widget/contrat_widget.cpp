@@ -11,6 +11,7 @@
 #include "session/pendant.h"
 #include "widget/formes.h"
 #include "widget/habit_editeur.h"
+#include "widget/habit_liste.h"
 #include "widget/lignes_contrats.h"
 
 namespace {
@@ -43,6 +44,7 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   disposition->addWidget(prive_->racine.get());
   hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
+  new hote::HabitListe(prive_->controle, *prive_->liaison);
   prive_->controle.SurAvis = [this](const std::string& texte) {
     emit annonce(hote::versQt(texte));
   };
