@@ -165,6 +165,7 @@ void FenetreHote::FermerAidant() {
   centre_->setCurrentWidget(accueil_);
   delete std::exchange(ecran_, nullptr);
   aidant_ = Aidant();
+  recherche_->Designer("");
   statusBar()->clearMessage();
   recherche_->Prendre();
   Titrer();
