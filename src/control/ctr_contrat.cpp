@@ -105,11 +105,13 @@ void Ctr_Contrat::Recherche_Contrat() {
   const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
                                      data::DernierNumeroPossible);
 
+  contrats_.clear();
   std::vector<LigneContrat> lignes;
   LecteurLignes lecteur(session_);
   for (long numero = 1; numero <= dernier; ++numero) {
     data::CItem contrat;
     if (!session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) continue;
+    contrats_.push_back(ContratAidant::De(contrat));
     if (!filtre.Garde(contrat)) continue;
     LigneContrat ligne = lecteur.Lire(contrat);
     const auto rang = rangInsertion(lignes, ligne, TriChoisi());
@@ -119,6 +121,7 @@ void Ctr_Contrat::Recherche_Contrat() {
     lignes_.Ajouter(ligne.Textes());
     clesContrats_.Append(ligne.cle);
   }
+  if (SurContrats) SurContrats();
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {
@@ -138,11 +141,13 @@ void Ctr_Contrat::Cmd_Recherche_Click() {
   Recherche_Contrat();
   attente.Finir();
   Cmd_Ajouter.SetEnabled(!W_EtatSuppAidant);
+  Lst_DatDebContrat.SetFocus();
 }
 
 // This OK opens nothing: it closes the list and goes back to the choice of filters.
 void Ctr_Contrat::Cmd_Ok_Click() {
   Effacer_Donnees();
+  Opt_Actif.SetFocus();
 }
 
 void Ctr_Contrat::Cmd_Retour_Click() {

@@ -16,9 +16,12 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "control/contrat_aidant.h"
 #include "control/filtre.h"
 #include "control/lecteur_lignes.h"
+#include "control/placement.h"
 #include "data/citem.h"
 #include "data/liste_codes.h"
 #include "editor/editeur.h"
@@ -47,6 +50,8 @@ class Ctr_Contrat : public screen::Form {
   int W_Sortir = 0;
   // Called when W_Sortir has become 1, so that the host closes the form that holds the control.
   screen::Handler Sortie;
+  // What the user may like to know and need not answer: "Contrat 061 enregistré".
+  std::function<void(const std::string& texte)> SurAvis;
 
   void TheDatabase(data::Db& db) { session_.Db = &db; }
   void TheClient(session::Client& client) { session_.LeClient = &client; }
@@ -70,7 +75,14 @@ class Ctr_Contrat : public screen::Form {
 
   // The contract key of each row: attribute = row + 1.
   const data::CItem& ClesContrats() const { return clesContrats_; }
+  // Every contract that the last search has read, kept by the filters or not; what was opened or
+  // created since is as it stands now.
+  const std::vector<ContratAidant>& Contrats() const { return contrats_; }
+  // Called when they are others. Unset, nothing happens.
+  screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
+  // The contract in the editor is another than the one that was opened.
+  bool EnMainModifie() const { return editeur_ != nullptr && editeur_->Dossier().Modifie(); }
 
   // The rows that fit the lists without a scroll bar.
   static constexpr int LignesVisibles = 15;
@@ -136,6 +148,10 @@ class Ctr_Contrat : public screen::Form {
   // The editor, prepared by `preparer` under the wait state.
   editor::Frm_ElementsContrat& Editeur(
       const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
+  // What became of the contract of that key.
+  void Annoncer(const std::string& cle, const char* sort) const;
+  // Notes a contract that was opened or created as it stands on file now.
+  void Noter(const std::string& cle);
   void ActualiserLigne(const std::string& cle);
   void AjouterLigneEnTete(const std::string& cle);
 
@@ -146,6 +162,7 @@ class Ctr_Contrat : public screen::Form {
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
+  std::vector<ContratAidant> contrats_;
   screen::Colonnes lignes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,

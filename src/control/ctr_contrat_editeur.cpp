@@ -1,6 +1,9 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
+#include <algorithm>
+
 #include "control/ctr_contrat.h"
+#include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "screen/attente.h"
 
@@ -12,9 +15,13 @@ void Ctr_Contrat::Appel_Contrat() {
 }
 
 void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
-  Editeur([&](editor::Frm_ElementsContrat& editeur) { editeur.Ouvrir(cle); }).ShowModal();
+  const editor::Frm_ElementsContrat& editeur =
+      Editeur([&](editor::Frm_ElementsContrat& e) { e.Ouvrir(cle); });
+  editeur_->ShowModal();
   screen::Attente retour(*this);
+  Noter(cle);
   ActualiserLigne(cle);
+  if (editeur.Enregistre()) Annoncer(cle, "enregistré");
   retour.Finir();
 }
 
@@ -23,7 +30,10 @@ void Ctr_Contrat::Cmd_Ajouter_Click() {
   editeur.ShowModal();
   screen::Attente retour(*this);
   if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
+  if (editeur.Enregistre()) Annoncer(editeur.Dossier().CleContratCourant, "enregistré");
+  if (editeur.Enregistre()) Noter(editeur.Dossier().CleContratCourant);
   retour.Finir();
+  Lst_DatDebContrat.SetFocus();
 }
 
 // An editor that could not be filled is let go of: the next one must not show half of this
@@ -44,6 +54,24 @@ editor::Frm_ElementsContrat& Ctr_Contrat::Editeur(
   return *editeur_;
 }
 
+void Ctr_Contrat::Annoncer(const std::string& cle, const char* sort) const {
+  if (!SurAvis || cle.size() < data::LongueurCodeAidant) return;
+  SurAvis("Contrat " + cle.substr(data::LongueurCodeAidant) + " " + sort);
+}
+
+void Ctr_Contrat::Noter(const std::string& cle) {
+  data::CItem contrat;
+  if (!session_.F_CONTRAT.Lire(cle, contrat)) return;
+  const auto connu = std::find_if(contrats_.begin(), contrats_.end(),
+                                  [&](const ContratAidant& c) { return c.cle == cle; });
+  if (connu == contrats_.end()) {
+    contrats_.push_back(ContratAidant::De(contrat));
+  } else {
+    *connu = ContratAidant::De(contrat);
+  }
+  if (SurContrats) SurContrats();
+}
+
 // The dates of the row that was opened, from the record as it stands now; employer and agreement
 // wait for the next search. A contract that was cancelled meanwhile leaves the list.
 void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
@@ -56,6 +84,7 @@ void Ctr_Contrat::ActualiserLigne(const std::string& cle) {
   if (contrat.Vue(data::Contrat::Annule) == data::Contrat::MarqueAnnule) {
     lignes_.Retirer(ligne);
     clesContrats_.Delete(ligne + 1);
+    Annoncer(cle, "supprimé");
     return;
   }
   lignes_.Remplacer(ligne, {session_.Lib.DateFromInternal(contrat.Vue(data::Contrat::DateDebut)),
@@ -69,6 +98,7 @@ void Ctr_Contrat::AjouterLigneEnTete(const std::string& cle) {
   lignes_.Inserer(0, LecteurLignes(session_).Lire(contrat).Textes());
   clesContrats_.Insert(1, cle);
   if (!Lst_DatDebContrat.Enabled()) Afficher_Liste();
+  lignes_.Choisir(0);
 }
 
 }  // namespace control

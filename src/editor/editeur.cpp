@@ -45,6 +45,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
   conges.AfficherLiens();
   origine.Afficher();
   fin.Afficher();
+  Titrer();
   SelonDroits();
   SelonEntite();
 }
@@ -55,13 +56,14 @@ void Frm_ElementsContrat::Creer() {
   dossier_->ModeCreation = true;
   conges.AfficherLiens();
   for (Onglet* const onglet : onglets_) onglet->Afficher();
+  Titrer();
   SelonDroits();
   SelonEntite();
 }
 
 void Frm_ElementsContrat::Commencer() {
   dossier_.emplace(session_);
-  sortieAccordee_ = cree_ = false;
+  sortieAccordee_ = cree_ = enregistre_ = false;
   if (!combosRemplis_) origine.Remplir_Combos();
   combosRemplis_ = true;
   for (Onglet* const onglet : onglets_) onglet->Vider();
@@ -69,6 +71,13 @@ void Frm_ElementsContrat::Commencer() {
   Etq_Aidant.SetLibelle("Aidant : " + session_.CodeAidant + " " + session_.NomPrenomAidant);
   Etq_CodeAidant.SetLibelle(session_.CodeAidant);
   Etq_NomPrenomAidant.SetLibelle(session_.NomPrenomAidant);
+}
+
+// Which contract this is, and what can be done to it.
+void Frm_ElementsContrat::Titrer() {
+  const std::string mode = session_.DroitComplet() ? "" : " (consultation)";
+  SetTitre(dossier_->ModeCreation ? "Nouveau contrat (création)"
+                                  : "Contrat " + dossier_->NumeroContrat() + mode);
 }
 
 void Frm_ElementsContrat::SelonDroits() {
@@ -161,6 +170,7 @@ bool Frm_ElementsContrat::Confirmer(bool contratImprime) {
       enregistrement_.Maj_Index(contratImprime);
     });
     cree_ = dossier_->ModeCreation;
+    enregistre_ = true;
   } else {
     enregistrement_.Abandonner();
   }
@@ -205,6 +215,7 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
         if (ecrit) enregistrement_.Maj_Index();
       });
       if (!ecrit) return false;
+      enregistre_ = true;
       attente.Finir();
       return true;
     }

@@ -47,6 +47,8 @@ class Frm_ElementsContrat : public screen::Form {
   void Creer();
   // The creation went through to the end: its contract stands under the dossier's key.
   bool Cree() const { return cree_; }
+  // The contract was stored, by OK or on leaving; it stands under the dossier's key.
+  bool Enregistre() const { return enregistre_; }
 
   session::Session& Session() const { return session_; }
   session::Dossier& Dossier() { return *dossier_; }
@@ -100,6 +102,7 @@ class Frm_ElementsContrat : public screen::Form {
 
  private:
   void Commencer();
+  void Titrer();
   void SelonDroits();
   void SelonEntite();
   void Ong_Contrat_Click(int ancien);
@@ -113,6 +116,7 @@ class Frm_ElementsContrat : public screen::Form {
 
   bool sortieAccordee_ = false;
   bool cree_ = false;
+  bool enregistre_ = false;
   bool combosRemplis_ = false;
   std::array<Onglet*, 5> onglets_{&origine, &caracteristiques, &paie, &conges, &fin};
   session::AideEnLigne aide_;

@@ -46,6 +46,7 @@ class OngletOrigine : public Onglet {
   // The start as displayed, and its internal day; nothing for what is no date.
   const std::string& DateDebut() const { return duree_.DateDebut(); }
   std::optional<long> Debut() const { return duree_.Debut(); }
+  std::optional<long> FinPresumee() const { return duree_.FinPresumee(); }
 
  private:
   static const rules::Verification<OngletOrigine> Verifications[];

@@ -114,6 +114,7 @@ TEST_F(Ouverture, UneCreationSeMetEnTete) {
   EXPECT_EQ(lignes(), "004 01/07/2023 ");
   EXPECT_FALSE(controle->Cmd_Recherche.Enabled());
   EXPECT_EQ(controle->Bdv_Detail.Max(), 0);
+  EXPECT_EQ(controle->Lst_Type.ListIndex(), 0);
 }
 
 TEST_F(Ouverture, UneCreationQuitteeNAjouteRien) {

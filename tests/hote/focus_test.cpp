@@ -146,9 +146,9 @@ TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
   forme.Txt_Notes.SetEnabled(false);
   liaison->Pousser();
   aller("Txt_Date");
-  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",  "Lst_B",
-                                       "Opt_1",   "Opt_2",     "Cac_X",  "Bdh_N",
-                                       "Ong",     "Txt_P1",    "Cmd_OK", "Txt_Date"};
+  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",   "Opt_1",
+                                       "Opt_2",   "Cac_X",     "Bdh_N",   "Ong",
+                                       "Txt_P1",  "Cmd_OK",    "Txt_Date"};
   for (const auto& nom : ordre) {
     touche(Qt::Key_Tab);
     EXPECT_EQ(actif(), nom);
@@ -161,9 +161,17 @@ TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
   // A group with an option on is one stop.
   option("Opt_2");
   touche(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(actif(), "Lst_B");
+  EXPECT_EQ(actif(), "Lst_A");
   touche(Qt::Key_Tab);
   EXPECT_EQ(actif(), "Opt_2");
+  // So are the columns of a table, where the arrows go from one to the next and stay at the last.
+  aller("Lst_A");
+  for (const char* const colonne : {"Lst_B", "Lst_B"}) {
+    touche(Qt::Key_Right);
+    EXPECT_EQ(actif() + focus(), std::string(colonne) + colonne);
+  }
+  touche(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(actif(), "Cbo_Ville");
 }
 
 // A field that its own click disables loses the keyboard to another, which the model then enters.

@@ -129,6 +129,9 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
 // Keys alone: the filters, Ajouter, the codes, the dates, OK, and the list again.
 TEST_F(Formes, WholeCreationByKeyboard) {
   const auto ecran = ouvrir();
+  QString avis;
+  QObject::connect(ecran.get(), &ContratWidget::annonce,
+                   [&](const QString& texte) { avis += texte; });
   screen::Form* forme = &ecran->Controle();
   const auto touche = [](Qt::Key cle) {
     QTest::keyClick(QApplication::focusWidget(), cle);
@@ -153,7 +156,9 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     }
     forme = bureau.FormeCourante();
     ASSERT_EQ(forme->Nom(), "Frm_ElementsContrat");
+    EXPECT_EQ(fenetre.windowTitle(), "Nouveau contrat (création)");
     remplir("Txt_ConvColContrat", "01");
+    EXPECT_EQ(fenetre.windowTitle(), "* Nouveau contrat (création)");
     remplir("Txt_AssocContrat", "1");
     touche(Qt::Key_Tab);
     remplir("Txt_EmplEtabContrat", "001");
@@ -186,10 +191,20 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     touche(Qt::Key_Return);
     forme = &ecran->Controle();
   });
+  // The keyboard goes where work goes on, in the model and in the widgets.
+  const auto clavier = [&] {
+    return forme->Active()->Nom() + " " + QApplication::focusWidget()->objectName().toStdString();
+  };
   aller("Cmd_Recherche");
   touche(Qt::Key_Space);
+  EXPECT_EQ(clavier(), "Lst_DatDebContrat Lst_DatDebContrat");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(clavier(), "Opt_Actif Opt_Actif");
+  touche(Qt::Key_F5);
   aller("Cmd_Ajouter");
   touche(Qt::Key_Return);
+  EXPECT_EQ(clavier(), "Lst_DatDebContrat Lst_DatDebContrat");
+  EXPECT_EQ(avis, "Contrat 001 enregistré");
   EXPECT_EQ(clerc.Fois(), 1);
   data::CItem contrat;
   ASSERT_TRUE(db.OpenFile("CONTRAT").Lire("00001001", contrat));

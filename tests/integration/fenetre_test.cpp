@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTextBrowser>
 #include <QTreeView>
@@ -48,6 +49,31 @@ TEST(Annuaire, KeepsACarerByTheBeginningOfCodeOrName) {
         Cas{"  ", "00003 00400 00120 00012 "}, Cas{"hel zz", ""}}) {
     EXPECT_EQ(trouves(annuaire, cas.saisie), cas.codes) << cas.saisie;
   }
+}
+
+TEST(Annuaire, TellsHomonymsApartAndLeavesDeletedCarersOut) {
+  hote::Annuaire annuaire;
+  annuaire.Remplir({{"00001", "DUVAL Anne", false, 4402, "Vire"},  // 19/01/1980
+                    {"00002", "Duval Anné", true, 4403, "Caen"},
+                    {"00003", "PETIT Luc", false, 4402, "Vire"},
+                    {"00004", "PETIT Luc", false, 4402, "Caen"},
+                    {"00005", "ROUX Ida", false, 4402, "Vire"}});
+  const auto noms = [&] {
+    std::string texte;
+    for (int i = 0; i < annuaire.rowCount(); ++i) {
+      texte += annuaire.index(i, hote::Annuaire::Nom).data().toString().toStdString() + "; ";
+    }
+    return texte + std::to_string(annuaire.Masques());
+  };
+  EXPECT_EQ(noms(),
+            "DUVAL Anne (19/01/1980); Duval Anné (20/01/1980); PETIT Luc (Vire); "
+            "PETIT Luc (Caen); ROUX Ida; 0");
+  annuaire.MasquerSupprimes(true);
+  annuaire.Filtrer("duv");
+  EXPECT_EQ(noms(), "DUVAL Anne (19/01/1980); 1");
+  annuaire.Ouvrir("00002");
+  ASSERT_NE(annuaire.Trouver("00002"), nullptr);
+  EXPECT_EQ(annuaire.LigneDe("00002"), -1);
 }
 
 // The title of the help page that is shown.
@@ -94,6 +120,15 @@ TEST_F(Hote, OpensACarerFromTheKeyboardAndSaysSo) {
             "DURAND Gwenaëlle (00001) – a.contrats – droits complets – Contrats de travail");
   ASSERT_NE(fenetre_.Ecran(), nullptr);
   EXPECT_TRUE(fenetre_.Ecran()->Controle().Cmd_Ajouter.Visible());
+  // He stays marked whatever is typed; Esc empties the line.
+  auto* const liste = fenetre_.findChild<QTreeView*>("listeAidants");
+  QTest::keyClicks(saisie, "petit");
+  EXPECT_EQ(fenetre_.findChild<QLabel*>("aidantOuvert")->text(),
+            "Ouvert : DURAND Gwenaëlle (00001)");
+  QTest::keyClick(saisie, Qt::Key_Escape);
+  EXPECT_EQ(saisie->text(), "");
+  EXPECT_TRUE(fenetre_.findChild<QLabel*>("aidantOuvert")->isHidden());
+  EXPECT_EQ(liste->currentIndex().data(), "00001");
   // A screen of 1366x768 at a scale of one and a half, less title bar and task bar.
   EXPECT_LE(fenetre_.minimumSizeHint().width(), 904);
   EXPECT_LE(fenetre_.minimumSizeHint().height(), 442);

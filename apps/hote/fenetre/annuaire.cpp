@@ -1,13 +1,17 @@
 #include "fenetre/annuaire.h"
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 #include <algorithm>
 #include <numeric>
+#include <set>
 
 #include "data/citem.h"
+#include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
+#include "data/nombre.h"
 #include "data/storage.h"
 #include "data/texte.h"
 #include "liaison/textes_qt.h"
@@ -21,7 +25,9 @@ std::vector<Aidant> lireAidants(data::Storage& stockage) {
                 [&](std::string_view cle, std::string_view texte) {
                   const data::CItem item(texte);
                   aidants.push_back({std::string(cle), item(A::Nom) + " " + item(A::Prenom),
-                                     !item.Vue(A::DateFin).empty()});
+                                     !item.Vue(A::DateFin).empty(),
+                                     static_cast<long>(data::entier(item.Vue(A::DateNaissance))),
+                                     item(A::Ville)});
                   return true;
                 });
   return aidants;
@@ -59,9 +65,41 @@ void Annuaire::Remplir(std::vector<Aidant> aidants) {
     const int ordre = data::ordreDictionnaire(a.aidant.nomPrenom, a.nom, b.aidant.nomPrenom, b.nom);
     return ordre != 0 ? ordre < 0 : a.aidant.code < b.aidant.code;
   });
+  DistinguerHomonymes();
   retenus_.resize(fiches_.size());
   std::iota(retenus_.begin(), retenus_.end(), std::size_t{0});
+  masques_ = 0;
   endResetModel();
+}
+
+// Those of one name stand side by side.
+void Annuaire::DistinguerHomonymes() {
+  for (auto debut = fiches_.begin(); debut != fiches_.end();) {
+    const auto fin = std::find_if(debut, fiches_.end(),
+                                  [&](const Fiche& fiche) { return fiche.nom != debut->nom; });
+    std::set<long> naissances;
+    for (auto fiche = debut; fiche != fin; ++fiche) naissances.insert(fiche->aidant.naissance);
+    const bool parNaissance =
+        naissances.count(0) == 0 && naissances.size() == static_cast<std::size_t>(fin - debut);
+    for (auto fiche = debut; fiche != fin && fin - debut > 1; ++fiche) {
+      fiche->distinction =
+          parNaissance ? data::dateAffichee(fiche->aidant.naissance) : fiche->aidant.ville;
+    }
+    debut = fin;
+  }
+}
+
+void Annuaire::Ouvrir(const std::string& code) {
+  ouvert_ = code;
+  if (!retenus_.empty()) {
+    emit dataChanged(index(0, 0), index(rowCount() - 1, NombreColonnes - 1));
+  }
+}
+
+const Aidant* Annuaire::Trouver(const std::string& code) const {
+  const auto trouve = std::find_if(fiches_.begin(), fiches_.end(),
+                                   [&](const Fiche& fiche) { return fiche.aidant.code == code; });
+  return trouve == fiches_.end() ? nullptr : &trouve->aidant;
 }
 
 void Annuaire::Filtrer(const QString& saisie) {
@@ -71,11 +109,17 @@ void Annuaire::Filtrer(const QString& saisie) {
   }
   beginResetModel();
   retenus_.clear();
+  masques_ = 0;
   for (std::size_t i = 0; i < fiches_.size(); ++i) {
     const bool garde = std::all_of(mots.begin(), mots.end(), [&](const std::string& mot) {
       return fiches_[i].mots.find(mot) != std::string::npos;
     });
-    if (garde) retenus_.push_back(i);
+    if (!garde) continue;
+    if (supprimesMasques_ && fiches_[i].aidant.supprime) {
+      ++masques_;
+    } else {
+      retenus_.push_back(i);
+    }
   }
   endResetModel();
 }
@@ -99,9 +143,20 @@ int Annuaire::columnCount(const QModelIndex&) const {
 }
 
 QVariant Annuaire::data(const QModelIndex& index, int role) const {
-  const Aidant& aidant = Ligne(index.row());
+  const Fiche& fiche = fiches_[retenus_.at(static_cast<std::size_t>(index.row()))];
+  const Aidant& aidant = fiche.aidant;
   if (role == Qt::DisplayRole) {
-    return versQt(index.column() == Code ? aidant.code : aidant.nomPrenom);
+    if (index.column() == Code) return versQt(aidant.code);
+    const QString nom = versQt(aidant.nomPrenom);
+    return fiche.distinction.empty() ? nom : nom + " (" + versQt(fiche.distinction) + ")";
+  }
+  if (aidant.code == ouvert_) {
+    if (role == Qt::FontRole) {
+      QFont gras;
+      gras.setBold(true);
+      return gras;
+    }
+    if (role == Qt::AccessibleDescriptionRole) return "Aidant ouvert";
   }
   if (role == Qt::ToolTipRole && aidant.supprime) return "Aidant supprimé : aucun ajout possible";
   if (role == Qt::ForegroundRole && aidant.supprime) {

@@ -23,6 +23,9 @@ struct Aidant {
   std::string code;
   std::string nomPrenom;  // as the contract screen shows it
   bool supprime = false;  // no contract can be added
+  // What tells carers of one name apart.
+  long naissance = 0;  // internal day, 0 for unknown
+  std::string ville = {};
 };
 
 // Every carer of the file. A data::StoreError rises.
@@ -32,11 +35,22 @@ class Annuaire : public QAbstractTableModel {
  public:
   enum Colonne { Code, Nom, NombreColonnes };
 
-  // By name, then code; the filter is lifted.
+  // By name, then code; the filter is lifted. Those of one name are shown with their birth date or,
+  // where that does not part them, their town.
   void Remplir(std::vector<Aidant> aidants);
+  // Deleted carers are left out while they are hidden.
   void Filtrer(const QString& saisie);
+  void MasquerSupprimes(bool masques) { supprimesMasques_ = masques; }
+  // The carer of that code is open and marked so, "" for none.
+  void Ouvrir(const std::string& code);
+  const std::string& Ouvert() const { return ouvert_; }
+  bool EstOuvert(int ligne) const { return Ligne(ligne).code == ouvert_; }
+  // The carer of that code, filtered away or not; nullptr when there is none.
+  const Aidant* Trouver(const std::string& code) const;
 
   int Total() const { return static_cast<int>(fiches_.size()); }
+  // Deleted carers that are left out although what was typed fits them.
+  int Masques() const { return masques_; }
   const Aidant& Ligne(int ligne) const;
   // The row of the carer of that code, -1 when the filter hides it or there is none.
   int LigneDe(const std::string& code) const;
@@ -50,10 +64,15 @@ class Annuaire : public QAbstractTableModel {
     Aidant aidant;
     std::string nom;   // without accents
     std::string mots;  // every word that can be typed, each after a blank
+    std::string distinction = {};
   };
+  void DistinguerHomonymes();
 
   std::vector<Fiche> fiches_;
   std::vector<std::size_t> retenus_;
+  std::string ouvert_;
+  bool supprimesMasques_ = false;
+  int masques_ = 0;
 };
 
 }  // namespace hote

@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTimer>
 #include <utility>
 
@@ -118,6 +119,8 @@ bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
   ecran_ = new ContratWidget(bureau_, centre_);
   centre_->addWidget(ecran_);
   connect(ecran_, &ContratWidget::sortie, this, &FenetreHote::FermerAidant, Qt::QueuedConnection);
+  connect(ecran_, &ContratWidget::annonce, this,
+          [this](const QString& texte) { statusBar()->showMessage(texte); });
   ecran_->TheDatabase(base_->Db());
   ecran_->TheClient(client_);
   ecran_->W_Code = aidant.code;
@@ -135,6 +138,8 @@ bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
   }
   centre_->setCurrentWidget(ecran_);
   recherche_->Designer(aidant.code);
+  // Its first showing is not the window's: an empty one asks for no bar.
+  statusBar()->setSizeGripEnabled(false);
   if (auto* const liste = ecran_->findChild<QWidget*>("Lst_DatDebContrat")) liste->setFocus();
   Titrer();
   return true;
@@ -160,6 +165,8 @@ void FenetreHote::FermerAidant() {
   centre_->setCurrentWidget(accueil_);
   delete std::exchange(ecran_, nullptr);
   aidant_ = Aidant();
+  recherche_->Designer("");
+  statusBar()->clearMessage();
   recherche_->Prendre();
   Titrer();
 }

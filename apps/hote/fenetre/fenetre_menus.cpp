@@ -21,6 +21,12 @@
 
 namespace hote {
 
+namespace {
+
+constexpr const char* CleMasquer = "aidants/masquer_supprimes";
+
+}  // namespace
+
 void FenetreHote::FaireMenuFichier() {
   QMenu* const fichier = menuBar()->addMenu("&Fichier");
   fichier->addAction("&Ouvrir…", QKeySequence(QKeySequence::Open), this,
@@ -43,7 +49,14 @@ void FenetreHote::FaireMenus() {
     if (partage_->sizes().constFirst() == 0) partage_->setSizes({1, 1});
     recherche_->Prendre();
   });
-  aidant->addAction("&Actualiser la liste", QKeySequence("F5"), this, &FenetreHote::Actualiser);
+  aidant->addAction("&Actualiser la liste", QKeySequence("Ctrl+R"), this, &FenetreHote::Actualiser);
+  QAction* const masquer = aidant->addAction("&Masquer les aidants supprimés");
+  masquer->setCheckable(true);
+  connect(masquer, &QAction::toggled, this, [this](bool masques) {
+    bureau_.Reglages().setValue(CleMasquer, masques);
+    recherche_->MasquerSupprimes(masques);
+  });
+  masquer->setChecked(bureau_.Reglages().value(CleMasquer).toBool());
   aidant->addAction("&Imprimer la liste", QKeySequence(QKeySequence::Print), this,
                     &FenetreHote::Imprimer);
   aidant->addAction("&Fermer l'aidant", QKeySequence("Ctrl+W"), this, &FenetreHote::FermerAidant);

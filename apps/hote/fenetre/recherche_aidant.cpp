@@ -5,9 +5,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "liaison/textes_qt.h"
 #include "widget/apparence.h"
 #include "widget/lignes_listes.h"
 
@@ -15,10 +18,26 @@ namespace hote {
 
 namespace {
 
+constexpr int LargeurRepere = 3;  // pixels
+
 // What the directory gives in another colour steps back, as far as it still reads on this palette.
+// The open carer has a bar at the left, as a contract that runs has in its list.
 class LigneAidant : public LigneListe {
  public:
-  using LigneListe::LigneListe;
+  LigneAidant(QObject* parent, const Annuaire& annuaire)
+      : LigneListe(parent), annuaire_(annuaire) {}
+
+  void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    LigneListe::paint(pinceau, option, index);
+    if (index.column() != Annuaire::Code || !annuaire_.EstOuvert(index.row())) return;
+    const bool choisie = option.state.testFlag(QStyle::State_Selected);
+    QRect barre = option.rect.adjusted(0, 1, 0, -1);
+    barre.setWidth(LargeurRepere);
+    pinceau->fillRect(
+        barre, option.palette.color(QPalette::Active,
+                                    choisie ? QPalette::HighlightedText : QPalette::Highlight));
+  }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* cellule, const QModelIndex& index) const override {
@@ -28,6 +47,9 @@ class LigneAidant : public LigneListe {
     palette.setColor(QPalette::All, QPalette::Text,
                      palette.color(QPalette::Disabled, QPalette::WindowText));
   }
+
+ private:
+  const Annuaire& annuaire_;
 };
 
 }  // namespace
@@ -35,6 +57,7 @@ class LigneAidant : public LigneListe {
 RechercheAidant::RechercheAidant(QWidget* parent)
     : QWidget(parent),
       saisie_(new QLineEdit(this)),
+      ouvert_(new QLabel(this)),
       liste_(new QTreeView(this)),
       compte_(new QLabel(this)) {
   saisie_->setObjectName("rechercheAidant");
@@ -49,13 +72,18 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   liste_->setHeaderHidden(true);
   liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   liste_->header()->setStretchLastSection(true);
-  liste_->setItemDelegate(new LigneAidant(liste_));
+  liste_->setItemDelegate(new LigneAidant(liste_, annuaire_));
   liste_->header()->resizeSection(
       Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
+  ouvert_->setObjectName("aidantOuvert");
+  ouvert_->setTextFormat(Qt::PlainText);
+  ouvert_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  ouvert_->hide();
   auto* const disposition = new QVBoxLayout(this);
   disposition->setContentsMargins(12, 12, 6, 12);
   disposition->setSpacing(9);
   disposition->addWidget(saisie_);
+  disposition->addWidget(ouvert_);
   disposition->addWidget(liste_);
   disposition->addWidget(compte_);
   appliquerApparence(*this);
@@ -70,10 +98,28 @@ void RechercheAidant::Remplir(std::vector<Aidant> aidants) {
 }
 
 void RechercheAidant::Designer(const std::string& code) {
+  annuaire_.Ouvrir(code);
+  MontrerOuvert();
   const int ligne = annuaire_.LigneDe(code);
   if (ligne < 0) return;
   liste_->setCurrentIndex(annuaire_.index(ligne, 0));
   liste_->scrollTo(annuaire_.index(ligne, 0), QAbstractItemView::PositionAtCenter);
+}
+
+void RechercheAidant::MasquerSupprimes(bool masques) {
+  annuaire_.MasquerSupprimes(masques);
+  Filtrer();
+}
+
+void RechercheAidant::MontrerOuvert() {
+  const Aidant* const aidant = annuaire_.Trouver(annuaire_.Ouvert());
+  const bool absent = aidant != nullptr && annuaire_.LigneDe(aidant->code) < 0;
+  if (absent) {
+    const QString nom = versQt(aidant->nomPrenom + " (" + aidant->code + ")");
+    ouvert_->setText("Ouvert : " + nom);
+    ouvert_->setToolTip(nom);
+  }
+  ouvert_->setVisible(absent);
 }
 
 void RechercheAidant::Prendre() {
@@ -85,13 +131,26 @@ void RechercheAidant::Filtrer() {
   // Its picture is loaded when it is first of use: not while the window starts.
   if (!saisie_->text().isEmpty()) saisie_->setClearButtonEnabled(true);
   annuaire_.Filtrer(saisie_->text());
-  if (annuaire_.rowCount() > 0) liste_->setCurrentIndex(annuaire_.index(0, 0));
+  const int ouvert = saisie_->text().isEmpty() ? annuaire_.LigneDe(annuaire_.Ouvert()) : -1;
+  if (annuaire_.rowCount() > 0) {
+    liste_->setCurrentIndex(annuaire_.index(std::max(ouvert, 0), 0));
+  }
+  MontrerOuvert();
+  Compter();
+}
+
+void RechercheAidant::Compter() {
   const int retenus = annuaire_.rowCount();
-  compte_->setText(annuaire_.Total() == 0 ? "Aucun aidant"
-                   : retenus == 0         ? "Aucun aidant ne convient"
-                   : retenus == annuaire_.Total()
-                       ? QString("%1 aidants").arg(retenus)
-                       : QString("%1 sur %2 aidants").arg(retenus).arg(annuaire_.Total()));
+  const int masques = annuaire_.Masques();
+  QString texte = annuaire_.Total() == 0 ? "Aucun aidant"
+                  : retenus == 0         ? "Aucun aidant ne convient"
+                  : retenus + masques == annuaire_.Total()
+                      ? QString("%1 aidants").arg(retenus)
+                      : QString("%1 sur %2 aidants").arg(retenus).arg(annuaire_.Total());
+  if (masques > 0) {
+    texte += masques == 1 ? ", 1 supprimé masqué" : QString(", %1 supprimés masqués").arg(masques);
+  }
+  compte_->setText(texte);
 }
 
 // The carer is handed over by copy: the host may fill the list again meanwhile.
@@ -105,6 +164,10 @@ void RechercheAidant::Choisir() {
 bool RechercheAidant::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet != saisie_ || evenement->type() != QEvent::KeyPress) return false;
   const int touche = static_cast<QKeyEvent*>(evenement)->key();
+  if (touche == Qt::Key_Escape && !saisie_->text().isEmpty()) {
+    saisie_->clear();
+    return true;
+  }
   const bool deplace = touche == Qt::Key_Up || touche == Qt::Key_Down || touche == Qt::Key_PageUp ||
                        touche == Qt::Key_PageDown;
   if (deplace) QCoreApplication::sendEvent(liste_, evenement);

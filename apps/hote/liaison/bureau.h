@@ -54,6 +54,8 @@ class Bureau {
 
   // Help was asked for: the help file and a command of screen::Aide. Unset, nothing happens.
   std::function<void(const std::string& fichier, int commande)> SurAide;
+  // A form has got its window, which is about to be shown.
+  std::function<void(Liaison& liaison)> SurFenetre;
   // A document was printed to that PDF file.
   std::function<void(const QString& fichier)> SurImpression;
 

@@ -89,10 +89,10 @@ void Liaison::LierListes() {
   for (const auto& barre : liens_) {
     if (barre->Champ().Genre() != screen::Kind::Barre) continue;
     std::vector<QListWidget*> colonnes;
-    for (const auto& lien : liens_) {
-      const bool colonne = lien->Champ().Genre() == screen::Kind::Liste &&
-                           lien->Champ().Cadre() == barre->Champ().Cadre();
-      if (colonne) colonnes.push_back(static_cast<QListWidget*>(&lien->Widget()));
+    for (const screen::Field* const champ : colonnesDe(barre->Champ())) {
+      const auto lien = parChamp_.find(champ);
+      if (lien == parChamp_.end()) continue;
+      colonnes.push_back(static_cast<QListWidget*>(&lien->second->Widget()));
     }
     for (QListWidget* const colonne : colonnes) {
       colonne->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -181,16 +181,26 @@ void Liaison::Pousser() {
   {
     const Compte pousse(*this, poussees_);
     for (const auto& lien : liens_) lien->Pousser();
-    if (racine_.isWindow() && !forme_.Titre().empty()) {
-      const QString titre = versQt(forme_.Titre());
-      if (racine_.windowTitle() != titre) racine_.setWindowTitle(titre);
-    }
+    PousserTitre();
   }
   if (!forme_.Visible()) {
     emit formeCachee();
     return;
   }
   PousserFocus();
+  emit poussee();
+}
+
+void Liaison::PousserTitre() {
+  if (!racine_.isWindow() || forme_.Titre().empty()) return;
+  const QString titre = (aEnregistrer_ ? "* " : "") + versQt(forme_.Titre());
+  if (racine_.windowTitle() != titre) racine_.setWindowTitle(titre);
+}
+
+void Liaison::Marquer(bool aEnregistrer) {
+  if (aEnregistrer == aEnregistrer_) return;
+  aEnregistrer_ = aEnregistrer;
+  PousserTitre();
 }
 
 // The toolkit's focus follows the model's. Where the model has none, the field in which the toolkit

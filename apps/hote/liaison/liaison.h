@@ -70,6 +70,8 @@ class Liaison : public QObject {
   bool Drainer();
   // The model's state to the widgets, the focus included.
   void Pousser();
+  // The title of a window shows that what is typed is not stored yet.
+  void Marquer(bool aEnregistrer);
   // An act of the user is under way: the binder must not be deleted.
   bool Occupee() const { return occupation_ > 0; }
 
@@ -84,6 +86,8 @@ class Liaison : public QObject {
  signals:
   // The form is no longer visible.
   void formeCachee();
+  // The widgets show what the model says now.
+  void poussee();
 
  private:
   void Lier();
@@ -92,6 +96,7 @@ class Liaison : public QObject {
   bool Contient(const QWidget& widget) const;
   void NoterFocus(QWidget* arrivee);
   void Attendre(Lien& lien);
+  void PousserTitre();
   void PousserFocus();
   void Apres();
 
@@ -120,6 +125,7 @@ class Liaison : public QObject {
   int poussees_ = 0;
   int occupation_ = 0;
   bool composition_ = false;
+  bool aEnregistrer_ = false;
   // The button whose press was dropped: its drag and its release go the same way.
   Qt::MouseButton boutonAvale_ = Qt::NoButton;
 };

@@ -36,6 +36,16 @@ bool optionPassee(const screen::Field& champ) {
   });
 }
 
+// Tab stops once in a table, at its first column; the arrows go to the others.
+bool colonnePassee(const screen::Field& champ, const screen::Field* actif) {
+  if (champ.Genre() != screen::Kind::Liste) return false;
+  const auto colonnes = colonnesDe(champ);
+  const auto premiere = std::find_if(colonnes.begin(), colonnes.end(),
+                                     [](const auto* colonne) { return colonne->Disponible(); });
+  if (premiere == colonnes.end()) return false;
+  return *premiere != &champ || std::count(colonnes.begin(), colonnes.end(), actif) > 0;
+}
+
 // The wheel changes a value only where the user is.
 bool moletteEgaree(const QWidget& widget) {
   for (const QWidget* w = &widget; w != nullptr && !w->isWindow(); w = w->parentWidget()) {
@@ -173,8 +183,9 @@ bool Liaison::Tabuler(bool arriere) {
   if (arriere) std::reverse(ordre.begin(), ordre.end());
   const auto actif = std::find(ordre.begin(), ordre.end(), forme_.Active());
   const auto debut = actif == ordre.end() ? ordre.begin() : actif + 1;
-  const auto prenable = [](const screen::Field* champ) {
-    return champ->Focalisable() && champ->Disponible() && !optionPassee(*champ);
+  const auto prenable = [this](const screen::Field* champ) {
+    return champ->Focalisable() && champ->Disponible() && !optionPassee(*champ) &&
+           !colonnePassee(*champ, forme_.Active());
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
   if (suivant == ordre.end()) {

@@ -17,6 +17,7 @@
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
 #include "screen/animation.h"
+#include "screen/form.h"
 #include "screen/touches.h"
 
 namespace hote {
@@ -225,6 +226,17 @@ std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget&
       return nullptr;
   }
   return nullptr;
+}
+
+std::vector<screen::Field*> colonnesDe(const screen::Field& champ) {
+  std::vector<screen::Field*> listes;
+  bool barre = false;
+  for (screen::Field* const voisin : champ.Forme().Fields()) {
+    if (voisin->Cadre() != champ.Cadre()) continue;
+    barre = barre || voisin->Genre() == screen::Kind::Barre;
+    if (voisin->Genre() == screen::Kind::Liste) listes.push_back(voisin);
+  }
+  return barre ? listes : std::vector<screen::Field*>();
 }
 
 char32_t toucheDe(const QKeyEvent& evenement) {

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "screen/field.h"
 
@@ -53,6 +54,10 @@ std::unique_ptr<Lien> creerLien(Liaison& liaison, screen::Field& champ, QWidget&
 std::unique_ptr<Lien> creerLienSaisie(Liaison& liaison, screen::Field& champ, QWidget& widget);
 std::unique_ptr<Lien> creerLienLignes(Liaison& liaison, screen::Field& champ, QWidget& widget);
 std::unique_ptr<Lien> creerLienBouton(Liaison& liaison, screen::Field& champ, QWidget& widget);
+
+// The lists of the table that `champ`, a list or a bar, belongs to, in their order: those that
+// stand in one frame with a bar. Empty for what is part of no table.
+std::vector<screen::Field*> colonnesDe(const screen::Field& champ);
 
 // The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
 // window's, once it has put back what the field held.

@@ -57,7 +57,7 @@ class LienListe : public Lien {
     }
     if (touche != 0)
       return filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, {}) != touche;
-    return modele_.ListIndex() < 0 && Entamer(evenement.key());
+    return ChangerColonne(evenement.key()) || (modele_.ListIndex() < 0 && Entamer(evenement.key()));
   }
 
  protected:
@@ -86,6 +86,21 @@ class LienListe : public Lien {
         user.DoubleCliquer(modele_, modele_.ListIndex());
       }
     });
+  }
+  // The arrows to the sides go through the columns of a table.
+  bool ChangerColonne(int cle) {
+    if (cle != Qt::Key_Left && cle != Qt::Key_Right) return false;
+    auto colonnes = colonnesDe(modele_);
+    if (cle == Qt::Key_Left) std::reverse(colonnes.begin(), colonnes.end());
+    const auto ici = std::find(colonnes.begin(), colonnes.end(), &modele_);
+    if (ici == colonnes.end()) return false;
+    const auto voisine = std::find_if(ici + 1, colonnes.end(), [](const screen::Field* colonne) {
+      return colonne->Disponible();
+    });
+    if (voisine == colonnes.end()) return true;
+    screen::Field& cible = **voisine;
+    Binder().Jouer([&](screen::User& user) { user.Focus(cible); });
+    return true;
   }
   // The first arrow in a list without a row: Qt would go on from a row that it has not selected.
   bool Entamer(int cle) {

@@ -26,6 +26,7 @@ void ModalesQt::Attendre(screen::Form& form) {
   const QString cle = "fenetres/" + versQt(form.Nom());
   {
     Liaison liaison(form, *fenetre, bureau_);
+    if (bureau_.SurFenetre) bureau_.SurFenetre(liaison);
     Placer(*fenetre, parente, cle);
     QEventLoop boucle;
     QObject::connect(&liaison, &Liaison::formeCachee, &boucle, &QEventLoop::quit);

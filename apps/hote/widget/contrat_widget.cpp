@@ -8,8 +8,11 @@
 #include "control/ctr_contrat.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
+#include "liaison/textes_qt.h"
 #include "session/pendant.h"
 #include "widget/formes.h"
+#include "widget/habit_editeur.h"
+#include "widget/habit_liste.h"
 #include "widget/lignes_contrats.h"
 
 namespace {
@@ -44,10 +47,20 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   disposition->addWidget(prive_->racine.get());
   hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
+  new hote::HabitListe(prive_->controle, *prive_->liaison);
+  prive_->controle.SurAvis = [this](const std::string& texte) {
+    emit annonce(hote::versQt(texte));
+  };
+  bureau.SurFenetre = [this](hote::Liaison& liaison) {
+    if (liaison.Forme().Nom() != hote::HabitEditeur::Forme) return;
+    new hote::HabitEditeur(prive_->controle, liaison);
+  };
   prive_->controle.Sortie = [this] { QTimer::singleShot(0, this, [this] { Annoncer(); }); };
 }
 
-ContratWidget::~ContratWidget() = default;
+ContratWidget::~ContratWidget() {
+  prive_->bureau.SurFenetre = nullptr;
+}
 
 int ContratWidget::W_Sortir() const {
   return prive_->controle.W_Sortir;

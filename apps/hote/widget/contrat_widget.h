@@ -73,6 +73,8 @@ class ContratWidget : public QWidget {
  signals:
   // W_Sortir has become 1. No handler is under way: the slot may delete the widget.
   void sortie();
+  // What the user may like to know: "Contrat 061 enregistré". The host shows it without a box.
+  void annonce(const QString& texte);
 
  protected:
   // Stays open while it is busy.

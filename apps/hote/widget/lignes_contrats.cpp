@@ -75,10 +75,8 @@ class LigneContrat : public LigneListe {
 }  // namespace
 
 EtatContrat etatContrat(std::string_view debut, std::string_view fin, long aujourdhui) {
-  const auto premier = data::lireDateAffichee(debut);
-  const auto dernier = data::lireDateAffichee(fin);
-  if (dernier && *dernier < aujourdhui) return EtatContrat::Termine;
-  return premier && *premier <= aujourdhui ? EtatContrat::EnCours : EtatContrat::AVenir;
+  const long premier = data::lireDateAffichee(debut).value_or(0);
+  return control::etatContrat({premier, data::lireDateAffichee(fin)}, aujourdhui);
 }
 
 void habillerContrats(QWidget& racine, const data::Poste& poste) {

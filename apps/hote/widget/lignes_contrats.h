@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "control/contrat_aidant.h"
+
 class QWidget;
 namespace data {
 class Poste;
@@ -11,11 +13,10 @@ class Poste;
 
 namespace hote {
 
-enum class EtatContrat { EnCours, Termine, AVenir };
+using control::EtatContrat;
 
-// From the dates that the list shows, JJ/MM/AAAA, and today. A contract runs from its first day to
-// its last, both included, and without an end for ever; without a start it is to come. A text that
-// is no date is as good as none.
+// From the dates that the list shows, JJ/MM/AAAA, and today. A text that is no date is as good as
+// none.
 EtatContrat etatContrat(std::string_view debut, std::string_view fin, long aujourdhui);
 
 // Draws so the five lists of the contract control under `racine`. The workstation outlives them.

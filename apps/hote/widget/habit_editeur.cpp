@@ -1,0 +1,41 @@
+#include "widget/habit_editeur.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "control/ctr_contrat.h"
+#include "liaison/liaison.h"
+
+namespace hote {
+
+HabitEditeur::HabitEditeur(const control::Ctr_Contrat& controle, Liaison& liaison)
+    : QObject(&liaison), controle_(controle), liaison_(liaison) {
+  GuetterSaisie();
+  connect(&liaison_, &Liaison::poussee, this, &HabitEditeur::Regarder);
+}
+
+void HabitEditeur::GuetterSaisie() {
+  const auto noter = [this] { saisie_ = true; };
+  const QWidget& fenetre = liaison_.Racine();
+  for (const auto* const ligne : fenetre.findChildren<QLineEdit*>()) {
+    connect(ligne, &QLineEdit::textChanged, this, [this, ligne] {
+      if (ligne->hasFocus()) saisie_ = true;
+    });
+  }
+  for (const auto* const combo : fenetre.findChildren<QComboBox*>()) {
+    connect(combo, &QComboBox::activated, this, noter);
+  }
+  for (const auto* const bouton : fenetre.findChildren<QAbstractButton*>()) {
+    const bool valeur = qobject_cast<const QCheckBox*>(bouton) != nullptr ||
+                        qobject_cast<const QRadioButton*>(bouton) != nullptr;
+    if (valeur) connect(bouton, &QAbstractButton::clicked, this, noter);
+  }
+}
+
+void HabitEditeur::Regarder() {
+  liaison_.Marquer(controle_.Etat().DroitComplet() && (saisie_ || controle_.EnMainModifie()));
+}
+
+}  // namespace hote

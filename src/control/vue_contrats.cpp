@@ -1,0 +1,91 @@
+#include "control/vue_contrats.h"
+
+#include <algorithm>
+
+#include "control/ctr_contrat.h"
+
+namespace control {
+
+Compte VueContrats::Compter() const {
+  return compter(liste_.Contrats(), liste_.Services().poste.Aujourdhui());
+}
+
+EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
+  return etatContrat(contrat, liste_.Services().poste.Aujourdhui());
+}
+
+int VueContrats::Masques() const {
+  return Compter().Vivants() - liste_.Lst_DatDebContrat.ListCount();
+}
+
+std::string VueContrats::DirePourquoiSansAjout() const {
+  if (!liste_.Etat().DroitComplet()) {
+    return "Consultation : vos droits ne permettent ni ajout ni modification.";
+  }
+  return liste_.W_EtatSuppAidant
+             ? "Aidant supprimé : ses contrats se consultent, aucun ne peut être ajouté."
+             : "";
+}
+
+std::string VueContrats::DireVide() const {
+  if (liste_.Lst_DatDebContrat.ListCount() > 0) return "";
+  if (!liste_.Lst_DatDebContrat.Enabled()) return "Choisissez les filtres, puis Recherche (F5).";
+  if (Compter().Vivants() > 0) return "Aucun contrat sous ces filtres.";
+  const std::string sansAjout = DirePourquoiSansAjout();
+  return "Cet aidant n'a aucun contrat. " +
+         (sansAjout.empty() ? "Ajouter (Inser) en crée un." : sansAjout);
+}
+
+void VueContrats::LeverEntite() {
+  liste_.Cbo_Association.SetText("");
+}
+
+void VueContrats::MontrerTout() {
+  LeverEntite();
+  liste_.Affiche("", "", "");
+}
+
+void VueContrats::Montrer(EtatContrat etat) {
+  LeverEntite();
+  liste_.Affiche("", "", etat == EtatContrat::Termine ? "H" : "A");
+  for (int i = 1; i <= liste_.ClesContrats().DCount(); ++i) {
+    const auto& contrats = liste_.Contrats();
+    const std::string cle = liste_.ClesContrats()(i);
+    const auto contrat = std::find_if(contrats.begin(), contrats.end(),
+                                      [&](const ContratAidant& c) { return c.cle == cle; });
+    if (contrat == contrats.end() || Etat(*contrat) != etat) continue;
+    liste_.Lst_DatDebContrat.SetListIndex(i - 1);
+    return;
+  }
+}
+
+bool VueContrats::Choisir(const std::string& cle) {
+  const auto& contrats = liste_.Contrats();
+  const auto contrat = std::find_if(contrats.begin(), contrats.end(),
+                                    [&](const ContratAidant& c) { return c.cle == cle; });
+  if (contrat == contrats.end() || contrat->annule) return false;
+  if (LigneDe(cle) < 0) MontrerTout();
+  const int ligne = LigneDe(cle);
+  if (ligne < 0) return false;
+  liste_.Lst_DatDebContrat.SetListIndex(ligne);
+  liste_.Lst_DatDebContrat.SetFocus();
+  return true;
+}
+
+void VueContrats::Ouvrir(const std::string& cle) {
+  if (Choisir(cle)) liste_.Appel_Contrat();
+}
+
+std::string VueContrats::Choisi() const {
+  const int ligne = liste_.Lst_DatDebContrat.ListIndex();
+  return ligne < 0 ? "" : liste_.ClesContrats()(ligne + 1);
+}
+
+int VueContrats::LigneDe(const std::string& cle) const {
+  for (int i = 1; i <= liste_.ClesContrats().DCount(); ++i) {
+    if (liste_.ClesContrats().Vue(i) == cle) return i - 1;
+  }
+  return -1;
+}
+
+}  // namespace control

@@ -1,0 +1,49 @@
+#pragma once
+// What a host can show of a carer's contracts beside the list, and the ways from there into it:
+// counts, words for one contract, words for an empty list. Reads labels when they are asked for.
+//
+// Works on a list control, which outlives it.
+
+#include <string>
+
+#include "control/contrat_aidant.h"
+
+namespace control {
+
+class Ctr_Contrat;
+
+class VueContrats {
+ public:
+  explicit VueContrats(Ctr_Contrat& liste) : liste_(liste) {}
+
+  // Of the contracts as they were last read; today is the workstation's.
+  Compte Compter() const;
+  EtatContrat Etat(const ContratAidant& contrat) const;
+
+  // What an empty list says, in one or two sentences; "" for a list with rows.
+  std::string DireVide() const;
+  // Contracts that the filters hide: how many MontrerTout adds to the list.
+  int Masques() const;
+  // Why nothing can be added, "" where something can.
+  std::string DirePourquoiSansAjout() const;
+
+  // Searches without any filter, under the sort chosen.
+  void MontrerTout();
+  // Searches by the filter that has the contracts of that state, and selects the first of them.
+  void Montrer(EtatContrat etat);
+  // Selects the row of that contract, which lifts the filters that hide it. False for one that has
+  // no row under any: it was cancelled, or is none of this carer's.
+  bool Choisir(const std::string& cle);
+  // Opens it from its row, under the same condition.
+  void Ouvrir(const std::string& cle);
+  // The key of the selected row, "" for none.
+  std::string Choisi() const;
+
+ private:
+  int LigneDe(const std::string& cle) const;
+  void LeverEntite();
+
+  Ctr_Contrat& liste_;
+};
+
+}  // namespace control

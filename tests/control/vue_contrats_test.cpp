@@ -1,0 +1,78 @@
+#include "control/vue_contrats.h"
+
+#include "essai_liste.h"
+
+namespace {
+
+namespace C = data::Contrat;
+using control::EtatContrat;
+
+class Vue : public essai::Liste {
+ protected:
+  // A carer with one contract of each state, the day being 22/11/2026: 001 ended, 002 runs with a
+  // presumed end, 003 is cancelled, 004 is to come and ends, 005 runs for ever.
+  void remplir() {
+    compteur("005");
+    contrat(1, "01/01/2020", "21/11/2026", {});
+    contrat(2, "01/02/2026", "", {{C::DateFinPresumee, jour("24/01/2027")}});
+    contrat(3, "01/01/2026", "", {{C::Annule, "O"}, {C::DateFinPresumee, jour("30/11/2026")}});
+    contrat(4, "01/12/2026", "23/01/2028", {});
+    contrat(5, "01/01/2024", "", {});
+  }
+  // What the list shows and says: filter, selected key, words of an empty list, how many it hides.
+  std::string dire(const control::VueContrats& vue) const {
+    const auto& c = *controle;
+    const char* const filtre = c.Opt_Actif.Value() ? "A" : c.Opt_Historique.Value() ? "H" : "T";
+    return filtre + std::to_string(c.Lst_Type.ListCount()) + " " + vue.Choisi() + " " +
+           vue.DireVide() + "+" + std::to_string(vue.Masques());
+  }
+};
+
+TEST_F(Vue, CompteEtMeneAChaqueContrat) {
+  remplir();
+  control::VueContrats vue(ouvrir());
+  controle->Affiche("M", "", "A");
+  EXPECT_EQ(dire(vue), "A0  Aucun contrat sous ces filtres.+4");
+  const control::Compte compte = vue.Compter();
+  EXPECT_EQ(compte.enCours * 1000 + compte.aVenir * 100 + compte.termines * 10 + compte.annules,
+            2111);
+  ASSERT_TRUE(compte.prochaine);
+  EXPECT_EQ(data::dateAffichee(compte.prochaine->jour) + compte.prochaine->cle,
+            "24/01/202700001002");
+  const struct {
+    EtatContrat etat;
+    const char* attendu;
+  } cas[] = {{EtatContrat::EnCours, "A4 00001002 +0"},
+             {EtatContrat::AVenir, "A4 00001004 +0"},
+             {EtatContrat::Termine, "H1 00001001 +3"}};
+  for (const auto& [etat, attendu] : cas) {
+    vue.Montrer(etat);
+    EXPECT_EQ(dire(vue), attendu);
+  }
+  // A contract that the filters hide lifts them; a cancelled one has no row.
+  EXPECT_TRUE(vue.Choisir("00001005"));
+  EXPECT_EQ(dire(vue), "T4 00001005 +0");
+  EXPECT_FALSE(vue.Choisir("00001003"));
+}
+
+TEST_F(Vue, UneListeVideDitPourquoi) {
+  control::VueContrats vue(ouvrir());
+  EXPECT_EQ(vue.DireVide(), "Choisissez les filtres, puis Recherche (F5).");
+  const struct {
+    bool supprime;
+    int niveau;
+    const char* suite;
+  } cas[] = {{false, 2, "Ajouter (Inser) en crée un."},
+             {true, 2, "Aidant supprimé : ses contrats se consultent, aucun ne peut être ajouté."},
+             {false, 1, "Consultation : vos droits ne permettent ni ajout ni modification."}};
+  for (const auto& [supprime, niveau, suite] : cas) {
+    const session::DroitsUniformes essayes(niveau);
+    controle->DroitsUtilisateur(essayes);
+    controle->W_EtatSuppAidant = supprime;
+    controle->Affiche("", "", "");
+    EXPECT_EQ(vue.DireVide(), std::string("Cet aidant n'a aucun contrat. ") + suite);
+    controle->DroitsUtilisateur(droits);
+  }
+}
+
+}  // namespace
