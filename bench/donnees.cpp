@@ -188,6 +188,7 @@ const std::vector<bench::Rapport> Rapports{
     {"200,000 contracts without an index / raw scan", "selectParcours", "brutTout", 2},
     {"links to a contract in 200,000 / indexed columns", "liensMoyenne", "colonnesLiensMoyenne", 5},
     {"the same / JSON columns", "liensMoyenne", "jsonLiens", 0},
+    {"what is due among 200,000 / its contracts read", "echeances", "brutEcheances", 0, 50'000},
     {"links to a contract in 1,000,000 / indexed columns", "liensGrande", "colonnesLiensGrande", 5},
     {"the same / in 200,000", "liensGrande", "liensMoyenne", 1.25},
     {"a name's beginning in 20,000 carers / indexed columns", "nom", "colonnesNom", 5},

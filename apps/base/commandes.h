@@ -28,5 +28,6 @@ int supprimer(Contexte& contexte, const Arguments& arguments);
 int oublier(Contexte& contexte, const Arguments& arguments);
 // Queries.
 int select(Contexte& contexte, const Arguments& arguments);
+int echeances(Contexte& contexte, const Arguments& arguments);
 
 }  // namespace base

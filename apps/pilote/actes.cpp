@@ -133,4 +133,19 @@ void repondre(Pilote& pilote, const Commande& c) {
   pilote.Prevoir(*reponse(c.Texte(0)));
 }
 
+void trancher(Pilote& pilote, const Commande& c) {
+  pilote.Conflits().Repondre(*tranche(c.Texte(0)));
+}
+
+void ecrireAilleurs(Pilote& pilote, const Commande& c) {
+  data::CItem item;
+  if (!pilote.Base().OpenFile(c.Texte(0)).Lire(c.Texte(1), item)) {
+    pilote.Echouer("un article " + c.Texte(1), "aucun article sous cette clé");
+  }
+  int rangs[3] = {0, 0, 0};
+  for (std::size_t i = 2; i + 2 < c.mots.size(); ++i) rangs[i - 2] = *entier(c.Texte(i));
+  item.SetField(rangs[0], rangs[1], rangs[2], c.mots.back().texte);
+  item.DBWrite();
+}
+
 }  // namespace pilote

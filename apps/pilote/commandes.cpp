@@ -24,6 +24,10 @@ void exigerReponse(const Commande& c) {
   if (!reponse(c.Texte(0))) refuser(c.mots[0], "OUI, NON, ANNULER ou OK");
 }
 
+void exigerTranche(const Commande& c) {
+  if (!tranche(c.Texte(0))) refuser(c.mots[0], "REMPLACER, GARDER ou REVENIR");
+}
+
 void exigerRang(const Commande& c) {
   if (c.mots.size() > 1 && !rang(c.mots[1])) refuser(c.mots[1], "une ligne, comme #0");
 }
@@ -79,9 +83,12 @@ constexpr Definition Definitions[] = {
     {"barre", "barre NOM VALEUR", 2, 2, deplacerBarre, exigerEntier<1>},
     {"fermer", "fermer", 0, 0, fermer},
     {"repondre", "repondre OUI|NON|ANNULER|OK", 1, 1, repondre, exigerReponse},
+    {"trancher", "trancher REMPLACER|GARDER|REVENIR", 1, 1, trancher, exigerTranche},
+    {"ailleurs", "ailleurs FICHIER CLE A [V [S]] = TEXTE", 5, 7, ecrireAilleurs, exigerArticle},
     {"message", "message \"début du texte\"", 1, 1, verifierMessage},
     {"aucun-message", "aucun-message", 0, 0, verifierAucunMessage},
     {"indication", "indication \"texte\"", 1, 1, verifierIndication},
+    {"conflit", "conflit LEGENDE SUR-FICHIER ICI", 3, 3, verifierConflit},
     {"forme", "forme Frm_X", 1, 1, verifierForme},
     {"verifier", "verifier NOM PROPRIETE ATTENDU", 3, 3, verifierChamp, exigerPropriete},
     {"article", "article FICHIER CLE [A [V [S]]] = TEXTE", 4, 7, verifierArticle, exigerArticle},
@@ -120,6 +127,14 @@ std::optional<screen::Reponse> reponse(std::string_view texte) {
   for (Reponse r : {Reponse::Oui, Reponse::Non, Reponse::Annuler, Reponse::Ok}) {
     if (screen::headless::nom(r) == texte) return r;
   }
+  return std::nullopt;
+}
+
+std::optional<screen::Tranche> tranche(std::string_view texte) {
+  using screen::Tranche;
+  if (texte == "REMPLACER") return Tranche::Remplacer;
+  if (texte == "GARDER") return Tranche::Garder;
+  if (texte == "REVENIR") return Tranche::Revenir;
   return std::nullopt;
 }
 

@@ -28,6 +28,7 @@ const Definition* trouverDefinition(std::string_view nom);
 std::optional<int> entier(std::string_view texte);
 std::optional<char32_t> touche(std::string_view texte);
 std::optional<screen::Reponse> reponse(std::string_view texte);
+std::optional<screen::Tranche> tranche(std::string_view texte);
 // The N of an unquoted "#N".
 std::optional<int> rang(const Mot& mot);
 
@@ -42,11 +43,15 @@ void choisirOnglet(Pilote& pilote, const Commande& commande);
 void deplacerBarre(Pilote& pilote, const Commande& commande);
 void fermer(Pilote& pilote, const Commande& commande);
 void repondre(Pilote& pilote, const Commande& commande);
+void trancher(Pilote& pilote, const Commande& commande);
+// What another station writes meanwhile.
+void ecrireAilleurs(Pilote& pilote, const Commande& commande);
 
 // What must hold.
 void verifierMessage(Pilote& pilote, const Commande& commande);
 void verifierAucunMessage(Pilote& pilote, const Commande& commande);
 void verifierIndication(Pilote& pilote, const Commande& commande);
+void verifierConflit(Pilote& pilote, const Commande& commande);
 void verifierForme(Pilote& pilote, const Commande& commande);
 void verifierImprime(Pilote& pilote, const Commande& commande);
 void verifierChamp(Pilote& pilote, const Commande& commande);

@@ -55,6 +55,18 @@ void verifierIndication(Pilote& pilote, const Commande& c) {
   if (derniere.find(c.Texte(0)) == std::string::npos) pilote.Echouer(c.Texte(0), derniere);
 }
 
+// The oldest conflict not checked yet: that field differs, with these two values.
+void verifierConflit(Pilote& pilote, const Commande& c) {
+  const auto conflit = pilote.Conflits().Prendre();
+  if (!conflit) pilote.Echouer("un conflit sur « " + c.Texte(0) + " »", "aucun conflit");
+  std::string trouves;
+  for (const auto& [legende, surFichier, ici] : conflit->ecarts) {
+    if (legende == c.Texte(0) && surFichier == c.Texte(1) && ici == c.Texte(2)) return;
+    trouves += "[" + legende + " : " + surFichier + " / " + ici + "]";
+  }
+  pilote.Echouer("[" + c.Texte(0) + " : " + c.Texte(1) + " / " + c.Texte(2) + "]", trouves);
+}
+
 void verifierForme(Pilote& pilote, const Commande& c) {
   const std::string& nom = pilote.Sommet().Nom();
   if (nom != c.Texte(0)) pilote.Echouer(c.Texte(0), nom);

@@ -48,7 +48,7 @@ std::string champIndex(const Index& index) {
 const Index* indexDe(std::string_view fichier, const Field& champ) {
   if (champ.isKey()) return nullptr;
   for (const Index& index : IndexTenus) {
-    if (index.fichier != fichier) continue;
+    if (index.fichier != fichier || index.valeurs != nullptr) continue;
     const bool meme = champ.definition == nullptr ? index.attribut == champ.attribute
                                                   : index.nom == champ.definition->nom;
     if (meme) return &index;
@@ -81,6 +81,12 @@ std::vector<EntreeIndex> entreesDe(std::string_view fichier, std::string_view cl
   std::vector<EntreeIndex> entrees;
   for (const Index& index : IndexTenus) {
     if (index.fichier != fichier) continue;
+    if (index.valeurs != nullptr) {
+      for (std::string& valeur : index.valeurs(texte)) {
+        entrees.push_back({&index, std::move(valeur)});
+      }
+      continue;
+    }
     if (index.nom.empty()) {
       ajouterValeurs(entrees, index, attribut(texte, index.attribut));
       continue;

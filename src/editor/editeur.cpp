@@ -41,7 +41,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
   Commencer();
   dossier_->CleContratCourant = cle;
   session_.F_CONTRAT.Lire(cle, dossier_->ItemContrat);
-  dossier_->Initial = dossier_->ItemContrat;
+  dossier_->Initial = dossier_->SurFichier = dossier_->ItemContrat;
   conges.AfficherLiens();
   origine.Afficher();
   fin.Afficher();
@@ -207,7 +207,9 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
   switch (MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
                      Boutons::OuiNonAnnuler, Icone::Exclamation)) {
     case Reponse::Oui: {
-      if (gardes_.EnQuittant() != Avis::Passe) return false;
+      if (const Avis avis = gardes_.EnQuittant(); avis != Avis::Passe) {
+        return avis == Avis::Abandonne;
+      }
       screen::Attente attente(*this);
       bool ecrit = false;
       DireCeQuiReste(*dossier_, [&] {

@@ -67,6 +67,7 @@ bool Enregistrement::Ecrire_Existant() {
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
     dossier.ItemContrat.DBWriteU();
   });
+  dossier.SurFichier = dossier.ItemContrat;
   for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
   Marquer_Suivi();
   Ecrire_Tte();

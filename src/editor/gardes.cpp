@@ -5,6 +5,7 @@
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
 #include "editor/editeur.h"
+#include "rules/ecarts_contrat.h"
 #include "screen/attente.h"
 
 namespace editor {
@@ -18,16 +19,27 @@ constexpr const char* QuestionChevauchement =
     "chevauchement ?\r\n\r\n - Pour remédier au problème, cliquer sur OUI\r\n - Sinon cliquer sur "
     "NON.";
 
+// Who wrote the contract last, and when, as the store has noted it: "" where it has not.
+std::string dernierAuteur(const session::Dossier& dossier) {
+  const auto anciens =
+      dossier.Session.Db->Stockage().Historique(data::fichier::CONTRAT, dossier.CleContratCourant);
+  return anciens.empty()
+             ? ""
+             : rules::auteurLisible(anciens.back().utilisateur, anciens.back().horodatage);
+}
+
 }  // namespace
 
 const Gardes::Garde Gardes::Confirmation[5] = {&Gardes::Onglets, &Gardes::Preparation,
                                                &Gardes::Heures, &Gardes::AutresContrats,
                                                &Gardes::CoherencePlanning};
-const Gardes::Garde Gardes::Ecriture[4] = {&Gardes::Modification, &Gardes::DateFinModifiee,
-                                           &Gardes::CopieSimple, &Gardes::ImpactPlanning};
-const Gardes::Garde Gardes::Depart[5] = {&Gardes::HeuresEnQuittant, &Gardes::Modification,
-                                         &Gardes::DateFin, &Gardes::CopieVerifiee,
-                                         &Gardes::ImpactPlanning};
+// The planning is written by its guard: who decides about the contract is asked before.
+const Gardes::Garde Gardes::Ecriture[5] = {&Gardes::Modification, &Gardes::DateFinModifiee,
+                                           &Gardes::CopieSimple, &Gardes::ArticleChange,
+                                           &Gardes::ImpactPlanning};
+const Gardes::Garde Gardes::Depart[6] = {&Gardes::HeuresEnQuittant, &Gardes::Modification,
+                                         &Gardes::DateFin,          &Gardes::CopieVerifiee,
+                                         &Gardes::ArticleChange,    &Gardes::ImpactPlanning};
 
 Avis Gardes::Passer(std::span<const Garde> chaine) {
   for (const Garde garde : chaine) {
@@ -140,6 +152,26 @@ Avis Gardes::ImpactPlanning() {
 Avis Gardes::Copie(bool verifiee) {
   for (Onglet* const onglet : editeur_.Onglets()) {
     if (!onglet->Ecrire(verifiee)) return Avis::Reste;
+  }
+  return Avis::Passe;
+}
+
+Avis Gardes::ArticleChange() {
+  const session::Dossier& dossier = editeur_.Dossier();
+  if (dossier.ModeCreation) return Avis::Passe;
+  data::CItem surFichier;
+  dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, surFichier);
+  if (surFichier.Text() == dossier.SurFichier.Text()) return Avis::Passe;
+  const auto ecarts = rules::ecartsContrat(dossier.Session.Lib, surFichier, dossier.ItemContrat);
+  if (ecarts.empty()) return Avis::Passe;
+  switch (editeur_.Services().conflits.Trancher(
+      {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts})) {
+    case screen::Tranche::Garder:
+      return Avis::Abandonne;
+    case screen::Tranche::Revenir:
+      return Avis::Reste;
+    case screen::Tranche::Remplacer:
+      break;
   }
   return Avis::Passe;
 }

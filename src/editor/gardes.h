@@ -32,8 +32,8 @@ class Gardes {
  private:
   using Garde = Avis (Gardes::*)();
   static const Garde Confirmation[5];
-  static const Garde Ecriture[4];
-  static const Garde Depart[5];
+  static const Garde Ecriture[5];
+  static const Garde Depart[6];
   Avis Passer(std::span<const Garde> chaine);
 
   Avis Onglets();
@@ -54,6 +54,8 @@ class Gardes {
   Avis CopieSimple() { return Copie(false); }
   Avis CopieVerifiee() { return Copie(true); }
   Avis Copie(bool verifiee);
+  // Somebody else has written the contract since it was opened here: the user decides whose stands.
+  Avis ArticleChange();
 
   Frm_ElementsContrat& editeur_;
   PlanningContrat planning_{editeur_};

@@ -137,7 +137,7 @@ void Impression::NoterDeclaration() const {
     contrat.Set(C::DateDeclaration, jour);
     contrat.DBWriteU();
   });
-  for (data::CItem* const item : {&dossier.ItemContrat, &dossier.Initial}) {
+  for (data::CItem* const item : {&dossier.ItemContrat, &dossier.Initial, &dossier.SurFichier}) {
     item->Set(C::DateDeclaration, jour);
   }
 }

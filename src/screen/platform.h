@@ -48,6 +48,31 @@ class Indications {
   virtual void Montrer(const Field& champ, const std::string& texte) = 0;
 };
 
+// A record that somebody else has written since it was opened here, in French as a clerk reads it:
+// which one, by whom and when ("" when that is not known), and where theirs and ours differ.
+struct Conflit {
+  struct Ecart {
+    std::string legende;
+    std::string surFichier;
+    std::string ici;
+  };
+  std::string article;
+  std::string auteur;
+  std::vector<Ecart> ecarts;
+};
+
+enum class Tranche {
+  Remplacer,  // the record on file is replaced: the last write wins, knowingly
+  Garder,     // the record on file stays, what was typed here is given up
+  Revenir,    // nothing is decided: back to what is being typed
+};
+
+class Conflits {
+ public:
+  virtual ~Conflits() = default;
+  virtual Tranche Trancher(const Conflit& conflit) = 0;
+};
+
 class Modales {
  public:
   virtual ~Modales() = default;
@@ -151,6 +176,7 @@ class ControlesHeberges {
 struct Platform {
   Messages& messages;
   Indications& indications;
+  Conflits& conflits;
   Modales& modales;
   Curseur& curseur;
   Imprimante& imprimante;

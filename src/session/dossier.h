@@ -51,6 +51,9 @@ struct Dossier {
   std::string CleContratCourant;
   // The contract as it was opened, an empty item for a new one.
   data::CItem Initial;
+  // The contract on file as this opening last read or wrote it: anything else there is somebody
+  // else's work.
+  data::CItem SurFichier;
   // One attribute for each amendment added: its key in the index of amendments.
   data::CItem ClesAvenants;
   // The follow-up of the year in hand, to be stored with the contract when it has a key.

@@ -5,6 +5,7 @@
 #include "data/citem.h"
 #include "data/dictionary.h"
 #include "data/index.h"
+#include "data/layouts/contrat.h"
 #include "storage/controle.h"
 
 namespace storage {
@@ -24,12 +25,31 @@ std::string exemples() {
   return texte;
 }
 
+// A contract with each of the days that must not be missed, as far as its type has them.
+std::string contratExemple(const char* type) {
+  namespace C = data::Contrat;
+  data::CItem contrat;
+  contrat.Set(C::Type, type);
+  contrat.Set(C::DateDebut, "21520");
+  contrat.Set(C::PeriodeEssai, "30");
+  contrat.Set(C::DateFinPresumee, "21600");
+  contrat.Set(C::Modulation, "C");
+  contrat.Set(C::SuiviPeriode, "202701");
+  return contrat.Text();
+}
+
 std::int64_t calculerSignature() {
   Controle controle;
   const std::string contenu = exemples();
   for (const data::Index& index : data::IndexTenus) {
     controle.Texte(index.fichier);
     controle.Texte(data::champIndex(index));
+    if (index.valeurs != nullptr) {
+      for (const char* type : {"D", "I"}) {
+        for (const auto& valeur : index.valeurs(contratExemple(type))) controle.Texte(valeur);
+      }
+      continue;
+    }
     data::CItem exemple;
     exemple.Set(
         index.nom.empty() ? index.attribut : data::findDefinition(index.fichier, index.nom)->a,

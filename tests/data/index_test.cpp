@@ -94,6 +94,7 @@ TEST(IndexTest, AnswersForTheValuesThatCanSatisfyAClause) {
 TEST(IndexTest, IsOfFieldsMadeOfTheirRecordAlone) {
   for (const Index& index : IndexTenus) {
     EXPECT_NE(fichierConnu(index.fichier), nullptr) << index.fichier;
+    if (index.valeurs != nullptr) continue;
     if (index.nom.empty()) {
       EXPECT_GT(index.attribut, 0) << index.fichier;
       continue;

@@ -3,7 +3,7 @@ _contrat_base() {
   local mot=${COMP_WORDS[COMP_CWORD]} commande=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W "creer importer exporter lire ecrire select fichiers verifier reparer historique \
+    mapfile -t COMPREPLY < <(compgen -W "creer importer exporter lire ecrire select echeances fichiers verifier reparer historique \
       retablir supprimer oublier copier restaurer demo --help" -- "$mot")
     return
   fi
@@ -14,6 +14,7 @@ _contrat_base() {
       lire) options="--ancien --json" ;;
       ecrire) options=--item ;;
       select) options="--json --plan" ;;
+      echeances) options="--jours --date" ;;
       historique) options=--json ;;
       oublier) options="--avant --aidant --essai" ;;
       demo) options="--aidants --graine" ;;

@@ -13,12 +13,14 @@
 #include <utility>
 
 #include "control/ctr_contrat.h"
+#include "data/cles.h"
 #include "data/store_error.h"
 #include "fenetre/accueil.h"
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
+#include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
@@ -85,6 +87,7 @@ bool FenetreHote::OuvrirFichier(const QString& chemin) {
     auto base = std::make_unique<BaseOuverte>(chemin, bureau_.Plateforme().poste, ouvrir_);
     auto aidants = lireAidants(base->Db().Stockage());
     FermerAidant();
+    if (echeances_ != nullptr) echeances_->Suivre(nullptr);
     base_ = std::move(base);
     recherche_->Remplir(std::move(aidants));
   } catch (const std::exception& erreur) {
@@ -112,7 +115,7 @@ void FenetreHote::OuvrirDernier() {
   if (!chemin.isEmpty()) OuvrirFichier(chemin);
 }
 
-bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
+bool FenetreHote::OuvrirAidant(const Aidant& aidant, const std::string& contrat) {
   if (base_ == nullptr || EditionEnCours()) return false;
   FermerAidant();
   aidant_ = aidant;
@@ -126,7 +129,9 @@ bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
   ecran_->W_Code = aidant.code;
   ecran_->W_NomPrenom = aidant.nomPrenom;
   ecran_->W_EtatSuppAidant = aidant.supprime;
+  ecran_->W_CodeContrat = contrat;
   ecran_->DroitsUtilisateur(niveau_ == session::Droit::Plein ? complets_ : consultation_);
+  if (!contrat.empty()) centre_->setCurrentWidget(ecran_);
   try {
     ecran_->init();
     ecran_->Affiche("", "", "A");
@@ -145,11 +150,11 @@ bool FenetreHote::OuvrirAidant(const Aidant& aidant) {
   return true;
 }
 
-bool FenetreHote::OuvrirAidant(const std::string& code) {
+bool FenetreHote::OuvrirAidant(const std::string& code, const std::string& contrat) {
   if (base_ == nullptr) return false;
   try {
     for (const Aidant& aidant : lireAidants(base_->Db().Stockage())) {
-      if (aidant.code == code) return OuvrirAidant(aidant);
+      if (aidant.code == code) return OuvrirAidant(aidant, contrat);
     }
   } catch (const std::exception& erreur) {
     avertirErreur("La liste des aidants ne peut pas être lue.", erreur);
@@ -162,7 +167,7 @@ bool FenetreHote::OuvrirAidant(const std::string& code) {
 
 void FenetreHote::FermerAidant() {
   if (ecran_ == nullptr || ecran_->Occupe()) return;
-  centre_->setCurrentWidget(accueil_);
+  MontrerVide();
   delete std::exchange(ecran_, nullptr);
   aidant_ = Aidant();
   recherche_->Designer("");
@@ -203,8 +208,28 @@ void FenetreHote::Titrer() {
 }
 
 void FenetreHote::RemplirAccueil() {
-  accueil_->Dire(base_ == nullptr ? "Ouvrez un fichier de données par le menu Fichier."
-                                  : "Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
+  accueil_->Dire("Ouvrez un fichier de données par le menu Fichier.");
+  if (base_ != nullptr) {
+    Echeances().Suivre(&base_->Db());
+  } else if (echeances_ != nullptr) {
+    echeances_->Suivre(nullptr);
+  }
+  if (ecran_ == nullptr) MontrerVide();
+}
+
+void FenetreHote::MontrerVide() {
+  centre_->setCurrentWidget(base_ == nullptr ? static_cast<QWidget*>(accueil_) : &Echeances());
+}
+
+PageEcheances& FenetreHote::Echeances() {
+  if (echeances_ != nullptr) return *echeances_;
+  echeances_ = new PageEcheances(bureau_.Plateforme(), centre_);
+  echeances_->Dire("Tapez à gauche le nom ou le code d'un aidant, puis Entrée.");
+  centre_->addWidget(echeances_);
+  connect(echeances_, &PageEcheances::choisie, this, [this](const std::string& contrat) {
+    OuvrirAidant(contrat.substr(0, data::LongueurCodeAidant), contrat);
+  });
+  return *echeances_;
 }
 
 void FenetreHote::BaseDisparue() {
@@ -241,6 +266,7 @@ void FenetreHote::AttendreRetour() {
 
 void FenetreHote::Oublier() {
   FermerAidant();
+  if (echeances_ != nullptr) echeances_->Suivre(nullptr);
   base_.reset();
   perdue_ = false;
   recherche_->Remplir({});

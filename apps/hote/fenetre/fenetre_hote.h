@@ -27,6 +27,7 @@ namespace hote {
 
 class Accueil;
 class Bureau;
+class PageEcheances;
 class RechercheAidant;
 
 class FenetreHote : public QMainWindow {
@@ -42,9 +43,10 @@ class FenetreHote : public QMainWindow {
   // The file opened last, else the demonstration data, whichever stands.
   void OuvrirDernier();
   // Shows the contracts of a carer of the file; false, after a message, when that fails.
-  bool OuvrirAidant(const Aidant& aidant);
+  // `contrat`: the key of one that opens in the editor straight away, or "".
+  bool OuvrirAidant(const Aidant& aidant, const std::string& contrat = {});
   // The carer of that code; false, after a message, when the file has none.
-  bool OuvrirAidant(const std::string& code);
+  bool OuvrirAidant(const std::string& code, const std::string& contrat = {});
   void FermerAidant();
   // 2 full, 1 consultation; the carer's screen begins anew.
   void ChangerDroits(int niveau);
@@ -69,6 +71,9 @@ class FenetreHote : public QMainWindow {
   void FaireMenuAide();
   void RemplirRecents();
   void RemplirAccueil();
+  // What the right side shows while no carer is open.
+  void MontrerVide();
+  PageEcheances& Echeances();
   void ChoisirFichier();
   void NouvelleFenetre();
   void Actualiser();
@@ -101,6 +106,8 @@ class FenetreHote : public QMainWindow {
   RechercheAidant* recherche_;
   QStackedWidget* centre_;
   Accueil* accueil_;
+  // Made when a file is open: the first picture of the window does not wait for it.
+  PageEcheances* echeances_ = nullptr;
   QMenu* recents_ = nullptr;
   QActionGroup* droits_ = nullptr;
 };

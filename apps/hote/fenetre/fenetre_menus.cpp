@@ -15,6 +15,7 @@
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
 #include "fenetre/impression_liste.h"
+#include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
 #include "widget/contrat_widget.h"
@@ -59,6 +60,10 @@ void FenetreHote::FaireMenus() {
   masquer->setChecked(bureau_.Reglages().value(CleMasquer).toBool());
   aidant->addAction("&Imprimer la liste", QKeySequence(QKeySequence::Print), this,
                     &FenetreHote::Imprimer);
+  aidant->addAction("&Échéances", QKeySequence("Ctrl+E"), this, [this] {
+    FermerAidant();
+    if (ecran_ == nullptr && base_ != nullptr) Echeances().Prendre();
+  });
   aidant->addAction("&Fermer l'aidant", QKeySequence("Ctrl+W"), this, &FenetreHote::FermerAidant);
   FaireMenuDroits();
   FaireMenuAide();

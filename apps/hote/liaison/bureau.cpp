@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "data/store_error.h"
+#include "liaison/conflits_qt.h"
 #include "liaison/imprimantes_qt.h"
 #include "liaison/liaison.h"
 #include "liaison/services_qt.h"
@@ -20,19 +21,23 @@ struct Bureau::Services {
         curseur(bureau),
         messages(bureau, curseur),
         indications(bureau),
+        conflits(bureau, curseur),
         modales(bureau, curseur),
         imprimante(bureau, curseur),
         reglages(*magasin),
         aide(bureau),
-        platform{messages, indications, modales,
-                 curseur,  imprimante,  reglages,
-                 aide,     controles,   posteDonne != nullptr ? *posteDonne : systeme} {}
+        platform{messages,  indications,
+                 conflits,  modales,
+                 curseur,   imprimante,
+                 reglages,  aide,
+                 controles, posteDonne != nullptr ? *posteDonne : systeme} {}
 
   data::PosteSysteme systeme;
   std::unique_ptr<QSettings> magasin;
   CurseurQt curseur;
   MessagesQt messages;
   IndicationsQt indications;
+  ConflitsQt conflits;
   ModalesQt modales;
   ImprimantesQt imprimante;
   ReglagesQt reglages;

@@ -6,7 +6,10 @@
 // whole file, and for no other. ABSENCESAIDANT and the planning are asked by the carer who begins
 // their keys, and need none.
 
+#include <iterator>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
@@ -14,10 +17,15 @@
 
 namespace data {
 
+// See data/echeances.h.
+std::vector<std::string> valeursEcheances(std::string_view contrat);
+
 struct Index {
   std::string_view fichier;
   int attribut = 0;           // 0 when `nom` says what is looked up
   std::string_view nom = {};  // of data/dictionary.h, made of the record alone
+  // Set: what a program looks up and no question can name; `nom` is for those who check the file.
+  std::vector<std::string> (*valeurs)(std::string_view texte) = nullptr;
 };
 
 inline constexpr Index IndexTenus[] = {
@@ -30,6 +38,10 @@ inline constexpr Index IndexTenus[] = {
     // The exceptions of one intervention, the indirect work of one contract.
     {fichier::TPSEXCEPTIONS, TpsExceptions::Intervention},
     {fichier::TPSMOI, TpsMoi::Contrat},
+    // The contracts by the days that must not be missed.
+    {fichier::CONTRAT, 0, "Echeances", &valeursEcheances},
 };
+// The last one, for who walks it.
+inline constexpr const Index& IndexEcheances = IndexTenus[std::size(IndexTenus) - 1];
 
 }  // namespace data

@@ -22,14 +22,15 @@ struct Hote {
   data::PosteFixe poste;
   MessagesEnFile messages;
   IndicationsNotees indications;
+  ConflitsNotes conflits;
   ModalesJouees modales;
   CurseurCompte curseur;
   ImprimanteEnregistree imprimante;
   ReglagesEnMemoire reglages;
   AideEnregistree aide;
   ControlesEnregistres controles;
-  Platform platform{messages, indications, modales,   curseur, imprimante,
-                    reglages, aide,        controles, poste};
+  Platform platform{messages,   indications, conflits, modales,   curseur,
+                    imprimante, reglages,    aide,     controles, poste};
 };
 
 }  // namespace screen::headless

@@ -12,6 +12,21 @@ void IndicationsNotees::Montrer(const Field& champ, const std::string& texte) {
   notees_.push_back(champ.Nom() + " : " + texte);
 }
 
+Tranche ConflitsNotes::Trancher(const Conflit& conflit) {
+  notes_.push_back(conflit);
+  if (reponses_.empty()) return Tranche::Remplacer;
+  const Tranche reponse = reponses_.front();
+  reponses_.pop_front();
+  return reponse;
+}
+
+std::optional<Conflit> ConflitsNotes::Prendre() {
+  if (notes_.empty()) return std::nullopt;
+  Conflit conflit = std::move(notes_.front());
+  notes_.pop_front();
+  return conflit;
+}
+
 void CurseurCompte::Attente(bool attente) {
   if (attente) ++attentes_;
   attente_ = attente;

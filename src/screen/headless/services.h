@@ -1,8 +1,10 @@
 #pragma once
 // The small services of a host without a display. Each records what it was asked.
 
+#include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +21,19 @@ class IndicationsNotees : public Indications {
 
  private:
   std::vector<std::string> notees_;
+};
+
+// The record is replaced unless another answer was given in advance; answers serve in order.
+class ConflitsNotes : public Conflits {
+ public:
+  void Repondre(Tranche tranche) { reponses_.push_back(tranche); }
+  Tranche Trancher(const Conflit& conflit) override;
+  // The oldest one not taken yet, which is thereby taken; nothing when there is none.
+  std::optional<Conflit> Prendre();
+
+ private:
+  std::deque<Tranche> reponses_;
+  std::deque<Conflit> notes_;
 };
 
 class CurseurCompte : public Curseur {

@@ -1,0 +1,36 @@
+#pragma once
+// The days of a contract that a clerk must not miss, as the record says them. The index of
+// contracts by these days and the list of what is due both take them from here.
+//
+//   "E21570"    the index's value of a trial that ends on day 21570
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/storage.h"
+
+namespace data {
+
+enum class GenreEcheance : char {
+  Fin = 'F',          // the presumed end of a fixed term that is still open
+  Essai = 'E',        // the last day of the trial
+  Declaration = 'D',  // the start, of a contract whose hiring declaration was not printed
+  Suivi = 'S',        // a modulated contract without end has not been followed up for a year
+};
+
+struct JourEcheance {
+  GenreEcheance genre = GenreEcheance::Fin;
+  long jour = 0;
+  bool operator==(const JourEcheance&) const = default;
+};
+
+// Of one contract, in the order of the kinds above; none of a cancelled one.
+std::vector<JourEcheance> joursEcheances(std::string_view contrat);
+
+// The values that an index of contracts holds of it.
+std::vector<std::string> valeursEcheances(std::string_view contrat);
+// Its range of the days from `debut` to `fin`. Days have five digits from 1995 to 2241.
+KeyRange valeursEcheances(GenreEcheance genre, long debut, long fin);
+
+}  // namespace data
