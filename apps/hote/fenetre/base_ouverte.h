@@ -16,7 +16,8 @@ namespace hote {
 // How the store in a data file is opened. A data::StoreError when it cannot be.
 using Ouvreur = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
                                                              const data::Poste& poste)>;
-// A data file, or the address of a base on a server. A write waits for another program 2 seconds at most: the window waits too.
+// A data file, or the address of a base on a server. A write waits for another program 2 seconds at
+// most: the window waits too.
 std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste);
 // The same in a network folder, too, for who knows that one station alone opens it.
 std::unique_ptr<data::Storage> ouvrirBaseEnReseau(const std::string& chemin,
