@@ -15,6 +15,7 @@
 #include "base/verification.h"
 #include "data/layouts/fichiers.h"
 #include "demo/generateur.h"
+#include "storage/adresse.h"
 
 namespace base {
 namespace {
@@ -61,9 +62,9 @@ std::string resume(long anomalies) {
 
 // Writes the demonstration records, and takes the new file away again when that fails.
 long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::OptionsDemo& options,
-                 const storage::SqliteOptions& stockageOptions) {
+                 const storage::OptionsOuverture& stockageOptions) {
   const data::PosteSysteme poste;
-  auto stockage = storage::SqliteStorage::Creer(chemin, poste, stockageOptions);
+  auto stockage = storage::creer(chemin, poste, stockageOptions);
   try {
     Progres progres(contexte.erreurs, contexte.terminal, "Démonstration, personnes");
     stockage->EnUnBloc([&] {
@@ -73,7 +74,7 @@ long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::Opti
   } catch (...) {
     stockage.reset();
     std::error_code ignoree;  // the error under way is the one to tell
-    std::filesystem::remove(chemin, ignoree);
+    if (!storage::estAdresseServeur(chemin)) std::filesystem::remove(chemin, ignoree);
     throw;
   }
   long articles = 0;
@@ -86,8 +87,8 @@ long remplirDemo(Contexte& contexte, const std::string& chemin, const demo::Opti
 int creer(Contexte& contexte, const Arguments& arguments) {
   const std::string chemin = arguments.Texte("BASE");
   const data::PosteSysteme poste;
-  storage::SqliteStorage::Creer(chemin, poste, optionsStockage(arguments));
-  contexte.Ecrit(chemin + " est créé, sans article.\n");
+  storage::creer(chemin, poste, optionsStockage(arguments));
+  contexte.Ecrit(storage::sansMotDePasse(chemin) + " est créé, sans article.\n");
   return Fait;
 }
 
@@ -109,12 +110,12 @@ int verifierBase(Contexte& contexte, const Arguments& arguments) {
   Constats constats(contexte);
   Progres pages(contexte.erreurs, contexte.terminal, "Vérification des pages, textes lus");
   constats.Pendant(pages);
-  base.Sqlite().Verifier([&](const storage::Dommage& dommage) { constats.Dommage(dommage); },
-                         [&](long lus) { pages.Avance(lus); });
+  base.Magasin().Verifier([&](const storage::Dommage& dommage) { constats.Dommage(dommage); },
+                          [&](long lus) { pages.Avance(lus); });
   pages.Efface();
   Progres index(contexte.erreurs, contexte.terminal, "Vérification des index, articles lus");
   constats.Pendant(index);
-  controlerIndex(contexte, base.Sqlite(), index,
+  controlerIndex(contexte, base.Magasin(), index,
                  [&](const Constat& constat) { constats.Constate(constat); });
   Progres articles(contexte.erreurs, contexte.terminal, "Vérification des articles");
   constats.Pendant(articles);
@@ -137,7 +138,8 @@ int demo(Contexte& contexte, const Arguments& arguments) {
   options.graine = static_cast<unsigned long>(
       arguments.Entier("--graine", 0, static_cast<long>(options.graine)));
   const long articles = remplirDemo(contexte, chemin, options, optionsStockage(arguments));
-  contexte.Ecrit(chemin + " est créé, " + std::to_string(articles) + " articles.\n");
+  contexte.Ecrit(storage::sansMotDePasse(chemin) + " est créé, " + std::to_string(articles) +
+                 " articles.\n");
   return Fait;
 }
 

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include "base/cles_vues.h"
 #include "base/commandes.h"
@@ -81,12 +82,24 @@ class Import {
   long refus_ = 0;
 };
 
+// From the beginning once more: another station wrote while the lines were being read.
+void relire(const std::string& source, std::istream& entree) {
+  entree.clear();
+  entree.seekg(0);
+  if (entree.good()) return;
+  throw Echec(Panne, source +
+                         " : un autre poste a écrit en même temps, et ce texte ne se relit pas. "
+                         "Rien n'a été écrit : recommencez.");
+}
+
 int importerDepuis(Contexte& contexte, data::Storage& stockage, const std::string& source,
                    std::istream& entree) {
   long articles = 0;
   long refus = 0;
   try {
+    bool deja = false;
     stockage.EnUnBloc([&] {
+      if (std::exchange(deja, true)) relire(source, entree);
       Import import(contexte, source, entree, stockage);
       try {
         import.Lire();

@@ -4,19 +4,21 @@
 #include "base/controle_index.h"
 #include "base/ouverture.h"
 #include "base/progres.h"
+#include "storage/adresse.h"
 
 namespace base {
 
 int reparer(Contexte& contexte, const Arguments& arguments) {
   Base base(contexte, arguments, Acces::Ecriture);
   Progres progres(contexte.erreurs, contexte.terminal, "Index, articles lus");
-  base.Sqlite().RefaireIndex([&](long lus) { progres.Avance(lus); });
+  base.Magasin().RefaireIndex([&](long lus) { progres.Avance(lus); });
   progres.Efface();
-  contexte.Ecrit("Les index de " + arguments.Texte("BASE") + " sont refaits.\n");
+  contexte.Ecrit("Les index de " + storage::sansMotDePasse(arguments.Texte("BASE")) +
+                 " sont refaits.\n");
   return Fait;
 }
 
-void controlerIndex(Contexte& contexte, storage::SqliteStorage& stockage, Progres& progres,
+void controlerIndex(Contexte& contexte, storage::Magasin& stockage, Progres& progres,
                     const Rapport& rapport) {
   const bool tenus = stockage.VerifierIndex(
       [&](const storage::Dommage& dommage) {

@@ -50,7 +50,7 @@ struct Reste {
 using Liste = std::map<std::pair<std::string, std::string>, Reste>;
 
 // Every record of the carer, those that only the history still holds too.
-Liste toutDeLAidant(storage::SqliteStorage& stockage, std::string_view aidant) {
+Liste toutDeLAidant(storage::Magasin& stockage, std::string_view aidant) {
   Liste liste;
   for (const auto& compte : stockage.Fichiers()) {
     stockage.Scan(compte.nom, data::KeyRange::Tout(), [&](std::string_view cle, auto) {
@@ -67,7 +67,7 @@ Liste toutDeLAidant(storage::SqliteStorage& stockage, std::string_view aidant) {
   return liste;
 }
 
-Liste anciensAvant(storage::SqliteStorage& stockage, std::string_view avant) {
+Liste anciensAvant(storage::Magasin& stockage, std::string_view avant) {
   Liste liste;
   stockage.ParcourirAnciens(avant, [&](std::string_view nom, std::string_view cle, long anciens) {
     liste[{std::string(nom), std::string(cle)}].anciens = anciens;
@@ -127,7 +127,7 @@ int oublier(Contexte& contexte, const Arguments& arguments) {
       arguments.Donne("--avant") ? horodatage(arguments.Texte("--avant")) : "";
   const bool essai = arguments.Donne("--essai");
   Base base(contexte, arguments, essai ? Acces::Lecture : Acces::Ecriture);
-  storage::SqliteStorage& stockage = base.Sqlite();
+  storage::Magasin& stockage = base.Magasin();
   const auto lister = [&] {
     return avant.empty() ? toutDeLAidant(stockage, aidant) : anciensAvant(stockage, avant);
   };

@@ -10,7 +10,7 @@
 namespace base {
 namespace {
 
-constexpr Position LaBase = {"BASE", "fichier de données"};
+constexpr Position LaBase = {"BASE", "fichier de données, ou adresse postgresql:// d'un serveur"};
 constexpr Position LeFichier = {"FICHIER", "nom d'un fichier de la base, par exemple CONTRAT"};
 constexpr Position LaCle = {"CLE", "clé d'un article, par exemple 00001001"};
 
@@ -86,8 +86,8 @@ constexpr Commande Commandes[] = {
        {"--essai", "", "montre ce qui s'en irait, sans rien effacer"}}},
      oublier},
     {"copier",
-     "Copie la base entière, même pendant que d'autres y travaillent",
-     {LaBase, {"COPIE", "fichier à créer, par exemple sur un autre disque"}},
+     "Copie la base entière, d'un fichier ou d'un serveur vers l'autre aussi",
+     {LaBase, {"COPIE", "fichier à créer, ou adresse d'une base sans article"}},
      {},
      copier},
     {"restaurer",

@@ -1,5 +1,5 @@
 #pragma once
-// The data file that a command works on, open as long as the object lives.
+// The base that a command works on, a file or on a server, open as long as the object lives.
 
 #include <memory>
 #include <string>
@@ -7,29 +7,29 @@
 #include "base/contexte.h"
 #include "data/poste.h"
 #include "data/storage.h"
-#include "storage/sqlite.h"
+#include "storage/ouvrir.h"
 
 namespace base {
 
-// As every command opens and creates files.
-storage::SqliteOptions optionsStockage(const Arguments& arguments);
+// As every command opens and creates bases.
+storage::OptionsOuverture optionsStockage(const Arguments& arguments);
 
 enum class Acces { Lecture, Ecriture };
 
 class Base {
  public:
-  // Opens the file named by the argument BASE, and tells what that had to do. StoreError when it is
+  // Opens what the argument BASE names, and tells what that had to do. StoreError when it is
   // absent or no data file. A command that only reads works on a place that cannot be written, too.
   // The progress of an older file that gets its indexes shows on the terminal.
   Base(Contexte& contexte, const Arguments& arguments, Acces acces);
 
   data::Storage& Stockage() { return *stockage_; }
-  storage::SqliteStorage& Sqlite() { return *stockage_; }
+  storage::Magasin& Magasin() { return *stockage_; }
   std::shared_ptr<data::Storage> Partage() { return stockage_; }
 
  private:
   data::PosteSysteme poste_;
-  std::shared_ptr<storage::SqliteStorage> stockage_;
+  std::shared_ptr<storage::Magasin> stockage_;
 };
 
 }  // namespace base

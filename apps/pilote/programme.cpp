@@ -9,7 +9,7 @@
 #include "data/layouts/voisins.h"
 #include "pilote/options.h"
 #include "pilote/pilote.h"
-#include "storage/sqlite.h"
+#include "storage/ouvrir.h"
 
 namespace pilote {
 
@@ -87,9 +87,9 @@ int executerOptions(const Options& options, std::istream& entree, std::ostream& 
 
 std::unique_ptr<data::Storage> ouvrirStockage(const std::string& chemin, const data::Poste& poste,
                                               bool reseauAdmis) {
-  storage::SqliteOptions options;
+  storage::OptionsOuverture options;
   options.reseauAdmis = reseauAdmis;
-  auto stockage = storage::SqliteStorage::Ouvrir(chemin, poste, options);
+  auto stockage = storage::ouvrir(chemin, poste, options);
   if (!stockage->Avis().empty()) std::cerr << stockage->Avis() << '\n';
   return stockage;
 }

@@ -10,14 +10,16 @@ namespace data {
 
 namespace {
 
-// The entity and the agreement of a contract name its index files, which are written after it and
-// after its carer's counter: a code that no name can hold is refused before anything is stored.
-void exigerNomsIndex(std::string_view cle, std::string_view texte) {
+// The entity and the agreement of a new contract name its index files, which are written after it
+// and after its carer's counter: a code that no name can hold is refused before anything is stored.
+void exigerNomsIndex(Storage& storage, std::string_view cle, std::string_view texte) {
+  std::string avant;
   const CItem contrat(texte);
   for (const auto& [attribut, quoi] : {std::pair{Contrat::Association, "l'entité"},
                                        std::pair{Contrat::Convention, "la convention"}}) {
     const std::string_view code = contrat.Vue(attribut);
     if (code.empty() || estNomDeFichier(code)) continue;
+    if (storage.Get(fichier::CONTRAT, cle, avant)) return;
     throw StoreError(NumeroErreur::TexteRefuse,
                      std::string("Le code « ").append(code) + " » de " + quoi +
                          " ne peut pas entrer dans le nom d'un fichier index, qui se compose de "
@@ -37,8 +39,7 @@ class DbFile::Ouvert : public Attache, public std::enable_shared_from_this<Ouver
       : storage_(std::move(storage)), nom_(std::move(nom)) {}
 
   void Ecrire(std::string_view cle, std::string_view texte) const override {
-    std::string avant;
-    if (nom_ == fichier::CONTRAT && !storage_->Get(nom_, cle, avant)) exigerNomsIndex(cle, texte);
+    if (nom_ == fichier::CONTRAT) exigerNomsIndex(*storage_, cle, texte);
     storage_->Put(nom_, cle, texte);
   }
 
@@ -130,6 +131,8 @@ CItem Db::Selectionner(std::string_view question, std::string_view fichier,
                          std::string(fichier) + " ».",
                      std::string(fichier));
   }
+  // What is counted to plan the query is what is read next.
+  const Route route(*storage_);
   return runQuery(*storage_, query, parseFieldList(query.file, champs),
                   planQuery(*storage_, query));
 }

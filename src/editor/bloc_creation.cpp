@@ -37,6 +37,9 @@ bool BlocCreation::Stocker(const Reprise& reprise) {
   bool stocke = false;
   try {
     s.Db->Stockage().EnUnBloc([&] {
+      // From the beginning, each time that another station got in between.
+      dossier_.Tente = avant;
+      pris_.clear();
       Reprendre();
       data::CItem aidant;
       if (!s.F_CIVILAIDANT.Lire(s.CodeAidant, aidant)) {
@@ -78,7 +81,9 @@ bool BlocCreation::Stocker(const Reprise& reprise) {
 void BlocCreation::Annuler() {
   session::Session& s = dossier_.Session;
   const std::string numero = dossier_.Tente.numero;
+  const session::Tentative avant = dossier_.Tente;
   s.Db->Stockage().EnUnBloc([&] {
+    dossier_.Tente = avant;
     Reprendre();
     data::CItem contrat;
     if (!s.F_CONTRAT.Lire(s.CodeAidant + numero, contrat)) return;

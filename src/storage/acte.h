@@ -18,8 +18,8 @@ struct Acte {
   bool apres = false;  // at some place after that key, not at its record
 };
 
-// `chemin` is the data file, or the server's address, as users see it; `suite` is the cause and what
-// to do, in whole sentences.
+// `chemin` is the data file, or the server's address, as users see it; `suite` is the cause and
+// what to do, in whole sentences.
 data::StoreError erreur(data::NumeroErreur numero, const std::string& chemin, const Acte& acte,
                         const std::string& suite);
 

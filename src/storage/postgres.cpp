@@ -208,8 +208,8 @@ void PostgresStorage::Oublier(std::string_view fichier, std::string_view cle) {
 
 bool PostgresStorage::Compacter() {
   moteur_->ExigerRepos();
-  for (const char* const sql :
-       {"VACUUM contrats.article", "VACUUM contrats.ancien", "VACUUM contrats.entree"}) {
+  for (const char* const sql : {"VACUUM ANALYZE contrats.article", "VACUUM ANALYZE contrats.ancien",
+                                "VACUUM ANALYZE contrats.entree"}) {
     moteur_->Interroger(kCompactage, 1, [&] {
       moteur_->LaLigne().Envoyer({"", sql}, {}, kCompactage);
     });

@@ -3,10 +3,10 @@
 // protocol and SQL. Each station has a connection of its own.
 //
 // A write that has returned is on the server's disk. Writes are serializable transactions, tried
-// again when another station got in between. A connection that is lost between two acts is made
-// anew in silence. One that is lost in a write: the record is read back, and the error tells what
-// is known of it. A database that several servers keep may lag behind on some: the address names
-// the one to write on. One object serves one thread.
+// again when another station got in between. A connection that is lost is made anew in silence, and
+// what was under way is done once more. When that fails too, the error tells whether the write is
+// done, is not, or whether that is unknown; written again, it stands once. One object serves one
+// thread.
 
 #include <functional>
 #include <memory>

@@ -134,6 +134,7 @@ void PostgresStorage::Moteur::ExigerBlocSain() const {
 void PostgresStorage::Moteur::Rompre(const PanneServeur& panne) {
   if (!rupture_) {
     aReprendre_ = panne.AReprendre();
+    coupure_ = panne.Coupure();
     const data::StoreError cause =
         panne.Coupure() ? erreur(NumeroErreur::EntreeSortie, lien_.Adresse(), kBloc, kPasFait)
                         : data::StoreError(panne);
@@ -335,8 +336,9 @@ bool PostgresStorage::Moteur::Confirmer(const Acte& acte) {
   }
 }
 
-// False when another station got in between.
-bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail) {
+// False when it can be run again, and nothing of it stands: another station got in between, or the
+// line was cut for the first time.
+bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool& coupee) {
   lien_.Assurer(kBloc);
   lien_.Envoyer(kDebut, {}, kBloc);
   struct Bloc {
@@ -349,6 +351,7 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail) {
     ~Bloc() {
       moteur.enBloc_ = false;
       moteur.aReprendre_ = false;
+      moteur.coupure_ = false;
       moteur.rupture_ = nullptr;
       moteur.route_.Vider();
     }
@@ -359,7 +362,8 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail) {
     travail();
     ExigerBlocSain();
   } catch (...) {
-    const bool reprendre = aReprendre_;
+    const bool reprendre = aReprendre_ || (coupure_ && !coupee);
+    coupee = coupee || coupure_;
     Annuler();
     if (reprendre) return false;
     throw;
@@ -373,6 +377,7 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail) {
       enBloc_ = false;
       route_.Vider();
       if (Confirmer(kBloc)) return true;
+      if (!std::exchange(coupee, true)) return false;
       throw erreur(NumeroErreur::EntreeSortie, lien_.Adresse(), kBloc, kPasFait);
     }
     Annuler();
@@ -384,7 +389,8 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail) {
 void PostgresStorage::Moteur::EnUnBloc(const std::function<void()>& travail) {
   ExigerRepos();
   ExigerEcriture(kBloc);
-  for (Attente attente(options_.attenteMs); !Tenter(travail);) {
+  bool coupee = false;
+  for (Attente attente(options_.attenteMs); !Tenter(travail, coupee);) {
     if (attente.Finie()) throw erreurServeur("40001", "", lien_.Adresse(), kBloc);
     attente.Patienter();
   }

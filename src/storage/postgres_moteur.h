@@ -77,7 +77,7 @@ class PostgresStorage::Moteur {
   std::optional<std::size_t> CompterEtRetenir(const Acte& acte, const data::Chemin& chemin,
                                               std::size_t plafond);
   std::optional<Rangs> LireChemins(const Acte& acte, const std::vector<data::Chemin>& chemins);
-  bool Tenter(const std::function<void()>& travail);
+  bool Tenter(const std::function<void()>& travail, bool& coupee);
   // After a connection that was lost with the end of a block on its way: whether it stands.
   bool Confirmer(const Acte& acte);
   bool ToutEcrit(const Acte& acte);
@@ -92,6 +92,7 @@ class PostgresStorage::Moteur {
   int parcours_ = 0;            // scans under way
   std::exception_ptr rupture_;  // the first order of the block that failed
   bool aReprendre_ = false;     // it failed because another station got in between
+  bool coupure_ = false;        // or because the line was cut
   // What the block under way has written: the checksum of each record, none of one that went. A
   // block stands whole or not at all: some of its records tell.
   std::map<std::pair<std::string, std::string>, std::optional<std::int64_t>> ecrits_;

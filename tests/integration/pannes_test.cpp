@@ -114,7 +114,7 @@ class Pannes : public ::testing::Test {
   Panne* panne_ = nullptr;
   hote::FenetreHote fenetre_{bureau_, [this](const std::string& chemin, const data::Poste& poste) {
                                auto panne =
-                                   std::make_unique<Panne>(hote::ouvrirSqlite(chemin, poste));
+                                   std::make_unique<Panne>(hote::ouvrirBase(chemin, poste));
                                panne_ = panne.get();
                                return panne;
                              }};

@@ -4,7 +4,8 @@
 
 #include "fenetre/avertir.h"
 #include "liaison/textes_qt.h"
-#include "storage/sqlite.h"
+#include "storage/adresse.h"
+#include "storage/ouvrir.h"
 
 namespace hote {
 
@@ -14,30 +15,40 @@ constexpr int AttenteEcritureMs = 2000;
 
 std::unique_ptr<data::Storage> ouvrir(const std::string& chemin, const data::Poste& poste,
                                       bool reseauAdmis) {
-  storage::SqliteOptions options;
+  storage::OptionsOuverture options;
   options.attenteMs = AttenteEcritureMs;
   options.reseauAdmis = reseauAdmis;
-  auto stockage = storage::SqliteStorage::Ouvrir(chemin, poste, options);
+  auto stockage = storage::ouvrir(chemin, poste, options);
   if (!stockage->Avis().empty()) informer(versQt(stockage->Avis()));
   return stockage;
 }
 
 }  // namespace
 
-std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste) {
+bool surServeur(const QString& chemin) {
+  return storage::estAdresseServeur(versModele(chemin));
+}
+
+QString aMontrer(const QString& chemin) {
+  return versQt(storage::sansMotDePasse(versModele(chemin)));
+}
+
+std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste) {
   return ouvrir(chemin, poste, false);
 }
 
-std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
-                                                    const data::Poste& poste) {
+std::unique_ptr<data::Storage> ouvrirBaseEnReseau(const std::string& chemin,
+                                                  const data::Poste& poste) {
   return ouvrir(chemin, poste, true);
 }
 
 BaseOuverte::BaseOuverte(const QString& chemin, const data::Poste& poste, const Ouvreur& ouvrir)
-    : chemin_(QFileInfo(chemin).absoluteFilePath()),
-      veille_(versModele(chemin_)),
-      db_(ouvrir(versModele(chemin_), poste)) {
-  veille_.SuivreJournal();
+    : chemin_(surServeur(chemin) ? aMontrer(chemin) : QFileInfo(chemin).absoluteFilePath()),
+      veille_(surServeur(chemin) ? nullptr
+                                 : std::make_unique<storage::Veille>(versModele(chemin_))),
+      db_(ouvrir(versModele(surServeur(chemin) ? chemin : chemin_), poste)) {
+  if (veille_ == nullptr) return;
+  veille_->SuivreJournal();
   // A write in the file makes a signal too.
   connect(&signaux_, &QFileSystemWatcher::fileChanged, this, [this] { Regarder(); });
   Veiller();
@@ -45,23 +56,23 @@ BaseOuverte::BaseOuverte(const QString& chemin, const data::Poste& poste, const 
 
 // A file that leaves its name leaves the watch.
 void BaseOuverte::Veiller() {
-  signaux_.addPath(chemin_);
+  if (veille_ != nullptr) signaux_.addPath(chemin_);
 }
 
 QString BaseOuverte::Nom() const {
-  return QFileInfo(chemin_).fileName();
+  return veille_ == nullptr ? chemin_ : QFileInfo(chemin_).fileName();
 }
 
 QString BaseOuverte::Defaut() const {
-  return versQt(veille_.Defaut());
+  return veille_ == nullptr ? QString() : versQt(veille_->Defaut());
 }
 
 bool BaseOuverte::Remplacee() const {
-  return veille_.Remplace();
+  return veille_ != nullptr && veille_->Remplace();
 }
 
 QString BaseOuverte::EcarterJournal() {
-  return versQt(veille_.EcarterJournal());
+  return veille_ == nullptr ? QString() : versQt(veille_->EcarterJournal());
 }
 
 void BaseOuverte::Regarder() {

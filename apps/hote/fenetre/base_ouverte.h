@@ -1,5 +1,5 @@
 #pragma once
-// A data file in use by the host: the store, the database on it, and a watch on the file's name.
+// A base in use by the host: the store, the database on it, and a watch on a data file's name.
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -16,11 +16,17 @@ namespace hote {
 // How the store in a data file is opened. A data::StoreError when it cannot be.
 using Ouvreur = std::function<std::unique_ptr<data::Storage>(const std::string& chemin,
                                                              const data::Poste& poste)>;
-// The embedded store. A write waits for another program 2 seconds at most: the window waits too.
-std::unique_ptr<data::Storage> ouvrirSqlite(const std::string& chemin, const data::Poste& poste);
+// A data file, or the address of a base on a server. A write waits for another program 2 seconds at
+// most: the window waits too.
+std::unique_ptr<data::Storage> ouvrirBase(const std::string& chemin, const data::Poste& poste);
 // The same in a network folder, too, for who knows that one station alone opens it.
-std::unique_ptr<data::Storage> ouvrirSqliteEnReseau(const std::string& chemin,
-                                                    const data::Poste& poste);
+std::unique_ptr<data::Storage> ouvrirBaseEnReseau(const std::string& chemin,
+                                                  const data::Poste& poste);
+
+// Whether that is the address of a base on a server.
+bool surServeur(const QString& chemin);
+// What is given for a base, without its password.
+QString aMontrer(const QString& chemin);
 
 class BaseOuverte : public QObject {
   Q_OBJECT
@@ -29,6 +35,7 @@ class BaseOuverte : public QObject {
   // A data::StoreError rises when the file cannot be opened. `poste` outlives the object.
   BaseOuverte(const QString& chemin, const data::Poste& poste, const Ouvreur& ouvrir);
 
+  // To be shown and kept: an address holds no password.
   const QString& Chemin() const { return chemin_; }
   QString Nom() const;
   data::Db& Db() { return db_; }
@@ -50,8 +57,8 @@ class BaseOuverte : public QObject {
 
   QString chemin_;
   // The store refuses to write into a file that is gone; this tells so before a clerk types for
-  // nothing.
-  storage::Veille veille_;
+  // nothing. None on a server.
+  std::unique_ptr<storage::Veille> veille_;
   data::Db db_;
   QFileSystemWatcher signaux_;
 };

@@ -91,15 +91,18 @@ bool FenetreHote::OuvrirFichier(const QString& chemin) {
     base_ = std::move(base);
     recherche_->Remplir(std::move(aidants));
   } catch (const std::exception& erreur) {
-    avertirErreur("Le fichier « " + chemin + " » ne s'ouvre pas.", erreur);
-    if (!QFileInfo::exists(chemin)) FichiersRecents(bureau_.Reglages()).Oublier(chemin);
+    const bool serveur = surServeur(chemin);
+    avertirErreur(
+        (serveur ? "La base « " : "Le fichier « ") + aMontrer(chemin) + " » ne s'ouvre pas.",
+        erreur);
+    if (!serveur && !QFileInfo::exists(chemin)) FichiersRecents(bureau_.Reglages()).Oublier(chemin);
     RemplirRecents();
     return false;
   }
   perdue_ = false;
   connect(base_.get(), &BaseOuverte::disparue, this, &FenetreHote::BaseDisparue,
           Qt::QueuedConnection);
-  FichiersRecents(bureau_.Reglages()).Noter(chemin);
+  FichiersRecents(bureau_.Reglages()).Noter(base_->Chemin());
   RemplirRecents();
   recherche_->setEnabled(true);
   recherche_->Prendre();
@@ -110,7 +113,8 @@ bool FenetreHote::OuvrirFichier(const QString& chemin) {
 
 void FenetreHote::OuvrirDernier() {
   const QStringList chemins = FichiersRecents(bureau_.Reglages()).Chemins();
-  const bool dernier = !chemins.isEmpty() && QFileInfo::exists(chemins.first());
+  const bool dernier =
+      !chemins.isEmpty() && (surServeur(chemins.first()) || QFileInfo::exists(chemins.first()));
   const QString chemin = dernier ? chemins.first() : fichierDemonstration();
   if (!chemin.isEmpty()) OuvrirFichier(chemin);
 }

@@ -35,7 +35,7 @@ class FenetreHote : public QMainWindow {
 
  public:
   // `bureau` outlives the window. `ouvrir`: how a data file is opened.
-  explicit FenetreHote(Bureau& bureau, Ouvreur ouvrir = ouvrirSqlite);
+  explicit FenetreHote(Bureau& bureau, Ouvreur ouvrir = ouvrirBase);
   ~FenetreHote() override;
 
   // False, after a message, when it does not open; what was open before stays open then.

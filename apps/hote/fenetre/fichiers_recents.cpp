@@ -3,6 +3,9 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include "liaison/textes_qt.h"
+#include "storage/adresse.h"
+
 namespace hote {
 
 namespace {
@@ -10,6 +13,7 @@ namespace {
 constexpr const char* Cle = "hote/recents";
 
 QString absolu(const QString& chemin) {
+  if (storage::estAdresseServeur(versModele(chemin))) return chemin;
   return QFileInfo(chemin).absoluteFilePath();
 }
 

@@ -40,7 +40,7 @@ int capturer(const QCommandLineParser& options) {
 int montrer(const QCommandLineParser& options) {
   hote::Bureau bureau;
   hote::FenetreHote fenetre(
-      bureau, options.isSet("meme-en-reseau") ? hote::ouvrirSqliteEnReseau : hote::ouvrirSqlite);
+      bureau, options.isSet("meme-en-reseau") ? hote::ouvrirBaseEnReseau : hote::ouvrirBase);
   const auto commencer = [&] {
     const QStringList fichiers = options.positionalArguments();
     if (fichiers.isEmpty()) return fenetre.OuvrirDernier();
@@ -75,7 +75,9 @@ int main(int argc, char** argv) {
   options.addOption({"aidant", "Ouvre l'aidant de ce code.", "code"});
   options.addOption(
       {"meme-en-reseau", "Admet un fichier d'un dossier du réseau, qu'un seul poste ouvre."});
-  options.addPositionalArgument("fichier", "Le fichier de données ; sinon le dernier ouvert.");
+  options.addPositionalArgument("fichier",
+                                "Le fichier de données, ou l'adresse postgresql:// d'un serveur ; "
+                                "sinon la dernière base ouverte.");
   options.process(application);
   return options.isSet("captures") ? capturer(options) : montrer(options);
 }

@@ -1,0 +1,66 @@
+// A base moved from a file to a server and back.
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "base/executer.h"
+#include "support/serveur.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+class TransfertPostgres : public testing::Test {
+ protected:
+  // What the tool answers, its messages included.
+  std::string Dire(const std::vector<std::string>& commande, int code = 0) {
+    std::istringstream entree;
+    std::ostringstream sortie;
+    EXPECT_EQ(base::executer(commande, entree, sortie, sortie), code) << sortie.str();
+    return sortie.str();
+  }
+
+  support::Serveur& serveur_ = support::Serveur::Commun();
+  support::TempDir dossier_;
+  std::string fichier_ = dossier_.Chemin("a.contrats");
+  std::string retour_ = dossier_.Chemin("b.contrats");
+};
+
+TEST_F(TransfertPostgres, ABaseComesBackAsItWent) {
+  Dire({"demo", fichier_, "--aidants", "60", "--graine", "1"});
+  for (const char* item : {"[\"a\"]", "[\"b\"]"}) {
+    Dire({"ecrire", fichier_, "PAYS", "999", "--item", item});
+  }
+  Dire({"supprimer", fichier_, "PAYS", "999"});
+  std::string adresse = serveur_.NouvelleBase();
+  adresse.replace(adresse.find("essai@"), 5, "essai:sesame");
+  const std::string copie = Dire({"copier", fichier_, adresse});
+  EXPECT_EQ(copie.find("sesame"), std::string::npos);
+  EXPECT_NE(copie.find("2 anciens textes."), std::string::npos) << copie;
+  // Not over what is there, in either way.
+  Dire({"copier", fichier_, adresse}, 1);
+  Dire({"copier", adresse, fichier_}, 3);
+  EXPECT_NE(Dire({"verifier", adresse}).find("aucune anomalie"), std::string::npos);
+  Dire({"copier", adresse, retour_});
+  const std::string textes = Dire({"exporter", fichier_});
+  for (const std::string& base : {adresse, retour_}) {
+    EXPECT_EQ(Dire({"exporter", base}), textes);
+    EXPECT_EQ(Dire({"historique", base, "PAYS", "999", "--json"}),
+              Dire({"historique", fichier_, "PAYS", "999", "--json"}));
+  }
+  EXPECT_EQ(Dire({"creer", adresse}, 3).find("sesame"), std::string::npos);
+  Dire({"restaurer", adresse, fichier_}, 2);
+}
+
+// What was made there before, by another, is told apart from what is copied.
+TEST_F(TransfertPostgres, ACopyThatDiffersIsNoCopy) {
+  Dire({"demo", fichier_, "--aidants", "5", "--graine", "1"});
+  const std::string adresse = serveur_.NouvelleBase();
+  Dire({"creer", adresse});
+  serveur_.Sql(adresse,
+               "INSERT INTO contrats.ancien VALUES('PAYS', '1', 1, '', '2026', 'x', true, 0)");
+  const std::string refus = Dire({"copier", fichier_, adresse}, 3);
+  EXPECT_NE(refus.find("ne se relit pas"), std::string::npos) << refus;
+}
+
+}  // namespace
