@@ -27,6 +27,7 @@ using Etat = std::map<std::string, std::string>;
 // The creation of a contract, and another one that no contract stands in the way of: the three
 // blocks under a title of arrets.md.
 struct Route {
+  explicit Route(std::string aidant_) : aidant(std::move(aidant_)) {}
   Route(std::string aidant_, const std::string& titre, std::string numero_, std::string suivant_)
       : aidant(std::move(aidant_)), numero(std::move(numero_)), suivant(std::move(suivant_)) {
     std::istringstream lignes(lireTout(CONTRATS_SOURCE_DIR "/tests/pilote/arrets.md"));
@@ -304,7 +305,7 @@ Etat partie(const Etat& etat, const std::string& fichiers) {
 // does it again ends in the records of one who was never interrupted.
 void Arret::EprouverModification(const Modification& m) {
   SCOPED_TRACE(m.nom);
-  const Route route{m.aidant, "", "", "", "", ""};
+  const Route route(m.aidant);
   Remettre();
   ASSERT_EQ(Jouer(route, m.acte + m.rapport), Tenu);
   const Etat entier = Lire(essai);
