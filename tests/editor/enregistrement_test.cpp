@@ -177,8 +177,7 @@ TEST_F(Enregistre, ProposeCeQuiVientDuContratPrecedent) {
       EXPECT_EQ(user.Cliquer(f.Cac_CpPerenne), Acte::Fait);
       user.Cliquer(f.Cmd_Ok);
     });
-    cliquer(cmd("OK"));
-    EXPECT_EQ(messages(), "");
+    enregistrer();
     EXPECT_EQ(montre, "01/01/2025 " + std::string(fin) + " 01/06/2024 2,5 03/06/2024");
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::DateAnciennete), jour(anciennete));
     EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "00001001");
@@ -245,8 +244,7 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
     }
     ouvrir("00001001");
     if (finChangee) editeur->Dossier().Initial.Set(C::DateFin, "");
-    cliquer(cmd("OK"));
-    EXPECT_EQ(messages(), "") << nom;
+    enregistrer(nom);
     EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << nom;
   }
 }
@@ -324,9 +322,7 @@ class Panne : public Enregistre {
       EXPECT_EQ(txt("DatDebContrat").Text(), saisie) << n;
       stockage->EchouerEcriture(0);
       dialogues();
-      cliquer(cmd("OK"));
-      EXPECT_EQ(messages(), "") << n;
-      EXPECT_FALSE(editeur->Visible()) << n;
+      enregistrer(n);
       EXPECT_EQ(tout(), attendu) << n;
     }
   }
@@ -405,7 +401,7 @@ TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
   for (const bool acceptee : {false, true}) {
     precedent("30/11/2026", {{C::DateAnciennete, jour("01/02/2024")}});
     saisir("01/12/2026");
-    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques);
+    onglet(editor::Caracteristiques);
     choisir(cbo("GrilleContrat"), 0);
     remplir(txt("DepartGrilContrat"), "05/01/2026");
     remplir(txt("DateAnciennete"), "06/01/2026");
@@ -431,8 +427,7 @@ TEST_F(Panne, UneSecondeTentativeOublieLaPremiere) {
   EXPECT_NE(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
   // Another establishment has no contract before.
   remplir(txt("EmplEtabContrat"), "002");
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
   EXPECT_EQ(attribut("CONTRAT", "00001002", C::Employeur), "001002");
   EXPECT_EQ(attribut("CONTRAT", "00001002", C::CongesReprisDe), "");

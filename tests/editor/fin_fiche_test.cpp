@@ -113,9 +113,7 @@ TEST_F(FinFiche, VisiterLOngletNeChangeRien) {
                                    {C::PrimePrecarite, "1"}};
   for (const auto& fiche : {Licencie(), douteux, sansNotification, Attributs{}}) {
     ouvrirFin(fiche);
-    cliquer(editeur->Cmd_Retour);
-    EXPECT_EQ(messages(), "");
-    EXPECT_FALSE(editeur->Visible());
+    sortir();
   }
 }
 
@@ -124,9 +122,8 @@ TEST_F(FinFiche, SansNotificationLaFinSurFichierComptePourLesRegles) {
   ouvrirFin({{C::DateFin, jour("30/09/2026")}, {C::DernierBulletin, "202609"}});
   EXPECT_EQ(txt("DateFinContrat").Text(), "");
   EXPECT_EQ(hote.indications.Prendre().size(), 1u);
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin), jour("30/09/2026"));
+  enregistrer();
+  EXPECT_EQ(fiche()(C::DateFin), jour("30/09/2026"));
 }
 
 TEST_F(FinFiche, ViderLaNotificationAnnuleLaFinEnEntier) {
@@ -135,9 +132,8 @@ TEST_F(FinFiche, ViderLaNotificationAnnuleLaFinEnEntier) {
   EXPECT_EQ(fin(), ", -, ");
   EXPECT_EQ(cbo("MotifFinContrat").ListIndex(), -1);
   EXPECT_FALSE(txt("DateFinContrat").Enabled() || cbo("MotifFinContrat").Enabled());
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
+  enregistrer();
+  const auto ecrit = fiche();
   for (const int a : Tout) EXPECT_EQ(ecrit(a), a == C::OrganismeRetraite ? "001A" : "") << a;
 }
 
@@ -154,9 +150,8 @@ TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
   remplir(txt("DebEffContrat"), "16/08/2026");
   remplir(txt("FinEffContrat"), "14/10/2026");
   cliquer(cac("CalcIndLic"));
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
+  enregistrer();
+  const auto ecrit = fiche();
   std::string texte;
   for (const int a : Tout) texte += ecrit(a) + " ";
   EXPECT_EQ(texte, jour("14/10/2026") + " 11 " + jour("15/08/2026") + " " + jour("20/08/2026") +

@@ -42,9 +42,7 @@ TEST_F(Declaration, ElleSImprimeSelonLaConventionEtDateLeContrat) {
     EXPECT_TRUE(porte(c.employeur) && porte("DURAND")) << c.bouton;
     EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
     // Nothing is left to be saved.
-    cliquer(editeur->Cmd_Retour);
-    EXPECT_EQ(messages(), "");
-    EXPECT_FALSE(editeur->Visible());
+    sortir();
   }
 }
 
@@ -52,9 +50,9 @@ TEST_F(Declaration, ElleNEnregistrePasCeQuiEstASaisie) {
   ouvrirContrat();
   remplir(txt("PerEssaiContrat"), "30");
   cliquer(cmd("DPAE"));
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
+  EXPECT_EQ(fiche()(C::PeriodeEssai), "");
   quitter(screen::Reponse::Oui);
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "30");
+  EXPECT_EQ(fiche()(C::PeriodeEssai), "30");
   EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
 }
 
@@ -94,22 +92,15 @@ TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
     caracteriser("5");
     payer();
     hote.imprimante.panne = panne;
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), panne);
     EXPECT_TRUE(editeur->Cree());
     EXPECT_EQ(noteSurLeDisque(cle()), *panne == '\0' ? "21511" : "");
     EXPECT_EQ(imprimes(), 1U);
     EXPECT_TRUE(porte("MARTIN"));
   }
-  creer();
-  taper(txt("ConvColContrat"), "01");
-  taper(txt("AssocContrat"), "001");
-  taper(txt("EmplEtabContrat"), "001");
-  remplir(txt("DatDebContrat"), "01/12/2027");
-  caracteriser("5");
-  payer();
-  cliquer(editeur->Cmd_OK);
-  EXPECT_EQ(messages(), "");
+  creerContrat("01/12/2027", "01", "001", "5");
+  enregistrer();
   EXPECT_EQ(imprimes(), 1U);
 }
 
@@ -206,7 +197,7 @@ TEST_F(Lettre, UneConsultationNEnregistreRien) {
   taper(txt("PerEssaiContrat"), "30");
   cliquer(editeur->Cmd_ImpContrat);
   EXPECT_TRUE(journal(controle).ends_with("Imprimer()"));
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
+  EXPECT_EQ(fiche()(C::PeriodeEssai), "");
 }
 
 }  // namespace

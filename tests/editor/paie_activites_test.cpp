@@ -81,8 +81,7 @@ TEST_F(Activites, UneRepartitionSeSaisitLigneApresLigne) {
   EXPECT_EQ(messages(), "");
 
   taper(txt("ProfilContrat"), "P01");
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(range(cle()), "001BUR|001DOM|001GAR 3333|3333|3334 202612 - - -");
 }
 
@@ -116,8 +115,7 @@ TEST_F(Activites, CeQuiNEstPasUnePartNEntrePas) {
   taper(txt("RepartActContrat"), "100");
   cliquer(cmd("OKActivite"));
   EXPECT_EQ(editeur->Ong_Contrat.Enabled(), true);
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(range(), "001BUR 10000 202611 202607 001GAR 10000");
 }
 
@@ -141,8 +139,7 @@ TEST_F(Activites, UnePeriodeSeCorrigeEtUneAutreSAjoute) {
   EXPECT_EQ(lignes(cbo("PeriodeEffetAffichage")), "decembre 2026|novembre 2026|juillet 2026");
   cliquer(cmd("AjoutePeriodeEffet"));
   EXPECT_EQ(messages(), "Il n'est pas possible d'ajouter de nouvelles périodes d'effet.");
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(range(),
             "001DOM 10000 202612 202611|202607 001BUR,001DOM|001GAR,001BUR "
             "7500,2500|6000,4000");
@@ -164,8 +161,7 @@ TEST_F(Activites, UnePeriodeAnterieureSInsereOuNeSeGardePas) {
     EXPECT_EQ(repartition(), insere ? "Domicile 100,00 [novembre 2026]"
                                     : "Bureau 75,00|Domicile 25,00 [decembre 2026]");
     EXPECT_EQ(hote.indications.Prendre().empty(), insere);
-    cliquer(cmd("OK"));
-    EXPECT_EQ(messages(), "");
+    enregistrer();
     EXPECT_EQ(range(), insere ? "001BUR|001DOM 7500|2500 202612 202611|202607 001DOM|001GAR "
                                 "10000|10000"
                               : "001BUR|001DOM 7500|2500 202612 - - -");
@@ -216,8 +212,7 @@ TEST_F(Activites, UnContratDeProductionNARienAPartager) {
   ouvrirPaie(Reparti);
   onglet(editor::Origine);
   cliquer(opt("Production"));
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(range(), "001BUR|001DOM - - - - -");
 }
 
@@ -234,8 +229,7 @@ TEST_F(Activites, UneActiviteDisparueResteAuContrat) {
     }
     ouvrirPaie(contratLu);
     memoire.Erase("ACTIVITES", "001DOM");
-    cliquer(cmd("OK"));
-    EXPECT_EQ(messages(), "");
+    enregistrer();
     const std::string attendu = administratif ? SurFichier : "001BUR|001DOM - - - - -";
     EXPECT_EQ(range(), attendu);
     ouvrirPaie(contratLu);
@@ -264,8 +258,7 @@ TEST_F(Activites, LaSeuleActiviteDUneEntiteEstEntiere) {
   taper(txt("ProfilContrat"), "P01");
   onglet(editor::Origine);
   remplir(txt("DatDebContrat"), "04/01/2027");
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
+  enregistrer();
   EXPECT_EQ(range(cle()), "003BUR 10000 202701 - - -");
 }
 
@@ -296,11 +289,7 @@ TEST_F(Activites, UnParticulierASesActivites) {
     }
     article("ACTIVITESAIDE", "00007",
             {{1, multiple(codes)}, {2, multiple(jours[0])}, {3, multiple(jours[1])}});
-    creer();
-    taper(txt("ConvColContrat"), "02");
-    taper(txt("AssocContrat"), "001");
-    taper(txt("EmplEtabContrat"), "00007");
-    remplir(txt("DatDebContrat"), "01/12/2026");
+    origine("01/12/2026", "02", "00007");
     onglet(editor::ElementsPaie);
     onglet(editor::Origine);
     onglet(editor::ElementsPaie);
