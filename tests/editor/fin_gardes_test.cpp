@@ -29,8 +29,7 @@ class FinGardes : public essai::Fin {
     return messages();
   }
   std::string etat() {
-    data::CItem evenement;
-    const bool declare = db.OpenFile("DSNEVENEMENT").Lire("00001001", evenement);
+    const bool declare = existe("DSNEVENEMENT", "00001001");
     const auto supprime = fiche();
     return supprime(C::Annule) + "/" + supprime(C::CongesReprisDe) + "/" +
            fiche("00001003")(C::CongesReportesSur) + (declare ? "/declare" : "/");
@@ -39,51 +38,21 @@ class FinGardes : public essai::Fin {
   const std::string Question = "Etes-vous sûr de vouloir supprimer ce contrat ?";
 };
 
-TEST_F(FinGardes, LaSuppressionEstRefuseePourChaqueRaison) {
+// The refusals of payroll, of an opposition and of indirect work, and the answer No, are
+// supprimer.scenario's.
+TEST_F(FinGardes, LePlanningRefuseLaSuppressionOuNeComptePas) {
   session.OptionCompteur999 = true;
-  const struct {
-    const char *fichier, *cle;
-    Attributs article;
-    std::string message;
-  } cas[] = {
-      {"DETAILPREST",
-       "00001001202403",
-       {{1, "x"}},
-       "Suppression impossible du contrat car des traitements ont été effectués sur celui-ci."},
-      {"OPPOSITION",
-       "00001001A",
-       {{1, "x"}},
-       Question + "|Il existe une opposition sur ce contrat, impossible de supprimer ce contrat."},
-      {"TPSDETAILSINTERV",
-       "000010000821500001DOM00830",
-       {{2, "1000"}},
-       Question +
-           "|Impossible de supprimer ce contrat car des interventions ont été saisies dans le menu "
-           "Planning.\r\n"},
-      {"TPSMOI",
-       "1",
-       {{4, "00001001"}},
-       Question +
-           "|Impossible de supprimer ce contrat car de la Main d'Oeuvre Indirecte a été saisie "
-           "dans le menu Planning.\r\n"},
-  };
-  for (const auto& [fichier, cle, contenu, message] : cas) {
-    article(fichier, cle, contenu);
-    ouvrirASupprimer();
-    EXPECT_EQ(supprimer(), message);
-    EXPECT_EQ(etat(), Intact) << fichier;
-    EXPECT_TRUE(rendu());
-    EXPECT_EQ(cmd("SupprimerContrat").Visible(), !std::string(fichier).starts_with("TPS"));
-    db.OpenFile(fichier).DeleteItem(cle);
-    hote.messages = {};
-  }
-  // Without the planning, its records count for nothing; the answer No keeps the contract.
-  session.OptionCompteur999 = false;
-  article("TPSMOI", "1", {{4, "00001001"}});
+  article("TPSDETAILSINTERV", "000010000821500001DOM00830", {{2, "1000"}});
   ouvrirASupprimer();
-  hote.messages.Repondre(Reponse::Non);
-  cliquer(cmd("SupprimerContrat"));
-  EXPECT_EQ(messages() + etat(), Question + Intact);
+  EXPECT_EQ(supprimer(),
+            Question +
+                "|Impossible de supprimer ce contrat car des interventions ont été saisies dans le "
+                "menu Planning.\r\n");
+  EXPECT_EQ(etat(), Intact);
+  EXPECT_TRUE(rendu() && !cmd("SupprimerContrat").Visible());
+  // Without the planning, its records count for nothing.
+  session.OptionCompteur999 = false;
+  ouvrirASupprimer();
   EXPECT_EQ(supprimer(), Question + "|Le contrat 00001001 a été supprimé.");
   EXPECT_FALSE(editeur->Visible());
   EXPECT_EQ(etat(), "O///");

@@ -54,8 +54,7 @@ class FinPlanning : public essai::Fin {
                           .Lire("0000100007" + jour(debut) + "001DOM" + j + "0830", i);
       texte += (la ? session.Lib.DateFromInternal(i(1)) : "-") + "/";
     }
-    data::CItem marque;
-    return texte + (db.OpenFile("TPSSANSCONTRAT").Lire("00001001", marque) ? "sans" : "");
+    return texte + (existe("TPSSANSCONTRAT", "00001001") ? "sans" : "");
   }
   std::string finStockee() { return session.Lib.DateFromInternal(fiche()(C::DateFin)); }
 
