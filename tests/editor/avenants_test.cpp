@@ -149,53 +149,6 @@ TEST_F(Avenant, UnContratSansDebutNAPasDAvenant) {
   EXPECT_TRUE(editeur->Ong_Contrat.Enabled() && cmd("OK").Enabled());
 }
 
-// Another contract owes 20 hours: 28 is the most that is left of 48.
-TEST_F(Avenant, LesHeuresSePesentSurChaqueSortie) {
-  const auto ailleurs = [&] {
-    contrat("00001002", {{C::Association, "002"},
-                         {C::Employeur, "002001"},
-                         {C::DureeTravail, "2000"},
-                         {C::Frequence, "1"}});
-  };
-  const struct {
-    const char* nom;
-    bool avenant, retour;
-    const char* duree;
-    Reponse reponse;
-    const char* stockees;  // working times afterwards
-    bool ouvert;
-  } cas[] = {
-      {"no more than the maximum", false, false, "28", Reponse::Ok, "3500|2800", false},
-      {"accepted", false, false, "28,01", Reponse::Oui, "3500|2801", false},
-      {"refused by OK: given up", false, false, "28,01", Reponse::Non, "3500|2000", false},
-      {"accepted on leaving", false, true, "30", Reponse::Oui, "3500|3000", false},
-      {"refused on leaving: stays", false, true, "30", Reponse::Non, "3500|2000", true},
-      {"accepted for an amendment", true, false, "30", Reponse::Oui, "3500|2000|3000", false},
-      {"refused: taken back", true, false, "30", Reponse::Non, "3500|2000", false},
-  };
-  for (const auto& [nom, avenant, retour, duree, reponse, stockees, ouvert] : cas) {
-    ailleurs();
-    visiter(deuxEtats());
-    avenant ? saisir("01/09/2026", duree) : remplir(txt("DureeWContrat"), duree);
-    if (retour) hote.messages.Repondre(Reponse::Oui);
-    const bool question = reponse != Reponse::Ok;
-    if (question) hote.messages.Repondre(reponse);
-    if (avenant) {
-      cliquer(cmd("OKAvenant"));
-      EXPECT_EQ(vu().substr(0, 2), reponse == Reponse::Oui ? "02" : "01") << nom;
-    }
-    cliquer(cmd(retour ? "Retour" : "OK"));
-    std::string attendu = question ? Depassement : "";
-    if (retour) {
-      attendu = "Voulez-vous enregistrer les modifications apportées à cet article ?|" + attendu;
-    }
-    EXPECT_EQ(messages(), attendu) << nom;
-    EXPECT_EQ(stocke({C::DureeTravail}), stockees) << nom;
-    EXPECT_EQ(editeur->Visible(), ouvert) << nom;
-    EXPECT_TRUE(editeur->Enabled() && !hote.curseur.EnAttente()) << nom;
-  }
-}
-
 // The time changed in a state that is no longer shown is weighed too, and an untouched one is not.
 TEST_F(Avenant, SeuleUneDureeChangeeSePese) {
   article("CONSTANTESPAIE", "1", {{10, "100"}});

@@ -185,24 +185,6 @@ TEST_F(Tab, UneProfessionSeChoisitParCategorieOuParCode) {
   EXPECT_EQ(txt("CodPCSContrat").Text() + actif(), "Txt_CodPCSContrat");
 }
 
-TEST_F(Tab, UneGrilleDecideDuCoefficientEtDuTaux) {
-  visiter();
-  choisir(cbo("GrilleContrat"), 1);
-  EXPECT_EQ(actif(), "Txt_DepartGrilContrat");
-  EXPECT_EQ(grille(), "Grille B   <> <0> <> <B>");
-  User(*editeur).Quitter();
-  EXPECT_EQ(confirmer({C::Grille, C::DepartGrille, C::Coefficient, C::TauxHoraire, C::Categorie}),
-            "01B " + jour("01/03/2026") + " 0 0 B");
-  // Taken away again: the rate is asked for.
-  ouvrir("00001001");
-  onglet(editor::Caracteristiques);
-  taper(cbo("GrilleContrat"), "");
-  User(*editeur).Quitter();
-  EXPECT_EQ(grille(), " <>  <>      0,000      0,000 <>");
-  remplir(txt("TauxHorContrat"), "13");
-  EXPECT_EQ(confirmer({C::Grille, C::DepartGrille, C::TauxHoraire, C::Categorie}), "  13000 ");
-}
-
 TEST_F(Tab, UneGrilleAttendUnDebut) {
   ouvrirContrat(complet());
   taper(txt("DatDebContrat"), "");
@@ -242,66 +224,29 @@ TEST_F(Tab, LaModulationSeCodeEnUneLettre) {
   EXPECT_EQ(confirmer({C::Lissage, C::Modulation}), "0 ");
 }
 
-// Start 01/03/2026 on file, moved to 01/04/2026; what the first state holds before and after.
-TEST_F(Tab, LeDebutEmmeneSesDates) {
-  const std::string debut = jour("01/03/2026"), autre = jour("15/03/2026");
-  const std::string nouveau = jour("01/04/2026");
-  const struct {
-    const char* nom;
-    bool visite;
-    std::string effet, depart, effetApres, departApres;
-  } cas[] = {
-      {"both the start, tab not shown", false, debut, debut, nouveau, nouveau},
-      {"both the start", true, debut, debut, nouveau, nouveau},
-      {"neither", true, autre, autre, autre, autre},
-      {"no grid start", true, debut, "", nouveau, ""},
-      {"no effect date", true, "", debut, nouveau, nouveau},
-  };
-  for (const auto& [nom, visite, effet, depart, effetApres, departApres] : cas) {
-    const Attributs attributs{{C::DateEffet, effet},
-                              {C::DepartGrille, depart},
-                              {C::Grille, depart.empty() ? "" : "01A"},
-                              {C::PeriodeTraitee, "202602"}};
-    visite ? visiter(attributs) : ouvrirContrat(complet(attributs));
-    onglet(editor::Origine);
-    remplir(txt("DatDebContrat"), "01/04/2026");
-    // Left once without saving, then confirmed: the same comes of it.
-    quitter(screen::Reponse::Annuler);
-    messages();
-    EXPECT_EQ(confirmer({C::DateEffet, C::DepartGrille}), effetApres + " " + departApres) << nom;
-  }
+// What moves along with the start is debut-et-effet.scenario's; an effect date that is missing on
+// file comes with it.
+TEST_F(Tab, LeDebutDonneLEffetQuiManque) {
+  ouvrirContrat(complet({{C::DateEffet, ""}, {C::PeriodeTraitee, "202602"}}));
+  remplir(txt("DatDebContrat"), "01/04/2026");
+  EXPECT_EQ(confirmer({C::DateEffet}), jour("01/04/2026"));
 }
 
-TEST_F(Tab, UnNouveauContratCommenceAvecSaConventionEtEstEcritEnEntier) {
+// All that a new contract stores is nouveau-cdi.scenario's.
+TEST_F(Tab, UnNouveauContratNeGardeRienDuPrecedent) {
   visiter(
       {{C::Salaire, "M"}, {C::Lissage, "1"}, {C::Modulation, "C"}, {C::ChangementSituation, "1"}});
   cliquer(cmd("OK"));
-  origine("01/12/2026");
-  refuse("La qualification professionnelle est obligatoire.");
-  EXPECT_EQ(ecran({"Txt_AvenantContrat", "Txt_DatEffetContrat", "Cbo_CategPCSContrat",
-                   "Txt_CodPCSContrat", "Cbo_FoncPCSContrat", "Txt_DureeWContrat", "Cac_ChgtSitAdm",
-                   "Cac_Lissage"}),
-            "<0> <01/12/2026> Services 563b Aide à domicile  0 0");
+  creerContrat("01/12/2026", "01", "001", "35");
+  EXPECT_EQ(ecran({"Txt_AvenantContrat", "Txt_DatEffetContrat", "Txt_CodPCSContrat",
+                   "Cac_ChgtSitAdm", "Cac_Lissage"}),
+            "<0> <01/12/2026> 563b 0 0");
   EXPECT_FALSE(cmd("AjoutAvenant").Visible());
   // 70 hours a week with the contract on file: refused, the creation is given up.
-  const auto saisir = [&] {
-    creerContrat("01/12/2026", "01", "001", "35");
-    onglet(editor::Caracteristiques);
-    choisir(cbo("GrilleContrat"), 0);
-  };
-  saisir();
   hote.messages.Repondre(screen::Reponse::Non);
   cliquer(cmd("OK"));
   EXPECT_EQ(messages().substr(0, 50), "Le nombre d'heures cumulées tous contrats confond");
   EXPECT_FALSE(editeur->Visible() || editeur->Cree());
-  memoire.Erase("CONTRAT", "00001001");
-  saisir();
-  enregistrer();
-  EXPECT_EQ(
-      lisible(fiche(cle()), {C::Avenant, C::DateEffet, C::Qualification, C::Grille, C::DepartGrille,
-                             C::Coefficient, C::TauxHoraire, C::DureeTravail, C::Frequence,
-                             C::Lissage, C::Modulation, C::Categorie, C::ChangementSituation}),
-      "0 21520 Agent 01A 21520 0 0 3500 1 0  A 0");
 }
 
 TEST_F(Tab, QualificationAjouteeParLEcranDesTables) {

@@ -112,17 +112,6 @@ TEST_F(FinFiche, SansNotificationLaFinSurFichierComptePourLesRegles) {
   EXPECT_EQ(fiche()(C::DateFin), jour("30/09/2026"));
 }
 
-TEST_F(FinFiche, ViderLaNotificationAnnuleLaFinEnEntier) {
-  ouvrirFin(Licencie());
-  remplir(txt("DatNotifContrat"), "");
-  EXPECT_EQ(fin(), ", -, ");
-  EXPECT_EQ(cbo("MotifFinContrat").ListIndex(), -1);
-  EXPECT_FALSE(txt("DateFinContrat").Enabled() || cbo("MotifFinContrat").Enabled());
-  enregistrer();
-  const auto ecrit = fiche();
-  for (const int a : Tout) EXPECT_EQ(ecrit(a), a == C::OrganismeRetraite ? "001A" : "") << a;
-}
-
 TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
   ouvrirFin();
   notifier("15/08/2026", "Licenciement");
@@ -269,14 +258,6 @@ TEST_F(FinFiche, UnParticulierEmployeurNADeRetraiteQueLaSienne) {
   remplir(txt("DateFinContrat"), "31/08/2026");
   EXPECT_EQ(cbo("OrgRetraite").Text() + txt("OrgRetraite").Text(), "IRCEMIRCEM");
   EXPECT_FALSE(cbo("OrgRetraite").Enabled());
-}
-
-TEST_F(FinFiche, UnAidantSupprimeGardeSaDateDeFin) {
-  session.EtatSuppAidant = true;
-  ouvrirFin(Licencie());
-  EXPECT_FALSE(txt("DateFinContrat").Enabled());
-  remplir(txt("DatNotifContrat"), "20/08/2026");
-  EXPECT_FALSE(txt("DateFinContrat").Enabled());
 }
 
 }  // namespace

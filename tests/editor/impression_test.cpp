@@ -46,16 +46,6 @@ TEST_F(Declaration, ElleSImprimeSelonLaConventionEtDateLeContrat) {
   }
 }
 
-TEST_F(Declaration, ElleNEnregistrePasCeQuiEstASaisie) {
-  ouvrirContrat();
-  remplir(txt("PerEssaiContrat"), "30");
-  cliquer(cmd("DPAE"));
-  EXPECT_EQ(fiche()(C::PeriodeEssai), "");
-  quitter(screen::Reponse::Oui);
-  EXPECT_EQ(fiche()(C::PeriodeEssai), "30");
-  EXPECT_EQ(declaree(), "21511");
-}
-
 // What was given up, or did not come onto paper, is not declared; the next try is a document of its
 // own.
 TEST_F(Declaration, CeQuiNEstPasImprimeNEstPasDeclare) {
