@@ -38,18 +38,14 @@ class ListeContrats : public essai::Liste {
   // Which fields take the user's acts: filters, lists, the three buttons.
   std::string mode() const {
     const auto& c = *controle;
-    const auto etat = [](const screen::Field& f) { return f.Accessible() ? '1' : '0'; };
-    return {etat(c.Cbo_Association),
-            etat(c.Opt_Actif),
-            etat(c.Opt_Autres),
-            etat(c.Opt_TriEmpl),
-            '/',
-            etat(c.Lst_DatDebContrat),
-            etat(c.Lst_QualifContrat),
-            '/',
-            etat(c.Cmd_Recherche),
-            etat(c.Cmd_OK),
-            etat(c.Cmd_Ajouter)};
+    std::string etats;
+    for (const screen::Field* f : std::initializer_list<const screen::Field*>{
+             &c.Cbo_Association, &c.Opt_Actif, &c.Opt_Autres, &c.Opt_TriEmpl, nullptr,
+             &c.Lst_DatDebContrat, &c.Lst_QualifContrat, nullptr, &c.Cmd_Recherche, &c.Cmd_OK,
+             &c.Cmd_Ajouter}) {
+      etats += f == nullptr ? '/' : f->Accessible() ? '1' : '0';
+    }
+    return etats;
   }
 };
 
@@ -224,9 +220,8 @@ TEST_F(ListeContrats, AideEtSortie) {
   EXPECT_EQ(sorties, 1);
   EXPECT_FALSE(c.Visible());
   controle.reset();
-  const std::vector<std::pair<std::string, int>> appels{{"aide/Brivalon.HLP", 11},
-                                                        {"aide/Brivalon.HLP", 2}};
-  EXPECT_EQ(hote.aide.Appels(), appels);
+  EXPECT_EQ(hote.aide.Appels(), (std::vector<std::pair<std::string, int>>{
+                                    {"aide/Brivalon.HLP", 11}, {"aide/Brivalon.HLP", 2}}));
   EXPECT_EQ(hote.aide.Preparees().front().second, ">HlpWnd03");
 }
 

@@ -13,11 +13,6 @@ class Ouverture : public essai::Liste {
   Ouverture() {
     compteur("003");
     article("ETABLISSEMENT", "001001", {{1, "Siège"}});
-    article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
-    article("CONSTANTESPAIE", "1", {{10, "4800"}});
-    article("PCS", "56", {{1, "Services"}});
-    article("PCS", "563b", {{1, "Aide à domicile"}});
-    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
     for (int n = 1; n <= 3; ++n) {
       const std::string annee = std::to_string(2020 + n);
       contrat(n, "01/01/" + annee, "30/06/" + annee,
@@ -88,51 +83,6 @@ TEST_F(Ouverture, LaLigneOuverteSuitLArticle) {
     EXPECT_FALSE(hote.curseur.EnAttente());
   }
   EXPECT_EQ(hote.messages.Tous().size(), 0u);
-}
-
-TEST_F(Ouverture, UneCreationSeMetEnTete) {
-  // From the choice of filters: list mode, with just this contract.
-  montrer(false);
-  dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-    user.Taper(*f.Find("Txt_ConvColContrat"), "01");
-    user.Taper(*f.Find("Txt_AssocContrat"), "001");
-    user.Taper(*f.Find("Txt_EmplEtabContrat"), "001");
-    user.Taper(*f.Find("Txt_DatDebContrat"), "01/07/2023");
-    user.Onglet(f.Ong_Contrat, editor::Caracteristiques);
-    user.Taper(*f.Find("Cbo_QualifContrat"), "Agent");
-    user.Taper(*f.Find("Txt_CodPCSContrat"), "563b");
-    user.Taper(*f.Find("Txt_DureeWContrat"), "20");
-    user.Choisir(*f.Find("Cbo_FreqWContrat"), 0);
-    user.Taper(*f.Find("Txt_TauxHorContrat"), "12");
-    user.Onglet(f.Ong_Contrat, editor::ElementsPaie);
-    user.Taper(*f.Find("Txt_ProfilContrat"), "P01");
-    hote.modales.Prevoir(
-        [](screen::Form& reprise) { screen::User(reprise).Cliquer(*reprise.Find("Cmd_Annuler")); });
-    EXPECT_EQ(user.Cliquer(f.Cmd_OK), Acte::Fait);
-  });
-  EXPECT_EQ(screen::User(*controle).Cliquer(controle->Cmd_Ajouter), Acte::Fait);
-  EXPECT_EQ(lignes(), "004 01/07/2023 ");
-  EXPECT_FALSE(controle->Cmd_Recherche.Enabled());
-  EXPECT_EQ(controle->Bdv_Detail.Max(), 0);
-  EXPECT_EQ(controle->Lst_Type.ListIndex(), 0);
-}
-
-TEST_F(Ouverture, UneCreationQuitteeNAjouteRien) {
-  montrer();
-  dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-    hote.messages.Repondre(screen::Reponse::Oui);
-    user.Cliquer(f.Cmd_Retour);
-  });
-  screen::User(*controle).Cliquer(controle->Cmd_Ajouter);
-  EXPECT_EQ(lignes(), Depart);
-  // The editor stays loaded: an opening right after shows the contract and nothing of the creation.
-  dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
-    EXPECT_EQ(texte(f, "Txt_DatDebContrat"), "01/01/2023");
-    EXPECT_EQ(texte(f, "Cbo_LibEmplEtabContrat"), "Siège");
-    user.Cliquer(f.Cmd_Retour);
-  });
-  screen::User(*controle).DoubleCliquer(controle->Lst_Type, 0);
-  EXPECT_EQ(hote.messages.Tous().size(), 1u);
 }
 
 TEST_F(Ouverture, UnContratDonneSOuvreDEmblee) {

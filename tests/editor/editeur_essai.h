@@ -156,14 +156,30 @@ class Editeur : public ::testing::Test {
     contrat("00001001", autres);
     ouvrir("00001001");
   }
+  void onglet(int numero) { screen::User(*editeur).Onglet(editeur->Ong_Contrat, numero); }
+  // A new contract of entity 001: the codes and the start alone, or all that its OK needs.
+  void origine(const std::string& debut, const char* convention = "01",
+               const char* employeur = "001") {
+    creer();
+    taper(txt("ConvColContrat"), convention);
+    taper(txt("AssocContrat"), "001");
+    taper(txt("EmplEtabContrat"), employeur);
+    remplir(txt("DatDebContrat"), debut);
+  }
+  void creerContrat(const std::string& debut, const char* convention = "01",
+                    const char* employeur = "001", const char* duree = "20") {
+    origine(debut, convention, employeur);
+    caracteriser(duree);
+    payer();
+  }
   // What the second tab of a new contract needs for its OK; the agreement gives the profession.
   void caracteriser(const std::string& duree = "20") {
-    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Caracteristiques);
+    onglet(editor::Caracteristiques);
     choisir(cbo("QualifContrat"), 0);
     remplir(txt("DureeWContrat"), duree);
     choisir(cbo("FreqWContrat"), 0);
     remplir(txt("TauxHorContrat"), "12,02");
-    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::Origine);
+    onglet(editor::Origine);
   }
   void quitter(screen::Reponse reponse) {
     hote.messages.Repondre(reponse);
@@ -172,15 +188,58 @@ class Editeur : public ::testing::Test {
 
   // What a new contract needs on the pay tab, which proposes the rest.
   void payer() {
-    screen::User user(*editeur);
-    user.Onglet(editeur->Ong_Contrat, editor::ElementsPaie);
+    onglet(editor::ElementsPaie);
     taper(txt("ProfilContrat"), editeur->origine.Particuliers() ? "P02" : "P01");
-    user.Onglet(editeur->Ong_Contrat, editor::Origine);
+    onglet(editor::Origine);
+  }
+  // OK stores, and Retour leaves, without a word; OK is refused with that message.
+  template <class Cas = const char*>
+  void enregistrer(const Cas& cas = "") {
+    cliquer(cmd("OK"));
+    EXPECT_EQ(messages(), "") << cas;
+    EXPECT_FALSE(editeur->Visible()) << cas;
+  }
+  template <class Cas = const char*>
+  void sortir(const Cas& cas = "") {
+    cliquer(cmd("Retour"));
+    EXPECT_EQ(messages(), "") << cas;
+    EXPECT_FALSE(editeur->Visible()) << cas;
+  }
+  void refuse(const std::string& message) {
+    cliquer(cmd("OK"));
+    EXPECT_EQ(messages(), message);
+    EXPECT_TRUE(editeur->Visible()) << message;
+  }
+  // The two roads to the store: OK, or Retour and Yes.
+  void confirmer(bool ok) {
+    if (ok) cliquer(cmd("OK"));
+    if (!ok) quitter(screen::Reponse::Oui);
+  }
+  // The wait is over and the screen is the user's again.
+  bool rendu() const {
+    return editeur->Visible() && editeur->Enabled() && !hote.curseur.EnAttente();
   }
 
   const data::CItem& c() { return editeur->Dossier().ItemContrat; }
   // Key of the contract that stands on the screen, or was just created.
   const std::string& cle() { return editeur->Dossier().CleContratCourant; }
+
+  data::CItem fiche(const std::string& cleContrat = "00001001") {
+    return db.OpenFile("CONTRAT").Read(cleContrat);
+  }
+  bool existe(const char* fichier, const std::string& cleArticle) {
+    data::CItem item;
+    return db.OpenFile(fichier).Lire(cleArticle, item);
+  }
+  // Attributes parted by blanks, their values by "|": of a stored contract, of the one in hand.
+  static std::string lisible(const data::CItem& item, const std::vector<int>& attributs) {
+    std::string texte;
+    for (const int a : attributs) texte += (a == attributs.front() ? "" : " ") + item(a);
+    std::replace(texte.begin(), texte.end(), data::SepValeur, '|');
+    return texte;
+  }
+  std::string stocke(const std::vector<int>& attributs) { return lisible(fiche(), attributs); }
+  std::string lu(const std::vector<int>& attributs) { return lisible(c(), attributs); }
 
   // Fields by name; one that does not exist ends the test.
   template <class Champ>

@@ -22,7 +22,7 @@ class Fin : public Editeur {
                            {C::DateEffet, jour("01/03/2024")},
                            {C::OrganismeRetraite, "001A"}});
     ouvrirContrat(complet(autres));
-    screen::User(*editeur).Onglet(editeur->Ong_Contrat, editor::FinContrat);
+    onglet(editor::FinContrat);
   }
   // An end of which all stands on file: a dismissal with two months paid.
   static Attributs Licencie() {

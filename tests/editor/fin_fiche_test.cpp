@@ -32,54 +32,40 @@ class FinFiche : public essai::Fin {
                               C::OrganismeRetraite};
 };
 
+// Notified on 15/08/2026; "" for a reason without notice.
 TEST_F(FinFiche, LaNotificationEtLeMotifDonnentLaFinEtLePreavis) {
-  article("INFOSAIDANT", "00001", {});
+  const auto anciennete = [](const char* suspension) {
+    return Attributs{{C::DateAnciennete, jour("10/08/2024")},
+                     {C::JoursSuspensionAnciennete, suspension}};
+  };
+  // The grid of the last amendment: an executive's.
+  const Attributs cadre{{C::Avenant, valeurs("0|01")},
+                        {C::DateEffet, valeurs(jour("01/03/2024") + "|" + jour("01/01/2026"))},
+                        {C::Grille, valeurs("01A|01G")}};
+  const Attributs handicape{{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}};
   const struct {
-    const char *notification, *motif;
-    Attributs contrat;
-    Attributs infos;
-    const char* fin;
+    const char* motif;
+    Attributs contrat, infos;
+    std::string fin;
   } cas[] = {
-      {"15/08/2026", "Licenciement", {}, {}, "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
+      {"Licenciement", {}, {}, "14/10/2026"},
       // A single month of seniority less than two years: from the seniority date, suspension added.
-      {"15/08/2026",
-       "Licenciement",
-       {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "650"}},
-       {},
-       "14/09/2026, payé 15/08/2026-14/09/2026, août 2026"},
-      {"15/08/2026",
-       "Licenciement",
-       {{C::DateAnciennete, jour("10/08/2024")}, {C::JoursSuspensionAnciennete, "550"}},
-       {},
-       "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
-      // The grid of the last amendment: an executive's.
-      {"15/08/2026",
-       "Licenciement",
-       {{C::Avenant, valeurs("0|01")},
-        {C::DateEffet, valeurs(jour("01/03/2024") + "|" + jour("01/01/2026"))},
-        {C::Grille, valeurs("01A|01G")}},
-       {},
-       "14/12/2026, payé 15/08/2026-14/12/2026, août 2026"},
-      {"15/08/2026",
-       "Licenciement",
-       {},
-       {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
-       "14/11/2026, payé 15/08/2026-14/11/2026, août 2026"},
-      {"15/08/2026",
-       "Faute",
-       {},
-       {{6, jour("01/01/2026")}, {10, "01"}, {11, jour("31/12/2026")}},
-       "14/10/2026, payé 15/08/2026-14/10/2026, août 2026"},
-      {"15/08/2026", "Démission", {}, {}, ", -, "},
-      {"15/08/2026", "Rupture conventionnelle", {}, {}, ", -, "},
+      {"Licenciement", anciennete("650"), {}, "14/09/2026"},
+      {"Licenciement", anciennete("550"), {}, "14/10/2026"},
+      {"Licenciement", cadre, {}, "14/12/2026"},
+      {"Licenciement", {}, handicape, "14/11/2026"},
+      {"Faute", {}, handicape, "14/10/2026"},
+      {"Démission", {}, {}, ""},
+      {"Rupture conventionnelle", {}, {}, ""},
   };
   article("GRILLESCC", "01A", {{1, "A"}, {7, "A"}});
   article("GRILLESCC", "01G", {{1, "G"}, {7, "G"}});
-  for (const auto& [notification, motif, contrat, infos, attendu] : cas) {
+  for (const auto& [motif, contrat, infos, attendu] : cas) {
     article("INFOSAIDANT", "00001", infos);
     ouvrirFin(contrat);
-    notifier(notification, motif);
-    EXPECT_EQ(fin(), attendu) << motif;
+    notifier("15/08/2026", motif);
+    EXPECT_EQ(fin(),
+              attendu.empty() ? ", -, " : attendu + ", payé 15/08/2026-" + attendu + ", août 2026");
     EXPECT_EQ(messages(), "") << motif;
   }
 }
@@ -113,9 +99,7 @@ TEST_F(FinFiche, VisiterLOngletNeChangeRien) {
                                    {C::PrimePrecarite, "1"}};
   for (const auto& fiche : {Licencie(), douteux, sansNotification, Attributs{}}) {
     ouvrirFin(fiche);
-    cliquer(editeur->Cmd_Retour);
-    EXPECT_EQ(messages(), "");
-    EXPECT_FALSE(editeur->Visible());
+    sortir();
   }
 }
 
@@ -124,21 +108,8 @@ TEST_F(FinFiche, SansNotificationLaFinSurFichierComptePourLesRegles) {
   ouvrirFin({{C::DateFin, jour("30/09/2026")}, {C::DernierBulletin, "202609"}});
   EXPECT_EQ(txt("DateFinContrat").Text(), "");
   EXPECT_EQ(hote.indications.Prendre().size(), 1u);
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin), jour("30/09/2026"));
-}
-
-TEST_F(FinFiche, ViderLaNotificationAnnuleLaFinEnEntier) {
-  ouvrirFin(Licencie());
-  remplir(txt("DatNotifContrat"), "");
-  EXPECT_EQ(fin(), ", -, ");
-  EXPECT_EQ(cbo("MotifFinContrat").ListIndex(), -1);
-  EXPECT_FALSE(txt("DateFinContrat").Enabled() || cbo("MotifFinContrat").Enabled());
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
-  for (const int a : Tout) EXPECT_EQ(ecrit(a), a == C::OrganismeRetraite ? "001A" : "") << a;
+  enregistrer();
+  EXPECT_EQ(fiche()(C::DateFin), jour("30/09/2026"));
 }
 
 TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
@@ -154,15 +125,11 @@ TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
   remplir(txt("DebEffContrat"), "16/08/2026");
   remplir(txt("FinEffContrat"), "14/10/2026");
   cliquer(cac("CalcIndLic"));
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "");
-  const auto ecrit = db.OpenFile("CONTRAT").Read("00001001");
-  std::string texte;
-  for (const int a : Tout) texte += ecrit(a) + " ";
-  EXPECT_EQ(texte, jour("14/10/2026") + " 11 " + jour("15/08/2026") + " " + jour("20/08/2026") +
-                       " 0   " + jour("16/08/2026") + " " + jour("14/10/2026") +
-                       " Dispense 202608 " + valeurs("|Deuxième") + " " + jour("31/10/2026") +
-                       " Économique    0 001A ");
+  enregistrer();
+  EXPECT_EQ(stocke(Tout), jour("14/10/2026") + " 11 " + jour("15/08/2026") + " " +
+                              jour("20/08/2026") + " 0   " + jour("16/08/2026") + " " +
+                              jour("14/10/2026") + " Dispense 202608 " + "|Deuxième" + " " +
+                              jour("31/10/2026") + " Économique    0 001A");
   EXPECT_EQ(db.OpenFile("DSNEVENEMENT").Read("00001001")(2), "1");
 }
 
@@ -267,23 +234,19 @@ TEST_F(FinFiche, LeDernierBulletinSeChoisitParMois) {
 TEST_F(FinFiche, LesDatesNePrecedentPasLeDebut) {
   ouvrirFin(Licencie());
   const struct {
-    const char *champ, *texte, *message;
-  } cas[] = {
-      {"DatNotifContrat", "29/02/2024",
-       "Erreur la date de notification de licenciement / démission ne peut être inférieure à la "
-       "date de début du contrat, veuillez la ressaisir."},
-      {"DernJrWContrat", "29/02/2024",
-       "Erreur la date du dernier jour travaillé ne peut être inférieure à la date de début du "
-       "contrat, veuillez la ressaisir."},
-      {"FinReelle", "29/02/2024",
-       "Erreur la date de fin réelle ne peut être inférieure à la date de début du contrat, "
-       "veuillez la ressaisir."},
-      {"DernJrWContrat", "32/01/2026", ""},
-      {"DebPayeContrat", "xx", ""},
-  };
-  for (const auto& [nom, texte, message] : cas) {
+    const char *champ, *texte, *date;  // "" for what is no date, and holds the focus without a word
+  } cas[] = {{"DatNotifContrat", "29/02/2024", "de notification de licenciement / démission"},
+             {"DernJrWContrat", "29/02/2024", "du dernier jour travaillé"},
+             {"FinReelle", "29/02/2024", "de fin réelle"},
+             {"DernJrWContrat", "32/01/2026", ""},
+             {"DebPayeContrat", "xx", ""}};
+  for (const auto& [nom, texte, date] : cas) {
     remplir(txt(nom), texte);
-    EXPECT_EQ(messages(), message) << nom;
+    EXPECT_EQ(messages(), *date == '\0'
+                              ? ""
+                              : std::string("Erreur la date ") + date +
+                                    " ne peut être inférieure à la date de début du contrat, "
+                                    "veuillez la ressaisir.");
     EXPECT_EQ(actif(), std::string("Txt_") + nom);
     taper(txt(nom), "01/09/2026");
   }
@@ -295,14 +258,6 @@ TEST_F(FinFiche, UnParticulierEmployeurNADeRetraiteQueLaSienne) {
   remplir(txt("DateFinContrat"), "31/08/2026");
   EXPECT_EQ(cbo("OrgRetraite").Text() + txt("OrgRetraite").Text(), "IRCEMIRCEM");
   EXPECT_FALSE(cbo("OrgRetraite").Enabled());
-}
-
-TEST_F(FinFiche, UnAidantSupprimeGardeSaDateDeFin) {
-  session.EtatSuppAidant = true;
-  ouvrirFin(Licencie());
-  EXPECT_FALSE(txt("DateFinContrat").Enabled());
-  remplir(txt("DatNotifContrat"), "20/08/2026");
-  EXPECT_FALSE(txt("DateFinContrat").Enabled());
 }
 
 }  // namespace

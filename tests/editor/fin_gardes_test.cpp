@@ -29,62 +29,30 @@ class FinGardes : public essai::Fin {
     return messages();
   }
   std::string etat() {
-    data::CItem evenement;
-    const bool declare = db.OpenFile("DSNEVENEMENT").Lire("00001001", evenement);
-    const auto supprime = db.OpenFile("CONTRAT").Read("00001001");
+    const bool declare = existe("DSNEVENEMENT", "00001001");
+    const auto supprime = fiche();
     return supprime(C::Annule) + "/" + supprime(C::CongesReprisDe) + "/" +
-           db.OpenFile("CONTRAT").Read("00001003")(C::CongesReportesSur) +
-           (declare ? "/declare" : "/");
+           fiche("00001003")(C::CongesReportesSur) + (declare ? "/declare" : "/");
   }
   const std::string Intact = "/00001003/00001001/declare";
   const std::string Question = "Etes-vous sûr de vouloir supprimer ce contrat ?";
 };
 
-TEST_F(FinGardes, LaSuppressionEstRefuseePourChaqueRaison) {
+// The refusals of payroll, of an opposition and of indirect work, and the answer No, are
+// supprimer.scenario's.
+TEST_F(FinGardes, LePlanningRefuseLaSuppressionOuNeComptePas) {
   session.OptionCompteur999 = true;
-  const struct {
-    const char *fichier, *cle;
-    Attributs article;
-    std::string message;
-  } cas[] = {
-      {"DETAILPREST",
-       "00001001202403",
-       {{1, "x"}},
-       "Suppression impossible du contrat car des traitements ont été effectués sur celui-ci."},
-      {"OPPOSITION",
-       "00001001A",
-       {{1, "x"}},
-       Question + "|Il existe une opposition sur ce contrat, impossible de supprimer ce contrat."},
-      {"TPSDETAILSINTERV",
-       "000010000821500001DOM00830",
-       {{2, "1000"}},
-       Question +
-           "|Impossible de supprimer ce contrat car des interventions ont été saisies dans le menu "
-           "Planning.\r\n"},
-      {"TPSMOI",
-       "1",
-       {{4, "00001001"}},
-       Question +
-           "|Impossible de supprimer ce contrat car de la Main d'Oeuvre Indirecte a été saisie "
-           "dans le menu Planning.\r\n"},
-  };
-  for (const auto& [fichier, cle, contenu, message] : cas) {
-    article(fichier, cle, contenu);
-    ouvrirASupprimer();
-    EXPECT_EQ(supprimer(), message);
-    EXPECT_EQ(etat(), Intact) << fichier;
-    EXPECT_TRUE(editeur->Visible() && editeur->Enabled() && !hote.curseur.EnAttente());
-    EXPECT_EQ(cmd("SupprimerContrat").Visible(), !std::string(fichier).starts_with("TPS"));
-    db.OpenFile(fichier).DeleteItem(cle);
-    hote.messages = {};
-  }
-  // Without the planning, its records count for nothing; the answer No keeps the contract.
-  session.OptionCompteur999 = false;
-  article("TPSMOI", "1", {{4, "00001001"}});
+  article("TPSDETAILSINTERV", "000010000821500001DOM00830", {{2, "1000"}});
   ouvrirASupprimer();
-  hote.messages.Repondre(Reponse::Non);
-  cliquer(cmd("SupprimerContrat"));
-  EXPECT_EQ(messages() + etat(), Question + Intact);
+  EXPECT_EQ(supprimer(),
+            Question +
+                "|Impossible de supprimer ce contrat car des interventions ont été saisies dans le "
+                "menu Planning.\r\n");
+  EXPECT_EQ(etat(), Intact);
+  EXPECT_TRUE(rendu() && !cmd("SupprimerContrat").Visible());
+  // Without the planning, its records count for nothing.
+  session.OptionCompteur999 = false;
+  ouvrirASupprimer();
   EXPECT_EQ(supprimer(), Question + "|Le contrat 00001001 a été supprimé.");
   EXPECT_FALSE(editeur->Visible());
   EXPECT_EQ(etat(), "O///");
@@ -100,7 +68,7 @@ TEST_F(FinGardes, UneSuppressionInterrompueNaRienSupprime) {
     EXPECT_THROW(cliquer(cmd("SupprimerContrat")), data::StoreError) << n;
     EXPECT_EQ(etat(), Intact) << n;
     EXPECT_EQ(messages(), Question);
-    EXPECT_TRUE(editeur->Visible() && editeur->Enabled() && !hote.curseur.EnAttente());
+    EXPECT_TRUE(rendu());
     stockage->EchouerEcriture(0);
     EXPECT_EQ(supprimer(), Question + "|Le contrat 00001001 a été supprimé.");
     EXPECT_EQ(etat(), "O///") << n;
@@ -124,15 +92,10 @@ TEST_F(FinGardes, UneFinNePrecedePasLaPaieSurLesDeuxChemins) {
       remplir(txt("DateFinContrat"), "31/08/2026");
       remplir(txt("DernJrWContrat"), "31/08/2026");
       if (pas > 0) screen::User(*editeur).Barre(champ<screen::UpDown>("Bdh_Bulletin"), -pas);
-      if (ok) {
-        cliquer(cmd("OK"));
-      } else {
-        quitter(Reponse::Oui);
-      }
+      confirmer(ok);
       EXPECT_EQ(messages().ends_with(refus), refuse) << mois << pas << ok;
       EXPECT_EQ(editeur->Visible(), refuse);
-      EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin),
-                refuse ? "" : jour("31/08/2026"));
+      EXPECT_EQ(fiche()(C::DateFin), refuse ? "" : jour("31/08/2026"));
       db.OpenFile("DETAILCALCUL").DeleteItem(std::string("00001001") + mois);
       hote.messages = {};
     }
@@ -185,9 +148,8 @@ TEST_F(FinGardes, UneFinInterrompuePuisReprise) {
     preparer();
     stockage->EchouerEcriture(n);
     EXPECT_THROW(enregistrer(), data::StoreError) << n;
-    EXPECT_TRUE(editeur->Visible() && editeur->Enabled() && !hote.curseur.EnAttente()) << n;
-    EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin),
-              jour(n <= 3 ? "14/10/2026" : "13/10/2026"));
+    EXPECT_TRUE(rendu()) << n;
+    EXPECT_EQ(fiche()(C::DateFin), jour(n <= 3 ? "14/10/2026" : "13/10/2026"));
     stockage->EchouerEcriture(0);
     hote.modales = {};
     // What the planning had to lose is gone: no report the second time.
@@ -204,21 +166,13 @@ TEST_F(FinGardes, UneFinNeChevauchePasUnAutreContrat) {
     contrat("00001002", {{C::DateDebut, jour("01/11/2026")}});
     ouvrirFin(Licencie());
     remplir(txt("DateFinContrat"), "01/11/2026");
-    if (ok) {
-      cliquer(cmd("OK"));
-    } else {
-      quitter(Reponse::Oui);
-    }
+    confirmer(ok);
     EXPECT_NE(messages().find("2 contrats ont "), std::string::npos) << ok;
-    EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin), jour("14/10/2026"));
+    EXPECT_EQ(fiche()(C::DateFin), jour("14/10/2026"));
     EXPECT_EQ(txt("DernBullContrat").Text(), ok ? "novembre 2026" : "");
     // The notification emptied: no end any more.
     remplir(txt("DatNotifContrat"), "");
-    if (ok) {
-      cliquer(cmd("OK"));
-    } else {
-      quitter(Reponse::Oui);
-    }
+    confirmer(ok);
     EXPECT_NE(messages().find(ok ? "se chevauchent" : "se retrouvent sans date de fin"),
               std::string::npos);
     hote.messages = {};

@@ -54,12 +54,9 @@ class FinPlanning : public essai::Fin {
                           .Lire("0000100007" + jour(debut) + "001DOM" + j + "0830", i);
       texte += (la ? session.Lib.DateFromInternal(i(1)) : "-") + "/";
     }
-    data::CItem marque;
-    return texte + (db.OpenFile("TPSSANSCONTRAT").Lire("00001001", marque) ? "sans" : "");
+    return texte + (existe("TPSSANSCONTRAT", "00001001") ? "sans" : "");
   }
-  std::string finStockee() {
-    return session.Lib.DateFromInternal(db.OpenFile("CONTRAT").Read("00001001")(C::DateFin));
-  }
+  std::string finStockee() { return session.Lib.DateFromInternal(fiche()(C::DateFin)); }
 
   std::string rapport;
 };
@@ -77,11 +74,7 @@ TEST_F(FinPlanning, ChaqueReponseDuRapport) {
       db.OpenFile("TPSSANSCONTRAT").DeleteItem("00001001");
       raccourcir(type);
       repondre(bouton);
-      if (ok) {
-        cliquer(cmd("OK"));
-      } else {
-        quitter(Reponse::Oui);
-      }
+      confirmer(ok);
       messages();
       EXPECT_EQ(planning(), attendu) << type << bouton << ok;
       EXPECT_EQ(finStockee(), fin) << type << bouton << ok;
@@ -99,13 +92,7 @@ TEST_F(FinPlanning, ChaqueReponseDuRapport) {
 // A new contract that does not frame what is planned: the user stays, or goes on.
 TEST_F(FinPlanning, UneCreationDitCeQuElleNEncadrePas) {
   planifier();
-  creer();
-  taper(txt("ConvColContrat"), "01");
-  taper(txt("AssocContrat"), "001");
-  taper(txt("EmplEtabContrat"), "001");
-  remplir(txt("DatDebContrat"), "01/09/2026");
-  caracteriser();
-  payer();
+  creerContrat("01/09/2026");
   repondre("Cmd_Annuler");
   cliquer(cmd("OK"));
   EXPECT_TRUE(editeur->Visible() && editeur->Enabled());

@@ -1,5 +1,6 @@
 // The checks of the last tab: each of them, alone.
 
+#include "data/texte.h"
 #include "editor/fin_essai.h"
 
 namespace {
@@ -9,72 +10,49 @@ namespace C = data::Contrat;
 
 class FinVerif : public essai::Fin {};
 
+// What is typed into a sound end: "field=text", parted by blanks.
 TEST_F(FinVerif, ChaqueVerificationARaisonDunSeulDefaut) {
+  const char *const notif = "Txt_DatNotifContrat", *const jourTravaille = "Txt_DernJrWContrat";
+  const char *const du = "Txt_DebPayeContrat", *const au = "Txt_FinPayeContrat";
   const struct {
-    const char* nom;
-    std::vector<std::pair<const char*, const char*>> saisies;
-    std::string message;
+    const char* saisies;
+    const char* message;
     const char* focus;
   } cas[] = {
-      {"sound", {}, "", ""},
-      {"1",
-       {{"DateFinContrat", ""}},
+      {"", "", ""},
+      {"Txt_DateFinContrat=",
        "La date de notification est renseignée, mais pas la date de fin.\r\nVous devez supprimer "
-       "la date de notification ou terminer la saisie de fin du contrat.",
-       "Txt_DatNotifContrat"},
-      {"2",
-       {{"DateFinContrat", "29/02/2024"}},
+       "la "
+       "date de notification ou terminer la saisie de fin du contrat.",
+       notif},
+      {"Txt_DateFinContrat=29/02/2024",
        "La date de fin de contrat doit être supérieure à la date de début de contrat.",
        "Txt_DateFinContrat"},
-      {"8",
-       {{"DateFinContrat", "14/08/2026"}, {"DernJrWContrat", "10/08/2026"}},
-       "La date de notification ne peut être supérieure à la date de fin de contrat.",
-       "Txt_DatNotifContrat"},
-      {"9",
-       {{"DernJrWContrat", ""}},
-       "Le dernier jour travaillé est obligatoire.",
-       "Txt_DernJrWContrat"},
-      {"10",
-       {{"DernJrWContrat", "15/10/2026"}},
+      {"Txt_DateFinContrat=14/08/2026 Txt_DernJrWContrat=10/08/2026",
+       "La date de notification ne peut être supérieure à la date de fin de contrat.", notif},
+      {"Txt_DernJrWContrat=", "Le dernier jour travaillé est obligatoire.", jourTravaille},
+      {"Txt_DernJrWContrat=15/10/2026",
        "La date du dernier jour travaillé ne peut être supérieure à la date de fin de contrat.",
-       "Txt_DernJrWContrat"},
-      {"13",
-       {{"DebPayeContrat", "02/10/2026"}, {"FinPayeContrat", "01/10/2026"}},
-       "La date de début de préavis ne peut être supérieure à la date de fin de préavis.",
-       "Txt_DebPayeContrat"},
-      {"14",
-       {{"DebPayeContrat", "29/02/2024"}},
-       "La date de début du préavis ne peut être inférieure à la date de début de contrat.",
-       "Txt_DebPayeContrat"},
-      {"15",
-       {{"FinPayeContrat", "15/10/2026"}},
-       "La date de fin du préavis ne peut être supérieure à la date de fin de contrat.",
-       "Txt_FinPayeContrat"},
-      {"16",
-       {{"FinPayeContrat", ""}},
-       "La date de fin du préavis doit être renseignée.",
-       "Txt_FinPayeContrat"},
-      {"17",
-       {{"DebPayeContrat", ""}},
-       "La date de début du préavis doit être renseignée.",
-       "Txt_DebPayeContrat"},
-      {"18",
-       {{"Cbo_OrgRetraite", ""}},
-       "L'organisme de retraite est obligatoire.",
-       "Cbo_OrgRetraite"},
+       jourTravaille},
+      {"Txt_DebPayeContrat=02/10/2026 Txt_FinPayeContrat=01/10/2026",
+       "La date de début de préavis ne peut être supérieure à la date de fin de préavis.", du},
+      {"Txt_DebPayeContrat=29/02/2024",
+       "La date de début du préavis ne peut être inférieure à la date de début de contrat.", du},
+      {"Txt_FinPayeContrat=15/10/2026",
+       "La date de fin du préavis ne peut être supérieure à la date de fin de contrat.", au},
+      {"Txt_FinPayeContrat=", "La date de fin du préavis doit être renseignée.", au},
+      {"Txt_DebPayeContrat=", "La date de début du préavis doit être renseignée.", du},
+      {"Cbo_OrgRetraite=", "L'organisme de retraite est obligatoire.", "Cbo_OrgRetraite"},
   };
-  for (const auto& [nom, saisies, message, focus] : cas) {
+  for (const auto& [saisies, message, focus] : cas) {
     ouvrirFin(Licencie());
-    for (const auto& [champ, texte] : saisies) {
-      if (std::string(champ).starts_with("Cbo_")) {
-        remplir(cbo(champ + 4), texte);
-      } else {
-        remplir(txt(champ), texte);
-      }
+    for (const std::string& saisie : data::mots(saisies)) {
+      const auto egal = saisie.find('=');
+      remplir(*editeur->Find(saisie.substr(0, egal)), saisie.substr(egal + 1));
     }
     cliquer(cmd("OK"));
-    EXPECT_EQ(messages(), message) << nom;
-    EXPECT_EQ(editeur->Visible() ? actif() : "", focus) << nom;
+    EXPECT_EQ(messages(), message) << saisies;
+    EXPECT_EQ(editeur->Visible() ? actif() : "", focus) << saisies;
   }
 }
 
@@ -115,8 +93,7 @@ TEST_F(FinVerif, LeMotifEtLaPeriodeSontObligatoires) {
   fiche = Licencie();
   fiche[C::DernierBulletin] = "";
   ouvrirFin(fiche);
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(), "La période du dernier bulletin est obligatoire.");
+  refuse("La période du dernier bulletin est obligatoire.");
   auto& spin = champ<screen::UpDown>("Bdh_Bulletin");
   EXPECT_EQ(spin.Min(), -4);
   screen::User(*editeur).Barre(spin, -1);
@@ -124,10 +101,7 @@ TEST_F(FinVerif, LeMotifEtLaPeriodeSontObligatoires) {
 
   fiche[C::DernierBulletin] = "202611";
   ouvrirFin(fiche);
-  cliquer(cmd("OK"));
-  EXPECT_EQ(messages(),
-            "La période du dernier bulletin doit être inférieure ou égale au mois de la date de "
-            "fin.");
+  refuse("La période du dernier bulletin doit être inférieure ou égale au mois de la date de fin.");
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ namespace C = data::Contrat;
 
 class Declaration : public essai::Editeur {
  protected:
-  std::string noteSurLeDisque(const std::string& cle) {
-    return db.OpenFile("CONTRAT").Read(cle)(C::DateDeclaration);
+  std::string declaree(const std::string& cle = "00001001") {
+    return fiche(cle)(C::DateDeclaration);
   }
   std::size_t imprimes() const { return hote.imprimante.Documents().size(); }
   // The pages of the last document and whether that text stands on one of them.
@@ -40,76 +40,46 @@ TEST_F(Declaration, ElleSImprimeSelonLaConventionEtDateLeContrat) {
     EXPECT_EQ(cliquer(cmd("DPAE")), Acte::Fait);
     EXPECT_EQ(pages(), c.pages);
     EXPECT_TRUE(porte(c.employeur) && porte("DURAND")) << c.bouton;
-    EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
+    EXPECT_EQ(declaree(), "21511");
     // Nothing is left to be saved.
-    cliquer(editeur->Cmd_Retour);
-    EXPECT_EQ(messages(), "");
-    EXPECT_FALSE(editeur->Visible());
+    sortir();
   }
 }
 
-TEST_F(Declaration, ElleNEnregistrePasCeQuiEstASaisie) {
-  ouvrirContrat();
-  remplir(txt("PerEssaiContrat"), "30");
-  cliquer(cmd("DPAE"));
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
-  quitter(screen::Reponse::Oui);
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "30");
-  EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
-}
-
-TEST_F(Declaration, CellePourQuiOnRenonceNeSImprimePas) {
+// What was given up, or did not come onto paper, is not declared; the next try is a document of its
+// own.
+TEST_F(Declaration, CeQuiNEstPasImprimeNEstPasDeclare) {
   ouvrirContrat();
   hote.modales.Prevoir(
       [](screen::Form& form) { screen::User(form).Cliquer(*form.Find("Cmd_Annuler")); });
   cliquer(cmd("DPAE"));
   EXPECT_EQ(imprimes(), 0U);
-  EXPECT_EQ(noteSurLeDisque("00001001"), "");
-  EXPECT_TRUE(editeur->Visible());
-}
-
-// What did not come onto paper is not declared; the next try is a document of its own.
-TEST_F(Declaration, UneImprimanteEnPanneNeDateRien) {
-  ouvrirContrat();
+  EXPECT_EQ(declaree(), "");
   hote.imprimante.panne = "Le document ne peut pas être écrit : Impression.pdf.";
   cliquer(cmd("DPAE"));
   EXPECT_EQ(messages(), "Le document ne peut pas être écrit : Impression.pdf.");
-  EXPECT_EQ(noteSurLeDisque("00001001"), "");
-  EXPECT_FALSE(hote.curseur.EnAttente());
-  EXPECT_TRUE(editeur->Enabled());
+  EXPECT_EQ(declaree(), "");
+  EXPECT_TRUE(rendu());
   cliquer(cmd("DPAE"));
   EXPECT_EQ(pages(), 2U);
-  EXPECT_EQ(noteSurLeDisque("00001001"), "21511");
+  EXPECT_EQ(declaree(), "21511");
 }
 
 // A new contract of a private employer declares itself; that its printing fails does not undo it.
 TEST_F(Declaration, UnParticulierEmployeurDeclareALEnregistrement) {
   for (const char* const panne : {"", "Plus de papier."}) {
-    creer();
+    creerContrat("01/12/2026", "02", *panne == '\0' ? "00007" : "00008", "5");
     EXPECT_FALSE(cmd("DPAE").Visible());
-    taper(txt("ConvColContrat"), "02");
-    taper(txt("AssocContrat"), "001");
-    taper(txt("EmplEtabContrat"), *panne == '\0' ? "00007" : "00008");
-    remplir(txt("DatDebContrat"), "01/12/2026");
-    caracteriser("5");
-    payer();
     hote.imprimante.panne = panne;
-    cliquer(editeur->Cmd_OK);
+    cliquer(cmd("OK"));
     EXPECT_EQ(messages(), panne);
     EXPECT_TRUE(editeur->Cree());
-    EXPECT_EQ(noteSurLeDisque(cle()), *panne == '\0' ? "21511" : "");
+    EXPECT_EQ(declaree(cle()), *panne == '\0' ? "21511" : "");
     EXPECT_EQ(imprimes(), 1U);
     EXPECT_TRUE(porte("MARTIN"));
   }
-  creer();
-  taper(txt("ConvColContrat"), "01");
-  taper(txt("AssocContrat"), "001");
-  taper(txt("EmplEtabContrat"), "001");
-  remplir(txt("DatDebContrat"), "01/12/2027");
-  caracteriser("5");
-  payer();
-  cliquer(editeur->Cmd_OK);
-  EXPECT_EQ(messages(), "");
+  creerContrat("01/12/2027", "01", "001", "5");
+  enregistrer();
   EXPECT_EQ(imprimes(), 1U);
 }
 
@@ -220,7 +190,7 @@ TEST_F(Lettre, UneConsultationNEnregistreRien) {
   taper(txt("PerEssaiContrat"), "30");
   cliquer(editeur->Cmd_ImpContrat);
   EXPECT_TRUE(journal(controle).ends_with("Imprimer()"));
-  EXPECT_EQ(db.OpenFile("CONTRAT").Read("00001001")(C::PeriodeEssai), "");
+  EXPECT_EQ(fiche()(C::PeriodeEssai), "");
 }
 
 }  // namespace

@@ -17,7 +17,6 @@ class Paie : public Editeur {
     article("TABLES", "CARTEORANGE", {{2, valeurs("1|2")}, {3, valeurs("Zones 1 et 2|Zone 3")}});
   }
 
-  void onglet(int numero) { screen::User(*editeur).Onglet(editeur->Ong_Contrat, numero); }
   // The contract 00001001, shown on the pay tab.
   void ouvrirPaie(const Attributs& autres = {}) {
     ouvrirContrat(autres);
