@@ -23,7 +23,7 @@ class Valeurs {
   bool Reste() const { return !fini_; }
   std::string Suivante() {
     const auto fin = reste_.find(SepValeur);
-    const std::string valeur(reste_.substr(0, fin));
+    std::string valeur(reste_.substr(0, fin));
     fini_ = fin == std::string_view::npos;
     reste_.remove_prefix(fini_ ? reste_.size() : fin + 1);
     return valeur;

@@ -69,7 +69,10 @@ std::optional<long long> toInteger(bool negatif, std::string_view chiffres) {
 }  // namespace
 
 std::optional<NombreEcrit> lireNombre(std::string_view texte) {
-  std::string reste = sansBlancs(blancsSimples(texte));
+  // As records hold it, without a blank of any kind: nothing is to be taken away.
+  const bool serre = std::all_of(texte.begin(), texte.end(),
+                                 [](char c) { return estChiffre(c) || isSeparator(c); });
+  std::string reste = serre ? std::string(texte) : sansBlancs(blancsSimples(texte));
   NombreEcrit d;
   if (!reste.empty() && (reste[0] == '-' || reste[0] == '+')) {
     d.negatif = reste[0] == '-';

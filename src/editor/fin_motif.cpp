@@ -78,15 +78,13 @@ void MotifFin::Cbo_MotifFinContrat_DropDown() {
   if (!motifs_.Vide()) return;
   data::CItem table;
   editeur_.Session().F_TABLES.Lire(data::Tables::FinContrat, table);
-  const auto tous = data::ListeCodes::DeTable(table, data::Tables::Codes, data::Tables::Libelles,
-                                              data::Tables::FinObsoletes);
+  const auto tous = data::ListeCodes::DeTable(table, data::Tables::Codes, data::Tables::Libelles);
   const std::string actuel = editeur_.Dossier().Initial(C::MotifFin);
   std::vector<data::ListeCodes::Ligne> lignes;
   lignes.reserve(tous.Lignes().size());
-  for (const auto& motif : tous.Lignes()) {
-    const bool obsolete = motif.suite.front() == "O";
-    if (!obsolete || (!actuel.empty() && motif.code == actuel))
-      lignes.push_back({motif.code, motif.libelle, {}});
+  for (int v = 1; const auto& motif : tous.Lignes()) {
+    const bool obsolete = table.Vue(data::Tables::FinObsoletes, v++) == "O";
+    if (!obsolete || (!actuel.empty() && motif.code == actuel)) lignes.push_back(motif);
   }
   motifs_ = data::ListeCodes(std::move(lignes));
   const session::Sourdine::Silence silence(sourdine_);

@@ -186,6 +186,7 @@ void SaisieRepartition::FermerLigne() {
 // What is there of the whole, the share being typed included, and what is missing of it.
 void SaisieRepartition::Maj_Total() {
   const auto tapee = data::enUnites(champs_.Txt_RepartActContrat.Text(), 2).value_or(0);
+  if (lignes_.Nombre() == 0 && tapee == 0) return champs_.Etq_TotalRepart.SetLibelle("");
   long long total = lignes_.Total() + tapee;
   if (choisie_ >= 0 && champs_.Txt_RepartActContrat.Enabled()) {
     total -= data::enUnites(lignes_.Part(choisie_), 2).value_or(0);
@@ -197,7 +198,7 @@ void SaisieRepartition::Maj_Total() {
   std::string texte = "Total : " + percent(total);
   if (reste > 0) texte += " (il manque " + percent(reste) + ")";
   if (reste < 0) texte += " (" + percent(-reste) + " de trop)";
-  champs_.Etq_TotalRepart.SetLibelle(lignes_.Nombre() == 0 && tapee == 0 ? "" : texte);
+  champs_.Etq_TotalRepart.SetLibelle(texte);
 }
 
 // Entry.

@@ -1,7 +1,11 @@
 #include "session/zones.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "data/monnaie.h"
 #include "data/nombre.h"
+#include "data/texte.h"
 
 namespace session {
 
@@ -33,13 +37,37 @@ std::string puissance(int echelle) {
   return "1" + std::string(static_cast<std::size_t>(echelle), '0');
 }
 
+// Digits alone, as records hold a number, with the separator put in its place; nothing for any
+// other text, nor where decimals would be lost.
+std::optional<std::string> decimalesPlacees(std::string_view texte, int echelle, int apres,
+                                            std::string_view separateur) {
+  const bool negatif = texte.starts_with('-');
+  std::string_view chiffres = texte.substr(negatif ? 1 : 0);
+  if (chiffres.empty() || echelle > apres ||
+      !std::all_of(chiffres.begin(), chiffres.end(), data::estChiffre)) {
+    return std::nullopt;
+  }
+  chiffres.remove_prefix(std::min(chiffres.find_first_not_of('0'), chiffres.size()));
+  std::string resultat(chiffres);
+  const auto decimales = static_cast<std::size_t>(echelle);
+  if (resultat.size() <= decimales) resultat.insert(0, decimales + 1 - resultat.size(), '0');
+  resultat.append(static_cast<std::size_t>(apres - echelle), '0');
+  if (apres > 0) resultat.insert(resultat.size() - static_cast<std::size_t>(apres), separateur);
+  if (negatif && !chiffres.empty()) resultat.insert(0, 1, '-');
+  return resultat;
+}
+
 // What is no number stays as it is, so that a wrong record is seen.
 std::string nombreAffiche(const data::Lib& lib, const Zone& zone, const std::string& texte) {
-  if (texte.size() > ChiffresMax || !data::estNombre(texte)) return texte;
-  const std::string valeur =
-      (data::Monnaie::DeTexte(texte) / data::Monnaie::DeTexte(puissance(zone.echelle)))
-          .Texte(zone.nombre.apres, lib.DecimalSeparator());
-  return formater(lib, valeur, zone.nombre).value_or(valeur);
+  if (texte.size() > ChiffresMax) return texte;
+  const std::string separateur = lib.DecimalSeparator();
+  auto valeur = decimalesPlacees(texte, zone.echelle, zone.nombre.apres, separateur);
+  if (!valeur) {
+    if (!data::estNombre(texte)) return texte;
+    valeur = (data::Monnaie::DeTexte(texte) / data::Monnaie::DeTexte(puissance(zone.echelle)))
+                 .Texte(zone.nombre.apres, separateur);
+  }
+  return formater(lib, *valeur, zone.nombre).value_or(*valeur);
 }
 
 std::string nombreEcrit(const data::Lib& lib, const Zone& zone, const std::string& texte) {

@@ -12,11 +12,14 @@ namespace {
 namespace C = data::Contrat;
 namespace fichier = data::fichier;
 
-// Payroll has been through every month of the contract up to the last one that it has closed.
+// Payroll has been through every month of the contract up to the last one that it has closed; not
+// through that of a carer who never came.
 void setPeriodes(Contrat& contrat) {
   const PlanContrat& plan = contrat.plan;
   if (plan.annule) return;
   if (plan.fin != 0) contrat.bulletin = data::periodeDe(plan.fin);
+  contrat.nonVenu = plan.fin == plan.debut && contrat.alea.surCent(60);
+  if (contrat.nonVenu) return;
   const std::string debut = data::periodeDe(plan.debut);
   const std::string& cloturee = contrat.parametres.derniereTraitee;
   if (debut <= cloturee) {

@@ -23,6 +23,7 @@ struct Contrat {
   bool mensuel = false;
   bool administratif = false;
   bool module = false;     // hours smoothed over the year
+  bool nonVenu = false;    // ended on its first day: the carer never came
   std::string bulletin;    // period of the last payslip of a closed contract
   std::string traitee;     // last period processed, "" when none
   std::string calculee;    // last payslip computed, "" when none

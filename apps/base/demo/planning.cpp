@@ -94,10 +94,8 @@ void Planning::ajouter(const Contrat& contrat) {
   const PlanContrat& plan = contrat.plan;
   if (plan.annule) return;
   tirerAbsence(contrat);
-  if (alea_.surCent(2)) {
-    articles_[std::string(fichier::OPPOSITION)][contrat.cle + "01"].Set(data::Opposition::Libelle,
-                                                                        "Avis à tiers détenteur");
-  }
+  if (alea_.surCent(2)) ajouterOpposition(contrat);
+  if (contrat.nonVenu) return ajouterReste(contrat);
   const bool close = plan.fin != 0;
   if (close && plan.type == 'D' && plan.fin > parametres_.aujourdhui - 400 && alea_.surCent(25)) {
     const std::string portee =
@@ -110,10 +108,35 @@ void Planning::ajouter(const Contrat& contrat) {
   if (alea_.surCent(10) && plan.debut <= parametres_.aujourdhui) {
     const long limite =
         close ? std::min(dernierJour, parametres_.aujourdhui) : parametres_.aujourdhui;
-    const long jour = alea_.entre(std::max(plan.debut, limite - 60), limite);
-    articles_[std::string(fichier::TPSMOI)][base_.code + chiffres(jour, 5) + "01"].Set(
-        data::TpsMoi::Contrat, contrat.cle);
+    ajouterMainDOeuvreIndirecte(contrat, alea_.entre(std::max(plan.debut, limite - 60), limite));
   }
+}
+
+// What the suite still holds of a contract whose carer never came, and what keeps it from being
+// deleted; or nothing.
+void Planning::ajouterReste(const Contrat& contrat) {
+  enum { Opposition, Intervention, Indirecte, Rien };
+  const long jour = contrat.plan.debut;
+  switch (alea_.entre(Opposition, Rien)) {
+    case Opposition:
+      return ajouterOpposition(contrat);
+    case Intervention:
+      return ajouterIntervention(contrat, jour);
+    case Indirecte:
+      return ajouterMainDOeuvreIndirecte(contrat, jour);
+    default:
+      return;
+  }
+}
+
+void Planning::ajouterOpposition(const Contrat& contrat) {
+  articles_[std::string(fichier::OPPOSITION)][contrat.cle + "01"].Set(data::Opposition::Libelle,
+                                                                      "Avis à tiers détenteur");
+}
+
+void Planning::ajouterMainDOeuvreIndirecte(const Contrat& contrat, long jour) {
+  articles_[std::string(fichier::TPSMOI)][base_.code + chiffres(jour, 5) + "01"].Set(
+      data::TpsMoi::Contrat, contrat.cle);
 }
 
 // The employer; else a person still helped to whom an activity of the contract is open, a person

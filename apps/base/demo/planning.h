@@ -27,6 +27,9 @@ class Planning {
   void ajouterIntervention(const Contrat& contrat, long dernierJour);
   void ajouterException(const std::string& intervention, long debut, long fin, int jour,
                         const std::string& heure);
+  void ajouterReste(const Contrat& contrat);
+  void ajouterOpposition(const Contrat& contrat);
+  void ajouterMainDOeuvreIndirecte(const Contrat& contrat, long jour);
   void tirerAbsence(const Contrat& contrat);
   void ajouterAbsence(const std::string& type, long debut, long fin);
   void ajouterIndisponibilites();

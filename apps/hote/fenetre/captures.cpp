@@ -14,11 +14,15 @@
 #include <stdexcept>
 
 #include "control/ctr_contrat.h"
+#include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
+#include "dialogs/frm_anim.h"
+#include "dialogs/frm_anomalies_ajoutgraph.h"
 #include "dialogs/frm_comment_bull.h"
 #include "dialogs/frm_contrat_annuel.h"
 #include "dialogs/frm_elem_droit_public.h"
+#include "dialogs/frm_impression_a4.h"
 #include "dialogs/frm_motif_cdd.h"
 #include "dialogs/frm_reprise.h"
 #include "dialogs/frm_rub_saisie.h"
@@ -43,10 +47,11 @@ constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show
 constexpr QSize TailleControle{1010, 690};
 constexpr QSize TailleFenetre{1280, 720};
 
-// Stands for the user while the editor's own loop runs: a picture of each tab, then out.
+// Stands for the user while the editor's own loop runs: a picture of each tab, one of an end whose
+// notice was computed, then out.
 class Visite : public QObject {
  public:
-  explicit Visite(Album& album) : album_(album) {
+  Visite(Album& album, Bureau& bureau) : album_(album), bureau_(bureau) {
     connect(&minuteur_, &QTimer::timeout, this, [this] { Tour(); });
     minuteur_.start(10);
   }
@@ -80,9 +85,34 @@ class Visite : public QObject {
         onglets->setCurrentIndex(i);
         album_.Prendre(*fenetre, QString("editeur-%1").arg(i + 1));
       }
-    } else if (fenetre != nullptr) {
-      if (auto* const retour = fenetre->findChild<QAbstractButton*>("Cmd_Retour")) retour->click();
+      if (Notifier()) album_.Prendre(*fenetre, "editeur-fin");
+    } else if (fenetre != nullptr && !partie_) {
+      partie_ = true;
+      // Outside this round: what is asked on leaving is answered by the next ones.
+      if (auto* const retour = fenetre->findChild<QAbstractButton*>("Cmd_Retour")) {
+        QTimer::singleShot(0, retour, &QAbstractButton::click);
+      }
     }
+  }
+
+  // On the last tab: a notification of today, and the first reason there is. False for a contract
+  // that has not begun, or that ends already.
+  bool Notifier() {
+    screen::Form& editeur = *bureau_.FormeCourante();
+    const auto champ = [&](const char* nom) -> screen::TextField& {
+      return dynamic_cast<screen::TextField&>(*editeur.Find(nom));
+    };
+    const long aujourdhui = bureau_.Plateforme().poste.Aujourdhui();
+    const auto debut = data::lireDateAffichee(champ("Txt_DatDebContrat").Text());
+    screen::TextField& notification = champ("Txt_DatNotifContrat");
+    if (!debut || *debut > aujourdhui || !notification.Text().empty()) return false;
+    screen::User clerc(editeur);
+    auto& motifs = dynamic_cast<screen::ComboBox&>(*editeur.Find("Cbo_MotifFinContrat"));
+    clerc.Taper(notification, data::dateAffichee(aujourdhui));
+    clerc.Derouler(motifs);
+    clerc.Choisir(motifs, 0);
+    bureau_.PousserTout();
+    return true;
   }
 
   // Nothing is kept of the visit.
@@ -94,9 +124,11 @@ class Visite : public QObject {
   }
 
   Album& album_;
+  Bureau& bureau_;
   QTimer minuteur_{};
   QString echec_{};
   bool vue_ = false;
+  bool partie_ = false;
   bool occupee_ = false;
   int tours_ = 0;
 };
@@ -178,6 +210,20 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   donnees.fin = jour(data::Contrat::DateFin);
   reprise.Afficher(donnees);
   capturer(album, bureau, reprise, "reprise");
+
+  dialogs::Frm_AnomaliesAjoutgraph incidences(
+      bureau.Plateforme(), dossier,
+      {"La modification du contrat aura les incidences suivantes sur le planning : \r\n"
+       "\r\nLundi    de 08h30 à 10h00 chez DUPONT Jeanne à partir du 07/09/2026\r\n"
+       "                    Nouvelle date de fin au 30/11/2026."
+       "\r\nMardi    de 14h00 à 15h30 chez ARNAUD Louis à partir du 08/12/2026\r\n"
+       "                    Sera sans contrat.",
+       true, "001 Aide du Val"});
+  capturer(album, bureau, incidences, "incidences");
+  dialogs::Frm_ImpressionA4 impression(bureau.Plateforme());
+  capturer(album, bureau, impression, "impression");
+  dialogs::Frm_Anim attente(bureau.Plateforme());
+  capturer(album, bureau, attente, "attente");
 }
 
 // The list before a search, when the filters are free.
@@ -217,7 +263,7 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   if (liste.Lst_DatDebContrat.ListCount() == 0) {
     throw std::runtime_error("L'aidant « " + aidant + " » n'a pas de contrat à montrer.");
   }
-  Visite visite(album);
+  Visite visite(album, bureau);
   screen::User(liste).DoubleCliquer(liste.Lst_DatDebContrat, 0);
   if (!visite.Echec().isEmpty()) throw std::runtime_error(versModele(visite.Echec()));
   if (!visite.Vue()) throw std::runtime_error("L'éditeur ne s'est pas ouvert.");
