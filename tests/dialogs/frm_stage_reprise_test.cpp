@@ -23,7 +23,7 @@ TEST_F(StageEtReprise, LeSeuilEstEnCentiemes) {
       {"12345678", "123456,78", "1", "100"},        {"douze", "douze", "7777777777", "douze"},
   };
   for (const auto& c : cas) {
-    contrat({{138, "a"}, {139, "b"}, {140, "c"}, {141, "d"}, {142, c.stocke}});
+    contrat(std::string("138=a; 139=b; 140=c; 141=d; 142=") + c.stocke);
     const auto f = stage(droits);
     EXPECT_EQ(f->Txt_Seuil.Text(), c.affiche);
     montrer(*f, [&](screen::User& user) {
@@ -50,7 +50,7 @@ TEST_F(StageEtReprise, RetourDuStageEcritAussiCeQuiManque) {
        "138=Lycée"},
   };
   for (const auto& [droit, seuil, question, attendu] : cas) {
-    contrat({{138, "Lycée"}, {142, "390"}});
+    contrat("138=Lycée; 142=390");
     const auto f = stage(droit);
     EXPECT_EQ(f->Cmd_OK.Visible(), &droit == &droits);
     montrer(*f, [&, &s = seuil, &q = question](screen::User& user) {
