@@ -110,14 +110,6 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
            &commentaires, &indemnisation, &telegestion, &suivi, &anomalies, &impression}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
-  // Whatever is pasted is cut to what its field can hold.
-  for (const screen::Form* const forme : std::initializer_list<screen::Form*>{&liste, &editeur}) {
-    for (const screen::Field* const champ : forme->Fields()) {
-      const auto* const texte = dynamic_cast<const screen::TextField*>(champ);
-      if (texte == nullptr) continue;
-      EXPECT_TRUE(texte->Longueur() > 0 && texte->Longueur() <= 80) << champ->Nom();
-    }
-  }
 }
 
 // Keys alone: the filters, Ajouter, the codes, the dates, OK, and the list again.

@@ -1,6 +1,8 @@
 // Failures of the store under the open screens, through real widgets: each one is told, what was
 // typed stays, and the same act passes when the store is well again.
 
+#include <QAbstractScrollArea>
+#include <QClipboard>
 #include <QFile>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -154,6 +156,41 @@ TEST_F(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
     EXPECT_EQ(Lu(chemin, "CONTRAT00101", "00002001"), "");
     EXPECT_EQ(Lu(chemin, "LIENAVENANT", "AVENANT00101"), "");
   }
+}
+
+// A clipboard with a whole report in it: each line holds what its field can, and the screen lives.
+TEST_F(Pannes, APasteOfAHundredThousandCharactersIsCut) {
+  static constexpr int Colles = 100000;
+  static constexpr int LePlusLong = 80;
+  QApplication::clipboard()->setText(QString(Colles, '7') +
+                                     "\n\x1e"
+                                     "fin");
+  const auto coller = [](QWidget& fenetre) {
+    int lignes = 0;
+    for (QLineEdit* const ligne : fenetre.findChildren<QLineEdit*>()) {
+      if (!ligne->isVisible() || !ligne->isEnabled()) continue;
+      const QString avant = ligne->text();
+      ligne->setFocus();
+      ligne->selectAll();
+      ligne->paste();
+      EXPECT_LE(ligne->text().size(), LePlusLong) << ligne->objectName().toStdString();
+      if (!ligne->text().isEmpty()) ++lignes;
+      ligne->selectAll();
+      ligne->insert(avant);
+    }
+    return lignes;
+  };
+  ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(Chemin())));
+  ASSERT_TRUE(fenetre_.OuvrirAidant("00001"));
+  EXPECT_GT(coller(fenetre_), 0);
+  const essai::DansForme editeur("Frm_ElementsContrat",
+                                 {[&](QWidget& fenetre) { EXPECT_GT(coller(fenetre), 3); },
+                                  [](QWidget& fenetre) { essai::cliquer(fenetre, "Cmd_Retour"); }});
+  QWidget* const dates =
+      fenetre_.Ecran()->findChild<QAbstractScrollArea*>("Lst_DatDebContrat")->viewport();
+  QTest::mouseClick(dates, Qt::LeftButton, {}, {10, 10});
+  QTest::mouseDClick(dates, Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(editeur.Faits(), 2U);
 }
 
 }  // namespace
