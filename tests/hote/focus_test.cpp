@@ -141,29 +141,11 @@ TEST_F(Focus, BoxDuringTheLeaveDropsTheClick) {
   EXPECT_EQ(forme.Prendre(), "-Txt_Date");
 }
 
-// The widgets stand in another order, Txt_Notes is disabled and the second page hidden.
-TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
-  forme.Txt_Notes.SetEnabled(false);
-  liaison->Pousser();
-  aller("Txt_Date");
-  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",  "Lst_B",
-                                       "Opt_1",   "Opt_2",     "Cac_X",  "Bdh_N",
-                                       "Ong",     "Txt_P1",    "Cmd_OK", "Txt_Date"};
-  for (const auto& nom : ordre) {
-    touche(Qt::Key_Tab);
-    EXPECT_EQ(actif(), nom);
-    EXPECT_EQ(focus(), nom);
+TEST_F(Focus, KeysMoveAndPress) {
+  for (const char* const titre :
+       {"Tab suit l'ordre des champs", "Entrée appuie sur le bouton actif", "Ctrl+Entrée"}) {
+    parcourir(titre);
   }
-  for (auto nom = ordre.rbegin() + 1; nom != ordre.rend(); ++nom) {
-    touche(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(actif(), *nom);
-  }
-  // A group with an option on is one stop.
-  option("Opt_2");
-  touche(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(actif(), "Lst_B");
-  touche(Qt::Key_Tab);
-  EXPECT_EQ(actif(), "Opt_2");
 }
 
 // A field that its own click disables loses the keyboard to another, which the model then enters.
@@ -173,17 +155,6 @@ TEST_F(Focus, DisabledFieldHandsTheKeyboardOn) {
   EXPECT_FALSE(w("Cmd_OK").isEnabled());
   ASSERT_NE(actif(), "");
   EXPECT_EQ(actif(), focus());
-}
-
-TEST_F(Focus, EnterPressesTheFocusedButtonAlone) {
-  aller("Txt_Date");
-  touche(Qt::Key_Return);
-  EXPECT_EQ(forme.Prendre(), "");
-  touche(Qt::Key_V, Qt::AltModifier);
-  forme.Prendre();
-  touche(Qt::Key_Enter, Qt::KeypadModifier);
-  touche(Qt::Key_Space);
-  EXPECT_EQ(forme.Prendre(), "Cmd_OK Cmd_OK");
 }
 
 TEST_F(Focus, ClosingAsksTheModel) {
@@ -315,18 +286,6 @@ TEST_F(Focus, EscapePutsBackWhatTheFieldHeld) {
   EXPECT_EQ(w<QLineEdit>("Txt_Num").text(), "12");
   EXPECT_TRUE(forme.Visible());
   EXPECT_EQ(actif(), "Txt_Num");
-}
-
-// Keys that every form understands, wherever the keyboard is; a hidden or grey button has none.
-TEST_F(Focus, CommandKeysPressTheirButtons) {
-  aller("Txt_Num");
-  taper("1");
-  forme.Prendre();
-  touche(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(forme.Prendre(), "-Txt_Num Cmd_OK");
-  forme.Find("Cmd_OK")->SetEnabled(false);
-  touche(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(forme.Prendre(), "");
 }
 
 // Esc and Enter on a question give the answer that loses nothing, where the screen names one.
