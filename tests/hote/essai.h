@@ -278,6 +278,11 @@ class Essai : public ::testing::Test {
     if (verbe == "cliquer") cliquer(w(nom.c_str()));
     if (verbe == "option") option(nom.c_str());
     if (verbe == "ligne") ligne(nom.c_str(), std::stoi(reste));
+    if (verbe == "fleche") cliquer(w(nom.c_str()), {w(nom.c_str()).width() - 5, 5});
+    if (verbe == "onglet") {
+      QTabBar& barre = *w<QTabWidget>("Ong").tabBar();
+      cliquer(barre, barre.tabRect(std::stoi(nom)).center());
+    }
     if (verbe == "tout") w<QLineEdit>(nom.c_str()).selectAll();
     if (verbe == "touche") touche(combinaison().key(), combinaison().keyboardModifiers());
     if (verbe == "taper") taper(QString::fromStdString(nom));
