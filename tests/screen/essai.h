@@ -132,6 +132,7 @@ inline Acte faire(Essai& e, const std::string& actes) {
       if (auto* const coche = dynamic_cast<CheckBox*>(champ)) coche->SetValue(n);
       if (barre != nullptr) barre->SetValue(n);
     }
+    if (verbe == "message") e.MessageBox("non");
     if (verbe == "max") barre->SetMax(n);
     if (verbe == "onglet") dynamic_cast<TabStrip&>(*champ).SetTab(n);
     if (verbe == "focus") champ->SetFocus();
