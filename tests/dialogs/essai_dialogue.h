@@ -36,6 +36,12 @@ class EssaiDialogue : public ::testing::Test {
     for (const auto& [a, texte] : support::attributs(attributs)) item.Set(a, texte);
     item.DBWrite();
   }
+  // The records of a table of dialogues.md.
+  void articles(const char* titre) {
+    for (const auto& [fichier, cle, attributs] : support::table<3>("dialogs/dialogues.md", titre)) {
+      article(fichier.c_str(), cle, attributs);
+    }
+  }
   void contrat(const std::string& attributs) {
     dossier.ItemContrat = data::CItem();
     for (const auto& [a, texte] : support::attributs(attributs)) dossier.ItemContrat.Set(a, texte);

@@ -16,25 +16,7 @@ const std::string MartinConges =
 
 class MotifCDD : public EssaiDialogue {
  protected:
-  MotifCDD() {
-    article("TABLES", "MOTIFEMBAUCHE", "1=A^B; 2=Maladie d'un salarié^Surcroît");
-    article("TABLES", "ABSENCES", "2=09^05^18; 3=Maladie^Congés payés^Grève");
-    article("CIVILAIDANT", "00001", "2=DURAND; 3=Anne");
-    article("CIVILAIDANT", "00002", "2=MARTIN; 3=Hélène");
-    article("CIVILAIDANT", "00003", "2=MARCHAND; 3=Luc");
-    article("CIVILAIDANT", "00004", "2=MARTIN; 3=Jean; 36=21246");
-    article("CIVILAIDANT", "00005", "2=MARTIN; 3=Paul; 36=21244");
-    article("CIVILAIDANT", "00006", "2=MARTINEAU-DESCHAMPS; 3=Marie-Christine");
-    article("CIVILAIDANT", "12000", "2=ÉLOI; 3=Zoé");
-    article("CONTRAT", "00001001", "1=01; 2=001; 3=001001; 7=20000");
-    article("CONTRAT", "00002001", "1=01; 2=001; 3=001001; 7=21245");
-    article("CONTRAT", "00003001", "1=02; 2=009; 3=00007; 7=20000; 8=21245");
-    article("CONTRAT", "00006001", "1=01; 2=001; 3=001001; 7=20000");
-    const std::pair<const char*, const char*> absences[] = {
-        {"000020921217", "21259"}, {"000020521270", "21280"}, {"000021821240", "21260"},
-        {"000020921100", "21244"}, {"000060921217", "21259"}, {"120000921217", "21259"}};
-    for (const auto& [cle, fin] : absences) article("ABSENCESAIDANT", cle, std::string("2=") + fin);
-  }
+  MotifCDD() { articles("Les articles du motif d'embauche"); }
 
   std::unique_ptr<Frm_MotifCDD> creer(const session::Droits& d, const std::string& debut = Debut,
                                       const std::string& convention = "01") {

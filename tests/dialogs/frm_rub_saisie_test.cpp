@@ -10,21 +10,7 @@ namespace {
 
 class Rubriques : public EssaiDialogue {
  protected:
-  // Headings by the kinds of their base, rate and amount; each gives coefficient 150, rate 2,5 and
-  // amount 12,00.
-  Rubriques() {
-    for (const char* const genres : {"000", "122", "110", "211", "332", "444"}) {
-      const std::string g = genres;
-      article("RUBSAISIE", g,
-              "1=Rubrique " + g + "; 4=0; 6=" + g[0] + "; 7=150; 8=" + g[1] +
-                  "; 9=25000; 10=" + g[2] + "; 11=1200");
-    }
-    article("RUBSAISIE", "002", "1=Produit; 4=0; 6=0; 8=0; 10=2");
-    article("RUBSAISIE", "900", "1=Exclue; 4=0; 18=1");
-    article("RUBSAISIE", "901", "1=Filtrée; 4=1");
-    article("ACTIVITES", "001DOM", "1=Domicile");
-    article("ACTIVITES", "001GAR", "1=Garde");
-  }
+  Rubriques() { articles("Les rubriques"); }
   std::unique_ptr<Frm_RubSaisie> ouvrir(bool administratif = false, std::size_t activites = 2) {
     session.W_Droits = &droits;
     ContexteRubriques contexte{administratif, {{"001DOM", "Domicile"}, {"001GAR", "Garde"}}};

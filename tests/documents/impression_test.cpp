@@ -42,8 +42,8 @@ TEST_F(Impression, EachRecordIsFoundByTheKeyThatNamesIt) {
     for (const auto& [a, texte] : support::attributs(attributs)) item.Set(a, texte);
     item.DBWrite();
   }
-  const auto mandat = imprimer(essai::item("1=02|2=001|3=00007"), true);
-  const auto entite = imprimer(essai::item("1=01|2=001|3=001001"), false);
+  const auto mandat = imprimer(essai::item("1=02; 2=001; 3=00007"), true);
+  const auto entite = imprimer(essai::item("1=01; 2=001; 3=001001"), false);
   for (const auto& [convention, ligne] :
        support::table<2>("documents/impression.md", "Ce qui s'imprime")) {
     EXPECT_TRUE(tient(convention == "02" ? mandat : entite, support::code(ligne))) << ligne;

@@ -36,24 +36,12 @@ class Formes : public ::testing::Test {
  protected:
   Formes() {
     hote::enregistrerFormes(bureau);
-    article("COMPTEUR", "999", "18=1");
-    article("PERIODESPAIE", "1", "1=202611");
-    article("CIVILAIDANT", "00001", "2=DURAND; 3=Anne; 41=000");
-    article("ASSOCIATION", "001", "1=Aide du Val");
-    article("ASSOCIATION", "002", "1=Bien Chez Soi");
-    article("CONVENTIONCOL", "01", "1=Branche");
-    article("ETABLISSEMENT", "001001", "1=Siège");
-    article("ETABLISSEMENT", "001002", "1=Antenne");
-    article("ACTIVITES", "001DOM", "1=Domicile; 12=P");
-    article("PROFIL", "P01", "1=Intervenant; 4=0");
-    article("GRILLESCC", "01A", "1=Grille A");
-    article("CONTRATSPREV", "10", "1=Cadres; 3=01");
-    article("PCS", "563b", "1=Aide à domicile");
-    article("PCS", "56", "1=Services");
-    article("CONSTANTESPAIE", "1", "10=4800");
-    article("TABLES", "NATURECONTRAT", "2=CDI; 3=Normal; 6=O");
+    for (const auto& [fichier, cle, attributs] :
+         support::table<3>("hote/parcours.md", "Les articles des formes")) {
+      article(fichier, cle, attributs);
+    }
   }
-  void article(const char* fichier, const std::string& cle, const std::string& attributs) {
+  void article(const std::string& fichier, const std::string& cle, const std::string& attributs) {
     data::CItem item = db.OpenFile(fichier).NewItem(cle);
     for (const auto& [a, texte] : support::attributs(attributs)) item.Set(a, texte);
     item.DBWrite();
@@ -131,6 +119,17 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     aller(nom);
     QTest::keyClicks(QApplication::focusWidget(), texte);
   };
+  // Each field and what is typed there, a key by its name in back quotes.
+  const auto suivre = [&](const char* titre) {
+    for (const auto& [nom, frappe] : support::table<2>("hote/parcours.md", titre)) {
+      if (!frappe.starts_with('`')) {
+        remplir(nom, frappe.c_str());
+        continue;
+      }
+      aller(nom);
+      touche(QKeySequence(QString::fromStdString(support::code(frappe)))[0].key());
+    }
+  };
   Apres clerc([&](QWidget& fenetre) {
     if (auto* boite = qobject_cast<QMessageBox*>(&fenetre)) {
       ADD_FAILURE() << boite->text().toStdString();
@@ -139,10 +138,7 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     }
     forme = bureau.FormeCourante();
     ASSERT_EQ(forme->Nom(), "Frm_ElementsContrat");
-    remplir("Txt_ConvColContrat", "01");
-    remplir("Txt_AssocContrat", "1");
-    touche(Qt::Key_Tab);
-    remplir("Txt_EmplEtabContrat", "001");
+    suivre("Une création au clavier");
     // What is no date holds the keyboard, and says what one is.
     remplir("Txt_DatDebContrat", "31/11/26");
     touche(Qt::Key_Tab);
@@ -150,24 +146,7 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     EXPECT_TRUE(QToolTip::text().contains("JJ/MM/AAAA"));
     EXPECT_TRUE(QToolTip::isVisible());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-    remplir("Txt_DatDebContrat", "1/12/26");
-    remplir("Txt_PerEssaiContrat", "60");
-    aller("Cac_RenouvEssaiContrat");
-    touche(Qt::Key_Space);
-    remplir("Cbo_NatureContrat", "Normal");
-    aller("Ong_Contrat");
-    touche(Qt::Key_Right);
-    remplir("Cbo_QualifContrat", "Agent");
-    remplir("Txt_DureeWContrat", "20");
-    aller("Cbo_FreqWContrat");
-    touche(Qt::Key_Down);
-    remplir("Txt_TauxHorContrat", "12,02");
-    // The pay tab: the only activity has been taken.
-    aller("Ong_Contrat");
-    touche(Qt::Key_Right);
-    remplir("Txt_ProfilContrat", "P01");
-    aller("Cmd_OK");
-    touche(Qt::Key_Return);
+    suivre("Une création corrigée");
     forme = &ecran->Controle();
   });
   aller("Cmd_Recherche");
