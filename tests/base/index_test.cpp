@@ -1,7 +1,6 @@
 // What the data tool says and does about indexes.
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <sstream>
 
@@ -9,7 +8,7 @@
 #include "data/index.h"
 #include "data/poste.h"
 #include "storage/sqlite.h"
-#include "storage/sqlite_pages.h"
+#include "support/sql.h"
 #include "support/table.h"
 #include "support/temp_dir.h"
 
@@ -39,13 +38,7 @@ class IndexOutilTest : public testing::Test {
     code_ = base::executer(args, entree, ecran, ecran);
     return ecran.str();
   }
-  void Sql(const char* sql) const {
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(base_.c_str(), &db, SQLITE_OPEN_READWRITE, storage::nomVfsPages()),
-              SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
-    sqlite3_close(db);
-  }
+  void Sql(const char* requete) const { support::sql(base_, requete); }
 
   support::TempDir dossier_;
   std::string base_ = dossier_.Chemin("essai.contrats");

@@ -23,45 +23,25 @@
 namespace data {
 namespace {
 
-// "116=12|116=12.0", in the order of the table of indexes.
+// "116=12 116=12.0", in the order of the table of indexes.
 std::string entries(std::string_view file, const CItem& item) {
   std::string text;
   for (const EntreeIndex& entry : entreesDe(file, "00001001", item.Text())) {
-    if (!text.empty()) text += '|';
+    if (!text.empty()) text += ' ';
     text += champIndex(*entry.index) + '=' + entry.valeur;
   }
   return text;
 }
 
 TEST(IndexTest, HoldsEveryValueOfARecord) {
-  const struct {
-    const char* file;
-    int attribute;
-    std::string content;
-    const char* expected;
-  } cases[] = {
-      {"CONTRAT", 116, "00001002", "116=00001002"},
-      {"CONTRAT", 115, "00001002", ""},
-      {"CONTRAT", 117,
-       "b\x1d\x1d"
-       "a\x1c"
-       "b",
-       "117=a|117=b"},
-      {"TPSMOI", 4,
-       "+012.50\x1d"
-       "-0\x1d"
-       ".50\x1d"
-       "+7",
-       "4=+012.50|4=+7|4=-0|4=.5|4=.50|4=0|4=7"},
-      {"CIVILAIDANT", 2, "Lef\xC3\xA8vre", "NomPrenomAidant=LEFEVRE "},
-      {"CIVILAIDANT", 3, "rose", "NomPrenomAidant= ROSE"},
-      {"CIVILAIDANT", 4, "Petit", ""},
-      {"PCS", 4, "x", ""},
-  };
-  for (const auto& c : cases) {
+  for (const auto& [file, attribute, content, expected] :
+       support::table<4>("data/tables.md", "Entries of a record")) {
+    std::string text = content;
+    std::replace(text.begin(), text.end(), '^', SepValeur);
+    std::replace(text.begin(), text.end(), '~', SepSousValeur);
     CItem item;
-    item.Set(c.attribute, c.content);
-    EXPECT_EQ(entries(c.file, item), c.expected) << c.file << ' ' << c.content;
+    item.Set(std::stoi(attribute), text);
+    EXPECT_EQ(entries(file, item), support::code(expected)) << file << ' ' << content;
   }
 }
 

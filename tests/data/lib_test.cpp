@@ -33,16 +33,10 @@ TEST(Jour, CalendarWithoutGap) {
 }
 
 TEST(Jour, NumbersOfDays) {
-  const struct {
-    Date date;
-    long jour;
-    const char* affichee;
-  } cas[] = {{{1967, 12, 31}, 0, "31/12/1967"},    {{1899, 12, 31}, -24836, "31/12/1899"},
-             {{2000, 2, 29}, 11748, "29/02/2000"}, {{2026, 11, 22}, 21511, "22/11/2026"},
-             {{2100, 3, 1}, 48273, "01/03/2100"},  {{2241, 10, 14}, 99999, "14/10/2241"}};
-  for (const auto& c : cas) {
-    EXPECT_EQ(jourDe(c.date), c.jour) << c.affichee;
-    EXPECT_EQ(dateAffichee(c.jour), c.affichee);
+  for (const auto& [annee, mois, jour, numero, affichee] :
+       support::table<5>("data/tables.md", "Numbers of days")) {
+    EXPECT_EQ(jourDe({std::stoi(annee), std::stoi(mois), std::stoi(jour)}), std::stol(numero));
+    EXPECT_EQ(dateAffichee(std::stol(numero)), affichee);
   }
   const Date absentes[] = {{2100, 2, 29}, {2026, 2, 29}, {2026, 4, 31}, {2026, 13, 1},
                            {2026, 0, 1},  {2026, 1, 0},  {0, 1, 1},     {10000, 1, 1}};

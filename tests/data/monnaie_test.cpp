@@ -4,6 +4,8 @@
 
 #include <climits>
 
+#include "support/table.h"
+
 namespace data {
 namespace {
 
@@ -43,19 +45,14 @@ TEST(Monnaie, CalculatesExactly) {
 }
 
 TEST(Monnaie, RoundsAndWrites) {
-  const struct {
-    const char *valeur, *deux, *court, *plancher;
-    bool demi;
-  } cas[] = {{"12,5", "12,50", "12,5", "12", true},      {"-2,5", "-2,50", "-2,5", "-3", true},
-             {"0,005", "0,01", "0,005", "0", false},     {"-0,004", "0,00", "-0,004", "-1", false},
-             {"-0,995", "-1,00", "-0,995", "-1", false}, {"7,0625", "7,06", "7,0625", "7", false}};
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.valeur);
-    EXPECT_EQ(m(c.valeur).Texte(2), c.deux);
-    EXPECT_EQ(m(c.valeur).TexteCourt(), c.court);
-    EXPECT_EQ(m(c.valeur).PartieEntiere(), m(c.plancher));
-    EXPECT_EQ(m(c.valeur).EntierOuDemi(), c.demi);
-    EXPECT_EQ(m(c.valeur).Arrondi(2), m(c.deux));
+  for (const auto& [valeur, deux, court, plancher, demi] :
+       support::table<5>("data/tables.md", "Amounts")) {
+    SCOPED_TRACE(valeur);
+    EXPECT_EQ(m(valeur).Texte(2), deux);
+    EXPECT_EQ(m(valeur).TexteCourt(), court);
+    EXPECT_EQ(m(valeur).PartieEntiere(), m(plancher));
+    EXPECT_EQ(m(valeur).EntierOuDemi(), demi == "yes");
+    EXPECT_EQ(m(valeur).Arrondi(2), m(deux));
   }
   EXPECT_EQ(m("2,5").Texte(0) + m("2,5").Texte(1, "."), "32.5");
 }

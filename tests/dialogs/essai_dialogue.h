@@ -11,6 +11,7 @@
 #include "session/dossier.h"
 #include "storage/memory.h"
 #include "support/faulty_storage.h"
+#include "support/table.h"
 
 namespace dialogs {
 
@@ -20,29 +21,30 @@ using screen::Reponse;
 class EssaiDialogue : public ::testing::Test {
  protected:
   EssaiDialogue() {
-    article("PERIODESPAIE", "1", {{1, "202611"}});
+    article("PERIODESPAIE", "1", "1=202611");
     session.Db = &db;
     session.OuvrirFichiers();
   }
 
-  // Texts with several values are written "a^b".
-  static std::string valeurs(std::string texte) {
-    for (char& c : texte) c = c == '^' ? data::SepValeur : c;
-    return texte;
-  }
+  // Attributes are written "1=a^b; 12=c".
   static std::string lisible(std::string texte) {
     for (char& c : texte) c = c == data::SepValeur ? '^' : c;
     return texte;
   }
-  using Attributs = std::vector<std::pair<int, std::string>>;
-  void article(const char* fichier, const std::string& cle, const Attributs& attributs) {
+  void article(const char* fichier, const std::string& cle, const std::string& attributs) {
     data::CItem item = db.OpenFile(fichier).NewItem(cle);
-    for (const auto& [a, texte] : attributs) item.Set(a, valeurs(texte));
+    for (const auto& [a, texte] : support::attributs(attributs)) item.Set(a, texte);
     item.DBWrite();
   }
-  void contrat(const Attributs& attributs) {
+  // The records of a table of dialogues.md.
+  void articles(const char* titre) {
+    for (const auto& [fichier, cle, attributs] : support::table<3>("dialogs/dialogues.md", titre)) {
+      article(fichier.c_str(), cle, attributs);
+    }
+  }
+  void contrat(const std::string& attributs) {
     dossier.ItemContrat = data::CItem();
-    for (const auto& [a, texte] : attributs) dossier.ItemContrat.Set(a, valeurs(texte));
+    for (const auto& [a, texte] : support::attributs(attributs)) dossier.ItemContrat.Set(a, texte);
   }
   // Those attributes of the contract in hand, "9=a^b 113=B".
   std::string lu(const std::vector<int>& attributs) {

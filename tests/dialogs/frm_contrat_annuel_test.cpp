@@ -22,23 +22,14 @@ class SuiviAnnuel : public EssaiDialogue {
     session.NomPrenomAidant = "MARTIN Rose";
     session.W_Droits = &droits;
     dossier.CleContratCourant = "00001002";
-    article("ASSOCIATION", "001", {{25, "0"}});
-    article("ETABLISSEMENT", "001001", {{24, "12"}});
-    article("CONVENTIONCOL", "01", {{1, "Branche"}});
-    article("CONVENTIONCOL", "03", {{45, "T"}});
+    article("ASSOCIATION", "001", "25=0");
+    article("ETABLISSEMENT", "001001", "24=12");
+    article("CONVENTIONCOL", "01", "1=Branche");
+    article("CONVENTIONCOL", "03", "45=T");
     // January: 8,33 h beyond; February: 4,67 h missing, 2 h regularised. 2025: 1,50 h missing.
-    contrat({{1, "01"},
-             {3, "001001"},
-             {71, "202512"},
-             {72, "10000"},
-             {74, "9850"},
-             {75, "-150"},
-             {76, "202601^202602"},
-             {77, "15167^15167"},
-             {78, "0^700"},
-             {79, "16000^14000"},
-             {80, "833^-467"},
-             {100, "0^200"}});
+    contrat(
+        "1=01; 3=001001; 71=202512; 72=10000; 74=9850; 75=-150; 76=202601^202602; 77=15167^15167; "
+        "78=0^700; 79=16000^14000; 80=833^-467; 100=0^200");
   }
   std::string texteDe(const char* fichier, const std::string& cle) {
     data::CItem item;
@@ -219,7 +210,7 @@ TEST_F(SuiviAnnuel, DeletingALineAndTheWhole) {
 
 TEST_F(SuiviAnnuel, PrivateEmployersCloseTheirOwnYear) {
   dossier.ItemContrat.Set(1, "02");
-  article("ETABLISSEMENT", "00100007", {{24, "08"}});
+  article("ETABLISSEMENT", "00100007", "24=08");
   ouvrir(
       [&](Frm_ContratAnnuel& f, screen::User& user) {
         const auto& mois = f.remunere.Cbo_Periode;
@@ -241,17 +232,8 @@ class SuiviTte : public SuiviAnnuel {
     // January: 31 - 10 - 1 = 20 days of 7,00 h, 150,00 worked, 3,00 regularised.
     // March: 31 - 9 - 0,5 = 21,5 days of 7,00 h, 150,00 worked.
     article("AIDANTTTE", "000010022026",
-            {{1, "202601^202603"},
-             {2, "700^700"},
-             {3, "31^31"},
-             {4, "10^9"},
-             {5, "1^0"},
-             {6, "0^50"},
-             {7, "0^0"},
-             {8, "0^0"},
-             {9, "15000^15000"},
-             {10, "300^0"},
-             {11, "700^650"}});
+            "1=202601^202603; 2=700^700; 3=31^31; 4=10^9; 5=1^0; 6=0^50; 7=0^0; 8=0^0; "
+            "9=15000^15000; 10=300^0; 11=700^650");
   }
   static void saisir(Frm_ContratAnnuel& f, screen::User& user,
                      std::initializer_list<const char*> textes) {

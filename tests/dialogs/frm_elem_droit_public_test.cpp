@@ -14,16 +14,9 @@ class DroitPublic : public EssaiDialogue {
   const std::vector<int> Tout{121, 122, 123, 124, 125, 126, 127, 128, 135, 136};
   // Two amendments of a tenured agent.
   void deuxJeux() {
-    contrat({{121, "40^40"},
-             {122, "011^012"},
-             {123, "0123010007^0456020008"},
-             {124, "001^002"},
-             {125, "30^20"},
-             {126, "367^390"},
-             {127, "340^361"},
-             {128, "1000^1250"},
-             {135, "Agent^Rédacteur"},
-             {136, "C1^C2"}});
+    contrat(
+        "121=40^40; 122=011^012; 123=0123010007^0456020008; 124=001^002; 125=30^20; 126=367^390; "
+        "127=340^361; 128=1000^1250; 135=Agent^Rédacteur; 136=C1^C2");
   }
   static std::string lignes(const screen::ComboBox& liste) {
     std::string texte;
@@ -52,7 +45,7 @@ TEST_F(DroitPublic, MontreLeJeuDeSonAvenantOuLePrecedent) {
   EXPECT_EQ(vu(*ouvrir(1)), "40/011/30/0123/01/0007/001/367/340/10,00/Agent/C1");
   EXPECT_EQ(vu(*ouvrir(2)), second);
   EXPECT_EQ(vu(*ouvrir(3)), second);
-  contrat({{1, "07"}});
+  contrat("1=07");
   const auto vide = ouvrir(2);
   EXPECT_EQ(vu(*vide), "///////////");
   EXPECT_FALSE(vide->Cbo_CodeStaJur.Enabled() || vide->Etq_CodeCatSta.Enabled());
@@ -102,7 +95,7 @@ TEST_F(DroitPublic, RetourDemandeCeQuiAChange) {
 
 // Codes that the tables do not know, and points that are no number, stay until they are changed.
 TEST_F(DroitPublic, CeQuiEstInconnuResteTelQuel) {
-  contrat({{121, "41"}, {122, "999"}, {123, "01"}, {125, "77"}, {126, "12"}, {128, "x"}});
+  contrat("121=41; 122=999; 123=01; 125=77; 126=12; 128=x");
   const std::string avant = lu(Tout);
   const auto f = ouvrir(1);
   montrer(*f, [&](screen::User& user) {

@@ -10,26 +10,7 @@ namespace {
 
 class Rubriques : public EssaiDialogue {
  protected:
-  // Headings by the kinds of their base, rate and amount; each gives coefficient 150, rate 2,5 and
-  // amount 12,00.
-  Rubriques() {
-    for (const char* const genres : {"000", "122", "110", "211", "332", "444"}) {
-      article("RUBSAISIE", genres,
-              {{1, std::string("Rubrique ") + genres},
-               {4, "0"},
-               {6, {genres[0]}},
-               {7, "150"},
-               {8, {genres[1]}},
-               {9, "25000"},
-               {10, {genres[2]}},
-               {11, "1200"}});
-    }
-    article("RUBSAISIE", "002", {{1, "Produit"}, {4, "0"}, {6, "0"}, {8, "0"}, {10, "2"}});
-    article("RUBSAISIE", "900", {{1, "Exclue"}, {4, "0"}, {18, "1"}});
-    article("RUBSAISIE", "901", {{1, "Filtrée"}, {4, "1"}});
-    article("ACTIVITES", "001DOM", {{1, "Domicile"}});
-    article("ACTIVITES", "001GAR", {{1, "Garde"}});
-  }
+  Rubriques() { articles("Les rubriques"); }
   std::unique_ptr<Frm_RubSaisie> ouvrir(bool administratif = false, std::size_t activites = 2) {
     session.W_Droits = &droits;
     ContexteRubriques contexte{administratif, {{"001DOM", "Domicile"}, {"001GAR", "Garde"}}};
@@ -48,31 +29,21 @@ class Rubriques : public EssaiDialogue {
 };
 
 TEST_F(Rubriques, LeGenreDitCeQuiSeSaisit) {
-  const struct {
-    const char* code;
-    const char* ouverts;  // base, rate, amount
-    const char* valeurs;
-    const char* actif;
-  } cas[] = {
-      {"000", "ooo", "||", "Txt_Base"},           {"122", "oxx", "|0|", "Txt_Base"},
-      {"110", "oxo", "|2,5000|", "Txt_Base"},     {"211", "xxx", "0,00|2,5000|12,00", "Txt_Code"},
-      {"332", "xxx", "0,00|0,0000|", "Txt_Code"}, {"444", "xoo", "0,00||", "Txt_Taux"},
-      {"002", "oox", "||", "Txt_Base"},
-  };
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.code);
+  for (const auto& [code, ouverts, attendues, premier] :
+       support::table<4>("dialogs/dialogues.md", "Ce que le genre d'une rubrique laisse saisir")) {
+    SCOPED_TRACE(code);
     const auto f = ouvrir();
-    montrer(*f, [&](screen::User& user) {
+    montrer(*f, [&, &c = code, &o = ouverts, &v = attendues, &p = premier](screen::User& user) {
       user.Cliquer(f->Cmd_Ajouter);
       EXPECT_EQ(actif(*f), "Txt_Code");
-      user.Taper(f->Txt_Code, c.code);
+      user.Taper(f->Txt_Code, c);
       std::string etats, valeurs;
       for (const screen::TextField* champ : {&f->Txt_Base, &f->Txt_Taux, &f->Txt_Montant}) {
         etats += champ->Enabled() ? 'o' : 'x';
-        valeurs += (champ == &f->Txt_Base ? "" : "|") + champ->Text();
+        valeurs += (champ == &f->Txt_Base ? "" : "/") + champ->Text();
       }
-      EXPECT_EQ(etats + " " + valeurs, std::string(c.ouverts) + " " + c.valeurs);
-      EXPECT_EQ(actif(*f), c.actif);
+      EXPECT_EQ(etats + " " + valeurs, o + " " + v);
+      EXPECT_EQ(actif(*f), p);
       EXPECT_FALSE(f->Cmd_Retour.Enabled());
       hote.messages.Repondre(Reponse::Oui);
       user.Cliquer(f->Cmd_Annuler);
@@ -82,17 +53,15 @@ TEST_F(Rubriques, LeGenreDitCeQuiSeSaisit) {
 }
 
 TEST_F(Rubriques, LeMontantCalculeSArronditPuisSeCoupe) {
-  const struct {
-    long long base, taux, montant;  // hundredths, ten-thousandths, hundredths
-  } cas[] = {{100, 123440, 1234},   {100, 123450, 1235}, {100, 123449, 1234},
-             {1000, 123456, 12346}, {0, 10000, 0},       {-100, 123450, -1234},
-             {-100, 123440, -1233}, {250, 20000, 500}};
-  for (const auto& [base, taux, montant] : cas) EXPECT_EQ(MontantCalcule(base, taux), montant);
+  for (const auto& [base, taux, montant] :
+       support::table<3>("dialogs/dialogues.md", "Le montant d'une rubrique")) {
+    EXPECT_EQ(MontantCalcule(std::stoll(base), std::stoll(taux)), std::stoll(montant));
+  }
 }
 
 // What a clerk types is played by the scenario paie-rubriques; this is a line that came wrong.
 TEST_F(Rubriques, UnNombreFauxResteTantQuIlNEstPasTouche) {
-  contrat({{89, "000"}, {90, "-1250"}, {91, "10000"}, {92, "x"}, {93, "001GAR"}});
+  contrat("89=000; 90=-1250; 91=10000; 92=x; 93=001GAR");
   const auto f = ouvrir();
   EXPECT_EQ(lignes(*f), "000 -12,50 1,0000 x Garde");
   montrer(*f, [&](screen::User& user) {
@@ -122,7 +91,7 @@ TEST_F(Rubriques, CeQuiEstFaitSeDefaitEnQuittant) {
   for (const auto& [choix, apres] :
        {std::pair{Reponse::Non, "89=000^901^000 90=100^200^300 93=001DOM^001GAR^001GAR"},
         {Reponse::Oui, "89=901^000 90=200^300 93=001DOM^001GAR"}}) {
-    contrat({{89, "000^901^000"}, {90, "100^200^300"}, {93, "001DOM^001GAR^001GAR"}});
+    contrat("89=000^901^000; 90=100^200^300; 93=001DOM^001GAR^001GAR");
     const auto f = ouvrir();
     montrer(*f, [&, choix = choix](screen::User& user) {
       user.DoubleCliquer(f->Lst_Code, 0);
@@ -142,7 +111,7 @@ TEST_F(Rubriques, CeQuiEstFaitSeDefaitEnQuittant) {
     EXPECT_EQ(lu({89, 90, 93}), apres);
   }
   // A heading that can no longer be chosen goes with its activity; leaving by Annuler forgets it.
-  contrat({{89, "901^000"}, {90, "100^200"}, {93, "001DOM^001GAR"}});
+  contrat("89=901^000; 90=100^200; 93=001DOM^001GAR");
   for (const bool garder : {false, true}) {
     const auto f = ouvrir();
     montrer(*f, [&](screen::User& user) {
@@ -162,7 +131,7 @@ TEST_F(Rubriques, LActiviteSuitLeContrat) {
     const char* ecrite;
   } cas[] = {{false, 1, false, "001DOM"}, {true, 2, false, ""}, {true, 1, false, ""}};
   for (const auto& [administratif, activites, ouverte, ecrite] : cas) {
-    contrat({});
+    contrat("");
     const auto f = ouvrir(administratif, activites);
     montrer(*f, [&](screen::User& user) {
       user.Cliquer(f->Cmd_Ajouter);
@@ -187,7 +156,7 @@ class Commentaires : public EssaiDialogue {
  protected:
   Commentaires() {
     session.W_Droits = &droits;
-    article("PERIODESPAIE", "1", {{1, "202611"}, {2, "202612"}});
+    article("PERIODESPAIE", "1", "1=202611; 2=202612");
   }
   static std::string lignes(const Frm_CommentBull& f) {
     std::string texte;
@@ -200,7 +169,7 @@ class Commentaires : public EssaiDialogue {
 
 TEST_F(Commentaires, IlsSeRangentEtSortirDemandeQuoiFaire) {
   for (const bool garder : {true, false}) {
-    contrat({{87, "202702^202510^202608"}, {88, "c^a^b"}});
+    contrat("87=202702^202510^202608; 88=c^a^b");
     Frm_CommentBull f(hote.platform, dossier);
     EXPECT_EQ(lignes(f), "OCTOBRE 2025 a|AOÛT 2026 b|FÉVRIER 2027 c");
     montrer(f, [&](screen::User& user) {
@@ -218,7 +187,7 @@ TEST_F(Commentaires, IlsSeRangentEtSortirDemandeQuoiFaire) {
     EXPECT_EQ(lu({87, 88}), garder ? "87=202510^202608^202611^202702 88=a^b^n^c"
                                    : "87=202702^202510^202608 88=c^a^b");
   }
-  contrat({{87, "202608"}, {88, "b"}});
+  contrat("87=202608; 88=b");
   Frm_CommentBull f(hote.platform, dossier);
   montrer(f, [&](screen::User& user) { EXPECT_EQ(clic(user, f.Cmd_Sortir), ""); });
 }
@@ -273,26 +242,19 @@ TEST_F(Heberges, LaTelegestionRecoitSonContexte) {
 TEST_F(Heberges, LIndemnisationCommenceAuPlusTot) {
   session.CodeAidant = "00001";
   session.NomPrenomAidant = "DURAND Anne";
-  const struct {
-    const char *calcul, *traitee, *premiere;
-    const char* periode;
-  } cas[] = {{"202610", "202609", "", "202610"},
-             {"", "202609", "", "202609"},
-             {"202610", "", "202603", "202603"},
-             {"202610", "", "202611", "202610"},
-             {"", "", "202603", ""}};
-  for (const auto& [calcul, traitee, premiere, periode] : cas) {
-    contrat({{81, calcul}, {63, traitee}});
-    if (*premiere == '\0') {
+  for (const auto& [calcul, traitee, premiere, periode] :
+       support::table<4>("dialogs/dialogues.md", "La première période d'indemnisation")) {
+    contrat("81=" + calcul + "; 63=" + traitee);
+    if (premiere.empty()) {
       memoire.Erase("HISTORINDEM", "1000001");
     } else {
-      article("HISTORINDEM", "1000001", {{1, std::string(premiere) + "^202601"}});
+      article("HISTORINDEM", "1000001", "1=" + premiere + "^202601");
     }
     EXPECT_EQ(ouvrir("Ctr_TpsIndem", "W_Occupe", "-1", "0",
                      [&] { return std::make_unique<Frm_TpsIndem>(hote.platform, dossier, "10"); }),
               "DroitsUtilisateur=W_Droits TheDatabase=Db TheClient=LeClient W_CodeAidant=00001 "
               "W_NomPrenom=DURAND Anne W_Periode=" +
-                  std::string(periode) + " W_Cle=1000001 init()");
+                  periode + " W_Cle=1000001 init()");
   }
 }
 

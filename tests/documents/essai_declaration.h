@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -21,14 +20,11 @@ inline std::string jour(const std::string& affichee) {
   return std::to_string(data::lireDateAffichee(affichee).value());
 }
 
-// "2=MARTIN|3=Rose|20=@14/07/1938", the day of that date behind the @.
+// "2=MARTIN; 20=@14/07/1938", the day of that date behind the @.
 inline data::CItem item(const std::string& texte) {
   data::CItem fait;
-  std::istringstream attributs(texte);
-  for (std::string attribut; std::getline(attributs, attribut, '|');) {
-    const auto egal = attribut.find('=');
-    const std::string valeur = attribut.substr(egal + 1);
-    fait.Set(std::stoi(attribut), valeur[0] == '@' ? jour(valeur.substr(1)) : valeur);
+  for (const auto& [a, valeur] : support::attributs(texte)) {
+    fait.Set(a, valeur[0] == '@' ? jour(valeur.substr(1)) : valeur);
   }
   return fait;
 }
@@ -45,28 +41,32 @@ inline data::CItem table(const std::map<std::string, std::string>& libelles) {
 // A French carer with her number, taken on by a private employer.
 inline documents::DossierDeclaration declaration() {
   documents::DossierDeclaration d;
-  d.contrat =
-      item("1=02|2=001|3=00007|4=I|7=@05/01/2026|11=60|16=Auxiliaire de vie|24=15167|25=3|30=B");
+  d.contrat = item(
+      "1=02; 2=001; 3=00007; 4=I; 7=@05/01/2026; 11=60; 16=Auxiliaire de vie; 24=15167; 25=3; "
+      "30=B");
   d.contrat.Set(19, 1, "Employée de maison");
   d.contrat.Set(19, 2, "Garde-malade");
   d.association = item(
-      "1=Aide du Val|3=11112222333344|4=8810A|5=1 quai Nord|8=35300|9=Fougères|10=000450|"
+      "1=Aide du Val; 3=11112222333344; 4=8810A; 5=1 quai Nord; 8=35300; 9=Fougères; 10=000450; "
       "11=1234567890");
   d.aide = item(
-      "2=MARTIN|3=Rose|5=12|6=bis|7=RUE|8=des Lilas|10=35300|11=Fougères|14=02 99 00 11 22|"
+      "2=MARTIN; 3=Rose; 5=12; 6=bis; 7=RUE; 8=des Lilas; 10=35300; 11=Fougères; 14=02 99 00 11 "
+      "22; "
       "20=@14/07/1938");
-  d.part = item("1=351|2=Z123456|9=07");
+  d.part = item("1=351; 2=Z123456; 9=07");
   d.centre = item("9=URSSAF Bretagne");
   d.aidant = item(
-      "1=001MME|2=DURAND|3=Anne|4=LEROY|5=3|6=ter|7=AV|8=du Parc|9=Bâtiment B|10=35500|11=Vitré|"
-      "16=F|17=2 71 03 35 123 456|18=42|19=FRANCE|26=@09/03/1971|27=Rennes|28=35|30=FRANCE");
+      "1=001MME; 2=DURAND; 3=Anne; 4=LEROY; 5=3; 6=ter; 7=AV; 8=du Parc; 9=Bâtiment B; 10=35500; "
+      "11=Vitré; "
+      "16=F; 17=2 71 03 35 123 456; 18=42; 19=FRANCE; 26=@09/03/1971; 27=Rennes; 28=35; 30=FRANCE");
   d.titres = table({{"01", "Carte de résident"}, {"02", "Récépissé"}});
   d.naturesVoie = table({{"AV", "avenue"}, {"RUE", "rue"}});
   d.etablissement = item(
-      "1=Siège|3=55556666777788|4=8810B|5=9 rue Haute|6=Cedex|8=53100|9=Mayenne|10=007|11=9876543");
+      "1=Siège; 3=55556666777788; 4=8810B; 5=9 rue Haute; 6=Cedex; 8=53100; 9=Mayenne; 10=007; "
+      "11=9876543");
   d.etablissement.Set(17, 1, "1200");
   d.codeCentreMedical = "001";
-  d.centreMedical = item("1=Centre|2=5 rue Basse|3=35300|4=Fougères");
+  d.centreMedical = item("1=Centre; 2=5 rue Basse; 3=35300; 4=Fougères");
   d.aujourdhui = 21511;
   d.dossierImages = "images";
   return d;

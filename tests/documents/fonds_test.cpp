@@ -94,11 +94,11 @@ TEST(Fonds, EveryTextFallsIntoABoxOfItsOwn) {
   sansNumero.aidant.Set(17, "");
   Dossier communaute = sansNumero;
   communaute.aidant.Set(19, "ITALIE");
-  communaute.paysNationalite = item("1=République italienne|2=C");
+  communaute.paysNationalite = item("1=République italienne; 2=C");
   communaute.paysNaissance = item("1=Libye");
   Dossier titre = communaute;
   titre.paysNationalite.Set(2, "");
-  titre.etranger = item("1=1|3=9912345678");
+  titre.etranger = item("1=1; 3=9912345678");
   titre.part.Set(9, "00");
   Dossier longs = titre;
   for (const int a : {2, 3, 4}) {

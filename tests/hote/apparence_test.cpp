@@ -4,7 +4,6 @@
 
 #include "widget/apparence.h"
 
-#include <QDir>
 #include <QScrollArea>
 
 #include "essai.h"
@@ -41,12 +40,6 @@ class Apparence : public ::testing::TestWithParam<double> {
     QCoreApplication::processEvents();
     return racine;
   }
-  // Where the pictures of a run go, for whoever wants to see them; nowhere otherwise.
-  static void capturer(QWidget& racine, const QString& nom) {
-    const QString captures = qEnvironmentVariable("CONTRATS_CAPTURES");
-    if (!captures.isEmpty()) racine.grab().save(QDir(captures).filePath(nom + ".png"));
-  }
-
   const QFont police = QApplication::font();
   const QPalette palette = QApplication::palette();
   QTemporaryDir dossier;
@@ -112,7 +105,6 @@ TEST_P(Apparence, NothingIsCutNorLaidOver) {
         EXPECT_LE(zone.widget()->minimumSizeHint().width(), LargeurPage * GetParam()) << i;
       }
       EXPECT_EQ(defauts(*racine), "") << forme << " page " << i;
-      capturer(*racine, QString("%1-%2-%3").arg(forme).arg(i).arg(GetParam()));
     }
   }
 }
@@ -147,7 +139,6 @@ TEST_F(Apparence, DisabledTextsReadAndStepBackOnAnyPalette) {
     nouvelle.setColor(QPalette::Base, base);
     QApplication::setPalette(nouvelle);
     QCoreApplication::processEvents();
-    capturer(*racine, "palette" + fenetre.name().mid(1));
     const QPalette vue = racine->findChild<QWidget*>("Txt_NumContrat")->palette();
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
       const QColor eteint = vue.color(QPalette::Disabled, role);

@@ -7,9 +7,11 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialog>
 #include <QFrame>
 #include <QGroupBox>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -27,12 +29,14 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cstdlib>
+#include <sstream>
 
 #include "data/store_error.h"
 #include "liaison/bureau.h"
 #include "liaison/combo_deroulante.h"
 #include "liaison/liaison.h"
 #include "screen/form.h"
+#include "support/table.h"
 
 namespace essai {
 
@@ -263,6 +267,75 @@ class Essai : public ::testing::Test {
     cliquer(w(nom));
     EXPECT_EQ(actif(), nom);
     forme.Prendre();
+  }
+  void faire(const std::string& acte) {
+    std::istringstream mots(acte);
+    std::string verbe, nom, reste;
+    mots >> verbe >> nom;
+    std::getline(mots >> std::ws, reste);
+    const auto combinaison = [&nom] { return QKeySequence(QString::fromStdString(nom))[0]; };
+    if (verbe == "aller") aller(nom.c_str());
+    if (verbe == "cliquer") cliquer(w(nom.c_str()));
+    if (verbe == "option") option(nom.c_str());
+    if (verbe == "ligne") ligne(nom.c_str(), std::stoi(reste));
+    if (verbe == "fleche") cliquer(w(nom.c_str()), {w(nom.c_str()).width() - 5, 5});
+    if (verbe == "onglet") {
+      QTabBar& barre = *w<QTabWidget>("Ong").tabBar();
+      cliquer(barre, barre.tabRect(std::stoi(nom)).center());
+    }
+    if (verbe == "tout") w<QLineEdit>(nom.c_str()).selectAll();
+    if (verbe == "touche") touche(combinaison().key(), combinaison().keyboardModifiers());
+    if (verbe == "taper") taper(QString::fromStdString(nom));
+    if (verbe == "coller") {
+      QApplication::clipboard()->setText(QString::fromStdString(nom));
+      touche(Qt::Key_V, Qt::ControlModifier);
+    }
+    if (verbe == "composer") {
+      QInputMethodEvent evenement;
+      evenement.setCommitString(QString::fromStdString(nom));
+      QCoreApplication::sendEvent(QApplication::focusWidget(), &evenement);
+    }
+    if (verbe == "griser" || verbe == "poser") {
+      screen::Field& champ = *forme.Find(nom);
+      if (verbe == "griser") champ.SetEnabled(false);
+      if (auto* const texte = dynamic_cast<screen::TextField*>(&champ)) texte->SetText(reste);
+      if (auto* const liste = dynamic_cast<screen::ListBox*>(&champ)) {
+        liste->SetListIndex(std::stoi(reste));
+      }
+      if (auto* const o = dynamic_cast<screen::OptionButton*>(&champ)) o->SetValue(reste != "0");
+      if (auto* const n = dynamic_cast<screen::UpDown*>(&champ)) n->SetValue(std::stoi(reste));
+      liaison->Pousser();
+    }
+    if (verbe == "griser" || verbe == "garder") forme.Prendre();
+    if (verbe == "garder") forme.optionGardee = true;
+  }
+  // What the widget shows, and for a text the model too.
+  std::string montre(const std::string& nom) {
+    if (nom == "focus") return focus();
+    if (nom == "actif") return actif();
+    if (nom == "curseur") return std::to_string(w<QLineEdit>("Txt_Num").cursorPosition());
+    QWidget& widget = w(nom.c_str());
+    if (auto* const liste = qobject_cast<QListWidget*>(&widget)) {
+      return std::to_string(liste->currentRow());
+    }
+    if (auto* const o = qobject_cast<QRadioButton*>(&widget)) return o->isChecked() ? "1" : "0";
+    if (auto* const n = qobject_cast<QSpinBox*>(&widget)) return std::to_string(n->value());
+    const std::string texte = dynamic_cast<QLineEdit&>(widget).text().toStdString();
+    EXPECT_EQ(texte, dynamic_cast<screen::TextField&>(*forme.Find(nom)).Text());
+    return texte;
+  }
+  // Walks through a table: an act, the events that it brings, what is shown then.
+  void parcourir(const char* titre) {
+    for (const auto& [acte, evenements, vus] : support::table<3>("hote/parcours.md", titre)) {
+      SCOPED_TRACE(std::string(titre) + ": " + acte);
+      faire(acte);
+      EXPECT_EQ(forme.Prendre(), evenements);
+      std::istringstream mots(vus);
+      for (std::string mot; mots >> mot;) {
+        const std::size_t egal = mot.find('=');
+        EXPECT_EQ(montre(mot.substr(0, egal)), mot.substr(egal + 1)) << mot;
+      }
+    }
   }
   std::string actif() const { return forme.Active() == nullptr ? "" : forme.Active()->Nom(); }
   std::string focus() const {

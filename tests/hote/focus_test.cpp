@@ -8,37 +8,12 @@ using essai::Apres;
 
 class Focus : public essai::Essai {
  protected:
-  struct Depart {
-    const char* nom;
-    std::function<void()> acte;
-    std::string evenements;  // that follow "-Txt_Date" when the leave is granted
-    std::string arrivee;
-  };
-
-  std::vector<Depart> departs() {
-    return {
-        {"click on a button", [this] { cliquer(w("Cmd_OK")); }, " Cmd_OK", "Cmd_OK"},
-        {"access key", [this] { touche(Qt::Key_V, Qt::AltModifier); }, " Cmd_OK", "Cmd_OK"},
-        {"tab", [this] { cliquer(ongletBarre(), ongletBarre().tabRect(1).center()); }, " Ong<0",
-         "Ong"},
-        {"Ctrl+Tab", [this] { touche(Qt::Key_Tab, Qt::ControlModifier); }, " Ong<0", "Ong"},
-        {"row", [this] { ligne("Lst_A", 2); }, " Lst_A2", "Lst_A"},
-        {"option", [this] { option("Opt_2"); }, " Opt_2", "Opt_2"},
-        {"check box", [this] { option("Cac_X"); }, " Cac_X", "Cac_X"},
-        {"arrow",
-         [this] {
-           cliquer(w("Bdh_N"), {w("Bdh_N").width() - 5, 5});
-         },
-         " Bdh_N" + std::to_string(forme.Bdh_N.Value() + 1), "Bdh_N"},
-        {"Tab", [this] { touche(Qt::Key_Tab); }, "", "Txt_Num"},
-        {"click into a field", [this] { cliquer(w("Txt_P1")); }, "", "Txt_P1"},
-    };
-  }
-  QTabBar& ongletBarre() { return *w<QTabWidget>("Ong").tabBar(); }
+  // Acts that leave Txt_Date, the events that follow when the leave is granted, where they lead.
+  static auto departs() { return support::table<3>("hote/parcours.md", "Quitter un champ"); }
   // What an act must not have changed.
   std::string etat() {
     const int fleche = w<QSpinBox>("Bdh_N").value();
-    return std::to_string(ongletBarre().currentIndex()) + "/" +
+    return std::to_string(w<QTabWidget>("Ong").currentIndex()) + "/" +
            std::to_string(w<QListWidget>("Lst_A").selectedItems().size()) +
            (w<QRadioButton>("Opt_2").isChecked() ? "o" : "") +
            (w<QCheckBox>("Cac_X").isChecked() ? "c" : "") + (fleche != 0 ? "f" : "") + "/" +
@@ -49,9 +24,9 @@ class Focus : public essai::Essai {
 TEST_F(Focus, RefusedLeaveSwallowsTheAct) {
   aller("Txt_Date");
   taper("?");
-  for (const Depart& depart : departs()) {
-    SCOPED_TRACE(depart.nom);
-    depart.acte();
+  for (const auto& [acte, evenements, arrivee] : departs()) {
+    SCOPED_TRACE(acte);
+    faire(acte);
     EXPECT_EQ(forme.Prendre(), "-Txt_Date");
     EXPECT_EQ(actif(), "Txt_Date");
     EXPECT_EQ(etat(), "0/0/Txt_Date");
@@ -106,10 +81,10 @@ TEST_F(Focus, WaitCursorMakesRoomForABox) {
 // During long work the form takes nothing, and the keyboard is where it was afterwards.
 TEST_F(Focus, DisabledFormDropsTheAct) {
   aller("Txt_Date");
-  for (const Depart& depart : departs()) {
-    SCOPED_TRACE(depart.nom);
+  for (const auto& [acte, evenements, arrivee] : departs()) {
+    SCOPED_TRACE(acte);
     forme.SetEnabled(false);
-    depart.acte();
+    faire(acte);
     taper("z");
     racine->close();
     EXPECT_EQ(forme.Prendre(), "");
@@ -122,13 +97,13 @@ TEST_F(Focus, DisabledFormDropsTheAct) {
 }
 
 TEST_F(Focus, GrantedLeaveComesBeforeTheAct) {
-  for (const Depart& depart : departs()) {
-    SCOPED_TRACE(depart.nom);
-    cliquer(ongletBarre(), ongletBarre().tabRect(0).center());
+  for (const auto& [acte, evenements, arrivee] : departs()) {
+    SCOPED_TRACE(acte);
+    faire("onglet 0");
     aller("Txt_Date");
-    depart.acte();
-    EXPECT_EQ(forme.Prendre(), "-Txt_Date" + depart.evenements);
-    EXPECT_EQ(actif(), depart.arrivee);
+    faire(acte);
+    EXPECT_EQ(forme.Prendre(), "-Txt_Date" + (evenements.empty() ? "" : " " + evenements));
+    EXPECT_EQ(actif(), arrivee);
   }
 }
 
@@ -141,37 +116,11 @@ TEST_F(Focus, BoxDuringTheLeaveDropsTheClick) {
   EXPECT_EQ(forme.Prendre(), "-Txt_Date");
 }
 
-// The widgets stand in another order, Txt_Notes is disabled and the second page hidden.
-TEST_F(Focus, TabFollowsTheOrderOfTheFields) {
-  forme.Txt_Notes.SetEnabled(false);
-  liaison->Pousser();
-  aller("Txt_Date");
-  const std::vector<std::string> ordre{"Txt_Num", "Cbo_Ville", "Lst_A",   "Opt_1",
-                                       "Opt_2",   "Cac_X",     "Bdh_N",   "Ong",
-                                       "Txt_P1",  "Cmd_OK",    "Txt_Date"};
-  for (const auto& nom : ordre) {
-    touche(Qt::Key_Tab);
-    EXPECT_EQ(actif(), nom);
-    EXPECT_EQ(focus(), nom);
+TEST_F(Focus, KeysMoveAndPress) {
+  for (const char* const titre :
+       {"Tab suit l'ordre des champs", "Entrée appuie sur le bouton actif", "Ctrl+Entrée"}) {
+    parcourir(titre);
   }
-  for (auto nom = ordre.rbegin() + 1; nom != ordre.rend(); ++nom) {
-    touche(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(actif(), *nom);
-  }
-  // A group with an option on is one stop.
-  option("Opt_2");
-  touche(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(actif(), "Lst_A");
-  touche(Qt::Key_Tab);
-  EXPECT_EQ(actif(), "Opt_2");
-  // So are the columns of a table, where the arrows go from one to the next and stay at the last.
-  aller("Lst_A");
-  for (const char* const colonne : {"Lst_B", "Lst_B"}) {
-    touche(Qt::Key_Right);
-    EXPECT_EQ(actif() + focus(), std::string(colonne) + colonne);
-  }
-  touche(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(actif(), "Cbo_Ville");
 }
 
 // A field that its own click disables loses the keyboard to another, which the model then enters.
@@ -181,17 +130,6 @@ TEST_F(Focus, DisabledFieldHandsTheKeyboardOn) {
   EXPECT_FALSE(w("Cmd_OK").isEnabled());
   ASSERT_NE(actif(), "");
   EXPECT_EQ(actif(), focus());
-}
-
-TEST_F(Focus, EnterPressesTheFocusedButtonAlone) {
-  aller("Txt_Date");
-  touche(Qt::Key_Return);
-  EXPECT_EQ(forme.Prendre(), "");
-  touche(Qt::Key_V, Qt::AltModifier);
-  forme.Prendre();
-  touche(Qt::Key_Enter, Qt::KeypadModifier);
-  touche(Qt::Key_Space);
-  EXPECT_EQ(forme.Prendre(), "Cmd_OK Cmd_OK");
 }
 
 TEST_F(Focus, ClosingAsksTheModel) {
@@ -323,18 +261,6 @@ TEST_F(Focus, EscapePutsBackWhatTheFieldHeld) {
   EXPECT_EQ(w<QLineEdit>("Txt_Num").text(), "12");
   EXPECT_TRUE(forme.Visible());
   EXPECT_EQ(actif(), "Txt_Num");
-}
-
-// Keys that every form understands, wherever the keyboard is; a hidden or grey button has none.
-TEST_F(Focus, CommandKeysPressTheirButtons) {
-  aller("Txt_Num");
-  taper("1");
-  forme.Prendre();
-  touche(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(forme.Prendre(), "-Txt_Num Cmd_OK");
-  forme.Find("Cmd_OK")->SetEnabled(false);
-  touche(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(forme.Prendre(), "");
 }
 
 // Esc and Enter on a question give the answer that loses nothing, where the screen names one.

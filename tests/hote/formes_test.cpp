@@ -1,6 +1,5 @@
 // The forms of the component on their real windows.
 
-#include <QDir>
 #include <QToolTip>
 
 #include "control/ctr_contrat.h"
@@ -23,6 +22,7 @@
 #include "editor/editeur.h"
 #include "essai.h"
 #include "storage/memory.h"
+#include "support/table.h"
 #include "widget/contrat_widget.h"
 #include "widget/formes.h"
 
@@ -35,34 +35,16 @@ constexpr long Aujourdhui = 21511;
 
 class Formes : public ::testing::Test {
  protected:
-  using Attributs = std::vector<std::pair<int, std::string>>;
-
   Formes() {
     hote::enregistrerFormes(bureau);
-    article("COMPTEUR", "999", {{18, "1"}});
-    article("PERIODESPAIE", "1", {{1, "202611"}});
-    article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}, {41, "000"}});
-    article("ASSOCIATION", "001", {{1, "Aide du Val"}});
-    article("ASSOCIATION", "002", {{1, "Bien Chez Soi"}});
-    article("CONVENTIONCOL", "01", {{1, "Branche"}});
-    article("ETABLISSEMENT", "001001", {{1, "Siège"}});
-    article("ETABLISSEMENT", "001002", {{1, "Antenne"}});
-    article("ACTIVITES", "001DOM", {{1, "Domicile"}, {12, "P"}});
-    article("PROFIL", "P01", {{1, "Intervenant"}, {4, "0"}});
-    article("GRILLESCC", "01A", {{1, "Grille A"}});
-    article("CONTRATSPREV", "10", {{1, "Cadres"}, {3, "01"}});
-    article("PCS", "563b", {{1, "Aide à domicile"}});
-    article("PCS", "56", {{1, "Services"}});
-    article("CONSTANTESPAIE", "1", {{10, "4800"}});
-    data::CItem natures = db.OpenFile("TABLES").NewItem("NATURECONTRAT");
-    natures.Set(2, 1, "CDI");
-    natures.Set(3, 1, "Normal");
-    natures.Set(6, 1, "O");
-    natures.DBWrite();
+    for (const auto& [fichier, cle, attributs] :
+         support::table<3>("hote/parcours.md", "Les articles des formes")) {
+      article(fichier, cle, attributs);
+    }
   }
-  void article(const char* fichier, const std::string& cle, const Attributs& attributs) {
+  void article(const std::string& fichier, const std::string& cle, const std::string& attributs) {
     data::CItem item = db.OpenFile(fichier).NewItem(cle);
-    for (const auto& [a, texte] : attributs) item.Set(a, texte);
+    for (const auto& [a, texte] : support::attributs(attributs)) item.Set(a, texte);
     item.DBWrite();
   }
   std::unique_ptr<ContratWidget> ouvrir() {
@@ -76,11 +58,6 @@ class Formes : public ::testing::Test {
     widget->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(widget.get()));
     return widget;
-  }
-  // Where the pictures of a run go, for whoever wants to see them; nowhere otherwise.
-  static void capturer(QWidget& fenetre, const char* nom) {
-    const QString captures = qEnvironmentVariable("CONTRATS_CAPTURES");
-    if (!captures.isEmpty()) fenetre.grab().save(QDir(captures).filePath(nom));
   }
   std::string ecarts(screen::Form& forme) {
     const std::unique_ptr<QWidget> racine = bureau.Construire(forme.Nom());
@@ -148,6 +125,17 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     aller(nom);
     QTest::keyClicks(QApplication::focusWidget(), texte);
   };
+  // Each field and what is typed there, a key by its name in back quotes.
+  const auto suivre = [&](const char* titre) {
+    for (const auto& [nom, frappe] : support::table<2>("hote/parcours.md", titre)) {
+      if (!frappe.starts_with('`')) {
+        remplir(nom, frappe.c_str());
+        continue;
+      }
+      aller(nom);
+      touche(QKeySequence(QString::fromStdString(support::code(frappe)))[0].key());
+    }
+  };
   Apres clerc([&](QWidget& fenetre) {
     if (auto* boite = qobject_cast<QMessageBox*>(&fenetre)) {
       ADD_FAILURE() << boite->text().toStdString();
@@ -157,38 +145,16 @@ TEST_F(Formes, WholeCreationByKeyboard) {
     forme = bureau.FormeCourante();
     ASSERT_EQ(forme->Nom(), "Frm_ElementsContrat");
     EXPECT_EQ(fenetre.windowTitle(), "Nouveau contrat (création)");
-    remplir("Txt_ConvColContrat", "01");
+    suivre("Une création au clavier");
     EXPECT_EQ(fenetre.windowTitle(), "* Nouveau contrat (création)");
-    remplir("Txt_AssocContrat", "1");
-    touche(Qt::Key_Tab);
-    remplir("Txt_EmplEtabContrat", "001");
     // What is no date holds the keyboard, and says what one is.
     remplir("Txt_DatDebContrat", "31/11/26");
     touche(Qt::Key_Tab);
     EXPECT_EQ(forme->Active()->Nom(), "Txt_DatDebContrat");
     EXPECT_TRUE(QToolTip::text().contains("JJ/MM/AAAA"));
     EXPECT_TRUE(QToolTip::isVisible());
-    capturer(fenetre, "indication.png");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-    remplir("Txt_DatDebContrat", "1/12/26");
-    remplir("Txt_PerEssaiContrat", "60");
-    aller("Cac_RenouvEssaiContrat");
-    touche(Qt::Key_Space);
-    remplir("Cbo_NatureContrat", "Normal");
-    aller("Ong_Contrat");
-    touche(Qt::Key_Right);
-    remplir("Cbo_QualifContrat", "Agent");
-    remplir("Txt_DureeWContrat", "20");
-    aller("Cbo_FreqWContrat");
-    touche(Qt::Key_Down);
-    remplir("Txt_TauxHorContrat", "12,02");
-    // The pay tab: the only activity has been taken.
-    aller("Ong_Contrat");
-    touche(Qt::Key_Right);
-    remplir("Txt_ProfilContrat", "P01");
-    aller("Cmd_OK");
-    capturer(fenetre, "creation.png");
-    touche(Qt::Key_Return);
+    suivre("Une création corrigée");
     forme = &ecran->Controle();
   });
   // The keyboard goes where work goes on, in the model and in the widgets.
@@ -216,7 +182,6 @@ TEST_F(Formes, WholeCreationByKeyboard) {
   auto* const debuts = ecran->findChild<QListWidget*>("Lst_DatDebContrat");
   ASSERT_EQ(debuts->count(), 1);
   EXPECT_EQ(debuts->item(0)->text(), "01/12/2026");
-  capturer(*ecran, "liste.png");
 }
 
 // Retour tells the host once, when the widget may be deleted.
@@ -239,9 +204,8 @@ TEST_F(Formes, LeavingLetsTheHostDeleteTheWidget) {
 // A contract asked for beforehand: init returns when its editor has closed, and the widget, a
 // window of its own here, stays until then.
 TEST_F(Formes, InitWithAContractIsBusyUntilItsEditorCloses) {
-  article("CONTRAT", "00001001",
-          {{1, "01"}, {2, "001"}, {3, "001001"}, {4, "I"}, {5, "H"}, {6, "P"}, {7, "21000"}});
-  article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
+  article("CONTRAT", "00001001", "1=01; 2=001; 3=001001; 4=I; 5=H; 6=P; 7=21000");
+  article("CIVILAIDANT", "00001", "2=DURAND; 3=Anne; 41=001");
   ContratWidget ecran(bureau);
   ecran.TheDatabase(db);
   ecran.W_Code = "00001";

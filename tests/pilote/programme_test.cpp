@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "base_demo.h"
+#include "support/table.h"
 #include "support/temp_dir.h"
 
 namespace pilote {
@@ -124,27 +125,15 @@ TEST_F(Programme, ScenarioFautif) {
 }
 
 TEST_F(Programme, OptionsFausses) {
-  const struct {
-    std::vector<std::string> options;
-    const char* raison;
-  } cas[] = {
-      {{}, "Indiquez le fichier de données par --base."},
-      {{"--base", base}, "Indiquez le code de l'aidant par --aidant."},
-      {{"--base", base, "--aidant", "1"}, "--aidant : le code d'un aidant a 5 caractères"},
-      {{"--base", base, "--aidant", "00009"}, "--aidant : l'aidant « 00009 » n'existe pas"},
-      {{"--base", base, "--aidant"}, "Une option est donnée deux fois, ou n'a pas sa valeur."},
-      {{"--base", base, "--aidant", "00001", "--date", "31/02/2026"}, "--date : « 31/02/2026 »"},
-      {{"--base", base, "--aidant", "00001", "--niveau", "deux"}, "--niveau : « deux »"},
-      {{"--base", base, "--aidant", "00001", "--contrat", "00002001"}, "--contrat : la clé"},
-      {{"--base", base, "--aidant", "00001", "--vite"}, "« --vite » n'est pas une option"},
-      {{"--base", base, "--aidant", "00001", "a", "b"}, "« b » n'est pas une option, ni"},
-      {{"--base", base, "--aidant", "00001", "a"}, "Le scénario « a » ne s'ouvre pas."},
-      {{"--base", Racine, "--aidant", "00001"}, "L'écran des contrats ne s'ouvre pas : "},
-  };
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.raison);
-    EXPECT_EQ(Lancer(c.options), MalDemande);
-    EXPECT_THAT(erreurs.str(), HasSubstr(c.raison));
+  for (const auto& [texte, raison] :
+       support::table<2>("pilote/options.md", "Les options fausses")) {
+    SCOPED_TRACE(raison);
+    std::istringstream mots(texte);
+    std::vector<std::string> options{std::istream_iterator<std::string>(mots), {}};
+    std::replace(options.begin(), options.end(), std::string("BASE"), base);
+    std::replace(options.begin(), options.end(), std::string("DOSSIER"), Racine);
+    EXPECT_EQ(Lancer(options), MalDemande);
+    EXPECT_THAT(erreurs.str(), HasSubstr(raison));
   }
   EXPECT_EQ(Lancer({"--help"}), Tenu);
   EXPECT_THAT(sortie.str(), StartsWith("contrat-pilote : "));

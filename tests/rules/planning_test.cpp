@@ -7,6 +7,7 @@
 #include "rules/chevauchement.h"
 #include "storage/memory.h"
 #include "support/faulty_storage.h"
+#include "support/table.h"
 
 namespace {
 
@@ -89,22 +90,10 @@ class Planning : public ::testing::Test {
 };
 
 TEST_F(Planning, UneLigneParIntervention) {
-  const std::string debut = " chez MARTIN Rose à partir du 07/10/2025", sansFin(20, ' ');
-  const struct {
-    const char *cle, *fin, *heureFin;
-    bool centiemes;
-    std::string ligne;
-  } cas[] = {{"000010000721100001DOM00850", "21200", "1075", true,
-              "Lundi    de 08h30 à 10h45" + debut + " jusqu'au 15/01/2026"},
-             {"000010000721100001DOM20833", "", "1000", true,
-              "Mercredi de 08h20 à 10h00" + debut + sansFin},
-             {"000010000721100001DOM60830", "", "1005", false,
-              "Dimanche de 08,30 à 10,05" + debut + sansFin},
-             {"000010009921100001DOM50830", "", "1000", false,
-              "Samedi   de 08,30 à 10,00 chez   à partir du 07/10/2025" + sansFin}};
-  for (const auto& c : cas) {
-    EXPECT_EQ(rules::ligneIntervention(db, {c.cle, c.fin, c.heureFin}, {true, c.centiemes}),
-              "\r\n" + c.ligne);
+  for (const auto& [cle, fin, heureFin, centiemes, ligne] :
+       support::table<5>("rules/planning.md", "Une ligne par intervention")) {
+    EXPECT_EQ(rules::ligneIntervention(db, {cle, fin, heureFin}, {true, centiemes == "oui"}),
+              "\r\n" + support::code(ligne));
   }
 }
 
@@ -117,28 +106,15 @@ TEST_F(Planning, CeQueLeContratNEncadrePas) {
   intervention("21250", "");
   intervention("21000", "", "002DOM");
   intervention("21000", "", "001MAN");
-  const struct {
-    const char* nom;
-    bool termine, avecFin;
-    long finAvant, debutApres;
-    const char* dehors;
-  } cas[] = {
-      {"no neighbour, no end", false, true, 0, rules::SansFin, "21000 21090"},
-      {"a contract just before", false, true, 21099, rules::SansFin, ""},
-      {"a gap before", false, true, 21060, rules::SansFin, "21090"},
-      {"an end", true, true, 21099, rules::SansFin, "21100 21190 21250"},
-      {"not asked for", true, false, 21099, rules::SansFin, ""},
-      {"one that follows", true, true, 21099, 21220, "21100 21190"},
-      {"both sides", true, true, 0, 21220, "21000 21090 21100 21190"},
-  };
-  for (const auto& c : cas) {
-    contrat.termine = c.termine;
+  for (const auto& [nom, termine, avecFin, finAvant, debutApres, dehors] :
+       support::table<6>("rules/planning.md", "Ce que le contrat n'encadre pas")) {
+    contrat.termine = termine == "oui";
     contrat.dernierJour = 21200;
-    contrat.derniereFinAvant = c.finAvant;
-    contrat.prochainDebutApres = c.debutApres;
-    const std::string rapport = rules::Verif_CoherencePlanning(db, contrat, c.avecFin);
-    EXPECT_EQ(jours(rapport), c.dehors) << c.nom;
-    if (*c.dehors != '\0') {
+    contrat.derniereFinAvant = std::stol(finAvant);
+    contrat.prochainDebutApres = debutApres.empty() ? rules::SansFin : std::stol(debutApres);
+    const std::string rapport = rules::Verif_CoherencePlanning(db, contrat, avecFin == "oui");
+    EXPECT_EQ(jours(rapport), dehors) << nom;
+    if (!dehors.empty()) {
       EXPECT_TRUE(rapport.starts_with(
           "Des interventions du planning sont en dehors des dates de validité du contrat : \r\n"));
     }

@@ -2,12 +2,16 @@
 // A form with a field of every kind. Every event goes to one journal, and may then be given
 // something to do: essai.Sur("Txt_A.LostFocus", [&] { essai.Txt_A.SetFocus(); }).
 
+#include <algorithm>
+#include <cstdlib>
 #include <map>
+#include <sstream>
 #include <string>
 
 #include "screen/form.h"
 #include "screen/headless/hote.h"
 #include "screen/user.h"
+#include "support/table.h"
 
 namespace screen {
 
@@ -95,5 +99,52 @@ class Essai : public Form {
   std::string journal_;
   std::map<std::string, Handler> suites_;
 };
+
+// What the program or the user does, in words of the tables: "texte Txt_A abc; cliquer Cmd_OK". What
+// the last act of the user came to. Frm is the form itself.
+inline Acte faire(Essai& e, const std::string& actes) {
+  Acte rendu = Acte::Fait;
+  for (std::size_t debut = 0; debut < actes.size();) {
+    const std::size_t fin = std::min(actes.find("; ", debut), actes.size());
+    std::istringstream mots(actes.substr(debut, fin - debut));
+    debut = fin + 2;
+    std::string verbe, nom, reste;
+    mots >> verbe >> nom;
+    std::getline(mots >> std::ws, reste);
+    const int n = std::atoi(reste.c_str());
+    const std::string suite = reste.substr(std::min(reste.find(' '), reste.size() - 1) + 1);
+    Field* const champ = e.Find(nom);
+    auto* const rangees = dynamic_cast<RowsField*>(champ);
+    auto* const combo = dynamic_cast<ComboBox*>(champ);
+    auto* const barre = dynamic_cast<ScrollBar*>(champ);
+    if (verbe == "sur") e.Sur(nom, [&e, reste] { faire(e, reste); });
+    if (verbe == "journal") e.Journal();
+    if (verbe == "texte") {
+      combo != nullptr ? combo->SetText(reste) : dynamic_cast<TextField&>(*champ).SetText(reste);
+    }
+    if (verbe == "ligne") rangees->SetListIndex(n);
+    if (verbe == "inserer") rangees->InsertItem(n, suite);
+    if (verbe == "retirer") rangees->RemoveItem(n);
+    if (verbe == "recrire") rangees->SetList(n, suite);
+    if (verbe == "vider") rangees->Clear();
+    if (verbe == "valeur") {
+      if (auto* const option = dynamic_cast<OptionButton*>(champ)) option->SetValue(n != 0);
+      if (auto* const coche = dynamic_cast<CheckBox*>(champ)) coche->SetValue(n);
+      if (barre != nullptr) barre->SetValue(n);
+    }
+    if (verbe == "message") e.MessageBox("non");
+    if (verbe == "max") barre->SetMax(n);
+    if (verbe == "onglet") dynamic_cast<TabStrip&>(*champ).SetTab(n);
+    if (verbe == "focus") champ->SetFocus();
+    if (verbe == "cacher") champ != nullptr ? champ->SetVisible(false) : e.Hide();
+    if (verbe == "fermer" || verbe == "ouvrir") {
+      champ != nullptr ? champ->SetEnabled(verbe == "ouvrir") : e.SetEnabled(verbe == "ouvrir");
+    }
+    if (verbe == "cliquer") rendu = User(e).Cliquer(*champ);
+    if (verbe == "quitter") rendu = User(e).Quitter();
+    if (verbe == "barre") rendu = User(e).Barre(*barre, n);
+  }
+  return rendu;
+}
 
 }  // namespace screen

@@ -93,35 +93,20 @@ TEST_F(Saisie, Touches) {
 
 // A host that edits the text itself asks what is left of a key; the text is not touched.
 TEST_F(Saisie, ToucheFiltree) {
-  const struct {
-    const char* nom;
-    Field& champ;
-    char32_t touche;
-    Handler surTouche;  // in place of the filter
-    char32_t reste;
-    const char* actif;
-  } cas[] = {
-      {"gardée", essai.Txt_A, U'a', {}, U'a', "Txt_A"},
-      {"changée", essai.Txt_A, U',', {}, U'.', "Txt_A"},
-      {"refusée", essai.Txt_A, U'x', {}, 0, "Txt_A"},
-      {"effacement", essai.Txt_A, ToucheRetour, {}, ToucheRetour, "Txt_A"},
-      {"liste", essai.Lst_A, U'a', {}, U'a', "Lst_A"},
-      {"champ sans touches", essai.Cmd_OK, U'a', {}, 0, "Cmd_OK"},
-      {"boîte", essai.Txt_A, U'a', [&] { essai.MessageBox("non"); }, U'a', "Txt_A"},
-      {"focus ailleurs", essai.Txt_A, U'a', [&] { essai.Txt_B.SetFocus(); }, 0, "Txt_B"},
-      {"champ fermé", essai.Txt_A, U'a', [&] { essai.Txt_A.SetEnabled(false); }, 0, "-"},
-      {"champ déjà fermé", essai.Txt_A, U'a', {}, 0, "-"},
-      {"écran désactivé", essai.Txt_C, U'a', [&] { essai.SetEnabled(false); }, 0, "Txt_C"},
-      {"écran déjà désactivé", essai.Txt_C, U'a', {}, 0, "Txt_C"},
+  const auto code = [](const std::string& touche) -> char32_t {
+    if (touche == "Retour") return ToucheRetour;
+    return touche.empty() ? 0 : static_cast<unsigned char>(touche[0]);
   };
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.nom);
+  for (const auto& [nom, champ, touche, programme, reste, actif] :
+       support::table<6>("screen/actes.md", "Une touche filtrée")) {
+    SCOPED_TRACE(nom);
     const KeyHandler filtre = essai.Txt_A.KeyPress;
-    if (c.surTouche) {
-      essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = [&](char32_t&) { c.surTouche(); };
+    if (!programme.empty()) {
+      essai.Txt_A.KeyPress =
+          essai.Txt_C.KeyPress = [&, &p = programme](char32_t&) { faire(essai, p); };
     }
-    EXPECT_EQ(user.Filtrer(c.champ, c.touche, ""), c.reste);
-    EXPECT_EQ(essai.Actif(), c.actif);
+    EXPECT_EQ(user.Filtrer(*essai.Find(champ), code(touche), ""), code(reste));
+    EXPECT_EQ(essai.Actif(), actif);
     essai.Txt_A.KeyPress = essai.Txt_C.KeyPress = filtre;
   }
   EXPECT_EQ(essai.Txt_A.Text() + essai.Txt_C.Text(), "");
@@ -140,23 +125,16 @@ TEST_F(Saisie, LesTouchesSuiventLeFocus) {
 
 TEST_F(Saisie, ArreteeParUnEvenement) {
   Essai dialogue(hote.platform);
-  const struct {
-    const char* nom;
-    Handler surChange;
-  } cas[] = {
-      {"boîte", [&] { essai.MessageBox("non"), essai.Txt_A.SetFocus(); }},
-      {"écran modal", [&] { dialogue.ShowModal(); }},
-      {"plus de champ actif", [&] { essai.Txt_A.SetEnabled(false); }},
-      {"écran désactivé", [&] { essai.SetEnabled(false); }},
-      {"écran caché", [&] { essai.Hide(); }},
-  };
-  for (const auto& c : cas) {
-    SCOPED_TRACE(c.nom);
+  for (const char* const acte :
+       {"message; focus Txt_A", "", "fermer Txt_A", "fermer Frm", "cacher Frm"}) {
+    SCOPED_TRACE(acte);
     hote.modales.Prevoir([](Form& f) { f.Hide(); });
     essai.Show();
     essai.Sur("Txt_A.Change", [] {});
     Poser("");
-    essai.Sur("Txt_A.Change", c.surChange);
+    essai.Sur("Txt_A.Change", [&] {
+      *acte == '\0' ? dialogue.ShowModal() : static_cast<void>(faire(essai, acte));
+    });
     EXPECT_EQ(user.Taper(essai.Txt_A, "12"), Acte::Avale);
     EXPECT_EQ(essai.Txt_A.Text(), "1");
     essai.Txt_A.SetEnabled(true);

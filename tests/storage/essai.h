@@ -4,11 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 
-#include "data/storage.h"
+#include "data/poste.h"
 #include "data/store_error.h"
+#include "storage/sqlite.h"
+#include "support/sql.h"
+#include "support/temp_dir.h"
 
 namespace essai {
 
@@ -75,5 +79,24 @@ inline std::string refus(const std::function<void()>& acte, std::string* message
   }
   return "rien";
 }
+
+// A data file in a scratch folder.
+class Fichier : public testing::Test {
+ protected:
+  std::unique_ptr<storage::SqliteStorage> Creer() const {
+    return storage::SqliteStorage::Creer(chemin_, poste_);
+  }
+  std::unique_ptr<storage::SqliteStorage> Ouvrir(int attenteMs = 50) const {
+    return storage::SqliteStorage::Ouvrir(chemin_, poste_, {attenteMs, 0});
+  }
+  std::unique_ptr<storage::SqliteStorage> Lire() const {
+    return storage::SqliteStorage::OuvrirEnLecture(chemin_, poste_);
+  }
+  long Sql(const std::string& requete) const { return support::sql(chemin_, requete); }
+
+  data::PosteFixe poste_{21511};
+  support::TempDir dossier_;
+  std::string chemin_ = dossier_.Chemin("essai");
+};
 
 }  // namespace essai

@@ -3,33 +3,26 @@
 // own test.
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
-#include <cstdlib>
 #include <stdexcept>
 
 #include "data/citem.h"
 #include "data/layouts/recherches.h"
-#include "data/poste.h"
 #include "essai.h"
-#include "storage/sqlite.h"
-#include "storage/sqlite_pages.h"
-#include "support/temp_dir.h"
 
 namespace {
 
 using data::CItem;
 using data::KeyRange;
-using storage::SqliteStorage;
 
 // Entries are those of links of contracts; their index is the first of the table.
 const data::Chemin kLiens{&data::IndexTenus[0], KeyRange::Une("00001009")};
 
-class IndexSqlite : public testing::Test {
+class IndexSqlite : public essai::Fichier {
  protected:
   // Three contracts, of which two hand their leave over to 00001009, and a carer.
   IndexSqlite() {
-    const auto store = SqliteStorage::Creer(chemin_, poste_);
+    const auto store = Creer();
     Lier(*store, "00001001", "00001009");
     Lier(*store, "00001002", "00001008");
     Lier(*store, "00001003", "00001009");
@@ -39,21 +32,6 @@ class IndexSqlite : public testing::Test {
     CItem contrat;
     contrat.Set(data::Contrat::CongesReportesSur, vers);
     store.Put("CONTRAT", cle, contrat.Text());
-  }
-  // The first number of the first row, 0 without one.
-  long Sql(const std::string& sql) const {
-    const auto premier = [](void* nombre, int, char** textes, char**) {
-      *static_cast<long*>(nombre) = std::atol(textes[0]);
-      return 0;
-    };
-    long nombre = 0;
-    sqlite3* db = nullptr;
-    EXPECT_EQ(sqlite3_open_v2(chemin_.c_str(), &db, SQLITE_OPEN_READWRITE, storage::nomVfsPages()),
-              SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(db, sql.c_str(), premier, &nombre, nullptr), SQLITE_OK)
-        << sqlite3_errmsg(db);
-    sqlite3_close(db);
-    return nombre;
   }
   // As a program before the indexes left it.
   void Vieillir() const { Sql("DROP TABLE entree; DROP TABLE indice; PRAGMA user_version = 1"); }
@@ -71,24 +49,20 @@ class IndexSqlite : public testing::Test {
   }
   std::string Ecarts() const {
     std::string tout;
-    const auto store = SqliteStorage::OuvrirEnLecture(chemin_, poste_);
+    const auto store = Lire();
     const bool index = store->VerifierIndex([&](const storage::Dommage& d) {
       tout += d.fichier + ' ' + d.cle + ": " + d.message + '\n';
     });
     return index ? tout : "sans";
   }
-
-  data::PosteFixe poste_{21511};
-  support::TempDir dossier_;
-  std::string chemin_ = dossier_.Chemin("essai");
 };
 
 TEST_F(IndexSqlite, AFileFromBeforeIsIndexedWhenItIsOpenedToWrite) {
   Vieillir();
   EXPECT_EQ(Ecarts(), "sans");
-  const auto lecteur = SqliteStorage::OuvrirEnLecture(chemin_, poste_);
+  const auto lecteur = Lire();
   EXPECT_EQ(Lies(*lecteur), "sans");
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
   EXPECT_EQ(Lies(*store), "00001001 00001003");
   // Who had it open sees them too.
   EXPECT_EQ(Lies(*lecteur), "00001001 00001003");
@@ -99,24 +73,24 @@ TEST_F(IndexSqlite, AFileFromBeforeIsIndexedWhenItIsOpenedToWrite) {
 TEST_F(IndexSqlite, ADamagedFileFromBeforeIsUsedWithout) {
   Vieillir();
   Sql("UPDATE article SET texte = texte || '.' WHERE cle = '00001002'");
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
   EXPECT_EQ(Lies(*store), "sans");
   Lier(*store, "00001003", "00001008");
   Sql("DELETE FROM article WHERE cle = '00001002'");
-  EXPECT_EQ(Lies(*SqliteStorage::Ouvrir(chemin_, poste_)), "00001001");
+  EXPECT_EQ(Lies(*Ouvrir()), "00001001");
 }
 
 // Programs with other indexes: neither trusts what the other keeps, and a write that left entries
 // behind is never forgotten.
 TEST_F(IndexSqlite, EntriesOfAnotherProgramAreNotTrusted) {
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
   Sql("UPDATE indice SET signature = 5");
   EXPECT_EQ(Lies(*store), "sans");
   store->Put("PAYS", "001", "Belgique");
   EXPECT_EQ(Sql("SELECT signature FROM indice"), 0);  // the other must not trust them any more
   Lier(*store, "00001001", "00001008");
   EXPECT_EQ(Lies(*store), "sans");
-  EXPECT_EQ(Lies(*SqliteStorage::Ouvrir(chemin_, poste_)), "00001003");
+  EXPECT_EQ(Lies(*Ouvrir()), "00001003");
   EXPECT_EQ(Lies(*store), "00001003");
   EXPECT_EQ(Ecarts(), "");
 }
@@ -145,15 +119,15 @@ TEST_F(IndexSqlite, TheCheckFindsWhatDiffersAndRebuildingMendsIt) {
     Sql(c.sql);
     const std::string ecarts = Ecarts();
     EXPECT_EQ(ecarts.substr(0, std::string(c.constat).size()), c.constat);
-    SqliteStorage::Ouvrir(chemin_, poste_)->RefaireIndex();
+    Ouvrir()->RefaireIndex();
   }
   EXPECT_EQ(Ecarts(), "");
 }
 
 // What another program writes while records are being fetched is not mixed with what was found.
 TEST_F(IndexSqlite, OneScanSeesOneState) {
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
-  const auto autre = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
+  const auto autre = Ouvrir();
   std::string vus;
   store->ScanChemins("CONTRAT", {kLiens}, [&](std::string_view cle, std::string_view texte) {
     autre->Erase("CONTRAT", "00001003");

@@ -1,17 +1,12 @@
 // Damaged data files: no damage is ever read as sound, nor taken for an absent record.
 
-#include <sqlite3.h>
-
 #include <fstream>
 #include <map>
 #include <random>
 
 #include "data/layouts/recherches.h"
-#include "data/poste.h"
 #include "essai.h"
-#include "storage/sqlite.h"
 #include "storage/sqlite_pages.h"
-#include "support/temp_dir.h"
 
 namespace {
 
@@ -28,13 +23,13 @@ std::string texte(int i) {
   return cle(i) + std::string(static_cast<std::size_t>(i % 700), 't');
 }
 
-class Dommages : public testing::Test {
+class Dommages : public essai::Fichier {
  protected:
   // Five keys in six are there; the others are for questions about absent records.
   static bool Presente(int i) { return i % 6 != 0; }
 
   Dommages() {
-    const auto store = SqliteStorage::Creer(chemin_, poste_);
+    const auto store = Creer();
     store->EnUnBloc([&] {
       for (int i = 0; i < kArticles; ++i) {
         if (!Presente(i)) continue;
@@ -52,25 +47,15 @@ class Dommages : public testing::Test {
   }
   std::vector<storage::Dommage> Verifier() {
     std::vector<storage::Dommage> dommages;
-    SqliteStorage::Ouvrir(chemin_, poste_)->Verifier([&](const storage::Dommage& d) {
-      dommages.push_back(d);
-    });
+    Ouvrir()->Verifier([&](const storage::Dommage& d) { dommages.push_back(d); });
     return dommages;
-  }
-  // Runs SQL through the layer of sealed pages, behind the store's back.
-  void Sql(const char* sql) {
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(chemin_.c_str(), &db, SQLITE_OPEN_READWRITE, storage::nomVfsPages()),
-              SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
-    sqlite3_close(db);
   }
   // Asks for everything. Every answer must be right or a refusal; the number of refusals.
   int Interroger() {
     int refuses = 0;
     std::unique_ptr<SqliteStorage> store;
     // "Not a data file" and "another version" are right as well when the header's marks are hit.
-    if (refus([&] { store = SqliteStorage::Ouvrir(chemin_, poste_); }) != "rien") return 1;
+    if (refus([&] { store = Ouvrir(); }) != "rien") return 1;
     const auto essayer = [&](const std::function<void()>& acte) {
       const std::string refuse = refus(acte);
       if (refuse == "rien") return;
@@ -100,10 +85,6 @@ class Dommages : public testing::Test {
     });
     return refuses;
   }
-
-  data::PosteFixe poste_{21511};
-  support::TempDir dossier_;
-  std::string chemin_ = dossier_.Chemin("essai");
 };
 
 TEST_F(Dommages, AnyFlippedByteIsNoticed) {
@@ -143,7 +124,7 @@ TEST_F(Dommages, ADamagedTextNamesItsPageAndTheCheckGoesOn) {
   octets[lieu + 50] = 'u';
   Remplacer(octets);
   const std::string page = std::to_string(lieu / storage::kOctetsPage + 1);
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
   std::string message;
   std::string lu;
   EXPECT_EQ(refus([&] { store->Get("CONTRAT", cle(205), lu); }, &message),
@@ -177,7 +158,7 @@ TEST_F(Dommages, TheCheckWordsWhatSqliteFinds) {
   EXPECT_EQ(tout, page(pages + 1) + page(pages + 2));
   std::string message;
   Remplacer(Octets().substr(0, taille));
-  EXPECT_EQ(refus([&] { SqliteStorage::Ouvrir(chemin_, poste_); }, &message), "Endommage");
+  EXPECT_EQ(refus([&] { Ouvrir(); }, &message), "Endommage");
   EXPECT_NE(message.find("la fin du fichier manque : il a " + std::to_string(taille) +
                          " octets au lieu de " + std::to_string(taille + 2 * 8192) + "."),
             std::string::npos)
@@ -189,7 +170,7 @@ TEST_F(Dommages, ARecordChangedBehindTheStoreIsNoticed) {
   Sql("UPDATE article SET texte = texte || '.' WHERE cle = '10101';"
       "UPDATE article SET fichier = 'TABLES' WHERE cle = '10103';"
       "UPDATE ancien SET utilisateur = 'AUTRE' WHERE cle = '10001';");
-  const auto store = SqliteStorage::Ouvrir(chemin_, poste_);
+  const auto store = Ouvrir();
   std::string lu = "intact";
   EXPECT_EQ(refus([&] { store->Get("CONTRAT", cle(101), lu); }), "Endommage CONTRAT 10101");
   EXPECT_EQ(lu, "intact");

@@ -7,23 +7,16 @@
 #include <array>
 #include <csignal>
 
-#include "data/poste.h"
 #include "essai.h"
-#include "storage/sqlite.h"
-#include "support/temp_dir.h"
 
 namespace {
 
 using essai::etat;
 using essai::refus;
-using storage::SqliteStorage;
 
-class Processus : public testing::Test {
+class Processus : public essai::Fichier {
  protected:
-  Processus() { SqliteStorage::Creer(chemin_, poste_)->Put("CONTRAT", "0", "a"); }
-  std::unique_ptr<SqliteStorage> Ouvrir(int attenteMs = 5000) {
-    return SqliteStorage::Ouvrir(chemin_, poste_, {attenteMs, 0});
-  }
+  Processus() { Creer()->Put("CONTRAT", "0", "a"); }
   // A child that runs `acte`, exits with 0 when it returns and with 1 when it throws.
   static pid_t Lancer(const std::function<void()>& acte) {
     const pid_t enfant = fork();
@@ -41,10 +34,6 @@ class Processus : public testing::Test {
     return fin;
   }
   static bool Tue(int fin) { return WIFSIGNALED(fin) && WTERMSIG(fin) == SIGKILL; }
-
-  data::PosteFixe poste_{21511};
-  support::TempDir dossier_;
-  std::string chemin_ = dossier_.Chemin("essai");
 };
 
 TEST_F(Processus, WritersWaitForEachOther) {
@@ -53,7 +42,7 @@ TEST_F(Processus, WritersWaitForEachOther) {
   std::array<pid_t, kEnfants> enfants{};
   for (std::size_t e = 0; e < kEnfants; ++e) {
     enfants[e] = Lancer([&, e] {
-      const auto store = Ouvrir();
+      const auto store = Ouvrir(5000);
       for (int i = 0; i < kTours; ++i) {
         store->Put("CONTRAT", std::to_string(e + 1) + "-" + std::to_string(i), "t");
         store->Put("CONTRAT", "0", std::to_string(e) + "." + std::to_string(i));
@@ -61,15 +50,15 @@ TEST_F(Processus, WritersWaitForEachOther) {
     });
   }
   for (const pid_t enfant : enfants) EXPECT_EQ(Attendre(enfant), 0);
-  const auto store = Ouvrir();
+  const auto store = Ouvrir(5000);
   EXPECT_EQ(store->Fichiers().at(0).articles, 1 + kEnfants * kTours);
   // No overwritten text is lost, whoever overwrote it.
   EXPECT_EQ(store->Historique("CONTRAT", "0").size(), kEnfants * kTours);
 }
 
 TEST_F(Processus, LockHeldTooLongIsOccupe) {
-  const auto premier = Ouvrir();
-  const auto second = Ouvrir(50);
+  const auto premier = Ouvrir(5000);
+  const auto second = Ouvrir();
   premier->EnUnBloc([&] {
     premier->Put("CONTRAT", "0", "b");
     std::string message;
@@ -91,7 +80,7 @@ TEST_F(Processus, KilledWriterLosesNothingAcknowledged) {
     int tube[2];
     ASSERT_EQ(pipe(tube), 0);
     const pid_t enfant = Lancer([&] {
-      const auto store = Ouvrir();
+      const auto store = Ouvrir(5000);
       for (int i = 1; i <= 30; ++i) {
         store->Put("CONTRAT", "0", std::to_string(i));
         if (write(tube[1], "x", 1) != 1) return;

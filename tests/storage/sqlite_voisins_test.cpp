@@ -9,11 +9,8 @@
 #include <csignal>
 #include <set>
 
-#include "data/poste.h"
 #include "essai.h"
 #include "processus.h"
-#include "storage/sqlite.h"
-#include "support/temp_dir.h"
 
 namespace {
 
@@ -22,18 +19,12 @@ using essai::refus;
 using storage::SqliteStorage;
 namespace fs = std::filesystem;
 
-class Voisins : public testing::Test {
+class Voisins : public essai::Fichier {
  protected:
   Voisins() {
     fs::permissions(dossier_.Dossier(), fs::perms{0777});
-    SqliteStorage::Creer(chemin_, poste_)->Put("CONTRAT", "1", "a");
+    Creer()->Put("CONTRAT", "1", "a");
     fs::permissions(chemin_, fs::perms{0644});
-  }
-  std::unique_ptr<SqliteStorage> Ouvrir(int attenteMs = 50) const {
-    return SqliteStorage::Ouvrir(chemin_, poste_, {attenteMs, 0});
-  }
-  std::unique_ptr<SqliteStorage> Lire() const {
-    return SqliteStorage::OuvrirEnLecture(chemin_, poste_);
   }
   // The names in the folder, "essai" for one whole file.
   std::string Dossier() const {
@@ -55,10 +46,6 @@ class Voisins : public testing::Test {
     });
     ASSERT_GT(fs::file_size(chemin_ + "-wal"), 0U);
   }
-
-  data::PosteFixe poste_{21511};
-  support::TempDir dossier_;
-  std::string chemin_ = dossier_.Chemin("essai");
 };
 
 TEST_F(Voisins, TheLastToLeaveLeavesOneWholeFile) {

@@ -1,49 +1,39 @@
 // A data file that changes place while it is in use takes no write that nobody would find again.
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 
-#include "data/poste.h"
-#include "data/store_error.h"
-#include "storage/sqlite.h"
-#include "support/temp_dir.h"
+#include "essai.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using storage::SqliteStorage;
 
-class Veille : public ::testing::Test {
+class Veille : public essai::Fichier {
  protected:
-  std::unique_ptr<SqliteStorage> Creer() const {
-    SqliteStorage::Creer(chemin_, poste_)->Put("PCS", "1", "avant");
-    return SqliteStorage::Ouvrir(chemin_, poste_);
+  // Opened anew, so that what stood before is in the file and not in its log.
+  std::unique_ptr<SqliteStorage> Commencer() const {
+    Creer()->Put("PCS", "1", "avant");
+    return Ouvrir(5000);
   }
 
   // What the refusal of `ecriture` says, "" when it passes.
   static std::string refus(const std::function<void()>& ecriture) {
-    try {
-      ecriture();
-      return "";
-    } catch (const data::StoreError& erreur) {
-      EXPECT_EQ(erreur.Numero(), data::NumeroErreur::EntreeSortie);
-      return erreur.what();
-    }
+    std::string dit;
+    const std::string refuse = essai::refus(ecriture, &dit);
+    EXPECT_TRUE(refuse == "rien" || refuse.starts_with("EntreeSortie")) << refuse;
+    return dit;
   }
   std::string lu(const char* cle) {
     std::string texte = "-";
-    SqliteStorage::Ouvrir(chemin_, poste_)->Get("PCS", cle, texte);
+    Ouvrir()->Get("PCS", cle, texte);
     return texte;
   }
 
-  const support::TempDir dossier_{};
-  const std::string chemin_ = dossier_.Chemin("a.contrats");
-  const std::string ailleurs_ = dossier_.Chemin("b.contrats");
-  const data::PosteFixe poste_{21511};
-  const std::unique_ptr<SqliteStorage> store_ = Creer();
+  const std::string ailleurs_ = dossier_.Chemin("ailleurs");
+  const std::unique_ptr<SqliteStorage> store_ = Commencer();
   SqliteStorage& veille_ = *store_;
 };
 
@@ -96,7 +86,7 @@ TEST_F(Veille, UndoesABlockUnderWhichTheFileGoes) {
 // Logs that others begin, over this very file, are no sign of another one.
 TEST_F(Veille, FollowsTheWritesOfOthers) {
   for (const char* cle : {"a", "b", "c"}) {
-    const auto autre = SqliteStorage::Ouvrir(chemin_, poste_);
+    const auto autre = Ouvrir(5000);
     autre->Put("PCS", cle, "x");
     EXPECT_TRUE(autre->Compacter());
     autre->Put("PCS", cle, std::string(9000000, 'x'));  // the log goes into the file meanwhile

@@ -6,15 +6,14 @@
 //   support::FaultyStorage store(memoire);
 //   store.EchouerEcriture(3);   the third Put or Erase from now fails, the others pass
 
-#include "data/storage.h"
 #include "data/store_error.h"
+#include "support/relais_storage.h"
 
 namespace support {
 
-class FaultyStorage : public data::Storage {
+class FaultyStorage : public RelaisStorage {
  public:
-  // `dessous` must outlive this store.
-  explicit FaultyStorage(data::Storage& dessous) : dessous_(dessous) {}
+  using RelaisStorage::RelaisStorage;
 
   // Counted from 1 from now on; 0 takes the fault back. Both counts start anew.
   void EchouerEcriture(int n) { Armer(n, 0); }
@@ -23,45 +22,13 @@ class FaultyStorage : public data::Storage {
   // Writes since the last Echouer..., the failed one included.
   int Ecritures() const { return ecritures_; }
 
-  bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
-    Appel(fichier, cle);
-    return dessous_.Get(fichier, cle, texte);
-  }
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
     Ecriture(fichier, cle);
-    dessous_.Put(fichier, cle, texte);
+    RelaisStorage::Put(fichier, cle, texte);
   }
   bool Erase(std::string_view fichier, std::string_view cle) override {
     Ecriture(fichier, cle);
-    return dessous_.Erase(fichier, cle);
-  }
-  void Scan(std::string_view fichier, const data::KeyRange& cles,
-            const Visiteur& visiteur) override {
-    Appel(fichier, cles.debut);
-    dessous_.Scan(fichier, cles, visiteur);
-  }
-  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
-                                     std::size_t plafond) override {
-    Appel(fichier, {});
-    return dessous_.Compter(fichier, chemin, plafond);
-  }
-  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
-                   const Visiteur& visiteur) override {
-    Appel(fichier, {});
-    return dessous_.ScanChemins(fichier, chemins, visiteur);
-  }
-  std::vector<data::FichierCompte> Fichiers() override {
-    Appel({}, {});
-    return dessous_.Fichiers();
-  }
-  std::vector<data::AncienTexte> Historique(std::string_view fichier,
-                                            std::string_view cle) override {
-    Appel(fichier, cle);
-    return dessous_.Historique(fichier, cle);
-  }
-  void EnUnBloc(const std::function<void()>& travail) override {
-    Appel({}, {});
-    dessous_.EnUnBloc(travail);
+    return RelaisStorage::Erase(fichier, cle);
   }
 
  private:
@@ -72,9 +39,12 @@ class FaultyStorage : public data::Storage {
   }
   void Ecriture(std::string_view fichier, std::string_view cle) {
     ++ecritures_;
-    Appel(fichier, cle, ecritures_ == ecritureFatale_);
+    Compte(fichier, cle, ecritures_ == ecritureFatale_);
   }
-  void Appel(std::string_view fichier, std::string_view cle, bool fatal = false) {
+  void Appel(std::string_view fichier, std::string_view cle) override {
+    Compte(fichier, cle, false);
+  }
+  void Compte(std::string_view fichier, std::string_view cle, bool fatal) {
     if (++appels_ != appelFatal_ && !fatal) return;
     throw data::StoreError(data::NumeroErreur::EntreeSortie,
                            "Panne voulue à l'article « " + std::string(cle) + " » du fichier " +
@@ -82,7 +52,6 @@ class FaultyStorage : public data::Storage {
                            std::string(fichier), std::string(cle));
   }
 
-  data::Storage& dessous_;
   int ecritureFatale_ = 0;
   int appelFatal_ = 0;
   int ecritures_ = 0;

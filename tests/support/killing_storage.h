@@ -9,11 +9,11 @@
 #include <fstream>
 #include <memory>
 
-#include "data/storage.h"
+#include "support/relais_storage.h"
 
 namespace support {
 
-class KillingStorage : public data::Storage {
+class KillingStorage : public RelaisStorage {
  public:
   enum class Quand { Avant, Apres };
 
@@ -21,42 +21,26 @@ class KillingStorage : public data::Storage {
   // removal "FICHIER CLE".
   KillingStorage(std::unique_ptr<data::Storage> dessous, int ecriture, Quand quand,
                  const std::string& journal)
-      : dessous_(std::move(dessous)), fatale_(ecriture), quand_(quand), journal_(journal) {}
+      : RelaisStorage(*dessous),
+        dessous_(std::move(dessous)),
+        fatale_(ecriture),
+        quand_(quand),
+        journal_(journal) {}
 
-  bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
-    return dessous_->Get(fichier, cle, texte);
-  }
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
     Debuter();
-    dessous_->Put(fichier, cle, texte);
+    RelaisStorage::Put(fichier, cle, texte);
     Finir(std::string(fichier) + ' ' + std::string(cle) + ' ' + std::string(texte));
   }
   bool Erase(std::string_view fichier, std::string_view cle) override {
     Debuter();
-    const bool present = dessous_->Erase(fichier, cle);
+    const bool present = RelaisStorage::Erase(fichier, cle);
     Finir(std::string(fichier) + ' ' + std::string(cle));
     return present;
   }
-  void Scan(std::string_view fichier, const data::KeyRange& cles,
-            const Visiteur& visiteur) override {
-    dessous_->Scan(fichier, cles, visiteur);
-  }
-  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
-                                     std::size_t plafond) override {
-    return dessous_->Compter(fichier, chemin, plafond);
-  }
-  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
-                   const Visiteur& visiteur) override {
-    return dessous_->ScanChemins(fichier, chemins, visiteur);
-  }
-  std::vector<data::FichierCompte> Fichiers() override { return dessous_->Fichiers(); }
-  std::vector<data::AncienTexte> Historique(std::string_view fichier,
-                                            std::string_view cle) override {
-    return dessous_->Historique(fichier, cle);
-  }
   void EnUnBloc(const std::function<void()>& travail) override {
     enBloc_ = true;
-    dessous_->EnUnBloc(travail);
+    RelaisStorage::EnUnBloc(travail);
     enBloc_ = false;
     Acquitter();
   }
