@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "control/ctr_contrat.h"
+#include "control/description.h"
 
 namespace control {
 
@@ -12,6 +13,24 @@ Compte VueContrats::Compter() const {
 
 EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
   return etatContrat(contrat, liste_.Services().poste.Aujourdhui());
+}
+
+Frise VueContrats::FaireFrise() const {
+  return faireFrise(liste_.Contrats(), liste_.EnMain(), liste_.Services().poste.Aujourdhui());
+}
+
+std::string VueContrats::Dire(const Barre& barre) const {
+  return direBarre(barre);
+}
+
+std::string VueContrats::Decrire(const std::string& cle) const {
+  data::CItem contrat;
+  if (!liste_.Etat().F_CONTRAT.Lire(cle, contrat)) return "";
+  return decrireContrat(liste_.Etat(), contrat, liste_.Services().poste.Aujourdhui());
+}
+
+std::string VueContrats::Nommer(const rules::Portee& portee) const {
+  return nommerPortee(liste_.Etat(), portee);
 }
 
 int VueContrats::Masques() const {

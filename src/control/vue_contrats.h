@@ -7,6 +7,7 @@
 #include <string>
 
 #include "control/contrat_aidant.h"
+#include "control/frise.h"
 
 namespace control {
 
@@ -19,6 +20,17 @@ class VueContrats {
   // Of the contracts as they were last read; today is the workstation's.
   Compte Compter() const;
   EtatContrat Etat(const ContratAidant& contrat) const;
+
+  // On a time axis; and with the contract of the editor as it stands there.
+  Frise FaireFrise() const;
+  // What a bar means, in a sentence: "Contrat 061, du 01/02/2026 au 24/01/2027 (fin présumée), en
+  // cours".
+  std::string Dire(const Barre& barre) const;
+  // The rows of a tooltip: number, dates, establishment or employer, nature, presumed end, end of
+  // the trial. "" for a contract that is not on file.
+  std::string Decrire(const std::string& cle) const;
+  // The entity or the private employer of a band, by name.
+  std::string Nommer(const rules::Portee& portee) const;
 
   // What an empty list says, in one or two sentences; "" for a list with rows.
   std::string DireVide() const;

@@ -44,13 +44,13 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   disposition->addWidget(prive_->racine.get());
   hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
-  new hote::HabitListe(prive_->controle, *prive_->liaison);
+  new hote::HabitListe(prive_->controle, *prive_->liaison, bureau.Reglages());
   prive_->controle.SurAvis = [this](const std::string& texte) {
     emit annonce(hote::versQt(texte));
   };
   bureau.SurFenetre = [this](hote::Liaison& liaison) {
     if (liaison.Forme().Nom() != hote::HabitEditeur::Forme) return;
-    new hote::HabitEditeur(prive_->controle, liaison);
+    new hote::HabitEditeur(prive_->controle, liaison, prive_->bureau.Reglages());
   };
   prive_->controle.Sortie = [this] { QTimer::singleShot(0, this, [this] { Annoncer(); }); };
 }
