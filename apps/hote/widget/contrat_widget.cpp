@@ -31,6 +31,7 @@ struct ContratWidget::Prive {
 
   hote::Bureau& bureau;
   control::Ctr_Contrat controle;
+  control::VueContrats vue{controle};
   std::unique_ptr<QWidget> racine;
   std::unique_ptr<hote::Liaison> liaison;
   // The host is inside init or Affiche.
@@ -42,7 +43,9 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   auto* const disposition = new QVBoxLayout(this);
   disposition->setContentsMargins(0, 0, 0, 0);
   disposition->addWidget(prive_->racine.get());
-  hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
+  hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste, [this](int ligne) {
+    return hote::decrire(prive_->vue, prive_->controle.ClesContrats()(ligne + 1));
+  });
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
   new hote::HabitListe(prive_->controle, *prive_->liaison, bureau.Reglages());
   prive_->controle.SurAvis = [this](const std::string& texte) {
