@@ -4,6 +4,7 @@
 
 #include "control/ctr_contrat.h"
 #include "control/description.h"
+#include "screen/attente.h"
 
 namespace control {
 
@@ -53,6 +54,16 @@ std::string VueContrats::DireVide() const {
   const std::string sansAjout = DirePourquoiSansAjout();
   return "Cet aidant n'a aucun contrat. " +
          (sansAjout.empty() ? "Ajouter (Inser) en crée un." : sansAjout);
+}
+
+void VueContrats::Relire() {
+  const std::string choisi = Choisi();
+  {
+    screen::Attente attente(liste_);
+    liste_.Recherche_Contrat();
+    attente.Finir();
+  }
+  if (const int ligne = LigneDe(choisi); ligne >= 0) liste_.Lst_DatDebContrat.SetListIndex(ligne);
 }
 
 void VueContrats::LeverEntite() {

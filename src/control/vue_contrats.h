@@ -39,6 +39,8 @@ class VueContrats {
   // Why nothing can be added, "" where something can.
   std::string DirePourquoiSansAjout() const;
 
+  // Reads the list that is shown again, under the filters chosen; its row stays selected.
+  void Relire();
   // Searches without any filter, under the sort chosen.
   void MontrerTout();
   // Searches by the filter that has the contracts of that state, and selects the first of them.

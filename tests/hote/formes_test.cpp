@@ -234,12 +234,23 @@ TEST_F(Formes, TheStripOfTimeFollowsListAndEditor) {
     const QPoint place = frise->Place(frise->Contenu().barres.front()).center();
     return frise->mapTo(ecran.get(), place);
   };
+  QPoint menu;
+  QObject::connect(ecran.get(), &ContratWidget::menuDemande, [&](const QPoint& p) { menu = p; });
   // The filters leave nothing: the click lifts them.
   QTest::mouseClick(ecran->windowHandle(), Qt::LeftButton, {}, barre());
   QCoreApplication::processEvents();
   EXPECT_EQ(lecteur->text(QAccessible::Description),
             "1 contrat; choisi : Contrat 001, depuis le 29/06/2025, en cours");
-  EXPECT_EQ(ecran->findChild<QListWidget*>("Lst_Type")->currentRow(), 0);
+  auto* const types = ecran->findChild<QListWidget*>("Lst_Type");
+  EXPECT_EQ(types->currentRow(), 0);
+  // A right click selects its row before the menu is asked for.
+  ecran->Affiche("", "", "");
+  EXPECT_EQ(types->currentRow(), -1);
+  const QPoint ligne = types->visualItemRect(types->item(0)).center();
+  QTest::mouseClick(ecran->windowHandle(), Qt::RightButton, {},
+                    types->viewport()->mapTo(ecran.get(), ligne));
+  EXPECT_EQ(types->currentRow(), 0);
+  EXPECT_EQ(menu, types->viewport()->mapToGlobal(ligne));
 
   std::vector<std::string> vues;
   const Apres clerc([&](QWidget& fenetre) {

@@ -27,6 +27,7 @@ namespace hote {
 
 class Accueil;
 class Bureau;
+class MenuContrat;
 class RechercheAidant;
 
 class FenetreHote : public QMainWindow {
@@ -72,7 +73,6 @@ class FenetreHote : public QMainWindow {
   void ChoisirFichier();
   void NouvelleFenetre();
   void Actualiser();
-  void Imprimer();
   void Titrer();
   void BaseDisparue();
   void AttendreRetour();
@@ -102,6 +102,7 @@ class FenetreHote : public QMainWindow {
   QStackedWidget* centre_;
   Accueil* accueil_;
   QMenu* recents_ = nullptr;
+  MenuContrat* contrat_ = nullptr;
   QActionGroup* droits_ = nullptr;
 };
 

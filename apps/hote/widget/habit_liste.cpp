@@ -1,8 +1,10 @@
 #include "widget/habit_liste.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QSettings>
 #include <utility>
 
@@ -119,6 +121,7 @@ HabitListe::HabitListe(control::Ctr_Contrat& controle, Liaison& liaison, QSettin
   }
   habillerFrise(*frise_, vue_, reglages);
   LierFrise();
+  LierMenu();
   controle.SurContrats = [this] { autres_ = true; };
   connect(&liaison_, &Liaison::poussee, this, &HabitListe::Regarder);
   Regarder();
@@ -138,6 +141,33 @@ void HabitListe::LierFrise() {
         liaison_.Jouer([&](screen::User&) { vue_.Ouvrir(versModele(cle)); });
       },
       Qt::QueuedConnection);
+}
+
+// The mouse asks the viewport, the keyboard the list.
+void HabitListe::LierMenu() {
+  auto* const tableau = liaison_.Racine().findChild<QWidget*>("tableau");
+  for (auto* const liste : tableau->findChildren<QListWidget*>()) {
+    liste->installEventFilter(this);
+    liste->viewport()->installEventFilter(this);
+  }
+}
+
+bool HabitListe::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() != QEvent::ContextMenu) return false;
+  const auto& demande = static_cast<QContextMenuEvent&>(*evenement);
+  auto* liste = qobject_cast<QListWidget*>(objet);
+  if (liste == nullptr) liste = qobject_cast<QListWidget*>(objet->parent());
+  if (liste == nullptr || !liste->isEnabled()) return false;
+  QPoint place = demande.globalPos();
+  if (demande.reason() == QContextMenuEvent::Mouse) {
+    const QListWidgetItem* const ligne = liste->itemAt(liste->viewport()->mapFromGlobal(place));
+    if (ligne != nullptr) liste->setCurrentRow(liste->row(ligne));
+  } else {
+    const QRect courante = liste->visualItemRect(liste->currentItem());
+    place = liste->viewport()->mapToGlobal(courante.bottomLeft());
+  }
+  emit menuDemande(place);
+  return true;
 }
 
 void HabitListe::Regarder() {

@@ -20,12 +20,20 @@ namespace hote {
 class Liaison;
 
 class HabitListe : public QObject {
+  Q_OBJECT
+
  public:
   // Lives as long as the binder of the list control; the control outlives it.
   HabitListe(control::Ctr_Contrat& controle, Liaison& liaison, QSettings& reglages);
 
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+ signals:
+  void menuDemande(const QPoint& place);
+
  private:
   void LierFrise();
+  void LierMenu();
   void Regarder();
   void Suivre(const QString& lien);
 
