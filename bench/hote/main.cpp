@@ -1,6 +1,6 @@
 // bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
-// of the words demarrage, touches, liste, suivi, papier and rapport, those given are measured, else
-// all.
+// of the words demarrage, touches, liste, frise, suivi, papier and rapport, those given are measured,
+// else all.
 
 #include <QApplication>
 #include <algorithm>
@@ -25,6 +25,7 @@ const std::vector<bench::Rapport> Rapports{
     {"a key among 2,000 activities and 500 profiles / a bare text line", "toucheChoix",
      "toucheLigneNue", 0, 4000},
     {"list of 999 contracts shown / searched without screen", "listeAffichee", "listeSansEcran", 2},
+    {"strip of time of 60 contracts drawn / laid out", "friseDessinee", "friseCalculee", 0, 4000},
     {"one of 120 months of paid hours corrected / without screen", "suiviRemunere",
      "suiviRemunereSeul", 0, 4000},
     {"one of 120 months of effective time / without screen", "suiviEffectif", "suiviEffectifSeul",
@@ -40,8 +41,9 @@ const std::vector<bench::Rapport> Rapports{
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
     {"demarrage", bench::mesurerDemarrage}, {"touches", bench::mesurerTouches},
-    {"liste", bench::mesurerListe},         {"suivi", bench::mesurerSuivi},
-    {"papier", bench::mesurerPapier},       {"rapport", bench::mesurerRapport},
+    {"liste", bench::mesurerListe},         {"frise", bench::mesurerFrise},
+    {"suivi", bench::mesurerSuivi},         {"papier", bench::mesurerPapier},
+    {"rapport", bench::mesurerRapport},
 };
 
 }  // namespace

@@ -19,6 +19,8 @@ void mesurerDemarrage(Medianes& medianes);
 void mesurerTouches(Medianes& medianes);
 // The search of a carer with 999 contracts: "listeAffichee" at the screen, "listeSansEcran".
 void mesurerListe(Medianes& medianes);
+// The strip of time of 60 contracts: "friseDessinee"; laid out alone, "friseCalculee".
+void mesurerFrise(Medianes& medianes);
 // One of 120 months corrected in the annual follow-up and shown: "suiviRemunere", "suiviEffectif";
 // the same without a screen, "suiviRemunereSeul" and "suiviEffectifSeul".
 void mesurerSuivi(Medianes& medianes);

@@ -22,6 +22,8 @@ struct ContratAidant {
   std::optional<long> finPresumee;
   bool annule = false;
 
+  bool operator==(const ContratAidant&) const = default;
+
   static ContratAidant De(const data::CItem& contrat);
   // The end that is to be counted on: the one that was given, else the presumed one.
   std::optional<long> FinAttendue() const { return dates.fin ? dates.fin : finPresumee; }

@@ -15,6 +15,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -82,6 +83,8 @@ class Ctr_Contrat : public screen::Form {
   screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
   // The contract in the editor is another than the one that was opened.
+  // As it stands in the editor's fields, nothing while none is shown.
+  std::optional<ContratAidant> EnMain() const;
   bool EnMainModifie() const { return editeur_ != nullptr && editeur_->Dossier().Modifie(); }
 
   // The rows that fit the lists without a scroll bar.

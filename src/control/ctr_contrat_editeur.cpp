@@ -54,6 +54,17 @@ editor::Frm_ElementsContrat& Ctr_Contrat::Editeur(
   return *editeur_;
 }
 
+std::optional<ContratAidant> Ctr_Contrat::EnMain() const {
+  if (editeur_ == nullptr || !editeur_->Visible()) return std::nullopt;
+  const auto& origine = editeur_->origine;
+  ContratAidant contrat;
+  contrat.cle = editeur_->Dossier().CleContratCourant;
+  contrat.portee = editeur_->Portee();
+  contrat.dates = editeur_->Dates();
+  if (origine.Determine()) contrat.finPresumee = origine.FinPresumee();
+  return contrat;
+}
+
 void Ctr_Contrat::Annoncer(const std::string& cle, const char* sort) const {
   if (!SurAvis || cle.size() < data::LongueurCodeAidant) return;
   SurAvis("Contrat " + cle.substr(data::LongueurCodeAidant) + " " + sort);

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "control/ctr_contrat.h"
+#include "control/description.h"
+#include "screen/attente.h"
 
 namespace control {
 
@@ -12,6 +14,24 @@ Compte VueContrats::Compter() const {
 
 EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
   return etatContrat(contrat, liste_.Services().poste.Aujourdhui());
+}
+
+Frise VueContrats::FaireFrise() const {
+  return faireFrise(liste_.Contrats(), liste_.EnMain(), liste_.Services().poste.Aujourdhui());
+}
+
+std::string VueContrats::Dire(const Barre& barre) const {
+  return direBarre(barre);
+}
+
+std::string VueContrats::Decrire(const std::string& cle) const {
+  data::CItem contrat;
+  if (!liste_.Etat().F_CONTRAT.Lire(cle, contrat)) return "";
+  return decrireContrat(liste_.Etat(), contrat, liste_.Services().poste.Aujourdhui());
+}
+
+std::string VueContrats::Nommer(const rules::Portee& portee) const {
+  return nommerPortee(liste_.Etat(), portee);
 }
 
 int VueContrats::Masques() const {
@@ -34,6 +54,16 @@ std::string VueContrats::DireVide() const {
   const std::string sansAjout = DirePourquoiSansAjout();
   return "Cet aidant n'a aucun contrat. " +
          (sansAjout.empty() ? "Ajouter (Inser) en crée un." : sansAjout);
+}
+
+void VueContrats::Relire() {
+  const std::string choisi = Choisi();
+  {
+    screen::Attente attente(liste_);
+    liste_.Recherche_Contrat();
+    attente.Finir();
+  }
+  if (const int ligne = LigneDe(choisi); ligne >= 0) liste_.Lst_DatDebContrat.SetListIndex(ligne);
 }
 
 void VueContrats::LeverEntite() {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "control/contrat_aidant.h"
+#include "control/frise.h"
 
 namespace control {
 
@@ -20,6 +21,17 @@ class VueContrats {
   Compte Compter() const;
   EtatContrat Etat(const ContratAidant& contrat) const;
 
+  // On a time axis; and with the contract of the editor as it stands there.
+  Frise FaireFrise() const;
+  // What a bar means, in a sentence: "Contrat 061, du 01/02/2026 au 24/01/2027 (fin présumée), en
+  // cours".
+  std::string Dire(const Barre& barre) const;
+  // The rows of a tooltip: number, dates, establishment or employer, nature, presumed end, end of
+  // the trial. "" for a contract that is not on file.
+  std::string Decrire(const std::string& cle) const;
+  // The entity or the private employer of a band, by name.
+  std::string Nommer(const rules::Portee& portee) const;
+
   // What an empty list says, in one or two sentences; "" for a list with rows.
   std::string DireVide() const;
   // Contracts that the filters hide: how many MontrerTout adds to the list.
@@ -27,6 +39,8 @@ class VueContrats {
   // Why nothing can be added, "" where something can.
   std::string DirePourquoiSansAjout() const;
 
+  // Reads the list that is shown again, under the filters chosen; its row stays selected.
+  void Relire();
   // Searches without any filter, under the sort chosen.
   void MontrerTout();
   // Searches by the filter that has the contracts of that state, and selects the first of them.

@@ -24,12 +24,9 @@ bool particulier(const Portee& portee) {
 }
 
 // The dates of another contract, as a result row gives them.
-struct Autre {
-  long debut;
-  std::optional<long> fin;
-
+struct Autre : Dates {
   static Autre Lire(const data::CItem& lignes, int ligne, int colonneDebut) {
-    Autre autre{data::entier(lignes.Vue(ligne, colonneDebut)), std::nullopt};
+    Autre autre{{data::entier(lignes.Vue(ligne, colonneDebut)), std::nullopt}};
     const auto fin = lignes.Vue(ligne, colonneDebut + 1);
     if (!fin.empty()) autre.fin = data::entier(fin);
     return autre;
@@ -73,13 +70,22 @@ data::CItem autresParCle(data::Db& db, const Portee& p) {
 
 }  // namespace
 
+bool seChevauchent(const Dates& a, const Dates& b) {
+  return a.debut <= b.fin.value_or(SansFin) && b.debut <= a.fin.value_or(SansFin);
+}
+
+bool memePortee(const Portee& a, const Portee& b) {
+  const bool autreContrat = a.numero != b.numero || a.numero.empty();
+  return autreContrat && particulier(a) == particulier(b) && a.association == b.association &&
+         (!particulier(a) || a.employeur == b.employeur);
+}
+
 Voisinage VerifContratExist(data::Db& db, const Portee& portee, const Dates& dates) {
   Voisinage resultat;
   const data::CItem lignes = autresParEmployeur(db, portee);
-  const long fin = dates.fin.value_or(SansFin);
   for (int i = 1; i <= lignes.DCount(); ++i) {
     const Autre autre = Autre::Lire(lignes, i, 1);
-    if (dates.debut <= autre.Fin() && fin >= autre.debut) {
+    if (seChevauchent(dates, autre)) {
       resultat.finContratConflit = autre.FinAffichee();
       resultat.conflit =
           refus("Création impossible car 2 contrats ont des dates qui se chevauchent : ", autre,
@@ -100,20 +106,18 @@ std::optional<Refus> Verif_SuppDateFin(data::Db& db, const Portee& portee, const
   const data::CItem lignes = autresParCle(db, portee);
   for (int i = 1; i <= lignes.DCount(); ++i) {
     const Autre autre = Autre::Lire(lignes, i, 2);
-    const bool commenceAvantSaFin = !autre.fin || dates.debut <= *autre.fin;
-    if (!dates.fin && commenceAvantSaFin) {
+    if (!seChevauchent(dates, autre)) continue;
+    if (!dates.fin) {
       // Only the other contract's start is shown, also when it has an end date.
       return refus(
           "Suppression impossible de la date de fin car 2 contrats se retrouvent sans date de "
           "fin : ",
           autre, "");
     }
-    if (dates.fin && *dates.fin >= autre.debut && commenceAvantSaFin) {
-      return refus(
-          "Modification impossible de la date de fin car 2 contrats ont maintenant des dates qui "
-          "se chevauchent : ",
-          autre, autre.FinAffichee());
-    }
+    return refus(
+        "Modification impossible de la date de fin car 2 contrats ont maintenant des dates qui "
+        "se chevauchent : ",
+        autre, autre.FinAffichee());
   }
   return std::nullopt;
 }

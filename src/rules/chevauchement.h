@@ -24,13 +24,20 @@ struct Portee {
   std::string convention;
   std::string association;
   std::string employeur;
+  bool operator==(const Portee&) const = default;
 };
 
 // Its dates as internal days.
 struct Dates {
   long debut = 0;
   std::optional<long> fin;
+  bool operator==(const Dates&) const = default;
 };
+
+// The rule itself, on values. Both days of a period count, and one without an end goes on for ever.
+bool seChevauchent(const Dates& a, const Dates& b);
+// Two contracts of one carer see each other. A contract does not see itself.
+bool memePortee(const Portee& a, const Portee& b);
 
 struct Voisinage {
   // An overlap was found: the message, and the displayed end of the contract in the way, "" when

@@ -55,6 +55,32 @@ TEST_F(Vue, CompteEtMeneAChaqueContrat) {
   EXPECT_FALSE(vue.Choisir("00001003"));
 }
 
+TEST_F(Vue, DecritUnContratParSesLibelles) {
+  compteur("003");
+  article("ETABLISSEMENT", "001001", {{1, "Siège"}});
+  article("CIVILAIDE", "00007", {{2, "MARTIN"}, {3, "Rose"}});
+  article("TABLES", "NATURECONTRAT", {{2, "REM"}, {3, "Remplacement"}});
+  contrat(1, "01/11/2026", "",
+          {{C::Nature, "REM"},
+           {C::DateFinPresumee, jour("24/01/2027")},
+           {C::PeriodeEssai, "14"},
+           {C::EssaiRenouvelable, "1"}});
+  contrat(2, "01/12/2026", "", {{C::Convention, "02"}, {C::Employeur, "00007"}});
+  contrat(3, "01/12/2025", "31/12/2025", {{C::Employeur, "001009"}, {C::Nature, "ZZ"}});
+  const control::VueContrats vue(ouvrir());
+  const std::pair<const char*, const char*> cas[] = {
+      {"00001001",
+       "Contrat 001, en cours\nDates : depuis le 01/11/2026\nÉtablissement : Siège\n"
+       "Nature : Remplacement\nFin présumée : 24/01/2027\nFin de l'essai : 14/11/2026 "
+       "(renouvelable)"},
+      {"00001002", "Contrat 002, à venir\nDates : à partir du 01/12/2026\nEmployeur : MARTIN Rose"},
+      {"00001003",
+       "Contrat 003, terminé\nDates : du 01/12/2025 au 31/12/2025\nÉtablissement : 001009\n"
+       "Nature : ZZ"},
+      {"00001004", ""}};
+  for (const auto& [cle, attendu] : cas) EXPECT_EQ(vue.Decrire(cle), attendu);
+}
+
 TEST_F(Vue, UneListeVideDitPourquoi) {
   control::VueContrats vue(ouvrir());
   EXPECT_EQ(vue.DireVide(), "Choisissez les filtres, puis Recherche (F5).");

@@ -1,5 +1,7 @@
 // The forms of the component on their real windows.
 
+#include <QAccessible>
+#include <QDir>
 #include <QToolTip>
 
 #include "control/ctr_contrat.h"
@@ -25,6 +27,7 @@
 #include "support/table.h"
 #include "widget/contrat_widget.h"
 #include "widget/formes.h"
+#include "widget/frise_contrats.h"
 
 namespace {
 
@@ -182,6 +185,71 @@ TEST_F(Formes, WholeCreationByKeyboard) {
   auto* const debuts = ecran->findChild<QListWidget*>("Lst_DatDebContrat");
   ASSERT_EQ(debuts->count(), 1);
   EXPECT_EQ(debuts->item(0)->text(), "01/12/2026");
+}
+
+// The strip leads into the list, says in words what it shows, and shows an overlap as it is typed.
+TEST_F(Formes, TheStripOfTimeFollowsListAndEditor) {
+  article("CONTRAT", "00001001",
+          {{1, "01"}, {2, "001"}, {3, "001001"}, {4, "I"}, {5, "H"}, {6, "P"}, {7, "21000"}});
+  article("CIVILAIDANT", "00001", {{2, "DURAND"}, {3, "Anne"}, {41, "001"}});
+  const auto ecran = ouvrir();
+  ecran->resize(1000, 700);
+  ecran->Affiche("", "", "H");
+  auto* const frise = ecran->findChild<FriseContrats*>("frise");
+  const QAccessibleInterface* const lecteur = QAccessible::queryAccessibleInterface(frise);
+  EXPECT_EQ(lecteur->text(QAccessible::Description), "1 contrat");
+  ASSERT_EQ(frise->Contenu().barres.size(), 1U);
+  const auto barre = [&] {
+    const QPoint place = frise->Place(frise->Contenu().barres.front()).center();
+    return frise->mapTo(ecran.get(), place);
+  };
+  QPoint menu;
+  QObject::connect(ecran.get(), &ContratWidget::menuDemande, [&](const QPoint& p) { menu = p; });
+  // The filters leave nothing: the click lifts them.
+  QTest::mouseClick(ecran->windowHandle(), Qt::LeftButton, {}, barre());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(lecteur->text(QAccessible::Description),
+            "1 contrat; choisi : Contrat 001, depuis le 29/06/2025, en cours");
+  auto* const types = ecran->findChild<QListWidget*>("Lst_Type");
+  EXPECT_EQ(types->currentRow(), 0);
+  // A right click selects its row before the menu is asked for.
+  ecran->Affiche("", "", "");
+  EXPECT_EQ(types->currentRow(), -1);
+  const QPoint ligne = types->visualItemRect(types->item(0)).center();
+  QTest::mouseClick(ecran->windowHandle(), Qt::RightButton, {},
+                    types->viewport()->mapTo(ecran.get(), ligne));
+  EXPECT_EQ(types->currentRow(), 0);
+  EXPECT_EQ(menu, types->viewport()->mapToGlobal(ligne));
+
+  std::vector<std::string> vues;
+  const Apres clerc([&](QWidget& fenetre) {
+    if (qobject_cast<QMessageBox*>(&fenetre) != nullptr) {
+      QTest::keyClick(&fenetre, Qt::Key_O, Qt::AltModifier);
+      return;
+    }
+    const auto* const saisie = fenetre.findChild<FriseContrats*>("frise");
+    const auto voir = [&] { vues.push_back(saisie->Resume().toStdString()); };
+    voir();
+    if (vues.size() > 1) {
+      for (const auto& [champ, texte] :
+           {std::pair("Txt_ConvColContrat", "01"), std::pair("Txt_AssocContrat", "001"),
+            std::pair("Txt_DatDebContrat", "1/12/26")}) {
+        fenetre.findChild<QWidget*>(champ)->setFocus();
+        QTest::keyClicks(QApplication::focusWidget(), texte);
+      }
+      voir();
+    }
+    fenetre.findChild<QPushButton*>("Cmd_Retour")->click();
+  });
+  QTest::mouseDClick(ecran->windowHandle(), Qt::LeftButton, {}, barre());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return vues.size() == 1 && !ecran->Occupe(); }, 2000));
+  QTest::keyClick(ecran->windowHandle(), Qt::Key_Insert);
+  EXPECT_EQ(vues,
+            (std::vector<std::string>{
+                "1 contrat; en saisie : Contrat 001, depuis le 29/06/2025, en cours", "1 contrat",
+                "2 contrats; Contrat 001, depuis le 29/06/2025, en cours, chevauche un autre "
+                "contrat; en saisie : Nouveau contrat, à partir du 01/12/2026, à venir, "
+                "chevauche un autre contrat"}));
 }
 
 // Retour tells the host once, when the widget may be deleted.

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -147,6 +148,38 @@ TEST_F(Hote, ADeletedCarerGetsNoNewContract) {
   ASSERT_TRUE(fenetre_.OuvrirFichier(Chemin("a.contrats")));
   ASSERT_TRUE(fenetre_.OuvrirAidant("00002"));
   EXPECT_FALSE(fenetre_.Ecran()->Controle().Cmd_Ajouter.Enabled());
+}
+
+// The keys of the Contrat menu hold in the whole window.
+TEST_F(Hote, TheContratMenuSearchesAndCopies) {
+  storage::SqliteStorage::Ouvrir(Chemin("a.contrats").toStdString(), poste_)
+      ->Put("CIVILAIDANT", "00001",
+            "001MME\x1e"
+            "DURAND" +
+                std::string(39, '\x1e') + "001");
+  storage::SqliteStorage::Ouvrir(Chemin("a.contrats").toStdString(), poste_)
+      ->Put("CONTRAT", "00001001",
+            "01\x1e"
+            "001\x1e"
+            "001001\x1eI\x1eH\x1eP\x1e"
+            "21000");
+  fenetre_.show();
+  fenetre_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre_));
+  ASSERT_TRUE(OuvrirDurand());
+  control::Ctr_Contrat& liste = fenetre_.Ecran()->Controle();
+  screen::User(liste).Cliquer(liste.Cmd_OK);
+  EXPECT_EQ(liste.Lst_Type.ListCount(), 0);
+  fenetre_.findChild<QLineEdit*>("rechercheAidant")->setFocus();
+  QTest::keyClick(&fenetre_, Qt::Key_F5);
+  EXPECT_EQ(liste.Lst_Type.ListCount(), 1);
+  liste.Lst_Type.SetListIndex(0);
+  QTest::keyClick(&fenetre_, Qt::Key_F5);
+  EXPECT_EQ(liste.Lst_Type.ListIndex(), 0);
+  QTest::keyClick(&fenetre_, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(
+      QGuiApplication::clipboard()->text().endsWith("\r\n001\t29/06/2025\t\tI\tEntité\t\r\n"))
+      << QGuiApplication::clipboard()->text().toStdString();
 }
 
 // What does not open leaves what is open, and says of which file it speaks and why.

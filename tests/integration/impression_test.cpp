@@ -6,10 +6,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QProcess>
 #include <csignal>
 
 #include "control/ctr_contrat.h"
-#include "data/texte.h"
 #include "fenetre/impression_liste.h"
 #include "integration/hote_essai.h"
 #include "screen/headless/hote.h"
@@ -67,39 +69,70 @@ TEST_F(Impression, ADocumentThatDoesNotFitIsRefusedWhole) {
   EXPECT_TRUE(QDir(dossier_.filePath("Documents")).isEmpty());
 }
 
-// 57 contracts are one more than a page holds.
-TEST(ImpressionListe, PrintsTheRowsAsTheyStandUnderTheirCaptions) {
-  screen::headless::Hote poste(21511);
-  control::Ctr_Contrat liste(poste.platform);
-  liste.Etq_CodeAidant.SetLibelle("00036");
-  liste.Etq_NomPrenomAidant.SetLibelle("DURAND Gwenaëlle");
-  for (int i = 0; i < 57; ++i) {
-    liste.Lst_DatDebContrat.AddItem("07/10/2019");
-    liste.Lst_DatFinContrat.AddItem(i == 0 ? "" : "31/12/2019");
+// A list that takes more than a page, whose texts a spreadsheet would misread, and an empty one.
+class ListeImprimee : public ::testing::Test {
+ protected:
+  ListeImprimee() {
+    liste.Etq_CodeAidant.SetLibelle("00036");
+    liste.Etq_NomPrenomAidant.SetLibelle("DURAND Gwenaëlle / Anne");
+  }
+  void ajouter(const char* debut, const char* fin, const char* employeur) {
+    liste.Lst_DatDebContrat.AddItem(debut);
+    liste.Lst_DatFinContrat.AddItem(fin);
     liste.Lst_Type.AddItem("I");
-    liste.Lst_EmplEtabContrat.AddItem("Présence à Domicile du Bocage et des Marches");
+    liste.Lst_EmplEtabContrat.AddItem(employeur);
     liste.Lst_QualifContrat.AddItem("Branche");
   }
-  hote::imprimerListe(liste, poste.platform);
-  ASSERT_EQ(poste.imprimante.Documents().size(), 1U);
-  const auto& pages = poste.imprimante.Documents().front().pages;
-  ASSERT_EQ(pages.size(), 2U);
-  const struct {
-    std::size_t page, ligne;
-    const char* texte;
-  } cas[] = {
-      {0, 0, "Contrats de 00036 DURAND Gwenaëlle"},
-      {0, 1, "Début      Fin        Type Employeur                     Convention Collective"},
-      {0, 2, "22/11/2026, page 1 sur 2"},
-      {0, 3, "07/10/2019            I    Présence à Domicile du Bocage Branche"},
-      {0, 4, "07/10/2019 31/12/2019 I    Présence à Domicile du Bocage Branche"},
-      {1, 2, "22/11/2026, page 2 sur 2"},
+
+  screen::headless::Hote poste{21511};
+  control::Ctr_Contrat liste{poste.platform};
+};
+
+TEST_F(ListeImprimee, HasItsColumnsFiltersDateAndPages) {
+  const QTemporaryDir dossier;
+  qputenv("HOME", dossier.path().toUtf8());
+  qputenv("XDG_CONFIG_HOME", dossier.path().toUtf8());
+  const auto texte = [&](int contrats) {
+    while (liste.Lst_Type.ListCount() < contrats) {
+      ajouter("07/10/2019", "31/12/2019", "Présence à Domicile du Bocage et des Marches");
+    }
+    const QString fichier = hote::imprimerListe(hote::tableauDe(liste), hote::nomFichier(liste));
+    QProcess lecture;
+    lecture.start("pdftotext", {"-layout", fichier, "-"});
+    EXPECT_TRUE(lecture.waitForFinished()) << "pdftotext";
+    const QString lu = QString::fromUtf8(lecture.readAllStandardOutput()).simplified();
+    return QFileInfo(fichier).fileName() + ": " + lu;
   };
-  for (const auto& c : cas) {
-    EXPECT_EQ(data::sansBlancsADroite(pages[c.page].at(c.ligne).texte), c.texte);
-  }
-  EXPECT_EQ(pages[0].size(), 3U + 56U);
-  EXPECT_EQ(pages[1].size(), 3U + 1U);
+  const QString entete =
+      "Contrats de 00036 DURAND Gwenaëlle / Anne Entité Juridique : toutes; Validité : Actifs; "
+      "Type : Tous; Tri des contrats : Anc. décroissante ";
+  EXPECT_EQ(texte(0), "Contrats 00036 DURAND Gwenaëlle - Anne 2026-11-22.pdf: " + entete +
+                          "Aucun contrat. Imprimé le 22/11/2026 Page 1 sur 1");
+  const QString long_ = texte(70);
+  EXPECT_TRUE(long_.startsWith("Contrats 00036 DURAND Gwenaëlle - Anne 2026-11-22 (2).pdf: " +
+                               entete + "70 contrats N° Début Fin Type Employeur"))
+      << long_.left(300).toStdString();
+  // The captions again on each page, the rows once.
+  EXPECT_EQ(long_.count("Convention Collective"), 2);
+  EXPECT_EQ(long_.count("07/10/2019 31/12/2019 I Présence à Domicile du Bocage et des Marches"),
+            70);
+  EXPECT_TRUE(long_.contains("Page 1 sur 2") && long_.endsWith("Page 2 sur 2"));
+}
+
+TEST_F(ListeImprimee, IsATableForASpreadsheet) {
+  ajouter("07/10/2019", "", "Martin; dit \"Rose\"");
+  ajouter("08/10/2019", "31/12/2019", "=1+1");
+  ajouter("-", "+3", "@x\ty");
+  EXPECT_EQ(hote::enCsv(hote::tableauDe(liste)).toStdString(),
+            "\xEF\xBB\xBFN°;Début;Fin;Type;Employeur;Convention Collective\r\n"
+            ";07/10/2019;;I;\"Martin; dit \"\"Rose\"\"\";Branche\r\n"
+            ";08/10/2019;31/12/2019;I;'=1+1;Branche\r\n"
+            ";'-;'+3;I;'@x\ty;Branche\r\n");
+  const std::unique_ptr<QMimeData> copie(hote::pourPressePapiers(hote::tableauDe(liste, 2)));
+  EXPECT_EQ(copie->text(),
+            "N°\tDébut\tFin\tType\tEmployeur\tConvention Collective\r\n"
+            "\t'-\t'+3\tI\t'@x y\tBranche\r\n");
+  EXPECT_TRUE(copie->html().contains("<td>'@x\ty</td>"));
 }
 
 }  // namespace

@@ -20,6 +20,7 @@
 #include "fenetre/avertir.h"
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
+#include "fenetre/menu_contrat.h"
 #include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
@@ -126,6 +127,7 @@ bool FenetreHote::OuvrirAidant(const Aidant& aidant, const std::string& contrat)
   ecran_ = new ContratWidget(bureau_, centre_);
   centre_->addWidget(ecran_);
   connect(ecran_, &ContratWidget::sortie, this, &FenetreHote::FermerAidant, Qt::QueuedConnection);
+  contrat_->Viser(ecran_);
   connect(ecran_, &ContratWidget::annonce, this,
           [this](const QString& texte) { statusBar()->showMessage(texte); });
   ecran_->TheDatabase(base_->Db());

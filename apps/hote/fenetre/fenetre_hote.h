@@ -27,6 +27,7 @@ namespace hote {
 
 class Accueil;
 class Bureau;
+class MenuContrat;
 class PageEcheances;
 class RechercheAidant;
 
@@ -77,7 +78,6 @@ class FenetreHote : public QMainWindow {
   void ChoisirFichier();
   void NouvelleFenetre();
   void Actualiser();
-  void Imprimer();
   void Titrer();
   void BaseDisparue();
   void AttendreRetour();
@@ -109,6 +109,7 @@ class FenetreHote : public QMainWindow {
   // Made when a file is open: the first picture of the window does not wait for it.
   PageEcheances* echeances_ = nullptr;
   QMenu* recents_ = nullptr;
+  MenuContrat* contrat_ = nullptr;
   QActionGroup* droits_ = nullptr;
 };
 

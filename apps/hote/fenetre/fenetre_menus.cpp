@@ -8,17 +8,17 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QSplitter>
+#include <QStatusBar>
 
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
 #include "fenetre/fenetre_hote.h"
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
-#include "fenetre/impression_liste.h"
+#include "fenetre/menu_contrat.h"
 #include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
-#include "widget/contrat_widget.h"
 
 namespace hote {
 
@@ -58,13 +58,15 @@ void FenetreHote::FaireMenus() {
     recherche_->MasquerSupprimes(masques);
   });
   masquer->setChecked(bureau_.Reglages().value(CleMasquer).toBool());
-  aidant->addAction("&Imprimer la liste", QKeySequence(QKeySequence::Print), this,
-                    &FenetreHote::Imprimer);
   aidant->addAction("&Échéances", QKeySequence("Ctrl+E"), this, [this] {
     FermerAidant();
     if (ecran_ == nullptr && base_ != nullptr) Echeances().Prendre();
   });
   aidant->addAction("&Fermer l'aidant", QKeySequence("Ctrl+W"), this, &FenetreHote::FermerAidant);
+  contrat_ = new MenuContrat(bureau_, this);
+  menuBar()->addMenu(contrat_);
+  connect(contrat_, &MenuContrat::annonce, this,
+          [this](const QString& texte) { statusBar()->showMessage(texte); });
   FaireMenuDroits();
   FaireMenuAide();
 }
@@ -123,15 +125,6 @@ void FenetreHote::ChoisirFichier() {
       QFileDialog::getOpenFileName(this, "Ouvrir un fichier de données", dossier,
                                    "Fichiers de données (*.contrats);;Tous les fichiers (*)");
   if (!chemin.isEmpty()) OuvrirFichier(chemin);
-}
-
-void FenetreHote::Imprimer() {
-  if (ecran_ == nullptr) return informer("Choisissez d'abord l'aidant dont la liste s'imprime.");
-  try {
-    imprimerListe(ecran_->Controle(), bureau_.Plateforme());
-  } catch (const std::exception& erreur) {
-    avertirErreur("La liste n'est pas imprimée.", erreur);
-  }
 }
 
 // One contract screen is assumed in a process: the second window is a second program.

@@ -1,83 +1,181 @@
 #include "fenetre/impression_liste.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QDir>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
 #include <algorithm>
+#include <numeric>
 
-#include "data/jour.h"
-#include "data/texte.h"
+#include "liaison/textes_qt.h"
+#include "screen/platform.h"
 
 namespace hote {
 
 namespace {
 
-using control::Ctr_Contrat;
+constexpr double Marge = 15;  // millimetres
+constexpr int PointsParPouce = 300;
+constexpr double Points = 9;
+constexpr double PointsTitre = 13;
+// Of the page's height, for the date and the page's number.
+constexpr double PartPied = 0.03;
+constexpr double PixelsCellule = 3;
+// Number, dates and type.
+constexpr int ColonnesFixes = 4;
 
-struct Colonne {
-  screen::Label Ctr_Contrat::*titre;
-  screen::ListBox Ctr_Contrat::*lignes;
-  int largeur;  // characters, the gap to the next one included
-};
-
-constexpr Colonne Colonnes[] = {
-    {&Ctr_Contrat::Etq_Debut, &Ctr_Contrat::Lst_DatDebContrat, 11},
-    {&Ctr_Contrat::Etq_Fin, &Ctr_Contrat::Lst_DatFinContrat, 11},
-    {&Ctr_Contrat::Etq_Type, &Ctr_Contrat::Lst_Type, 5},
-    {&Ctr_Contrat::Etq_Employeur, &Ctr_Contrat::Lst_EmplEtabContrat, 30},
-    {&Ctr_Contrat::Etq_Qualification, &Ctr_Contrat::Lst_QualifContrat, 52}};
-
-// A sheet of 21 by 29.7 cm, in twips. At 8 points a character of the fixed font is 96 wide, so that
-// the columns take 18.5 cm.
-constexpr const char* Police = "Courier New";
-constexpr double Points = 8;
-constexpr int Marge = 760;
-constexpr int PasLigne = 240;
-constexpr int LignesParPage = 56;
-// The name, an empty line, the captions.
-constexpr int LignesEntete = 3;
-
-int hauteur(int ligne) {
-  return Marge + ligne * PasLigne;
+// The layout of a document counts in pixels of a screen.
+double enPixels(const QPagedPaintDevice& papier, double pixelsEcran) {
+  return pixelsEcran * papier.logicalDpiY() / 96;
 }
 
-template <typename Texte>
-std::string rangee(Texte texte) {
-  std::string ligne;
-  for (const Colonne& colonne : Colonnes) {
-    ligne += data::colonne(texte(colonne), colonne.largeur - 1) + " ";
+QTextCharFormat police(double points, bool gras) {
+  QTextCharFormat format;
+  format.setFontPointSize(points);
+  format.setFontWeight(gras ? QFont::Bold : QFont::Normal);
+  return format;
+}
+
+// As wide as the widest text of each column, so far as the page has room: numbers and dates never
+// break, the names share what is left by their widths.
+QList<QTextLength> largeurs(const Tableau& tableau, const QPagedPaintDevice& papier) {
+  QFont gras;
+  gras.setPointSizeF(Points);
+  gras.setBold(true);
+  const QFontMetricsF mesures(gras, &papier);
+  const double air = enPixels(papier, 2 * PixelsCellule + 2);
+  QList<double> voulues;
+  for (int c = 0; c < tableau.colonnes.size(); ++c) {
+    double largeur = mesures.horizontalAdvance(tableau.colonnes[c]);
+    for (const QStringList& rangee : tableau.rangees) {
+      largeur = std::max(largeur, mesures.horizontalAdvance(rangee.value(c)));
+    }
+    voulues << largeur + air;
   }
-  return ligne;
+  const double fixes = std::accumulate(voulues.begin(), voulues.begin() + ColonnesFixes, 0.0);
+  const double noms = std::accumulate(voulues.begin() + ColonnesFixes, voulues.end(), 0.0);
+  const double reste = papier.width() - fixes;
+  QList<QTextLength> resultat;
+  for (int c = 0; c < voulues.size(); ++c) {
+    const double largeur = c < ColonnesFixes ? voulues[c] : reste * voulues[c] / noms;
+    resultat << QTextLength(QTextLength::PercentageLength, 100 * largeur / papier.width());
+  }
+  return resultat;
 }
 
-void imprimerEntete(const Ctr_Contrat& liste, screen::Imprimante& papier, const std::string& bas) {
-  papier.Police(Police, Points, true);
-  papier.Texte(
-      Marge, hauteur(0),
-      "Contrats de " + liste.Etq_CodeAidant.Libelle() + " " + liste.Etq_NomPrenomAidant.Libelle());
-  papier.Texte(Marge, hauteur(2),
-               rangee([&](const Colonne& c) { return (liste.*c.titre).Libelle(); }));
-  papier.Police(Police, Points, false);
-  papier.Texte(Marge, hauteur(LignesEntete + LignesParPage + 1), bas);
+QTextTableFormat formatTable(const Tableau& tableau, const QPagedPaintDevice& papier) {
+  QTextTableFormat format;
+  format.setHeaderRowCount(1);
+  format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+  format.setCellPadding(PixelsCellule);
+  format.setCellSpacing(0);
+  format.setBorder(1);
+  format.setBorderBrush(Qt::lightGray);
+  format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+  format.setBorderCollapse(true);
+  format.setColumnWidthConstraints(largeurs(tableau, papier));
+  return format;
+}
+
+void remplirTable(QTextCursor& curseur, const Tableau& tableau, const QPagedPaintDevice& papier) {
+  const qsizetype colonnes = tableau.colonnes.size();
+  QTextTable* const table =
+      curseur.insertTable(static_cast<int>(tableau.rangees.size()) + 1, static_cast<int>(colonnes),
+                          formatTable(tableau, papier));
+  const auto ecrire = [&](int rang, const QStringList& cellules, bool gras) {
+    for (int c = 0; c < colonnes; ++c) {
+      QTextCursor cellule = table->cellAt(rang, c).firstCursorPosition();
+      cellule.insertText(cellules.value(c), police(Points, gras));
+    }
+  };
+  ecrire(0, tableau.colonnes, true);
+  for (int i = 0; i < tableau.rangees.size(); ++i) ecrire(i + 1, tableau.rangees[i], false);
+}
+
+// The place of one page of the document on the paper.
+void peindre(const QTextDocument& document, const Tableau& tableau, QPdfWriter& papier) {
+  QPainter pinceau(&papier);
+  const QSizeF page = document.pageSize();
+  const int pages = document.pageCount();
+  for (int i = 0; i < pages; ++i) {
+    if (i > 0) papier.newPage();
+    pinceau.save();
+    pinceau.translate(0, -i * page.height());
+    QAbstractTextDocumentLayout::PaintContext contexte;
+    contexte.palette.setColor(QPalette::Text, Qt::black);
+    contexte.clip = QRectF(0, i * page.height(), page.width(), page.height());
+    pinceau.setClipRect(contexte.clip);
+    document.documentLayout()->draw(&pinceau, contexte);
+    pinceau.restore();
+    QFont petite = document.defaultFont();
+    petite.setPointSizeF(Points);
+    pinceau.setFont(petite);
+    const QRectF pied(0, page.height(), page.width(), papier.height() - page.height());
+    pinceau.drawText(pied, Qt::AlignBottom | Qt::AlignLeft, "Imprimé le " + tableau.jour);
+    pinceau.drawText(pied, Qt::AlignBottom | Qt::AlignRight,
+                     QString("Page %1 sur %2").arg(i + 1).arg(pages));
+  }
+}
+
+QString cheminLibre(const QString& nom) {
+  const QDir dossier(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  dossier.mkpath(".");
+  QString chemin = dossier.filePath(nom + ".pdf");
+  for (int i = 2; QFile::exists(chemin); ++i) {
+    chemin = dossier.filePath(QString("%1 (%2).pdf").arg(nom).arg(i));
+  }
+  return chemin;
 }
 
 }  // namespace
 
-void imprimerListe(const Ctr_Contrat& liste, screen::Platform& plateforme) {
-  screen::Imprimante& papier = plateforme.imprimante;
-  // The list is always a PDF document, whatever else was printed before.
-  papier.Choisir(0);
-  const int nombre = liste.Lst_DatDebContrat.ListCount();
-  const int pages = nombre == 0 ? 1 : (nombre + LignesParPage - 1) / LignesParPage;
-  const std::string jour = data::dateAffichee(plateforme.poste.Aujourdhui());
-  for (int page = 0; page < pages; ++page) {
-    imprimerEntete(liste, papier,
-                   jour + ", page " + std::to_string(page + 1) + " sur " + std::to_string(pages));
-    if (nombre == 0) papier.Texte(Marge, hauteur(LignesEntete), "Aucun contrat.");
-    for (int i = page * LignesParPage; i < std::min(nombre, (page + 1) * LignesParPage); ++i) {
-      papier.Texte(Marge, hauteur(LignesEntete + i % LignesParPage),
-                   rangee([&](const Colonne& c) { return (liste.*c.lignes).List(i); }));
-    }
-    papier.FinPage();
+std::unique_ptr<QTextDocument> mettreEnPage(const Tableau& tableau, QPagedPaintDevice& papier) {
+  auto document = std::make_unique<QTextDocument>();
+  document->documentLayout()->setPaintDevice(&papier);
+  document->setDocumentMargin(0);
+  document->setPageSize(QSizeF(papier.width(), papier.height() * (1 - PartPied)));
+  QTextCursor curseur(document.get());
+  // Laid out once, not at each cell.
+  curseur.beginEditBlock();
+  curseur.insertText(tableau.titre, police(PointsTitre, true));
+  curseur.insertBlock(QTextBlockFormat(), police(Points, false));
+  curseur.insertText(tableau.filtres);
+  const qsizetype nombre = tableau.rangees.size();
+  curseur.insertBlock();
+  curseur.insertText(nombre == 0   ? "Aucun contrat."
+                     : nombre == 1 ? "1 contrat"
+                                   : QString("%1 contrats").arg(nombre));
+  if (nombre > 0) remplirTable(curseur, tableau, papier);
+  curseur.endEditBlock();
+  return document;
+}
+
+QString imprimerListe(const Tableau& tableau, const QString& nom) {
+  QSaveFile fichier(cheminLibre(nom));
+  const auto refuser = [&fichier] {
+    throw screen::ErreurImpression(
+        versModele("Le document ne peut pas être écrit : " + fichier.fileName() +
+                   ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
+  };
+  if (!fichier.open(QIODevice::WriteOnly)) refuser();
+  {
+    QPdfWriter papier(&fichier);
+    papier.setTitle(tableau.titre);
+    papier.setResolution(PointsParPouce);
+    papier.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(Marge, Marge, Marge, Marge),
+                                     QPageLayout::Millimeter));
+    peindre(*mettreEnPage(tableau, papier), tableau, papier);
   }
-  papier.FinDocument();
+  // (The commit does not tell when its own last write fails.)
+  if (!fichier.flush() || !fichier.commit()) refuser();
+  return fichier.fileName();
 }
 
 }  // namespace hote

@@ -2,14 +2,23 @@
 // The contract list on paper: what the list shows of a carer, in the order in which it stands
 // there.
 
-#include "control/ctr_contrat.h"
+#include <QString>
+#include <memory>
+
+#include "fenetre/tableau_liste.h"
+
+class QPagedPaintDevice;
+class QTextDocument;
 
 namespace hote {
 
-// Prints the rows of the list under the carer's name and the columns' captions, with the date and a
-// number on each page; a list without a row gives one page that says so. What does not fit its
-// column is cut. A std::runtime_error, with its reason in French, when the document cannot be
-// written.
-void imprimerListe(const control::Ctr_Contrat& liste, screen::Platform& plateforme);
+// The table under its title and filters, laid out for the pages of `papier`: as wide as the page,
+// each column as its texts ask for, their captions on each page. A list without a row says so.
+std::unique_ptr<QTextDocument> mettreEnPage(const Tableau& tableau, QPagedPaintDevice& papier);
+
+// Prints the table to a PDF file of that name, without its ending, in the user's documents; beside
+// one of that name it gets a number. With the date and a number on each page. Answers the file; a
+// std::runtime_error, with its reason in French, when it cannot be written.
+QString imprimerListe(const Tableau& tableau, const QString& nom);
 
 }  // namespace hote

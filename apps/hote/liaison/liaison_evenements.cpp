@@ -132,7 +132,9 @@ bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
   if (!Recevable(&widget)) return true;
   Lien* const lien = LienDe(&widget);
   if (lien != nullptr && lien->Pression(widget, evenement)) return true;
-  if (evenement.button() != Qt::RightButton || !surface(lien)) return false;
+  // A widget beside the form's fields may have a menu of its own.
+  const bool menuPropre = widget.contextMenuPolicy() != Qt::DefaultContextMenu;
+  if (evenement.button() != Qt::RightButton || menuPropre || !surface(lien)) return false;
   Jouer([](screen::User& user) { user.ClicDroit(); });
   return true;
 }

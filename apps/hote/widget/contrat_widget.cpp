@@ -11,6 +11,7 @@
 #include "liaison/textes_qt.h"
 #include "session/pendant.h"
 #include "widget/formes.h"
+#include "widget/frise_contrats.h"
 #include "widget/habit_editeur.h"
 #include "widget/habit_liste.h"
 #include "widget/lignes_contrats.h"
@@ -34,6 +35,7 @@ struct ContratWidget::Prive {
   hote::Bureau& bureau;
   control::Ctr_Contrat controle;
   hote::Suite suite;
+  control::VueContrats vue{controle};
   std::unique_ptr<QWidget> racine;
   std::unique_ptr<hote::Liaison> liaison;
   // The host is inside init or Affiche.
@@ -45,15 +47,18 @@ ContratWidget::ContratWidget(hote::Bureau& bureau, QWidget* parent)
   auto* const disposition = new QVBoxLayout(this);
   disposition->setContentsMargins(0, 0, 0, 0);
   disposition->addWidget(prive_->racine.get());
-  hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste);
+  hote::habillerContrats(*prive_->racine, bureau.Plateforme().poste, [this](int ligne) {
+    return hote::decrire(prive_->vue, prive_->controle.ClesContrats()(ligne + 1));
+  });
   prive_->liaison = std::make_unique<hote::Liaison>(prive_->controle, *prive_->racine, bureau);
-  new hote::HabitListe(prive_->controle, *prive_->liaison);
+  auto* const habit = new hote::HabitListe(prive_->controle, *prive_->liaison, bureau.Reglages());
+  connect(habit, &hote::HabitListe::menuDemande, this, &ContratWidget::menuDemande);
   prive_->controle.SurAvis = [this](const std::string& texte) {
     emit annonce(hote::versQt(texte));
   };
   bureau.SurFenetre = [this](hote::Liaison& liaison) {
     if (liaison.Forme().Nom() != hote::HabitEditeur::Forme) return;
-    new hote::HabitEditeur(prive_->controle, liaison);
+    new hote::HabitEditeur(prive_->controle, liaison, prive_->bureau.Reglages());
   };
   prive_->controle.Sortie = [this] { QTimer::singleShot(0, this, [this] { Annoncer(); }); };
 }
@@ -97,6 +102,56 @@ void ContratWidget::Affiche(std::string_view typeAct, std::string_view codeAsso,
   const session::Pendant appel(prive_->appele);
   prive_->controle.Affiche(typeAct, codeAsso, actifs);
   prive_->bureau.PousserTout();
+}
+
+void ContratWidget::OuvrirChoisi() {
+  prive_->liaison->Jouer([this](screen::User& user) {
+    screen::ListBox& liste = prive_->controle.Lst_DatDebContrat;
+    if (liste.ListIndex() >= 0) user.DoubleCliquer(liste, liste.ListIndex());
+  });
+}
+
+void ContratWidget::Ajouter() {
+  prive_->liaison->Jouer(
+      [this](screen::User& user) { user.Cliquer(prive_->controle.Cmd_Ajouter); });
+}
+
+void ContratWidget::Rechercher() {
+  prive_->liaison->Jouer([this](screen::User& user) {
+    if (prive_->controle.Cmd_Recherche.Disponible()) {
+      user.Cliquer(prive_->controle.Cmd_Recherche);
+    } else {
+      prive_->vue.Relire();
+    }
+  });
+}
+
+void ContratWidget::ChoisirFiltres() {
+  prive_->liaison->Jouer([this](screen::User& user) { user.Cliquer(prive_->controle.Cmd_OK); });
+}
+
+void ContratWidget::Montrer(Filtre filtre) {
+  prive_->liaison->Jouer([&](screen::User&) {
+    switch (filtre) {
+      case Filtre::EnCours:
+        return prive_->vue.Montrer(control::EtatContrat::EnCours);
+      case Filtre::AVenir:
+        return prive_->vue.Montrer(control::EtatContrat::AVenir);
+      case Filtre::Termines:
+        return prive_->vue.Montrer(control::EtatContrat::Termine);
+      case Filtre::Tous:
+        return prive_->vue.MontrerTout();
+    }
+  });
+}
+
+bool ContratWidget::FriseVisible() const {
+  return hote::friseVisible(prive_->bureau.Reglages());
+}
+
+void ContratWidget::MontrerFrise(bool visible) {
+  auto* const frise = prive_->racine->findChild<FriseContrats*>();
+  hote::montrerFrise(*frise, prive_->bureau.Reglages(), visible);
 }
 
 bool ContratWidget::Occupe() const {

@@ -64,6 +64,19 @@ class ContratWidget : public QWidget {
   // both. `codeAsso`: legal entity or "". `actifs`: "A" active, "H" ended, else all.
   void Affiche(std::string_view typeAct, std::string_view codeAsso, std::string_view actifs);
 
+  // What the user can do from menus of the host, as by the screen's own buttons and keys. Nothing
+  // happens where a button is off, or no row is selected.
+  void OuvrirChoisi();
+  void Ajouter();
+  // With the filters as they stand; a list that is shown is read again and keeps its row.
+  void Rechercher();
+  void ChoisirFiltres();
+  enum class Filtre { EnCours, AVenir, Termines, Tous };
+  void Montrer(Filtre filtre);
+  // The strip of time over the list; the choice is kept in the desk's settings.
+  bool FriseVisible() const;
+  void MontrerFrise(bool visible);
+
   // A handler, init or Affiche is under way, a box or an editor open: the widget must not be
   // deleted now.
   bool Occupe() const;
@@ -75,6 +88,9 @@ class ContratWidget : public QWidget {
   void sortie();
   // What the user may like to know: "Contrat 061 enregistré". The host shows it without a box.
   void annonce(const QString& texte);
+  // A row was clicked with the right button, or the list was asked for its menu: the row is
+  // selected, the menu's place is on the screen.
+  void menuDemande(const QPoint& place);
 
  protected:
   // Stays open while it is busy.

@@ -7,11 +7,25 @@
 
 #include "control/ctr_contrat.h"
 #include "liaison/liaison.h"
+#include "widget/frise_contrats.h"
+#include "widget/habit_liste.h"
 
 namespace hote {
 
-HabitEditeur::HabitEditeur(const control::Ctr_Contrat& controle, Liaison& liaison)
-    : QObject(&liaison), controle_(controle), liaison_(liaison) {
+namespace {
+
+constexpr int LignesFrise = 5;
+
+}  // namespace
+
+HabitEditeur::HabitEditeur(control::Ctr_Contrat& controle, Liaison& liaison, QSettings& reglages)
+    : QObject(&liaison),
+      controle_(controle),
+      liaison_(liaison),
+      vue_(controle),
+      frise_(liaison.Racine().findChild<FriseContrats*>("frise")) {
+  frise_->SetLignesMax(LignesFrise);
+  habillerFrise(*frise_, vue_, reglages);
   GuetterSaisie();
   connect(&liaison_, &Liaison::poussee, this, &HabitEditeur::Regarder);
 }
@@ -35,6 +49,10 @@ void HabitEditeur::GuetterSaisie() {
 }
 
 void HabitEditeur::Regarder() {
+  if (auto enMain = controle_.EnMain(); enMain && enMain != montre_) {
+    montre_ = std::move(enMain);
+    frise_->Montrer(vue_.FaireFrise());
+  }
   liaison_.Marquer(controle_.Etat().DroitComplet() && (saisie_ || controle_.EnMainModifie()));
 }
 

@@ -1,8 +1,15 @@
 #pragma once
 // What the editor's window shows beside the fields of its form: in its title, that something typed
-// is not stored yet.
+// is not stored yet; in the strip of time, the contract in hand among the carer's others, as its
+// dates are typed.
 
 #include <QObject>
+#include <optional>
+
+#include "control/vue_contrats.h"
+
+class FriseContrats;
+class QSettings;
 
 namespace control {
 class Ctr_Contrat;
@@ -17,7 +24,7 @@ class HabitEditeur : public QObject {
   static constexpr const char* Forme = "Frm_ElementsContrat";
 
   // Lives as long as the binder of the editor that `controle` has open.
-  HabitEditeur(const control::Ctr_Contrat& controle, Liaison& liaison);
+  HabitEditeur(control::Ctr_Contrat& controle, Liaison& liaison, QSettings& reglages);
 
  private:
   // Any of the user's ways to change a field; what the form fills in itself is none.
@@ -26,6 +33,9 @@ class HabitEditeur : public QObject {
 
   const control::Ctr_Contrat& controle_;
   Liaison& liaison_;
+  control::VueContrats vue_;
+  FriseContrats* frise_;
+  std::optional<control::ContratAidant> montre_;
   bool saisie_ = false;
 };
 

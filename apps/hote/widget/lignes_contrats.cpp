@@ -1,7 +1,10 @@
 #include "widget/lignes_contrats.h"
 
+#include <QHelpEvent>
 #include <QListWidget>
 #include <QPainter>
+#include <QToolTip>
+#include <utility>
 
 #include "data/jour.h"
 #include "data/poste.h"
@@ -26,8 +29,24 @@ std::string texte(const QListWidget& liste, int ligne) {
 class LigneContrat : public LigneListe {
  public:
   LigneContrat(QListWidget& colonne, const QListWidget& debuts, const QListWidget& fins,
-               const data::Poste& poste)
-      : LigneListe(&colonne), debuts_(debuts), fins_(fins), poste_(poste) {}
+               const data::Poste& poste, std::function<QString(int)> decrire)
+      : LigneListe(&colonne),
+        debuts_(debuts),
+        fins_(fins),
+        poste_(poste),
+        decrire_(std::move(decrire)) {}
+
+  bool helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    QString lignes = decrire_ && index.isValid() ? decrire_(index.row()) : QString();
+    if (evenement->type() != QEvent::ToolTip || lignes.isEmpty()) {
+      return LigneListe::helpEvent(evenement, vue, option, index);
+    }
+    const bool coupe = sizeHint(option, index).width() > option.rect.width();
+    if (coupe) lignes.prepend(index.data().toString() + "\n");
+    QToolTip::showText(evenement->globalPos(), lignes, vue->viewport(), option.rect);
+    return true;
+  }
 
   void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
@@ -70,6 +89,7 @@ class LigneContrat : public LigneListe {
   const QListWidget& debuts_;
   const QListWidget& fins_;
   const data::Poste& poste_;
+  const std::function<QString(int)> decrire_;
 };
 
 }  // namespace
@@ -79,12 +99,13 @@ EtatContrat etatContrat(std::string_view debut, std::string_view fin, long aujou
   return control::etatContrat({premier, data::lireDateAffichee(fin)}, aujourdhui);
 }
 
-void habillerContrats(QWidget& racine, const data::Poste& poste) {
+void habillerContrats(QWidget& racine, const data::Poste& poste,
+                      const std::function<QString(int)>& decrire) {
   const auto* const debuts = racine.findChild<QListWidget*>(ListeDebuts);
   const auto* const fins = racine.findChild<QListWidget*>(ListeFins);
   for (const char* const nom : Colonnes) {
     auto* const colonne = racine.findChild<QListWidget*>(nom);
-    colonne->setItemDelegate(new LigneContrat(*colonne, *debuts, *fins, poste));
+    colonne->setItemDelegate(new LigneContrat(*colonne, *debuts, *fins, poste, decrire));
   }
 }
 

@@ -2,6 +2,8 @@
 // The rows of the contract list. A clerk looks for the contract that runs: it stands out in bold
 // with a bar at its left, and what has ended steps back.
 
+#include <QString>
+#include <functional>
 #include <string_view>
 
 #include "control/contrat_aidant.h"
@@ -20,6 +22,8 @@ using control::EtatContrat;
 EtatContrat etatContrat(std::string_view debut, std::string_view fin, long aujourdhui);
 
 // Draws so the five lists of the contract control under `racine`. The workstation outlives them.
-void habillerContrats(QWidget& racine, const data::Poste& poste);
+// `decrire`: the lines of a row's tooltip, whatever the column.
+void habillerContrats(QWidget& racine, const data::Poste& poste,
+                      const std::function<QString(int ligne)>& decrire = {});
 
 }  // namespace hote
