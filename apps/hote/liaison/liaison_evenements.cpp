@@ -9,6 +9,7 @@
 #include <QTabBar>
 #include <algorithm>
 
+#include "data/texte.h"
 #include "liaison/combo_deroulante.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
@@ -34,6 +35,21 @@ bool optionPassee(const screen::Field& champ) {
     return voisin->Genre() == screen::Kind::Option && voisin->Cadre() == champ.Cadre() &&
            voisin->Disponible() && static_cast<const screen::OptionButton*>(voisin)->Value();
   });
+}
+
+// The label list of a code box whose code is complete and has its label: Txt_X and Cbo_LibX, or
+// Cbo_X. There is nothing left to choose in it, and Tab goes past. nullptr for any other field.
+const screen::Field* libelleRempli(const screen::Field* actif, const screen::Form& forme) {
+  if (actif == nullptr || actif->Genre() != screen::Kind::Texte) return nullptr;
+  const auto& code = static_cast<const screen::TextField&>(*actif);
+  if (code.Text().empty() || data::longueur(code.Text()) < code.Longueur()) return nullptr;
+  const std::string nom = code.Nom().substr(std::string_view("Txt_").size());
+  for (const char* prefixe : {"Cbo_Lib", "Cbo_"}) {
+    const screen::Field* const libelle = forme.Find(prefixe + nom);
+    if (libelle == nullptr || libelle->Genre() != screen::Kind::Deroulante) continue;
+    return static_cast<const screen::ComboBox&>(*libelle).Text().empty() ? nullptr : libelle;
+  }
+  return nullptr;
 }
 
 // The wheel changes a value only where the user is.
@@ -129,6 +145,10 @@ bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
 
 bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   if (!Recevable(&widget)) return true;
+  // Alt and a letter that no button has: it is no text either.
+  const bool alt = evenement.modifiers().testFlag(Qt::AltModifier) &&
+                   !evenement.modifiers().testFlag(Qt::ControlModifier);
+  if (alt && !evenement.text().isEmpty()) return true;
   const bool controle = evenement.modifiers().testFlag(Qt::ControlModifier);
   const bool arriere =
       evenement.key() == Qt::Key_Backtab || evenement.modifiers().testFlag(Qt::ShiftModifier);
@@ -150,9 +170,12 @@ bool Liaison::Commander(const QKeyEvent& evenement) {
   } Commandes[] = {
       {Qt::Key_Return, Qt::ControlModifier, "Cmd_OK"},
       {Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier, "Cmd_OK"},
+      {Qt::Key_Return, Qt::ControlModifier, "Cmd_Ok"},
+      {Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier, "Cmd_Ok"},
       {Qt::Key_F5, Qt::NoModifier, "Cmd_Recherche"},
       {Qt::Key_Insert, Qt::NoModifier, "Cmd_Ajouter"},
       {Qt::Key_Escape, Qt::NoModifier, "Cmd_Retour"},
+      {Qt::Key_Escape, Qt::NoModifier, "Cmd_Sortir"},
       {Qt::Key_Escape, Qt::NoModifier, "Cmd_Annuler"},
   };
   for (const auto& commande : Commandes) {
@@ -161,7 +184,12 @@ bool Liaison::Commander(const QKeyEvent& evenement) {
     if (commande.cle == Qt::Key_Escape && !racine_.isWindow()) continue;
     screen::Field* const bouton = forme_.Find(commande.bouton);
     if (bouton == nullptr || !bouton->Disponible()) continue;
-    if (!evenement.isAutoRepeat()) Jouer([&](screen::User& user) { user.Cliquer(*bouton); });
+    if (!evenement.isAutoRepeat()) {
+      Jouer([&](screen::User& user) {
+        if (commande.cle != Qt::Key_Escape) Conclure();
+        user.Cliquer(*bouton);
+      });
+    }
     return true;
   }
   return false;
@@ -173,8 +201,9 @@ bool Liaison::Tabuler(bool arriere) {
   if (arriere) std::reverse(ordre.begin(), ordre.end());
   const auto actif = std::find(ordre.begin(), ordre.end(), forme_.Active());
   const auto debut = actif == ordre.end() ? ordre.begin() : actif + 1;
-  const auto prenable = [](const screen::Field* champ) {
-    return champ->Focalisable() && champ->Disponible() && !optionPassee(*champ);
+  const screen::Field* const libelle = arriere ? nullptr : libelleRempli(forme_.Active(), forme_);
+  const auto prenable = [libelle](const screen::Field* champ) {
+    return champ->Focalisable() && champ->Disponible() && champ != libelle && !optionPassee(*champ);
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
   if (suivant == ordre.end()) {
@@ -183,7 +212,10 @@ bool Liaison::Tabuler(bool arriere) {
     if (suivant == ordre.end()) return true;
   }
   screen::Field& cible = **suivant;
-  Jouer([&](screen::User& user) { user.Focus(cible); });
+  Jouer([&](screen::User& user) {
+    Conclure();
+    user.Focus(cible);
+  });
   return true;
 }
 
@@ -223,7 +255,10 @@ bool Liaison::Raccourci(QWidget& widget, const QShortcutEvent& evenement) {
   Lien* const lien = LienDe(&widget);
   auto* const bouton = qobject_cast<QAbstractButton*>(&widget);
   if (lien == nullptr || bouton == nullptr || evenement.isAmbiguous()) return false;
-  Jouer([&](screen::User& user) { user.Cliquer(lien->Champ()); });
+  Jouer([&](screen::User& user) {
+    Conclure();
+    user.Cliquer(lien->Champ());
+  });
   return true;
 }
 

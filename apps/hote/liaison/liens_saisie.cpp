@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <algorithm>
+#include <utility>
 
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
@@ -12,6 +14,24 @@
 namespace hote {
 
 namespace {
+
+// A piece that stands at a place of a text.
+struct Insertion {
+  QString texte;
+  qsizetype place = 0;
+};
+
+// What `apres` holds between the beginning and the end that it shares with `avant`.
+Insertion insertionDe(const QString& avant, const QString& apres) {
+  const qsizetype court = std::min(avant.size(), apres.size());
+  qsizetype debut = 0;
+  while (debut < court && avant[debut] == apres[debut]) ++debut;
+  qsizetype fin = 0;
+  while (fin < court - debut && avant[avant.size() - 1 - fin] == apres[apres.size() - 1 - fin]) {
+    ++fin;
+  }
+  return {apres.mid(debut, apres.size() - fin - debut), debut};
+}
 
 class LienSaisie : public Lien {
  public:
@@ -28,6 +48,7 @@ class LienSaisie : public Lien {
     }
     const char32_t gardee =
         filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, HorsSelection());
+    tapee_ = screen::estCaractere(gardee);
     if (gardee == touche) return screen::estCaractere(touche) && Pleine();
     if (screen::estCaractere(gardee) && !Pleine()) Inserer(versQt(screen::texteDe(gardee)));
     return true;
@@ -44,6 +65,29 @@ class LienSaisie : public Lien {
   // The whole text as the user has left it, by keys, a paste or an input method.
   void Transmettre(const QString& texte) {
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
+  }
+  // Whether the field is the model's active one, or may become it. When not, the widget shows what
+  // the model holds again.
+  bool Entre() {
+    if (modele_.Forme().Active() != &modele_) {
+      Binder().Jouer([&](screen::User& user) { user.Focus(modele_); });
+    }
+    const bool entre = modele_.Forme().Active() == &modele_;
+    if (!entre) Binder().Pousser();
+    return entre;
+  }
+  // What a paste or a drop has brought into the field goes through its key filter, character by
+  // character, as if it were typed; a key has been through it already.
+  Insertion Filtree(const QString& texte) {
+    const bool tapee = std::exchange(tapee_, false);
+    const Insertion insertion = insertionDe(versQt(modele_.Text()), texte);
+    if (!modele_.KeyPress || insertion.texte.isEmpty()) return {texte, -1};
+    if (tapee && insertion.texte.size() == 1) return {texte, -1};
+    QString reste = texte;
+    reste.remove(insertion.place, insertion.texte.size());
+    const QString garde = filtrerTexte(Binder(), modele_, modele_.KeyPress, insertion.texte, reste);
+    if (garde == insertion.texte) return {texte, -1};
+    return {reste.insert(insertion.place, garde), insertion.place + garde.size()};
   }
 
   // Notes what the field holds when the user enters it.
@@ -65,14 +109,15 @@ class LienSaisie : public Lien {
 
   std::string entree_;
   bool dedans_ = false;
+  // The next change of the text is that of a key which the filter has seen.
+  bool tapee_ = false;
 };
 
 class LienLigne : public LienSaisie {
  public:
   LienLigne(Liaison& liaison, screen::TextField& champ, QLineEdit& ligne)
       : LienSaisie(liaison, champ, ligne), ligne_(ligne), longueurQt_(ligne.maxLength()) {
-    connect(&ligne_, &QLineEdit::textEdited, this,
-            [this](const QString& texte) { Transmettre(texte); });
+    connect(&ligne_, &QLineEdit::textEdited, this, [this](const QString& texte) { Editer(texte); });
   }
 
  protected:
@@ -90,13 +135,27 @@ class LienLigne : public LienSaisie {
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne_.maxLength() != longueur) ligne_.setMaxLength(longueur);
-    if (ligne_.text() == texte) return;
     const int curseur = ligne_.cursorPosition();
-    ligne_.setText(texte);
-    ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+    if (ligne_.text() != texte) {
+      ligne_.setText(texte);
+      ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+    }
+    // A text that is longer than its field shows its beginning.
+    if (modele_.Forme().Active() != &modele_ && ligne_.cursorPosition() > 0) ligne_.home(false);
   }
 
  private:
+  void Editer(const QString& texte) {
+    // A drop comes before the focus does.
+    if (!Entre()) return;
+    const auto [filtre, curseur] = Filtree(texte);
+    if (curseur >= 0) {
+      ligne_.setText(filtre);
+      ligne_.setCursorPosition(static_cast<int>(curseur));
+    }
+    Transmettre(filtre);
+  }
+
   QLineEdit& ligne_;
   int longueurQt_;
 };

@@ -1,0 +1,116 @@
+// Keys that type nothing, keys that type more than one character, and where Tab goes.
+
+#include <QClipboard>
+
+#include "essai.h"
+#include "liaison/mnemoniques.h"
+
+namespace {
+
+using Touches = essai::Essai;
+
+// The field takes digits and a point, five in all; a comma becomes a point.
+TEST_F(Touches, APasteGoesThroughTheFieldsFilter) {
+  const struct {
+    const char* colle;
+    const char* texte;
+  } cas[] = {{"1 2,5x", "12.5"}, {"abc", ""}, {"1234567", "12345"}, {"a\tb7", "7"}};
+  auto& champ = w<QLineEdit>("Txt_Num");
+  for (const auto& c : cas) {
+    aller("Txt_Num");
+    champ.selectAll();
+    QApplication::clipboard()->setText(c.colle);
+    touche(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(champ.text().toStdString(), c.texte) << c.colle;
+    EXPECT_EQ(forme.Txt_Num.Text(), c.texte) << c.colle;
+  }
+  taper("12");
+  touche(Qt::Key_Home);
+  QApplication::clipboard()->setText("x8");
+  touche(Qt::Key_V, Qt::ControlModifier);
+  taper("9");
+  EXPECT_EQ(forme.Txt_Num.Text(), "89712");
+}
+
+TEST_F(Touches, AltAndALetterTypeNothing) {
+  for (const char* nom : {"Txt_Date", "Txt_Notes", "Cbo_Ville"}) {
+    aller(nom);
+    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_K, "k", Qt::AltModifier);
+    EXPECT_EQ(forme.journal, "") << nom;
+  }
+  EXPECT_EQ(forme.Txt_Date.Text() + forme.Txt_Notes.Text() + forme.Cbo_Ville.Text(), "");
+}
+
+// The list is filled when it is opened: here Lyon and Nice.
+TEST_F(Touches, AListTakesTheRowThatBeginsWithWhatIsTyped) {
+  aller("Cbo_Ville");
+  QLineEdit& saisie = *w<QComboBox>("Cbo_Ville").lineEdit();
+  taper("n");
+  EXPECT_EQ(saisie.text(), "nice");
+  EXPECT_EQ(saisie.selectedText(), "ice");
+  EXPECT_EQ(forme.Cbo_Ville.Text(), "n");
+  touche(Qt::Key_Tab);
+  EXPECT_EQ(forme.Prendre(), "Cbo_Ville=n Cbo_Ville:Nice -Cbo_Ville");
+  EXPECT_EQ(saisie.text(), "Nice");
+  // Esc, and a text that no row begins with: what was typed stands.
+  aller("Cbo_Ville");
+  saisie.selectAll();
+  taper("l");
+  touche(Qt::Key_Escape);
+  EXPECT_EQ(saisie.text(), "l");
+  touche(Qt::Key_Tab);
+  EXPECT_EQ(forme.Cbo_Ville.Text(), "l");
+}
+
+class Frm_Codes : public screen::Form {
+ public:
+  explicit Frm_Codes(screen::Platform& platform) : Form(platform, "Frm_Codes", "Codes") {
+    Cmd_Retour.SetLibelle("Retour");
+  }
+  screen::TextField Txt_Entite{*this, "Txt_Entite", 3};
+  screen::ComboBox Cbo_LibEntite{*this, "Cbo_LibEntite"};
+  screen::TextField Txt_Fin{*this, "Txt_Fin"};
+  screen::Button Cmd_Ajouter{*this, "Cmd_Ajouter", "Ajouter"};
+  screen::Button Cmd_Annuler{*this, "Cmd_Annuler", "Annuler"};
+  screen::Button Cmd_Reste{*this, "Cmd_Reste", "Aa & Nn"};
+  screen::Button Cmd_Retour{*this, "Cmd_Retour", "R"};
+};
+
+TEST_F(Touches, TabGoesPastALabelThatItsCodeHasFound) {
+  Frm_Codes codes(bureau.Plateforme());
+  codes.Show();
+  essai::Fenetre fenetre;
+  new QVBoxLayout(&fenetre);
+  essai::poser<QLineEdit>(fenetre, "Txt_Entite");
+  essai::poser<ComboDeroulante>(fenetre, "Cbo_LibEntite");
+  essai::poser<QLineEdit>(fenetre, "Txt_Fin");
+  hote::Liaison l(codes, fenetre, bureau);
+  fenetre.show();
+  fenetre.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+  const struct {
+    const char* code;
+    const char* libelle;
+    const char* ensuite;
+  } cas[] = {
+      {"001", "Siège", "Txt_Fin"}, {"00", "Siège", "Cbo_LibEntite"}, {"001", "", "Cbo_LibEntite"}};
+  for (const auto& c : cas) {
+    codes.Txt_Entite.SetText(c.code);
+    codes.Cbo_LibEntite.SetText(c.libelle);
+    codes.Txt_Entite.SetFocus();
+    l.Pousser();
+    QTest::keyClick(fenetre.windowHandle(), Qt::Key_Tab);
+    EXPECT_EQ(codes.Active()->Nom(), c.ensuite) << c.code << c.libelle;
+  }
+}
+
+TEST_F(Touches, EachButtonHasALetterOfItsOwn) {
+  const Frm_Codes codes(bureau.Plateforme());
+  const hote::Mnemoniques lettres(codes, {u'r'});
+  EXPECT_EQ(lettres.Libelle(codes.Cmd_Ajouter), "&Ajouter");
+  EXPECT_EQ(lettres.Libelle(codes.Cmd_Annuler), "A&nnuler");
+  EXPECT_EQ(lettres.Libelle(codes.Cmd_Reste), "Aa && Nn");
+  EXPECT_EQ(lettres.Libelle(codes.Cmd_Retour), "R&etour");
+}
+
+}  // namespace
