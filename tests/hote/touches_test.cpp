@@ -3,6 +3,7 @@
 #include <QClipboard>
 
 #include "essai.h"
+#include "liaison/aide_date.h"
 #include "liaison/mnemoniques.h"
 
 namespace {
@@ -60,6 +61,38 @@ TEST_F(Touches, AListTakesTheRowThatBeginsWithWhatIsTyped) {
   EXPECT_EQ(saisie.text(), "l");
   touche(Qt::Key_Tab);
   EXPECT_EQ(forme.Cbo_Ville.Text(), "l");
+}
+
+TEST_F(Touches, ADateTakesItsKeysOnceItIsWhole) {
+  auto& champ = w<QLineEdit>("Txt_Date");
+  const struct {
+    const char* texte;
+    Qt::Key cle;
+    const char* attendu;
+  } cas[] = {{"31/12/2026", Qt::Key_Plus, "01/01/2027"},
+             {"01/03/2024", Qt::Key_Minus, "29/02/2024"},
+             {"1", Qt::Key_Minus, "1-"},
+             {"", Qt::Key_Plus, "+"}};
+  for (const auto& c : cas) {
+    const QKeyEvent touche(QEvent::KeyPress, c.cle, {}, c.cle == Qt::Key_Plus ? "+" : "-");
+    const auto date = hote::dateParTouche(touche, c.texte, 21511);
+    EXPECT_EQ(date.value_or(c.texte + touche.text()), c.attendu) << c.texte;
+  }
+  const QKeyEvent aujourdhui(QEvent::KeyPress, Qt::Key_Semicolon, Qt::ControlModifier);
+  EXPECT_EQ(hote::dateParTouche(aujourdhui, "x", 21511), "22/11/2026");
+  // The calendar stands at the field's date; Enter takes the day.
+  champ.setProperty(hote::ProprieteDate, true);
+  aller("Txt_Date");
+  taper("01/03/2026");
+  const essai::Apres jour([&](QWidget& calendrier) {
+    auto* const jours = calendrier.findChild<QCalendarWidget*>();
+    ASSERT_NE(jours, nullptr);
+    EXPECT_EQ(jours->selectedDate(), QDate(2026, 3, 1));
+    jours->setSelectedDate(QDate(2026, 3, 9));
+    emit jours->activated(jours->selectedDate());
+  });
+  touche(Qt::Key_F4);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return forme.Txt_Date.Text() == "09/03/2026"; }, 2000));
 }
 
 class Frm_Codes : public screen::Form {

@@ -123,6 +123,13 @@ void Liaison::LierListes() {
   }
 }
 
+bool Liaison::Consultation() const {
+  for (const char* const nom : {"Cmd_OK", "Cmd_Ok"}) {
+    if (const screen::Field* const bouton = forme_.Find(nom)) return !bouton->Visible();
+  }
+  return false;
+}
+
 GroupeOptions& Liaison::Groupe(const screen::Frame* cadre) {
   return groupes_.try_emplace(cadre, this).first->second;
 }

@@ -70,6 +70,9 @@ class Liaison : public QObject {
   // An act of the user is under way: the binder must not be deleted.
   bool Occupee() const { return occupation_ > 0; }
 
+  // The form has an OK that is hidden: nothing that is typed in it can be saved.
+  bool Consultation() const;
+
   GroupeOptions& Groupe(const screen::Frame* cadre);
   // The caption of a button, with its letter marked.
   QString LibelleBouton(const screen::Field& bouton) const { return mnemoniques_.Libelle(bouton); }

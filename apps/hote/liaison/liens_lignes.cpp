@@ -10,6 +10,7 @@
 
 #include "data/texte.h"
 #include "liaison/combo_deroulante.h"
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
 #include "liaison/textes_qt.h"
@@ -146,6 +147,7 @@ class LienDeroulante : public Lien {
   bool Touche(QKeyEvent& evenement) override {
     if (evenement.key() == Qt::Key_Escape) return Renoncer();
     const char32_t touche = toucheDe(evenement);
+    if (Binder().Consultation() && combo_.isEditable()) return false;
     if (touche == 0) return Garnir(evenement.key());
     if (touche == screen::ToucheEntree) {
       Entrer();
@@ -191,6 +193,7 @@ class LienDeroulante : public Lien {
       combo_.setCurrentIndex(-1);
       return;
     }
+    montrerConsultation(*ligne, Binder().Consultation());
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne->maxLength() != longueur) ligne->setMaxLength(longueur);

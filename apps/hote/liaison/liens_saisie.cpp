@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "liaison/aide_date.h"
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
 #include "liaison/textes_qt.h"
@@ -39,6 +41,7 @@ class LienSaisie : public Lien {
       : Lien(liaison, champ, widget), modele_(champ) {}
 
   bool Touche(QKeyEvent& evenement) override {
+    if (Binder().Consultation()) return false;
     if (evenement.key() == Qt::Key_Escape) return Retablir();
     const char32_t touche = toucheDe(evenement);
     if (touche == 0) return false;
@@ -118,6 +121,13 @@ class LienLigne : public LienSaisie {
   LienLigne(Liaison& liaison, screen::TextField& champ, QLineEdit& ligne)
       : LienSaisie(liaison, champ, ligne), ligne_(ligne), longueurQt_(ligne.maxLength()) {
     connect(&ligne_, &QLineEdit::textEdited, this, [this](const QString& texte) { Editer(texte); });
+    if (!EstDate()) return;
+    ligne_.setToolTip(ConseilDate);
+    ligne_.setAccessibleDescription(ConseilDate);
+  }
+  bool Touche(QKeyEvent& evenement) override {
+    if (EstDate() && !ligne_.isReadOnly() && AiderDate(evenement)) return true;
+    return LienSaisie::Touche(evenement);
   }
 
  protected:
@@ -130,6 +140,7 @@ class LienLigne : public LienSaisie {
   }
   void PousserEtat() override {
     SuivreEntree();
+    montrerConsultation(ligne_, Binder().Consultation());
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
@@ -140,11 +151,23 @@ class LienLigne : public LienSaisie {
       ligne_.setText(texte);
       ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
     }
+    if (!modele_.Enabled() && ligne_.toolTip() != texte) ligne_.setToolTip(texte);
     // A text that is longer than its field shows its beginning.
     if (modele_.Forme().Active() != &modele_ && ligne_.cursorPosition() > 0) ligne_.home(false);
   }
 
  private:
+  bool EstDate() const { return ligne_.property(ProprieteDate).toBool(); }
+  bool AiderDate(const QKeyEvent& evenement) {
+    const long aujourdhui = modele_.Forme().Services().poste.Aujourdhui();
+    if (ouvreCalendrier(evenement)) {
+      montrerCalendrier(ligne_, aujourdhui, [this](const QString& date) { Editer(date); });
+      return true;
+    }
+    const auto date = dateParTouche(evenement, ligne_.text(), aujourdhui);
+    if (date) Editer(*date);
+    return date.has_value();
+  }
   void Editer(const QString& texte) {
     // A drop comes before the focus does.
     if (!Entre()) return;
@@ -181,6 +204,7 @@ class LienTexteLong : public LienSaisie {
   // The widget knows one line end only; the records of the suite hold CR LF.
   void PousserEtat() override {
     SuivreEntree();
+    montrerConsultation(page_, *page_.viewport(), Binder().Consultation());
     QString texte = versQt(modele_.Text());
     texte.replace("\r\n", "\n").replace('\r', '\n');
     if (Texte() == texte) return;
