@@ -126,7 +126,7 @@ TEST_F(Touches, TabGoesPastALabelThatItsCodeHasFound) {
     const char* libelle;
     const char* ensuite;
   } cas[] = {
-      {"001", "Siège", "Txt_Fin"}, {"00", "Siège", "Cbo_LibEntite"}, {"001", "", "Cbo_LibEntite"}};
+      {"001", "Siège", "Txt_Fin"}, {"", "Siège", "Cbo_LibEntite"}, {"001", "", "Cbo_LibEntite"}};
   for (const auto& c : cas) {
     codes.Txt_Entite.SetText(c.code);
     codes.Cbo_LibEntite.SetText(c.libelle);

@@ -9,7 +9,6 @@
 #include <QTabBar>
 #include <algorithm>
 
-#include "data/texte.h"
 #include "liaison/combo_deroulante.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
@@ -37,12 +36,12 @@ bool optionPassee(const screen::Field& champ) {
   });
 }
 
-// The label list of a code box whose code is complete and has its label: Txt_X and Cbo_LibX, or
-// Cbo_X. There is nothing left to choose in it, and Tab goes past. nullptr for any other field.
+// The label list of a code box whose code has its label: Txt_X and Cbo_LibX, or Cbo_X. There is
+// nothing left to choose in it, and Tab goes past. nullptr for any other field.
 const screen::Field* libelleRempli(const screen::Field* actif, const screen::Form& forme) {
   if (actif == nullptr || actif->Genre() != screen::Kind::Texte) return nullptr;
   const auto& code = static_cast<const screen::TextField&>(*actif);
-  if (code.Text().empty() || data::longueur(code.Text()) < code.Longueur()) return nullptr;
+  if (code.Text().empty()) return nullptr;
   const std::string nom = code.Nom().substr(std::string_view("Txt_").size());
   for (const char* prefixe : {"Cbo_Lib", "Cbo_"}) {
     const screen::Field* const libelle = forme.Find(prefixe + nom);
@@ -212,9 +211,14 @@ bool Liaison::Tabuler(bool arriere) {
     if (suivant == ordre.end()) return true;
   }
   screen::Field& cible = **suivant;
+  const screen::Field* const quitte = forme_.Active();
   Jouer([&](screen::User& user) {
     Conclure();
     user.Focus(cible);
+    // A short code has been completed on leaving, and has found its label then.
+    if (!arriere && forme_.Active() == &cible && libelleRempli(quitte, forme_) == &cible) {
+      user.Quitter();
+    }
   });
   return true;
 }
@@ -242,7 +246,10 @@ bool Liaison::ChangerOnglet(int sens) {
     auto& onglets = static_cast<screen::TabStrip&>(*champ);
     const int nombre = static_cast<int>(onglets.Onglets().size());
     const int cible = (onglets.Tab() + sens + nombre) % nombre;
-    Jouer([&](screen::User& user) { user.Onglet(onglets, cible); });
+    Jouer([&](screen::User& user) {
+      Conclure();
+      user.Onglet(onglets, cible);
+    });
     return true;
   }
   return false;
