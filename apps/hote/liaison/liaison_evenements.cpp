@@ -249,6 +249,8 @@ bool Liaison::ChangerOnglet(int sens) {
     Jouer([&](screen::User& user) {
       Conclure();
       user.Onglet(onglets, cible);
+      // Into the page: that is what one goes there for.
+      if (forme_.Active() == &onglets) user.Quitter();
     });
     return true;
   }
