@@ -75,8 +75,7 @@ std::vector<JourEcheance> joursEcheances(std::string_view contrat) {
   if (lu[Type] == "D" && fin == 0 && presumee > 0) {
     jours.push_back({GenreEcheance::Fin, presumee});
   }
-  // The first day counts.
-  const long finEssai = debut + static_cast<long>(entier(lu[Essai])) - 1;
+  const long finEssai = dernierJourEssai(debut, static_cast<long>(entier(lu[Essai])));
   if (finEssai >= debut && (fin == 0 || finEssai <= fin)) {
     jours.push_back({GenreEcheance::Essai, finEssai});
   }

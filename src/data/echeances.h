@@ -25,6 +25,11 @@ struct JourEcheance {
   bool operator==(const JourEcheance&) const = default;
 };
 
+// The last day of a trial of so many days: the first day of the contract counts.
+constexpr long dernierJourEssai(long debut, long jours) {
+  return debut + jours - 1;
+}
+
 // Of one contract, in the order of the kinds above; none of a cancelled one.
 std::vector<JourEcheance> joursEcheances(std::string_view contrat);
 

@@ -166,6 +166,11 @@ void EmployeurOrigine::Remplir_Aide(const std::string& nom) {
   employeur_.Remplir(ListeCodes(std::move(lignes)));
   employeur_.Montrer(saisi);
   if (!seul.empty()) employeur_.Choisir(seul);
+  if (liste.Vide()) {
+    editeur_.Services().indications.Montrer(
+        Cbo_LibEmplEtabContrat, "Aucun employeur en activité dont le nom commence par « " + nom +
+                                    " » : saisissez le début du nom de famille.");
+  }
 }
 
 }  // namespace editor

@@ -8,6 +8,8 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "widget/apparence.h"
+
 // The pages stand in a static library: its resources are linked by name.
 static void chargerPages() {
   Q_INIT_RESOURCE(aide);
@@ -43,6 +45,22 @@ FenetreAide::FenetreAide(QWidget* parente) : QDialog(parente), texte_(new QTextB
   connect(sommaire, &QPushButton::clicked, this, [this] { Montrer(Accueil); });
   connect(fermer, &QPushButton::clicked, this, &QDialog::close);
   resize(Taille);
+  Colorer();
+}
+
+// The pages name no colour. The palette's own for links is made for a light ground.
+void FenetreAide::Colorer() {
+  const QColor fond = texte_->palette().color(QPalette::Base);
+  const QColor lien = texte_->palette().color(QPalette::Link);
+  const bool lisible = contraste(lien, fond) >= ContrasteLisible;
+  const QColor couleur = lisible ? lien : texte_->palette().color(QPalette::Text);
+  texte_->document()->setDefaultStyleSheet("a { color: " + couleur.name() + "; }");
+  if (!texte_->source().isEmpty()) texte_->reload();
+}
+
+void FenetreAide::changeEvent(QEvent* evenement) {
+  QDialog::changeEvent(evenement);
+  if (evenement->type() == QEvent::PaletteChange) Colorer();
 }
 
 QString FenetreAide::Page(const QString& forme) {

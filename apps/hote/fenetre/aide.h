@@ -25,7 +25,12 @@ class FenetreAide : public QDialog {
   // The address of a form's page.
   static QString Page(const QString& forme);
 
+ protected:
+  void changeEvent(QEvent* evenement) override;
+
  private:
+  void Colorer();
+
   QTextBrowser* texte_;
 };
 

@@ -71,8 +71,7 @@ PageEcheances::PageEcheances(screen::Platform& plateforme, QWidget* parent)
   haut->addWidget(jours_);
   haut->addStretch();
   auto* const bas = new QHBoxLayout;
-  bas->addWidget(compte_);
-  bas->addStretch();
+  bas->addWidget(compte_, 1);
   bas->addWidget(imprimer_);
   auto* const disposition = new QVBoxLayout(this);
   disposition->setContentsMargins(12, 12, 12, 12);

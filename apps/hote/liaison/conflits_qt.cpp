@@ -38,7 +38,7 @@ QTableWidget* faireTable(const std::vector<screen::Conflit::Ecart>& ecarts) {
   table->setHorizontalHeaderLabels({"Zone", "Dans le fichier (le leur)", "À l'écran (le vôtre)"});
   table->verticalHeader()->hide();
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::NoSelection);
   table->setTabKeyNavigation(false);
   int ligne = 0;
   for (const auto& ecart : ecarts) {

@@ -1,9 +1,11 @@
 #include "liaison/liaison.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -33,6 +35,20 @@ class Compte {
   int& compteur_;
 };
 
+// The letters that a host's menu bar has.
+QSet<QChar> lettresDuMenu(const QWidget& racine) {
+  QSet<QChar> lettres;
+  const auto* const fenetre = qobject_cast<const QMainWindow*>(racine.window());
+  const QWidget* const barre = fenetre == nullptr ? nullptr : fenetre->menuWidget();
+  if (barre == nullptr) return lettres;
+  for (const QAction* const menu : barre->actions()) {
+    const QString texte = menu->text();
+    const qsizetype marque = texte.indexOf(u'&');
+    if (marque >= 0 && marque + 1 < texte.size()) lettres.insert(texte[marque + 1].toLower());
+  }
+  return lettres;
+}
+
 }  // namespace
 
 GroupeOptions::GroupeOptions(QObject* parent) : groupe_(new QButtonGroup(parent)) {}
@@ -48,7 +64,11 @@ void GroupeOptions::Eteindre(QAbstractButton& option) {
 }
 
 Liaison::Liaison(screen::Form& forme, QWidget& racine, Bureau& bureau)
-    : forme_(forme), racine_(racine), bureau_(bureau), user_(forme) {
+    : forme_(forme),
+      racine_(racine),
+      bureau_(bureau),
+      user_(forme),
+      mnemoniques_(forme, lettresDuMenu(racine)) {
   Lier();
   LierListes();
   bureau_.Inscrire(*this);
@@ -103,6 +123,13 @@ void Liaison::LierListes() {
   }
 }
 
+bool Liaison::Consultation() const {
+  for (const char* const nom : {"Cmd_OK", "Cmd_Ok"}) {
+    if (const screen::Field* const bouton = forme_.Find(nom)) return !bouton->Visible();
+  }
+  return false;
+}
+
 GroupeOptions& Liaison::Groupe(const screen::Frame* cadre) {
   return groupes_.try_emplace(cadre, this).first->second;
 }
@@ -152,12 +179,20 @@ bool Liaison::Drainer() {
   bool entre = false;
   {
     const Compte occupe(*this, occupation_);
+    Conclure();
     bureau_.Proteger([&] { entre = user_.Focus(champ) == screen::Acte::Fait; });
   }
   if (!la) return false;
   Apres();
   return la && entre && interruptions == screen::Form::Interruptions() &&
          menus == bureau_.Menus() && forme_.Active() == &champ;
+}
+
+void Liaison::Conclure() {
+  const auto actif = parChamp_.find(forme_.Active());
+  if (actif == parChamp_.end()) return;
+  Lien& lien = *actif->second;
+  bureau_.Proteger([&] { lien.Conclure(user_); });
 }
 
 bool Liaison::Jouer(const std::function<void(screen::User&)>& acte) {

@@ -22,6 +22,7 @@
 #include <memory>
 #include <vector>
 
+#include "liaison/mnemoniques.h"
 #include "screen/user.h"
 
 class QButtonGroup;
@@ -75,7 +76,12 @@ class Liaison : public QObject {
   // An act of the user is under way: the binder must not be deleted.
   bool Occupee() const { return occupation_ > 0; }
 
+  // The form has an OK that is hidden: nothing that is typed in it can be saved.
+  bool Consultation() const;
+
   GroupeOptions& Groupe(const screen::Frame* cadre);
+  // The caption of a button, with its letter marked.
+  QString LibelleBouton(const screen::Field& bouton) const { return mnemoniques_.Libelle(bouton); }
 
   // What does not match, in words: fields without a widget or with one of another kind, widgets
   // named as a field without one.
@@ -106,6 +112,8 @@ class Liaison : public QObject {
   bool Souris(QWidget& widget, const QMouseEvent& evenement);
   bool Clavier(QWidget& widget, QKeyEvent& evenement);
   bool Tabuler(bool arriere);
+  // What the user has typed in the field that he leaves by an act of his counts first.
+  void Conclure();
   bool PasserAHote(bool arriere);
   bool ChangerOnglet(int sens);
   bool Commander(const QKeyEvent& evenement);
@@ -116,6 +124,7 @@ class Liaison : public QObject {
   QWidget& racine_;
   Bureau& bureau_;
   screen::User user_;
+  Mnemoniques mnemoniques_;
   std::vector<std::unique_ptr<Lien>> liens_;
   QHash<const QWidget*, Lien*> parWidget_;
   std::map<const screen::Field*, Lien*> parChamp_;

@@ -46,6 +46,21 @@ bool colonnePassee(const screen::Field& champ, const screen::Field* actif) {
   return *premiere != &champ || std::count(colonnes.begin(), colonnes.end(), actif) > 0;
 }
 
+// The label list of a code box whose code has its label: Txt_X and Cbo_LibX, or Cbo_X. There is
+// nothing left to choose in it, and Tab goes past. nullptr for any other field.
+const screen::Field* libelleRempli(const screen::Field* actif, const screen::Form& forme) {
+  if (actif == nullptr || actif->Genre() != screen::Kind::Texte) return nullptr;
+  const auto& code = static_cast<const screen::TextField&>(*actif);
+  if (code.Text().empty()) return nullptr;
+  const std::string nom = code.Nom().substr(std::string_view("Txt_").size());
+  for (const char* prefixe : {"Cbo_Lib", "Cbo_"}) {
+    const screen::Field* const libelle = forme.Find(prefixe + nom);
+    if (libelle == nullptr || libelle->Genre() != screen::Kind::Deroulante) continue;
+    return static_cast<const screen::ComboBox&>(*libelle).Text().empty() ? nullptr : libelle;
+  }
+  return nullptr;
+}
+
 // The wheel changes a value only where the user is.
 bool moletteEgaree(const QWidget& widget) {
   for (const QWidget* w = &widget; w != nullptr && !w->isWindow(); w = w->parentWidget()) {
@@ -141,6 +156,10 @@ bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
 
 bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   if (!Recevable(&widget)) return true;
+  // Alt and a letter that no button has: it is no text either.
+  const bool alt = evenement.modifiers().testFlag(Qt::AltModifier) &&
+                   !evenement.modifiers().testFlag(Qt::ControlModifier);
+  if (alt && !evenement.text().isEmpty()) return true;
   const bool controle = evenement.modifiers().testFlag(Qt::ControlModifier);
   const bool arriere =
       evenement.key() == Qt::Key_Backtab || evenement.modifiers().testFlag(Qt::ShiftModifier);
@@ -162,9 +181,12 @@ bool Liaison::Commander(const QKeyEvent& evenement) {
   } Commandes[] = {
       {Qt::Key_Return, Qt::ControlModifier, "Cmd_OK"},
       {Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier, "Cmd_OK"},
+      {Qt::Key_Return, Qt::ControlModifier, "Cmd_Ok"},
+      {Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier, "Cmd_Ok"},
       {Qt::Key_F5, Qt::NoModifier, "Cmd_Recherche"},
       {Qt::Key_Insert, Qt::NoModifier, "Cmd_Ajouter"},
       {Qt::Key_Escape, Qt::NoModifier, "Cmd_Retour"},
+      {Qt::Key_Escape, Qt::NoModifier, "Cmd_Sortir"},
       {Qt::Key_Escape, Qt::NoModifier, "Cmd_Annuler"},
   };
   for (const auto& commande : Commandes) {
@@ -173,7 +195,12 @@ bool Liaison::Commander(const QKeyEvent& evenement) {
     if (commande.cle == Qt::Key_Escape && !racine_.isWindow()) continue;
     screen::Field* const bouton = forme_.Find(commande.bouton);
     if (bouton == nullptr || !bouton->Disponible()) continue;
-    if (!evenement.isAutoRepeat()) Jouer([&](screen::User& user) { user.Cliquer(*bouton); });
+    if (!evenement.isAutoRepeat()) {
+      Jouer([&](screen::User& user) {
+        if (commande.cle != Qt::Key_Escape) Conclure();
+        user.Cliquer(*bouton);
+      });
+    }
     return true;
   }
   return false;
@@ -185,8 +212,9 @@ bool Liaison::Tabuler(bool arriere) {
   if (arriere) std::reverse(ordre.begin(), ordre.end());
   const auto actif = std::find(ordre.begin(), ordre.end(), forme_.Active());
   const auto debut = actif == ordre.end() ? ordre.begin() : actif + 1;
-  const auto prenable = [this](const screen::Field* champ) {
-    return champ->Focalisable() && champ->Disponible() && !optionPassee(*champ) &&
+  const screen::Field* const libelle = arriere ? nullptr : libelleRempli(forme_.Active(), forme_);
+  const auto prenable = [this, libelle](const screen::Field* champ) {
+    return champ->Focalisable() && champ->Disponible() && champ != libelle && !optionPassee(*champ) &&
            !colonnePassee(*champ, forme_.Active());
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
@@ -196,7 +224,15 @@ bool Liaison::Tabuler(bool arriere) {
     if (suivant == ordre.end()) return true;
   }
   screen::Field& cible = **suivant;
-  Jouer([&](screen::User& user) { user.Focus(cible); });
+  const screen::Field* const quitte = forme_.Active();
+  Jouer([&](screen::User& user) {
+    Conclure();
+    user.Focus(cible);
+    // A short code has been completed on leaving, and has found its label then.
+    if (!arriere && forme_.Active() == &cible && libelleRempli(quitte, forme_) == &cible) {
+      user.Quitter();
+    }
+  });
   return true;
 }
 
@@ -223,7 +259,12 @@ bool Liaison::ChangerOnglet(int sens) {
     auto& onglets = static_cast<screen::TabStrip&>(*champ);
     const int nombre = static_cast<int>(onglets.Onglets().size());
     const int cible = (onglets.Tab() + sens + nombre) % nombre;
-    Jouer([&](screen::User& user) { user.Onglet(onglets, cible); });
+    Jouer([&](screen::User& user) {
+      Conclure();
+      user.Onglet(onglets, cible);
+      // Into the page: that is what one goes there for.
+      if (forme_.Active() == &onglets) user.Quitter();
+    });
     return true;
   }
   return false;
@@ -236,7 +277,10 @@ bool Liaison::Raccourci(QWidget& widget, const QShortcutEvent& evenement) {
   Lien* const lien = LienDe(&widget);
   auto* const bouton = qobject_cast<QAbstractButton*>(&widget);
   if (lien == nullptr || bouton == nullptr || evenement.isAmbiguous()) return false;
-  Jouer([&](screen::User& user) { user.Cliquer(lien->Champ()); });
+  Jouer([&](screen::User& user) {
+    Conclure();
+    user.Cliquer(lien->Champ());
+  });
   return true;
 }
 

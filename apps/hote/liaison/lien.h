@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "screen/field.h"
+#include "screen/user.h"
 
 class QKeyEvent;
 class QMouseEvent;
@@ -30,6 +31,8 @@ class Lien : public QObject {
   virtual QWidget& CibleFocus() { return widget_; }
   // A key for the focused widget. True when it is dealt with and must not reach the widget.
   virtual bool Touche(QKeyEvent& /*evenement*/) { return false; }
+  // The user leaves the field: what was only proposed to him is taken.
+  virtual void Conclure(screen::User& /*user*/) {}
   // A text that an input method is about to insert, as the field lets it through.
   virtual QString Filtrer(const QString& texte) { return texte; }
   // The mouse goes down in `ou`, the widget or a part of it. True when that is no act here and must

@@ -40,11 +40,28 @@ class LienBouton : public LienPressable {
       : LienPressable(liaison, champ, bouton) {
     bouton.setAutoDefault(false);
     bouton.setDefault(false);
+    if (bouton.toolTip().isEmpty()) bouton.setToolTip(toucheDuBouton(champ.Nom()));
   }
   bool Touche(QKeyEvent& evenement) override {
     if (toucheDe(evenement) != screen::ToucheEntree) return false;
     if (!evenement.isAutoRepeat()) Cliquer();
     return true;
+  }
+
+ protected:
+  void PousserEtat() override {
+    const QString texte = Binder().LibelleBouton(Champ());
+    if (bouton_.text() != texte) bouton_.setText(texte);
+  }
+
+ private:
+  // The key of a button that has the same in every form: see Liaison::Commander.
+  static const char* toucheDuBouton(const std::string& nom) {
+    if (nom == "Cmd_OK" || nom == "Cmd_Ok") return "Ctrl+Entrée";
+    if (nom == "Cmd_Recherche") return "F5";
+    if (nom == "Cmd_Ajouter") return "Inser";
+    if (nom == "Cmd_Retour" || nom == "Cmd_Sortir") return "Échap";
+    return "";
   }
 };
 

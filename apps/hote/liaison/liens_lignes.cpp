@@ -4,9 +4,13 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPointer>
 #include <algorithm>
+#include <utility>
 
+#include "data/texte.h"
 #include "liaison/combo_deroulante.h"
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
 #include "liaison/textes_qt.h"
@@ -130,8 +134,11 @@ class LienListe : public Lien {
 class LienDeroulante : public Lien {
  public:
   LienDeroulante(Liaison& liaison, screen::ComboBox& champ, ComboDeroulante& combo)
-      : Lien(liaison, champ, combo), modele_(champ), combo_(combo) {
-    combo_.setEditable(champ.Saisie());
+      : Lien(liaison, champ, combo),
+        modele_(champ),
+        combo_(combo),
+        toutes_(combo.property("toutes").toString()) {
+    combo_.setEditable(champ.Saisie() && toutes_.isEmpty());
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.clear();
     if (QLineEdit* const ligne = combo_.lineEdit()) {
@@ -142,20 +149,26 @@ class LienDeroulante : public Lien {
       connect(ligne, &QLineEdit::textEdited, this,
               [this](const QString& texte) { Transmettre(texte); });
     }
-    connect(&combo_, &QComboBox::activated, this, [this](int ligne) {
-      Binder().Jouer([&](screen::User& user) { user.Choisir(modele_, ligne); });
+    connect(&combo_, &QComboBox::activated, this, [this](int rang) {
+      const int ligne = rang - Tete();
+      Binder().Jouer([&](screen::User& user) {
+        ligne < 0 ? user.Taper(modele_, "") : user.Choisir(modele_, ligne);
+      });
     });
     connect(&combo_, &ComboDeroulante::aboutToShowPopup, this, [this] {
       if (!Derouler()) combo_.RefuserOuverture();
     });
   }
   bool Touche(QKeyEvent& evenement) override {
+    if (evenement.key() == Qt::Key_Escape) return Renoncer();
     const char32_t touche = toucheDe(evenement);
+    if (Binder().Consultation() && combo_.isEditable()) return false;
     if (touche == 0) return Garnir(evenement.key());
     if (touche == screen::ToucheEntree) {
-      Binder().Jouer([&](screen::User& user) { user.Touche(modele_, touche); });
+      Entrer();
       return true;
     }
+    if (screen::estCaractere(touche) && modele_.Text().empty()) Garnir(Qt::Key_Down);
     const char32_t gardee = filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, {});
     if (gardee == touche) return false;
     QLineEdit* const ligne = combo_.lineEdit();
@@ -167,35 +180,90 @@ class LienDeroulante : public Lien {
   QString Filtrer(const QString& texte) override {
     return filtrerTexte(Binder(), modele_, modele_.KeyPress, texte, {});
   }
+  void Conclure(screen::User& user) override {
+    const int ligne = std::exchange(proposee_, -1);
+    if (ligne >= 0 && modele_.Text() == versModele(tape_)) user.Choisir(modele_, ligne);
+  }
 
  protected:
   void PousserEtat() override {
     QLineEdit* const ligne = combo_.lineEdit();
+    if (proposee_ >= 0 && modele_.Rows() == poussees_ && modele_.Text() == versModele(tape_)) {
+      return;
+    }
+    proposee_ = -1;
     // New rows and another row rewrite the text on their way.
     const int curseur = ligne == nullptr ? 0 : ligne->cursorPosition();
     if (modele_.Rows() != poussees_) Remplir();
-    if (combo_.currentIndex() != modele_.ListIndex()) combo_.setCurrentIndex(modele_.ListIndex());
+    const bool toutes = Tete() > 0 && modele_.Text().empty();
+    const int rang = toutes ? 0 : modele_.ListIndex() < 0 ? -1 : modele_.ListIndex() + Tete();
+    if (combo_.currentIndex() != rang) combo_.setCurrentIndex(rang);
     const QString texte = versQt(modele_.Text());
     if (ligne == nullptr) {
       // A text that is none of the rows. Setting it lays the window out anew: not for every row.
-      const bool horsLignes = modele_.ListIndex() < 0 && combo_.placeholderText() != texte;
+      const bool horsLignes = rang < 0 && combo_.placeholderText() != texte;
       if (!horsLignes) return;
       combo_.setPlaceholderText(texte);
       // An empty one makes the toolkit choose the first row.
       combo_.setCurrentIndex(-1);
       return;
     }
+    montrerConsultation(*ligne, Binder().Consultation());
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne->maxLength() != longueur) ligne->setMaxLength(longueur);
     if (ligne->text() != texte) ligne->setText(texte);
-    const int place = std::min(curseur, static_cast<int>(texte.size()));
+    // A text that is longer than its field shows its beginning.
+    const bool dedans = modele_.Forme().Active() == &modele_;
+    const int place = dedans ? std::min(curseur, static_cast<int>(texte.size())) : 0;
     if (ligne->cursorPosition() != place) ligne->setCursorPosition(place);
   }
 
  private:
   void Transmettre(const QString& texte) {
+    const bool plusLong = texte.size() > versQt(modele_.Text()).size();
+    proposee_ = -1;
+    const QPointer<QLineEdit> ligne(combo_.lineEdit());
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
+    if (ligne && plusLong && ligne->text() == texte && ligne->cursorPosition() == texte.size()) {
+      Proposer(*ligne, texte);
+    }
+  }
+  // A list that answers Enter searches by what was typed: what it has found is shown, as long as
+  // there is something to choose.
+  void Entrer() {
+    if (!modele_.KeyPress) return void(Binder().Jouer([&](screen::User& user) { Conclure(user); }));
+    proposee_ = -1;
+    const unsigned long interruptions = screen::Form::Interruptions();
+    const QPointer<ComboDeroulante> combo(&combo_);
+    Binder().Jouer([&](screen::User& user) { user.Touche(modele_, screen::ToucheEntree); });
+    const bool trouve = combo && modele_.ListCount() > 1 && modele_.ListIndex() < 0 &&
+                        modele_.Forme().Active() == &modele_ &&
+                        screen::Form::Interruptions() == interruptions;
+    if (trouve) combo_.QComboBox::showPopup();
+  }
+  // The first row that begins with what was typed stands behind it, selected: the next key replaces
+  // it, leaving the field chooses it. The model has what was typed until then.
+  void Proposer(QLineEdit& ligne, const QString& tape) {
+    const std::string debut = data::plier(versModele(tape));
+    for (int rang = 0; rang < modele_.ListCount(); ++rang) {
+      const std::string& entier = poussees_[static_cast<std::size_t>(rang)];
+      const QString libelle = versQt(entier);
+      if (libelle.size() <= tape.size() || !data::plier(entier).starts_with(debut)) continue;
+      proposee_ = rang;
+      tape_ = tape;
+      ligne.setText(tape + libelle.mid(tape.size()));
+      ligne.setSelection(static_cast<int>(libelle.size()),
+                         static_cast<int>(tape.size() - libelle.size()));
+      return;
+    }
+  }
+  // The first Esc takes back what was proposed.
+  bool Renoncer() {
+    if (proposee_ < 0) return false;
+    proposee_ = -1;
+    combo_.lineEdit()->setText(tape_);
+    return true;
   }
   // The rows may be filled now. False when a refused leave or a box keeps them hidden.
   bool Derouler() {
@@ -212,13 +280,21 @@ class LienDeroulante : public Lien {
   void Remplir() {
     poussees_ = modele_.Rows();
     combo_.clear();
+    if (Tete() > 0) combo_.addItem(toutes_);
     combo_.addItems(versQt(poussees_));
   }
+  int Tete() const { return toutes_.isEmpty() ? 0 : 1; }
 
   screen::ComboBox& modele_;
   ComboDeroulante& combo_;
+  // The row that stands for no choice at all, before the others: a list with one takes none but its
+  // rows, whatever the model would take.
+  QString toutes_;
   std::vector<std::string> poussees_;
   int longueurQt_ = 32767;
+  // The row that is proposed behind what was typed, -1 for none.
+  int proposee_ = -1;
+  QString tape_;
 };
 
 }  // namespace

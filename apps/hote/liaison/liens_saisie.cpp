@@ -3,7 +3,11 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <algorithm>
+#include <utility>
 
+#include "liaison/aide_date.h"
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
 #include "liaison/textes_qt.h"
@@ -13,12 +17,31 @@ namespace hote {
 
 namespace {
 
+// A piece that stands at a place of a text.
+struct Insertion {
+  QString texte;
+  qsizetype place = 0;
+};
+
+// What `apres` holds between the beginning and the end that it shares with `avant`.
+Insertion insertionDe(const QString& avant, const QString& apres) {
+  const qsizetype court = std::min(avant.size(), apres.size());
+  qsizetype debut = 0;
+  while (debut < court && avant[debut] == apres[debut]) ++debut;
+  qsizetype fin = 0;
+  while (fin < court - debut && avant[avant.size() - 1 - fin] == apres[apres.size() - 1 - fin]) {
+    ++fin;
+  }
+  return {apres.mid(debut, apres.size() - fin - debut), debut};
+}
+
 class LienSaisie : public Lien {
  public:
   LienSaisie(Liaison& liaison, screen::TextField& champ, QWidget& widget)
       : Lien(liaison, champ, widget), modele_(champ) {}
 
   bool Touche(QKeyEvent& evenement) override {
+    if (Binder().Consultation()) return false;
     if (evenement.key() == Qt::Key_Escape) return Retablir();
     const char32_t touche = toucheDe(evenement);
     if (touche == 0) return false;
@@ -28,6 +51,7 @@ class LienSaisie : public Lien {
     }
     const char32_t gardee =
         filtrerTouche(Binder(), modele_, modele_.KeyPress, touche, HorsSelection());
+    tapee_ = screen::estCaractere(gardee);
     if (gardee == touche) return screen::estCaractere(touche) && Pleine();
     if (screen::estCaractere(gardee) && !Pleine()) Inserer(versQt(screen::texteDe(gardee)));
     return true;
@@ -44,6 +68,29 @@ class LienSaisie : public Lien {
   // The whole text as the user has left it, by keys, a paste or an input method.
   void Transmettre(const QString& texte) {
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
+  }
+  // Whether the field is the model's active one, or may become it. When not, the widget shows what
+  // the model holds again.
+  bool Entre() {
+    if (modele_.Forme().Active() != &modele_) {
+      Binder().Jouer([&](screen::User& user) { user.Focus(modele_); });
+    }
+    const bool entre = modele_.Forme().Active() == &modele_;
+    if (!entre) Binder().Pousser();
+    return entre;
+  }
+  // What a paste or a drop has brought into the field goes through its key filter, character by
+  // character, as if it were typed; a key has been through it already.
+  Insertion Filtree(const QString& texte) {
+    const bool tapee = std::exchange(tapee_, false);
+    const Insertion insertion = insertionDe(versQt(modele_.Text()), texte);
+    if (!modele_.KeyPress || insertion.texte.isEmpty()) return {texte, -1};
+    if (tapee && insertion.texte.size() == 1) return {texte, -1};
+    QString reste = texte;
+    reste.remove(insertion.place, insertion.texte.size());
+    const QString garde = filtrerTexte(Binder(), modele_, modele_.KeyPress, insertion.texte, reste);
+    if (garde == insertion.texte) return {texte, -1};
+    return {reste.insert(insertion.place, garde), insertion.place + garde.size()};
   }
 
   // Notes what the field holds when the user enters it.
@@ -65,14 +112,22 @@ class LienSaisie : public Lien {
 
   std::string entree_;
   bool dedans_ = false;
+  // The next change of the text is that of a key which the filter has seen.
+  bool tapee_ = false;
 };
 
 class LienLigne : public LienSaisie {
  public:
   LienLigne(Liaison& liaison, screen::TextField& champ, QLineEdit& ligne)
       : LienSaisie(liaison, champ, ligne), ligne_(ligne), longueurQt_(ligne.maxLength()) {
-    connect(&ligne_, &QLineEdit::textEdited, this,
-            [this](const QString& texte) { Transmettre(texte); });
+    connect(&ligne_, &QLineEdit::textEdited, this, [this](const QString& texte) { Editer(texte); });
+    if (!EstDate()) return;
+    ligne_.setToolTip(ConseilDate);
+    ligne_.setAccessibleDescription(ConseilDate);
+  }
+  bool Touche(QKeyEvent& evenement) override {
+    if (EstDate() && !ligne_.isReadOnly() && AiderDate(evenement)) return true;
+    return LienSaisie::Touche(evenement);
   }
 
  protected:
@@ -85,18 +140,45 @@ class LienLigne : public LienSaisie {
   }
   void PousserEtat() override {
     SuivreEntree();
+    montrerConsultation(ligne_, Binder().Consultation());
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne_.maxLength() != longueur) ligne_.setMaxLength(longueur);
-    if (ligne_.text() == texte) return;
     const int curseur = ligne_.cursorPosition();
-    ligne_.setText(texte);
-    ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+    if (ligne_.text() != texte) {
+      ligne_.setText(texte);
+      ligne_.setCursorPosition(std::min(curseur, static_cast<int>(texte.size())));
+    }
+    if (!modele_.Enabled() && ligne_.toolTip() != texte) ligne_.setToolTip(texte);
+    // A text that is longer than its field shows its beginning.
+    if (modele_.Forme().Active() != &modele_ && ligne_.cursorPosition() > 0) ligne_.home(false);
   }
 
  private:
+  bool EstDate() const { return ligne_.property(ProprieteDate).toBool(); }
+  bool AiderDate(const QKeyEvent& evenement) {
+    const long aujourdhui = modele_.Forme().Services().poste.Aujourdhui();
+    if (ouvreCalendrier(evenement)) {
+      montrerCalendrier(ligne_, aujourdhui, [this](const QString& date) { Editer(date); });
+      return true;
+    }
+    const auto date = dateParTouche(evenement, ligne_.text(), aujourdhui);
+    if (date) Editer(*date);
+    return date.has_value();
+  }
+  void Editer(const QString& texte) {
+    // A drop comes before the focus does.
+    if (!Entre()) return;
+    const auto [filtre, curseur] = Filtree(texte);
+    if (curseur >= 0) {
+      ligne_.setText(filtre);
+      ligne_.setCursorPosition(static_cast<int>(curseur));
+    }
+    Transmettre(filtre);
+  }
+
   QLineEdit& ligne_;
   int longueurQt_;
 };
@@ -122,6 +204,7 @@ class LienTexteLong : public LienSaisie {
   // The widget knows one line end only; the records of the suite hold CR LF.
   void PousserEtat() override {
     SuivreEntree();
+    montrerConsultation(page_, *page_.viewport(), Binder().Consultation());
     QString texte = versQt(modele_.Text());
     texte.replace("\r\n", "\n").replace('\r', '\n');
     if (Texte() == texte) return;

@@ -1,6 +1,7 @@
 #include "liaison/services_qt.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -133,6 +134,9 @@ void IndicationsQt::Montrer(const screen::Field& champ, const std::string& texte
   // The focus that comes back to the field takes away what stands beside it.
   QTimer::singleShot(0, widget, [widget, texte = versQt(texte)] {
     if (auto* const ligne = qobject_cast<QLineEdit*>(widget)) ligne->selectAll();
+    if (auto* const combo = qobject_cast<QComboBox*>(widget); combo && combo->lineEdit()) {
+      combo->lineEdit()->selectAll();
+    }
     QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), texte, widget, {},
                        DureeIndication);
   });

@@ -6,6 +6,8 @@
 //   caracteresMin  the least width of an entry that takes the room there is
 //   caracteresMax  the largest width of a list, in digits
 //   rangees        the least height of a list, in rows
+//   date           an entry of a date: it has the keys of dates and a calendar (the binder)
+//   toutes         a list that takes only its rows: the text of the row for none (the binder)
 //   colonne        labels of one form with the same word here are as wide as the widest of them
 //
 // Nothing here is a colour or a size of its own: the host's style, palette and font decide.

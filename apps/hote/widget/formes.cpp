@@ -25,6 +25,7 @@
 #include "ui_SuiviRemunere.h"
 #include "ui_SuiviTempsEffectif.h"
 #include "widget/apparence.h"
+#include "widget/calculs_origine.h"
 #include "widget/lignes_suivi.h"
 
 namespace hote {
@@ -79,6 +80,7 @@ std::unique_ptr<QWidget> construireEditeur() {
   ajouterPage<Ui::OngletPaie>(*cadre.Ong_Contrat);
   ajouterPage<Ui::OngletConges>(*cadre.Ong_Contrat);
   ajouterPage<Ui::OngletFin>(*cadre.Ong_Contrat);
+  habillerOrigine(*racine);
   appliquerApparence(*racine);
   return racine;
 }
