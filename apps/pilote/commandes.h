@@ -43,7 +43,12 @@ void deplacerBarre(Pilote& pilote, const Commande& commande);
 void fermer(Pilote& pilote, const Commande& commande);
 void repondre(Pilote& pilote, const Commande& commande);
 
+// What the workstation has.
+void regler(Pilote& pilote, const Commande& commande);
+void installer(Pilote& pilote, const Commande& commande);
+
 // What must hold.
+void verifierTransmis(Pilote& pilote, const Commande& commande);
 void verifierMessage(Pilote& pilote, const Commande& commande);
 void verifierAucunMessage(Pilote& pilote, const Commande& commande);
 void verifierIndication(Pilote& pilote, const Commande& commande);

@@ -60,6 +60,7 @@ class Pilote {
   void Prevoir(screen::Reponse reponse);
   screen::headless::MessagesEnFile& Messages() { return hote_.messages; }
   screen::headless::IndicationsNotees& Indications() { return hote_.indications; }
+  screen::headless::Hote& Hote() { return hote_; }
   const screen::headless::ImprimanteEnregistree& Imprimante() const { return hote_.imprimante; }
   data::Db& Base() { return base_; }
   std::ostream& Sortie() { return sortie_; }

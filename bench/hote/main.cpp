@@ -30,6 +30,7 @@ const std::vector<bench::Rapport> Rapports{
      0, 150000},
     {"declaration of the dot-matrix form / an empty page", "declarationMatricielle", "pageVide", 0,
      150000},
+    {"a letter merged / a file of its size written", "lettre", "fichierNu", 0, 100000},
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{
