@@ -15,6 +15,7 @@
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
 #include "fenetre/impression_liste.h"
+#include "fenetre/menu_lettres.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
 #include "widget/contrat_widget.h"
@@ -47,6 +48,7 @@ void FenetreHote::FaireMenus() {
   aidant->addAction("&Imprimer la liste", QKeySequence(QKeySequence::Print), this,
                     &FenetreHote::Imprimer);
   aidant->addAction("&Fermer l'aidant", QKeySequence("Ctrl+W"), this, &FenetreHote::FermerAidant);
+  ajouterMenuLettres(*menuBar(), bureau_);
   FaireMenuDroits();
   FaireMenuAide();
 }
