@@ -162,7 +162,7 @@ class ControleTable::Lignes : public QWidget {
 
 void ControleTable::Appeler(const std::string& methode) {
   if (methode != "init" || Objets().Db == nullptr) return;
-  const GenreTable* const genre = genreTable(ControleSuite::Lire("TheCle"));
+  const GenreTable* const genre = genreTable(Recue("TheCle"));
   table_ = genre == nullptr ? nullptr : std::make_unique<TableCodes>(*Objets().Db, *genre);
 }
 
@@ -176,7 +176,7 @@ std::unique_ptr<QWidget> ControleTable::Vue() {
   if (table_ == nullptr) {
     return std::make_unique<QLabel>("Cette table ne se modifie pas ici.");
   }
-  return std::make_unique<Lignes>(*this, *table_, Plein(ControleSuite::Lire("W_Droits")));
+  return std::make_unique<Lignes>(*this, *table_, Plein(Recue("W_Droits")));
 }
 
 }  // namespace hote

@@ -89,7 +89,7 @@ std::string TableCodes::Ajouter(const Ligne& ligne) {
              std::to_string(LongueurCodeMax) + " au plus.";
     }
   }
-  if (const std::string refus = RefusTexte(ligne, -1); !refus.empty()) return refus;
+  if (std::string refus = RefusTexte(ligne, -1); !refus.empty()) return refus;
   const int place = Nombre() + 1;
   if (genre_.codes != 0) item_.Set(genre_.codes, place, ligne.code);
   item_.Set(genre_.libelles, place, ligne.libelle);
@@ -98,8 +98,7 @@ std::string TableCodes::Ajouter(const Ligne& ligne) {
 }
 
 std::string TableCodes::Changer(int rang, const Ligne& ligne) {
-  if (const std::string refus = RefusTexte({A(rang).code, ligne.libelle, {}}, rang);
-      !refus.empty()) {
+  if (std::string refus = RefusTexte({A(rang).code, ligne.libelle, {}}, rang); !refus.empty()) {
     return refus;
   }
   if (genre_.codes == 0 && ligne.libelle != A(rang).libelle) {
