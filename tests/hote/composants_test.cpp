@@ -74,6 +74,8 @@ TEST_F(Composants, ATableKeepsWhatContractsUse) {
   EXPECT_EQ(motifs.Changer(1, {"02", "Accroissement", ""}), "");
   EXPECT_NE(motifs.Retirer(1), "");
   EXPECT_EQ(motifs.Retirer(0), "");
+  ecrire("CONTRAT", "00002001", {{113, {"01"}}});
+  EXPECT_TRUE(motifs.Enregistrer().starts_with("Un contrat emploie désormais « 01 »"));
   ecrire("TABLES", "MOTIFEMBAUCHE", {{1, {"09"}}, {2, {"Autre poste"}}});
   EXPECT_TRUE(motifs.Enregistrer().starts_with("Un autre poste a modifié cette table"));
   EXPECT_EQ(lu("TABLES", "MOTIFEMBAUCHE", 2), "Autre poste");

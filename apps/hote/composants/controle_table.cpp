@@ -87,7 +87,13 @@ class ControleTable::Lignes : public QWidget {
                           bouton("&Retirer", [this] { Retirer(); })};
     rangee->addStretch();
     auto* const enregistrer = bouton("&Enregistrer", [this] {
-      if (controle_.EnregistrerOuDire()) window()->close();
+      if (EnSuspens()) {
+        controle_.Dire(
+            "Ce qui est tapé n'est pas encore dans la table : Ajouter ou Modifier "
+            "l'y met.");
+      } else if (controle_.EnregistrerOuDire()) {
+        window()->close();
+      }
     });
     bouton("&Fermer", [this] { window()->close(); });
     for (QWidget* const b : changer) b->setEnabled(modifiable);
@@ -127,6 +133,13 @@ class ControleTable::Lignes : public QWidget {
     };
     return {texte(code_->text()), texte(libelle_->text()),
             versModele(regroupement_->currentData().toString())};
+  }
+
+  // Typed, and neither added nor given to the line.
+  bool EnSuspens() const {
+    const TableCodes::Ligne tapee = Tapee();
+    const TableCodes::Ligne ligne = Rang() < 0 ? TableCodes::Ligne() : table_.A(Rang());
+    return tapee.code != ligne.code || tapee.libelle != ligne.libelle;
   }
 
   void Suivre(const std::string& refus, int rang) {
