@@ -85,6 +85,8 @@ constexpr Definition Definitions[] = {
     {"repondre", "repondre OUI|NON|ANNULER|OK", 1, 1, repondre, exigerReponse},
     {"trancher", "trancher REMPLACER|GARDER|REVENIR", 1, 1, trancher, exigerTranche},
     {"ailleurs", "ailleurs FICHIER CLE A [V [S]] = TEXTE", 5, 7, ecrireAilleurs, exigerArticle},
+    {"reglage", "reglage SECTION CLE TEXTE", 3, 3, regler},
+    {"controle", "controle NOM", 1, 1, installer},
     {"message", "message \"début du texte\"", 1, 1, verifierMessage},
     {"aucun-message", "aucun-message", 0, 0, verifierAucunMessage},
     {"indication", "indication \"texte\"", 1, 1, verifierIndication},
@@ -94,6 +96,7 @@ constexpr Definition Definitions[] = {
     {"article", "article FICHIER CLE [A [V [S]]] = TEXTE", 4, 7, verifierArticle, exigerArticle},
     {"absent", "absent FICHIER CLE", 2, 2, verifierAbsent, exigerCle},
     {"imprime", "imprime X Y TEXTE", 3, 3, verifierImprime},
+    {"transmis", "transmis CONTROLE TEXTE", 2, 2, verifierTransmis},
     {"voir", "voir [NOM]", 0, 1, voir},
 };
 

@@ -47,7 +47,12 @@ void trancher(Pilote& pilote, const Commande& commande);
 // What another station writes meanwhile.
 void ecrireAilleurs(Pilote& pilote, const Commande& commande);
 
+// What the workstation has.
+void regler(Pilote& pilote, const Commande& commande);
+void installer(Pilote& pilote, const Commande& commande);
+
 // What must hold.
+void verifierTransmis(Pilote& pilote, const Commande& commande);
 void verifierMessage(Pilote& pilote, const Commande& commande);
 void verifierAucunMessage(Pilote& pilote, const Commande& commande);
 void verifierIndication(Pilote& pilote, const Commande& commande);

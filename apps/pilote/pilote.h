@@ -61,6 +61,7 @@ class Pilote {
   screen::headless::MessagesEnFile& Messages() { return hote_.messages; }
   screen::headless::IndicationsNotees& Indications() { return hote_.indications; }
   screen::headless::ConflitsNotes& Conflits() { return hote_.conflits; }
+  screen::headless::Hote& Hote() { return hote_; }
   const screen::headless::ImprimanteEnregistree& Imprimante() const { return hote_.imprimante; }
   data::Db& Base() { return base_; }
   std::ostream& Sortie() { return sortie_; }

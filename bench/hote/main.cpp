@@ -37,6 +37,7 @@ const std::vector<bench::Rapport> Rapports{
     {"report of 5,000 interventions shown", "rapportAffiche", "rapportAffiche", 0, 100000},
     {"a page further in it", "rapportTourne", "rapportTourne", 0, 16000},
     {"printed to a PDF file", "rapportImprime", "rapportImprime", 0, 500000},
+    {"a letter merged / a file of its size written", "lettre", "fichierNu", 0, 100000},
 };
 
 const std::vector<std::pair<std::string, void (*)(bench::Medianes&)>> Mesures{

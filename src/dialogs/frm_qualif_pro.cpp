@@ -1,5 +1,7 @@
 #include "dialogs/frm_qualif_pro.h"
 
+#include <utility>
+
 namespace dialogs {
 
 namespace {
@@ -15,5 +17,12 @@ constexpr FormeHebergee::Hebergement TableQualif{
 Frm_QualifPro::Frm_QualifPro(screen::Platform& platform)
     : FormeParamTable(platform, "Frm_QualifPro", "Ajout Qualification Professionnelle", TableQualif,
                       "QUALIF", "DOSAIDANTCONTRAT") {}
+
+// This table's control takes the client first.
+std::vector<FormeHebergee::Propriete> Frm_QualifPro::Contexte() const {
+  std::vector<Propriete> contexte = FormeParamTable::Contexte();
+  std::swap(contexte[0], contexte[1]);
+  return contexte;
+}
 
 }  // namespace dialogs

@@ -9,6 +9,9 @@ namespace dialogs {
 class Frm_QualifPro : public FormeParamTable {
  public:
   explicit Frm_QualifPro(screen::Platform& platform);
+
+ protected:
+  std::vector<Propriete> Contexte() const override;
 };
 
 }  // namespace dialogs

@@ -5,10 +5,13 @@ namespace dialogs {
 namespace {
 
 constexpr FormeHebergee::Hebergement Vespario{
-    "Ctr_Vespamoi",
-    "Les droits de télégestion ne peuvent pas être modifiés ici : l'écran de paramétrage VESPARIO "
-    "n'est pas installé sur ce poste. Modifiez-les depuis un poste qui en dispose.",
-    "W_Sortir", ""};
+    .controle = "Ctr_Vespamoi",
+    .absent =
+        "Les droits de télégestion ne peuvent pas être modifiés ici : l'écran de paramétrage "
+        "VESPARIO n'est pas installé sur ce poste. Modifiez-les depuis un poste qui en dispose.",
+    .sortie = "W_Sortir",
+    .retenue = nullptr,
+    .liberee = "-1"};
 
 std::string titre(const ContexteTelegestion& c) {
   std::string texte =

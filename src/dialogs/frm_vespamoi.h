@@ -25,8 +25,6 @@ class Frm_VESPAMOI : public FormeHebergee {
 
  protected:
   std::vector<Propriete> Contexte() const override;
-  // The control answers -1 once it can be left.
-  bool QueryUnload() override { return Controle()->Lire("W_Sortir") == "-1"; }
 
  private:
   ContexteTelegestion contexte_;

@@ -9,7 +9,11 @@
 #include "composants/table_codes.h"
 #include "data/layouts/voisins.h"
 #include "dialogs/frm_civil_aide.h"
+#include "dialogs/frm_detail_conges_del_prev.h"
+#include "dialogs/frm_periode_conges.h"
+#include "dialogs/frm_tps_indem.h"
 #include "dialogs/frm_ventilation.h"
+#include "dialogs/frm_vespamoi.h"
 #include "essai.h"
 #include "storage/memory.h"
 #include "widget/formes.h"
@@ -74,6 +78,8 @@ TEST_F(Composants, ATableKeepsWhatContractsUse) {
   EXPECT_EQ(motifs.Changer(1, {"02", "Accroissement", ""}), "");
   EXPECT_NE(motifs.Retirer(1), "");
   EXPECT_EQ(motifs.Retirer(0), "");
+  ecrire("CONTRAT", "00002001", {{113, {"01"}}});
+  EXPECT_TRUE(motifs.Enregistrer().starts_with("Un contrat emploie désormais « 01 »"));
   ecrire("TABLES", "MOTIFEMBAUCHE", {{1, {"09"}}, {2, {"Autre poste"}}});
   EXPECT_TRUE(motifs.Enregistrer().starts_with("Un autre poste a modifié cette table"));
   EXPECT_EQ(lu("TABLES", "MOTIFEMBAUCHE", 2), "Autre poste");
@@ -139,18 +145,33 @@ TEST_F(Composants, AChangedCivilStateIsNotLeftUnasked) {
 }
 
 TEST_F(Composants, AnAbsentControlShowsWhatItWasGivenAndCloses) {
-  essai::Frm_Essai appelante(bureau.Plateforme());
-  dialogs::Frm_Ventilation forme(bureau.Plateforme(),
-                                 {"00001", "A & B", "001", "Aide du Val", "00001001"});
-  const essai::Apres clerc([&](QWidget& fenetre) {
-    const auto* const recues = fenetre.findChild<QTreeWidget*>();
-    ASSERT_NE(recues, nullptr);
-    EXPECT_EQ(recues->topLevelItemCount(), 9);
-    EXPECT_EQ(recues->topLevelItem(4)->text(1), "A & B");
-    QTest::keyClick(&fenetre, Qt::Key_Escape);
-  });
-  EXPECT_TRUE(forme.Ouvrir(appelante));
-  EXPECT_EQ(clerc.Fois(), 1);
+  ecrire("PERIODESPAIE", "1", {{1, {"202611"}}});
+  session::Session session(poste);
+  session.Db = &db;
+  session.OuvrirFichiers();
+  const session::Dossier contrat(session);
+  screen::Platform& p = bureau.Plateforme();
+  dialogs::Frm_Ventilation decompte(p, {"00001", "A & B", "001", "Aide du Val", "00001001"});
+  dialogs::Frm_VESPAMOI telegestion(p, {});
+  dialogs::Frm_DetailCongesDelPrev detail(p, {});
+  dialogs::Frm_PeriodeConges periode(p);
+  dialogs::Frm_TpsIndem indemnisation(p, contrat, "");
+  const struct {
+    dialogs::FormeHebergee& forme;
+    int proprietes;
+  } cas[] = {{decompte, 9}, {telegestion, 7}, {detail, 7}, {periode, 2}, {indemnisation, 7}};
+  essai::Frm_Essai appelante(p);
+  for (const auto& c : cas) {
+    const essai::Apres clerc([&](QWidget& fenetre) {
+      EXPECT_EQ(fenetre.objectName().toStdString(), c.forme.Nom());
+      const auto* const recues = fenetre.findChild<QTreeWidget*>();
+      ASSERT_NE(recues, nullptr);
+      EXPECT_EQ(recues->topLevelItemCount(), c.proprietes);
+      QTest::keyClick(&fenetre, Qt::Key_Escape);
+    });
+    EXPECT_TRUE(c.forme.Ouvrir(appelante));
+    EXPECT_EQ(clerc.Fois(), 1) << c.forme.Nom();
+  }
 }
 
 }  // namespace

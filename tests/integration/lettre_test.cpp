@@ -18,6 +18,7 @@
 #include "lettres/archive_zip.h"
 #include "lettres/lettre_odt.h"
 #include "lettres/modele_odt.h"
+#include "lettres/traitement_texte.h"
 #include "screen/platform.h"
 #include "storage/memory.h"
 
@@ -205,6 +206,49 @@ TEST_F(Lettres, TheControlShowsTheLetterOfTheContractOrOfItsAmendment) {
   }
   controle.Regler("W_Document", "07001");
   EXPECT_THROW(controle.Appeler("Imprimer"), screen::ErreurImpression);
+}
+
+// A word processor of the test's own, first on the path: it notes its arguments and renders what
+// the document holds, or nothing.
+TEST_F(Lettres, APdfIsMadeByTheWordProcessorOrItsFailureIsTold) {
+  const QByteArray chemin = qgetenv("PATH");
+  const QString notes = dossier.filePath("arguments");
+  const auto installer = [&](const QByteArray& suite) {
+    const QString programme = dossier.filePath("bin/soffice");
+    QDir().mkpath(dossier.filePath("bin"));
+    ASSERT_TRUE(hote::ecrireFichier(
+        programme, "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"" + notes.toUtf8() + "\"\n" + suite));
+    QFile(programme).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+  };
+  qputenv("XDG_CACHE_HOME", dossier.path().toUtf8());
+  qputenv("PATH", dossier.filePath("bin").toUtf8() + ":" + chemin);
+  const QSettings reglages(dossier.filePath("reglages.ini"), QSettings::IniFormat);
+  const hote::TraitementTexte traitement(reglages);
+  const QString lettre = dossier.filePath("lettre $(x) ; 'y'.odt");
+  ASSERT_TRUE(hote::ecrireFichier(lettre, "texte"));
+  const QString pdf = dossier.filePath("lettre $(x) ; 'y'.pdf");
+
+  installer("exit 1\n");
+  EXPECT_EQ(hote::TraitementTexte::Trouver(), dossier.filePath("bin/soffice"));
+  try {
+    traitement.EnPdf(lettre, nullptr);
+    ADD_FAILURE() << "no PDF file was made, and nobody said so";
+  } catch (const hote::ConversionManquee& erreur) {
+    EXPECT_NE(std::string(erreur.what()).find(lettre.toStdString()), std::string::npos);
+  }
+  EXPECT_FALSE(QFile::exists(pdf));
+
+  installer(
+      "while [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && sortie=$2; shift; done\n"
+      "cp \"$1\" \"$sortie/$(basename \"$1\" .odt).pdf\"\n");
+  EXPECT_EQ(traitement.EnPdf(lettre, nullptr), pdf);
+  QFile arguments(notes);
+  ASSERT_TRUE(arguments.open(QIODevice::ReadOnly));
+  EXPECT_EQ(QString::fromUtf8(arguments.readAll()).trimmed().section('\n', -1), lettre);
+  QFile fait(pdf);
+  ASSERT_TRUE(fait.open(QIODevice::ReadOnly));
+  EXPECT_EQ(fait.readAll(), "texte");
+  qputenv("PATH", chemin);
 }
 
 // The clerk's page names every field with its meaning, and no other.

@@ -109,7 +109,7 @@ void ControleAide::Appeler(const std::string& methode) {
   const int annee = data::dateDe(LeBureau().Plateforme().poste.Aujourdhui()).annee;
   fiche_.reset();
   try {
-    fiche_ = std::make_unique<FicheAide>(*Objets().Db, ControleSuite::Lire("W_CodeAide"), annee);
+    fiche_ = std::make_unique<FicheAide>(*Objets().Db, Recue("W_CodeAide"), annee);
   } catch (const data::StoreError& erreur) {
     if (!erreur.EstNonTrouve()) throw;
   }
@@ -117,8 +117,8 @@ void ControleAide::Appeler(const std::string& methode) {
 
 std::unique_ptr<QWidget> ControleAide::Vue() {
   if (fiche_ == nullptr) {
-    return std::make_unique<QLabel>("Aucun aidé ne porte le code « " +
-                                    versQt(ControleSuite::Lire("W_CodeAide")) + " ».");
+    return std::make_unique<QLabel>("Aucun aidé ne porte le code « " + versQt(Recue("W_CodeAide")) +
+                                    " ».");
   }
   auto saisie = std::make_unique<Saisie>(*this, *fiche_, Plein(std::string(session::DroitContrat)));
   saisie_ = saisie.get();

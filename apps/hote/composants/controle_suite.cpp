@@ -7,7 +7,7 @@ void ControleSuite::Regler(const std::string& propriete, const std::string& vale
   proprietes_.emplace_back(propriete, valeur);
 }
 
-std::string ControleSuite::Lire(const std::string& propriete) const {
+std::string ControleSuite::Recue(const std::string& propriete) const {
   for (const auto& [nom, valeur] : proprietes_) {
     if (nom == propriete) return valeur;
   }

@@ -27,12 +27,14 @@ struct ObjetsSuite {
 class ControleSuite : public screen::ControleHeberge {
  public:
   void Regler(const std::string& propriete, const std::string& valeur) override;
-  std::string Lire(const std::string& propriete) const override;
+  std::string Lire(const std::string& propriete) const override { return Recue(propriete); }
   void Appeler(const std::string& /*methode*/) override {}
 
  protected:
   using Proprietes = std::vector<std::pair<std::string, std::string>>;
   const Proprietes& Recues() const { return proprietes_; }
+  // As it was set, "" for one that never was.
+  std::string Recue(const std::string& propriete) const;
 
  private:
   Proprietes proprietes_;

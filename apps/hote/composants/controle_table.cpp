@@ -87,7 +87,13 @@ class ControleTable::Lignes : public QWidget {
                           bouton("&Retirer", [this] { Retirer(); })};
     rangee->addStretch();
     auto* const enregistrer = bouton("&Enregistrer", [this] {
-      if (controle_.EnregistrerOuDire()) window()->close();
+      if (EnSuspens()) {
+        controle_.Dire(
+            "Ce qui est tapé n'est pas encore dans la table : Ajouter ou Modifier "
+            "l'y met.");
+      } else if (controle_.EnregistrerOuDire()) {
+        window()->close();
+      }
     });
     bouton("&Fermer", [this] { window()->close(); });
     for (QWidget* const b : changer) b->setEnabled(modifiable);
@@ -129,6 +135,13 @@ class ControleTable::Lignes : public QWidget {
             versModele(regroupement_->currentData().toString())};
   }
 
+  // Typed, and neither added nor given to the line.
+  bool EnSuspens() const {
+    const TableCodes::Ligne tapee = Tapee();
+    const TableCodes::Ligne ligne = Rang() < 0 ? TableCodes::Ligne() : table_.A(Rang());
+    return tapee.code != ligne.code || tapee.libelle != ligne.libelle;
+  }
+
   void Suivre(const std::string& refus, int rang) {
     if (refus.empty()) return Remplir(rang);
     controle_.Dire(refus);
@@ -162,7 +175,7 @@ class ControleTable::Lignes : public QWidget {
 
 void ControleTable::Appeler(const std::string& methode) {
   if (methode != "init" || Objets().Db == nullptr) return;
-  const GenreTable* const genre = genreTable(ControleSuite::Lire("TheCle"));
+  const GenreTable* const genre = genreTable(Recue("TheCle"));
   table_ = genre == nullptr ? nullptr : std::make_unique<TableCodes>(*Objets().Db, *genre);
 }
 
@@ -176,7 +189,7 @@ std::unique_ptr<QWidget> ControleTable::Vue() {
   if (table_ == nullptr) {
     return std::make_unique<QLabel>("Cette table ne se modifie pas ici.");
   }
-  return std::make_unique<Lignes>(*this, *table_, Plein(ControleSuite::Lire("W_Droits")));
+  return std::make_unique<Lignes>(*this, *table_, Plein(Recue("W_Droits")));
 }
 
 }  // namespace hote

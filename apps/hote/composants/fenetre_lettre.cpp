@@ -1,6 +1,7 @@
 #include "composants/fenetre_lettre.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
@@ -27,6 +28,12 @@ QString apercu(const QString& fichier) {
   return "<p>La lettre ne se relit pas.</p>";
 }
 
+// As the user's own folders are spoken of.
+QString montre(const QString& fichier) {
+  const QString maison = QDir::homePath() + "/";
+  return fichier.startsWith(maison) ? "~/" + fichier.mid(maison.size()) : fichier;
+}
+
 QLabel* etiquette(const QString& texte, QWidget* parente) {
   auto* const label = new QLabel(texte, parente);
   label->setTextFormat(Qt::PlainText);
@@ -42,7 +49,7 @@ FenetreLettre::FenetreLettre(const LettreOdt& lettre, QWidget* parente) : QDialo
   setWindowTitle("Lettre");
   auto* const colonne = new QVBoxLayout(this);
   colonne->addWidget(
-      etiquette("La lettre est prête, dans le fichier « " + lettre.fichier + " ».", this));
+      etiquette("La lettre est prête, dans le fichier « " + montre(lettre.fichier) + " ».", this));
   const QString reserves = lettre.Reserves();
   if (!reserves.isEmpty()) {
     QLabel* const attention = etiquette("Attention. " + reserves, this);

@@ -42,7 +42,7 @@ FicheAide::FicheAide(Db& db, const std::string& code, int annee)
 }
 
 std::string FicheAide::Lire(const PlaceAide& place) const {
-  const std::string texte = item_(place.attribut);
+  std::string texte = item_(place.attribut);
   if (place.genre != PlaceAide::Genre::Date || texte.empty() || !estNombre(texte)) return texte;
   return dateAffichee(static_cast<long>(entier(texte)));
 }

@@ -89,7 +89,7 @@ std::string TableCodes::Ajouter(const Ligne& ligne) {
              std::to_string(LongueurCodeMax) + " au plus.";
     }
   }
-  if (const std::string refus = RefusTexte(ligne, -1); !refus.empty()) return refus;
+  if (std::string refus = RefusTexte(ligne, -1); !refus.empty()) return refus;
   const int place = Nombre() + 1;
   if (genre_.codes != 0) item_.Set(genre_.codes, place, ligne.code);
   item_.Set(genre_.libelles, place, ligne.libelle);
@@ -98,15 +98,15 @@ std::string TableCodes::Ajouter(const Ligne& ligne) {
 }
 
 std::string TableCodes::Changer(int rang, const Ligne& ligne) {
-  if (const std::string refus = RefusTexte({A(rang).code, ligne.libelle, {}}, rang);
-      !refus.empty()) {
+  if (std::string refus = RefusTexte({A(rang).code, ligne.libelle, {}}, rang); !refus.empty()) {
     return refus;
   }
   if (genre_.codes == 0 && ligne.libelle != A(rang).libelle) {
-    if (const int emplois = Emplois(rang); emplois > 0) {
+    if (const int emplois = Emplois(Tenu(rang)); emplois > 0) {
       return contrats(emplois) + " « " + A(rang).libelle +
              " » sous ce nom, qui ne peut donc pas changer. Ajoutez une ligne au nouveau nom.";
     }
+    otes_.push_back(Tenu(rang));
   }
   item_.Set(genre_.libelles, rang + 1, ligne.libelle);
   if (genre_.regroupements != 0) item_.Set(genre_.regroupements, rang + 1, ligne.regroupement);
@@ -115,18 +115,26 @@ std::string TableCodes::Changer(int rang, const Ligne& ligne) {
 
 // The attributes of a table are parallel lists, those that nobody shows too.
 std::string TableCodes::Retirer(int rang) {
-  if (const int emplois = Emplois(rang); emplois > 0) {
+  if (const int emplois = Emplois(Tenu(rang)); emplois > 0) {
     return contrats(emplois) + " « " + A(rang).libelle +
            " » : cette ligne ne peut pas être retirée.";
   }
+  otes_.push_back(Tenu(rang));
   for (int a = 1; a <= item_.DCount(); ++a) item_.Delete(a, rang + 1);
   return "";
 }
 
-// How many contracts hold the line as it is on file; one that was only added has none.
-int TableCodes::Emplois(int rang) const {
-  const Ligne ligne = A(rang);
-  const std::string tenu = genre_.codes != 0 ? ligne.code : ligne.libelle;
+std::string TableCodes::Tenu(int rang) const {
+  return genre_.codes != 0 ? A(rang).code : A(rang).libelle;
+}
+
+bool TableCodes::Tient(const std::string& tenu) const {
+  int rang = 0;
+  while (rang < Nombre() && Tenu(rang) != tenu) ++rang;
+  return rang < Nombre();
+}
+
+int TableCodes::Emplois(const std::string& tenu) const {
   int emplois = 0;
   db_.Stockage().Scan(fichier::CONTRAT, KeyRange::Tout(),
                       [&](std::string_view, std::string_view texte) {
@@ -148,9 +156,17 @@ std::string TableCodes::Enregistrer() {
       refus =
           "Un autre poste a modifié cette table entre-temps. Fermez sans enregistrer, puis "
           "recommencez.";
-    } else {
-      item_.DBWriteU();
+      return;
     }
+    for (const std::string& ote : otes_) {
+      if (Tient(ote)) continue;
+      if (const int emplois = Emplois(ote); emplois > 0) {
+        refus = contrats(emplois) + " désormais « " + ote +
+                " », que vous avez ôté de la table. Fermez sans enregistrer, puis recommencez.";
+        return;
+      }
+    }
+    item_.DBWriteU();
   });
   if (refus.empty()) initial_ = item_;
   return refus;

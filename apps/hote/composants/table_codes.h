@@ -45,13 +45,18 @@ class TableCodes {
 
  private:
   std::string RefusTexte(const Ligne& ligne, int saufRang) const;
-  int Emplois(int rang) const;
+  // What contracts hold of a line, and how many of them do.
+  std::string Tenu(int rang) const;
+  bool Tient(const std::string& tenu) const;
+  int Emplois(const std::string& tenu) const;
 
   data::Db& db_;
   const GenreTable& genre_;
   data::CItem item_;
   data::CItem initial_;
   data::CItem regroupements_;
+  // What contracts may have begun to hold since it was taken away here.
+  std::vector<std::string> otes_;
 };
 
 }  // namespace hote

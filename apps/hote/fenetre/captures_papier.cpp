@@ -18,6 +18,20 @@ namespace hote {
 
 namespace {
 
+// The user's folder is another one meanwhile: nothing printed for a picture is left in it.
+class Maison {
+ public:
+  Maison() { qputenv("HOME", essai_.path().toUtf8()); }
+  ~Maison() { qputenv("HOME", vraie_); }
+  Maison(const Maison&) = delete;
+  Maison& operator=(const Maison&) = delete;
+  QString Dossier(const char* nom) const { return essai_.filePath(nom); }
+
+ private:
+  QByteArray vraie_ = qgetenv("HOME");
+  QTemporaryDir essai_{};
+};
+
 // A page of paper, where the program that draws them is installed.
 void capturerPapier(Album& album, const QString& pdf, int page, const QString& nom) {
   const QString dessin = QStandardPaths::findExecutable("pdftoppm");
@@ -36,8 +50,7 @@ void capturerPapier(Album& album, const QString& pdf, int page, const QString& n
 
 // The declarations of a contract, printed as the editor does, and its letter.
 void capturerPapiers(Album& album, Bureau& bureau, const control::Ctr_Contrat& liste) {
-  const QTemporaryDir papiers;
-  const QString dossier = papiers.path();
+  const Maison maison;
   const std::string cle = liste.ClesContrats()(1);
   session::Session session(bureau.Plateforme().poste);
   session.Db = liste.Etat().Db;
@@ -54,11 +67,11 @@ void capturerPapiers(Album& album, Bureau& bureau, const control::Ctr_Contrat& l
   bureau.SurImpression = annoncer;
   capturerPapier(album, pdf, 1, "declaration-matricielle");
   capturerPapier(album, pdf, 2, "declaration-formulaire");
-  QFile::remove(pdf);
 
   const documents::DossierLettre lettre =
       documents::lireDossierLettre(*session.Db, cle, "", bureau.Plateforme().poste.Aujourdhui());
-  FenetreLettre fenetre(ecrireLettre(lettre, DossierModeles(dossier + "/modeles"), dossier),
+  FenetreLettre fenetre(ecrireLettre(lettre, DossierModeles(maison.Dossier("modeles")),
+                                     maison.Dossier("Documents/Lettres")),
                         nullptr);
   fenetre.show();
   album.Prendre(fenetre, "lettre");

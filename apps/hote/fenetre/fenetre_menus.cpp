@@ -16,6 +16,7 @@
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
 #include "fenetre/menu_contrat.h"
+#include "fenetre/menu_lettres.h"
 #include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
@@ -67,6 +68,7 @@ void FenetreHote::FaireMenus() {
   menuBar()->addMenu(contrat_);
   connect(contrat_, &MenuContrat::annonce, this,
           [this](const QString& texte) { statusBar()->showMessage(texte); });
+  ajouterMenuLettres(*menuBar(), bureau_);
   FaireMenuDroits();
   FaireMenuAide();
 }

@@ -59,8 +59,8 @@ QSettings& Bureau::Reglages() {
   return *services_->magasin;
 }
 
-bool Bureau::Heberger(const std::string& nom, screen::ControleHeberge& controle) {
-  return services_->controles.Ajouter(nom, controle);
+void Bureau::Heberger(const std::string& nom, screen::ControleHeberge& controle) {
+  services_->controles.Ajouter(nom, controle);
 }
 
 void Bureau::Congedier(const screen::ControleHeberge& controle) {

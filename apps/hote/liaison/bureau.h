@@ -45,9 +45,9 @@ class Bureau {
   // A new window for the form; a std::logic_error when none was registered.
   std::unique_ptr<QWidget> Construire(const std::string& forme) const;
 
-  // A control of the suite that the screens may use by that name. The first one told holds: false
-  // for any other. It is taken back before it goes.
-  bool Heberger(const std::string& nom, screen::ControleHeberge& controle);
+  // A control of the suite that the screens may use by that name. The first one told holds, until
+  // it is taken back, as it is before it goes.
+  void Heberger(const std::string& nom, screen::ControleHeberge& controle);
   void Congedier(const screen::ControleHeberge& controle);
   // What the screens read for a setting ("section/key") that nobody has made, "" for nothing.
   void ProposerReglage(const QString& cle, std::function<QString()> trouver);

@@ -169,8 +169,10 @@ void ControlesQt::Oter(const screen::ControleHeberge& controle) {
 }
 
 screen::ControleHeberge* ControlesQt::Trouver(const std::string& nom) {
-  const auto trouve = controles_.find(nom);
-  return trouve == controles_.end() ? nullptr : trouve->second;
+  for (const auto& [sien, controle] : controles_) {
+    if (sien == nom) return controle;
+  }
+  return nullptr;
 }
 
 }  // namespace hote

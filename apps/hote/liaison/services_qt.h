@@ -5,6 +5,9 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "screen/platform.h"
 
@@ -141,15 +144,15 @@ class AideQt : public screen::Aide {
 // The suite's other controls, those that the host has.
 class ControlesQt : public screen::ControlesHeberges {
  public:
-  // The first one told of a name holds; false for any other.
-  bool Ajouter(const std::string& nom, screen::ControleHeberge& controle) {
-    return controles_.try_emplace(nom, &controle).second;
+  // The first one told of a name holds until it is taken away.
+  void Ajouter(const std::string& nom, screen::ControleHeberge& controle) {
+    controles_.emplace_back(nom, &controle);
   }
   void Oter(const screen::ControleHeberge& controle);
   screen::ControleHeberge* Trouver(const std::string& nom) override;
 
  private:
-  std::map<std::string, screen::ControleHeberge*> controles_;
+  std::vector<std::pair<std::string, screen::ControleHeberge*>> controles_;
 };
 
 }  // namespace hote

@@ -154,6 +154,8 @@ class ControleEnregistre : public ControleHeberge {
 
   // Property settings as "nom=valeur" and method calls as "nom()", in order.
   const std::vector<std::string>& Journal() const { return journal_; }
+  // Those since the last call.
+  std::vector<std::string> Prendre() { return std::exchange(journal_, {}); }
 
  private:
   std::map<std::string, std::string> proprietes_;
