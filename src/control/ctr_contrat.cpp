@@ -96,6 +96,8 @@ void Ctr_Contrat::Effacer_Donnees() {
 }
 
 void Ctr_Contrat::Recherche_Contrat() {
+  data::Route route(session_.Db->Stockage());
+  AnnoncerContrats(route);
   const long debutPeriode = data::premierJour(session_.PeriodePaie()).value_or(0);
   ViderListes();
   data::CItem aidant;

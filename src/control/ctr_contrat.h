@@ -129,6 +129,7 @@ class Ctr_Contrat : public screen::Form {
   void ViderListes();
   bool GarderValidite(const data::CItem& contrat, long debutPeriode) const;
   bool GarderType(const data::CItem& contrat) const;
+  void AnnoncerContrats(data::Route& route);
   void LireEmployeur(const data::CItem& contrat, std::string& libelle) const;
   LigneContrat FaireLigne(const data::CItem& contrat, const std::string& employeur) const;
   Tri TriChoisi() const;

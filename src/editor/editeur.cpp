@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/layouts/voisins.h"
+#include "editor/annonces.h"
 #include "editor/etat_enregistre.h"
 #include "screen/attente.h"
 
@@ -145,6 +146,8 @@ rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
 // Ways out.
 
 bool Frm_ElementsContrat::Confirmer(bool contratImprime) {
+  data::Route route(session_.Db->Stockage());
+  AnnoncerGardes(*this, route);
   Avis avis = gardes_.AvantConfirmation();
   if (avis == Avis::Passe) {
     DireCeQuiReste(*dossier_, [&] { avis = enregistrement_.Ecrire_Donnees(); });
@@ -193,6 +196,8 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
   switch (MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
                      Boutons::OuiNonAnnuler, Icone::Exclamation)) {
     case Reponse::Oui: {
+      data::Route route(session_.Db->Stockage());
+      AnnoncerGardes(*this, route);
       if (gardes_.EnQuittant() != Avis::Passe) return false;
       screen::Attente attente(*this);
       bool ecrit = false;
