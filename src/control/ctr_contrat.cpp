@@ -98,6 +98,8 @@ void Ctr_Contrat::Effacer_Donnees() {
 }
 
 void Ctr_Contrat::Recherche_Contrat() {
+  data::Route route(session_.Db->Stockage());
+  AnnoncerContrats(route);
   const FiltreContrats filtre = Filtre();
   ViderListes();
   data::CItem aidant;

@@ -144,6 +144,7 @@ class Ctr_Contrat : public screen::Form {
   void ViderListes();
   // What the options and the legal entity ask for.
   FiltreContrats Filtre() const;
+  void AnnoncerContrats(data::Route& route);
   Tri TriChoisi() const;
 
   // Opens the contract of that key; a row of the list that it is follows.

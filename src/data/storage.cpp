@@ -37,4 +37,24 @@ KeyRange KeyRange::Avec(const KeyRange& autre) const {
   return cles;
 }
 
+namespace {
+
+thread_local Storage* enRoute = nullptr;
+
+}  // namespace
+
+Route::Route(Storage& storage) : storage_(storage), dehors_(enRoute) {
+  storage_.DebuterRoute();
+  enRoute = &storage_;
+}
+
+Route::~Route() {
+  enRoute = dehors_;
+  storage_.FinirRoute();
+}
+
+void Route::Interrompre() noexcept {
+  if (enRoute != nullptr) enRoute->OublierRoute();
+}
+
 }  // namespace data

@@ -112,6 +112,7 @@ class Storage {
   virtual bool ALaLigne() const { return false; }
   virtual void DebuterRoute() {}
   virtual void FinirRoute() noexcept {}
+  virtual void OublierRoute() noexcept {}
   virtual void Annoncer(const std::vector<Annonce>& /*annonces*/) {}
 };
 
@@ -119,20 +120,25 @@ class Storage {
 // line fetches what is announced in one trip, and answers the same read twice without a second one.
 // What this station writes meanwhile is read back as written; what others write may be seen later,
 // in a block never: it sees nothing of what was read before it. Nothing is kept once the road ends,
-// so no road lasts over a question to the user. Roads may nest: the outer one counts.
+// or over a question to the user. Roads may nest: the outer one counts. A program has one store
+// with roads at a time.
 class Route {
  public:
-  explicit Route(Storage& storage) : storage_(storage) { storage_.DebuterRoute(); }
-  ~Route() { storage_.FinirRoute(); }
+  explicit Route(Storage& storage);
+  ~Route();
   Route(const Route&) = delete;
   Route& operator=(const Route&) = delete;
 
   // Whether announcing gains anything: no need to put keys together where it does not.
   bool Utile() const { return storage_.ALaLigne(); }
   void Annoncer(const std::vector<Annonce>& annonces) { storage_.Annoncer(annonces); }
+  // What came back so far is asked for again: a user is about to be asked something, and others
+  // may write before the answer.
+  static void Interrompre() noexcept;
 
  private:
   Storage& storage_;
+  Storage* dehors_;
 };
 
 // Whether a file can bear that name: upper-case ASCII letters and digits.

@@ -3,6 +3,7 @@
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
+#include "editor/annonces.h"
 #include "editor/evenement_dsn.h"
 #include "rules/reprise.h"
 
@@ -40,6 +41,8 @@ bool BlocCreation::Stocker(const Reprise& reprise) {
       // From the beginning, each time that another station got in between.
       dossier_.Tente = avant;
       pris_.clear();
+      data::Route route(s.Db->Stockage());
+      AnnoncerCreation(dossier_, route);
       Reprendre();
       data::CItem aidant;
       if (!s.F_CIVILAIDANT.Lire(s.CodeAidant, aidant)) {

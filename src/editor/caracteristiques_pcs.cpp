@@ -87,6 +87,11 @@ bool NomenclaturePCS::FonctionJuste() const {
   return Cbo_FoncPCSContrat.Text() == Libelle(Txt_CodPCSContrat.Text());
 }
 
+std::vector<std::string> NomenclaturePCS::Cles() const {
+  const std::string code = Txt_CodPCSContrat.Text();
+  return {code.substr(0, LongueurCategorie), code};
+}
+
 // "" for a key that the nomenclature does not have.
 std::string NomenclaturePCS::Libelle(const std::string& cle) const {
   data::CItem ligne;

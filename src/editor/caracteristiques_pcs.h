@@ -24,6 +24,8 @@ class NomenclaturePCS {
   // The label shown is the nomenclature's for the code.
   bool CategorieJuste() const;
   bool FonctionJuste() const;
+  // Of the category and the function, as the nomenclature keys them.
+  std::vector<std::string> Cles() const;
 
  private:
   static constexpr int LongueurCode = 4;

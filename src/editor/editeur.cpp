@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/layouts/voisins.h"
+#include "editor/annonces.h"
 #include "editor/etat_enregistre.h"
 #include "screen/attente.h"
 
@@ -158,6 +159,8 @@ rules::ContratTraite Frm_ElementsContrat::ContratTraite() const {
 // Ways out.
 
 bool Frm_ElementsContrat::Confirmer(bool contratImprime) {
+  data::Route route(session_.Db->Stockage());
+  AnnoncerGardes(*this, route);
   Avis avis = gardes_.AvantConfirmation();
   if (avis == Avis::Passe) {
     DireCeQuiReste(*dossier_, [&] { avis = enregistrement_.Ecrire_Donnees(); });
@@ -207,6 +210,8 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
   switch (MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
                      Boutons::OuiNonAnnuler, Icone::Exclamation)) {
     case Reponse::Oui: {
+      data::Route route(session_.Db->Stockage());
+      AnnoncerGardes(*this, route);
       if (const Avis avis = gardes_.EnQuittant(); avis != Avis::Passe) {
         return avis == Avis::Abandonne;
       }

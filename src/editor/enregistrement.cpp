@@ -5,6 +5,7 @@
 #include "data/nombre.h"
 #include "data/requete.h"
 #include "dialogs/frm_reprise.h"
+#include "editor/annonces.h"
 #include "editor/editeur.h"
 #include "editor/evenement_dsn.h"
 #include "rules/reprise.h"
@@ -50,6 +51,8 @@ Avis Enregistrement::Ecrire_Nouveau() {
     return Avis::Reste;
   }
   if (!bloc.Avis().empty()) editeur_.MessageBox(bloc.Avis(), Boutons::Ok, Icone::Information);
+  data::Route route(editeur_.Session().Db->Stockage());
+  AnnoncerSuites(editeur_.Dossier(), route);
   Marquer_Suivi();
   Ecrire_Tte();
   if (!Relire()) return Avis::Passe;
@@ -62,13 +65,16 @@ bool Enregistrement::Ecrire_Existant() {
   session::Dossier& dossier = editeur_.Dossier();
   editeur_.conges.EcrireLiens();
   const auto rompus = RompreParBulletin(dossier);
+  data::Route route(dossier.Session.Db->Stockage());
   dossier.Session.Db->Stockage().EnUnBloc([&] {
+    AnnoncerModification(dossier, route);
     RompreEnRetour(dossier);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
     dossier.ItemContrat.DBWriteU();
   });
   dossier.SurFichier = dossier.ItemContrat;
   for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
+  AnnoncerSuites(dossier, route);
   Marquer_Suivi();
   Ecrire_Tte();
   return Relire();

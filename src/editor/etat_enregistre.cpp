@@ -28,6 +28,7 @@ std::string modification(const session::Dossier& dossier) {
 }
 
 std::string ceQuiReste(const session::Dossier& dossier) {
+  data::Route::Interrompre();
   try {
     return "\r\n\r\n" + (dossier.ModeCreation ? creation(dossier) : modification(dossier));
   } catch (const data::StoreError&) {

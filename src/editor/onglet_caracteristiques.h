@@ -43,6 +43,7 @@ class OngletCaracteristiques : public Onglet {
   // What the reason of an end decides of the hours not worked.
   void RetirerHeuresNegatives(bool retirees) { modulation_.RetirerHeuresNegatives(retirees); }
 
+  std::vector<std::string> ClesPCS() const { return pcs_.Cles(); }
   // The legal hours, wherever the working time was changed: false when the user, asked, refuses
   // them, or when they cannot be weighed; and the same for the state on the screen.
   bool Verif_NbHeures() { return duree_.Verif_NbHeures(); }

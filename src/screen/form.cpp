@@ -3,12 +3,21 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "data/storage.h"
+
 namespace screen {
 
 namespace {
 
 // One screen thread: one count for all forms.
 unsigned long interruptions = 0;
+
+// A user is asked something: whatever was under way goes on after the answer, with what stands
+// then.
+void interrompre() {
+  ++interruptions;
+  data::Route::Interrompre();
+}
 
 }  // namespace
 
@@ -65,7 +74,7 @@ void Form::ShowModal() {
     }
   } const fin{*this, vie_};
   visible_ = true;
-  ++interruptions;
+  interrompre();
   Activate();
   if (!fin.vie.expired() && visible_) platform_.modales.Attendre(*this);
 }
@@ -83,13 +92,13 @@ bool Form::Close() {
 
 Reponse Form::MessageBox(const std::string& texte, Boutons boutons, Icone icone,
                          const std::string& titre) {
-  ++interruptions;
+  interrompre();
   return platform_.messages.Montrer({texte, boutons, icone, titre});
 }
 
 Reponse Form::Demander(const std::string& texte, Boutons boutons, Icone icone, Reponse prudente,
                        const std::string& titre) {
-  ++interruptions;
+  interrompre();
   return platform_.messages.Montrer({texte, boutons, icone, titre, prudente});
 }
 

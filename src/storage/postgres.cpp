@@ -175,6 +175,10 @@ void PostgresStorage::FinirRoute() noexcept {
   moteur_->Route().Finir();
 }
 
+void PostgresStorage::OublierRoute() noexcept {
+  moteur_->Route().Vider();
+}
+
 void PostgresStorage::Annoncer(const std::vector<data::Annonce>& annonces) {
   moteur_->Annoncer(annonces);
 }

@@ -68,6 +68,7 @@ class PostgresStorage : public Magasin {
   bool ALaLigne() const override { return true; }
   void DebuterRoute() override;
   void FinirRoute() noexcept override;
+  void OublierRoute() noexcept override;
   void Annoncer(const std::vector<data::Annonce>& annonces) override;
 
   void ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) override;

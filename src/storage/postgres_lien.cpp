@@ -269,6 +269,10 @@ void Lien::Envoyer(const Ordre& ordre, const Parametres& parametres, const Acte&
   if (envoye == 0) Couper();
 }
 
+void Lien::Partir() {
+  if (connexion_ != nullptr && PQflush(connexion_.get()) != 0) Couper();
+}
+
 std::vector<Reponse> Lien::Attendre() {
   PGconn* const c = connexion_.get();
   std::vector<Reponse> reponses;

@@ -82,7 +82,8 @@ class Lien {
   // The answers to all that was sent since the last wait, in order. The first failure of one is a
   // PanneServeur, after which the rest of them was not done.
   std::vector<Reponse> Attendre();
-  bool EnAttente() const { return !attendus_.empty(); }
+  // Sends what was put on its way, without waiting for an answer.
+  void Partir();
   std::size_t Attendus() const { return attendus_.size(); }
 
   // Trips over the line since the beginning, those of connecting aside.

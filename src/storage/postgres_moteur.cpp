@@ -143,17 +143,14 @@ void PostgresStorage::Moteur::Rompre(const PanneServeur& panne) {
   std::rethrow_exception(rupture_);
 }
 
-// Of a transaction that failed. Over a line that is cut, the server does so itself.
+// Of a transaction that failed, or has written nothing: nobody waits for the answer. Over a line
+// that is cut, the server does so itself, and the next act finds it.
 void PostgresStorage::Moteur::Annuler() noexcept {
   try {
     lien_.Envoyer(kAnnuler, {}, kBloc);
-    lien_.Attendre();
+    lien_.Partir();
   } catch (const data::StoreError&) {
-    try {
-      lien_.Reconnecter(kBloc);
-    } catch (const data::StoreError&) {
-      // The next act finds the line cut, and says so.
-    }
+    return;
   }
 }
 
@@ -215,6 +212,7 @@ std::vector<Reponse> PostgresStorage::Moteur::Ecrire(const Acte& acte, std::size
   route_.Oublier(acte.fichier, acte.cle);
   if (enBloc_) {
     ExigerBlocSain();
+    ecrit_ = true;
     try {
       envoyer();
       if (lien_.Attendus() > kEnvoisMax) lien_.Attendre();
@@ -345,6 +343,7 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool&
     Moteur& moteur;
     explicit Bloc(Moteur& m) : moteur(m) {
       moteur.enBloc_ = true;
+      moteur.ecrit_ = false;
       moteur.ecrits_.clear();
       moteur.route_.Vider();
     }
@@ -367,6 +366,10 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool&
     Annuler();
     if (reprendre) return false;
     throw;
+  }
+  if (!ecrit_) {
+    Annuler();
+    return true;
   }
   try {
     lien_.Envoyer(kFin, {}, kBloc);

@@ -90,6 +90,7 @@ class PostgresStorage::Moteur {
   bool enBloc_ = false;
   bool enUnEtat_ = false;
   int parcours_ = 0;            // scans under way
+  bool ecrit_ = false;          // by the block under way
   std::exception_ptr rupture_;  // the first order of the block that failed
   bool aReprendre_ = false;     // it failed because another station got in between
   bool coupure_ = false;        // or because the line was cut

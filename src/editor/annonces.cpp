@@ -1,0 +1,69 @@
+#include "editor/annonces.h"
+
+#include "data/layouts/contrat.h"
+#include "data/layouts/fichiers.h"
+#include "data/layouts/voisins.h"
+#include "editor/editeur.h"
+
+namespace editor {
+
+namespace {
+
+namespace C = data::Contrat;
+namespace f = data::fichier;
+using data::KeyRange;
+
+}  // namespace
+
+void AnnoncerGardes(Frm_ElementsContrat& editeur, data::Route& route) {
+  const session::Session& s = editeur.Session();
+  if (!route.Utile() || s.CodeAidant.empty()) return;
+  const auto aidant = KeyRange::Prefixe(s.CodeAidant);
+  std::vector<data::Annonce> annonces = {
+      {f::CONTRAT, {}, {aidant}},
+      {f::TPSAIDANTINDISPO, {}, {aidant}},
+      {f::CONSTANTESPAIE, {data::ConstantesPaie::Cle}, {}},
+      {f::PCS, editeur.caracteristiques.ClesPCS(), {}},
+      {f::CONVENTIONCOL, {editeur.origine.Convention()}, {}},
+      {f::ELTSPARTEMP, {editeur.origine.Employeur()}, {}},
+      {f::ACTIVITES, {}, {KeyRange::Prefixe(editeur.origine.Entite())}},
+  };
+  if (s.OptionCompteur999) {
+    annonces.push_back({f::TPSDETAILSINTERV, {}, {aidant}});
+    annonces.push_back({f::TPSPARAM, {data::TpsParam::Cle}, {}});
+  }
+  route.Annoncer(annonces);
+}
+
+void AnnoncerCreation(const session::Dossier& dossier, data::Route& route) {
+  const std::string& code = dossier.Session.CodeAidant;
+  if (!route.Utile() || code.empty()) return;
+  const auto aidant = KeyRange::Prefixe(code);
+  route.Annoncer(
+      {{f::CIVILAIDANT, {code}, {}}, {f::CONTRAT, {}, {aidant}}, {f::DSNEVENEMENT, {}, {aidant}}});
+}
+
+void AnnoncerModification(const session::Dossier& dossier, data::Route& route) {
+  if (!route.Utile()) return;
+  std::vector<std::string> cles = {dossier.CleContratCourant};
+  for (const data::CItem* const contrat : {&dossier.Initial, &dossier.ItemContrat}) {
+    for (const int lien : {C::CongesReportesSur, C::CongesReprisDe}) {
+      cles.push_back((*contrat)(lien));
+    }
+  }
+  route.Annoncer({{f::CONTRAT, cles, {}}, {f::DSNEVENEMENT, cles, {}}});
+}
+
+void AnnoncerSuites(const session::Dossier& dossier, data::Route& route) {
+  if (!route.Utile()) return;
+  const data::CItem& contrat = dossier.ItemContrat;
+  const std::string suffixe = contrat(C::Association) + contrat(C::Convention);
+  const std::string& code = dossier.Session.CodeAidant;
+  route.Annoncer({{f::ACTUSUIVICONTRAT, {code}, {}},
+                  {f::AIDANTTTE, {dossier.ItemAidantTte(0)}, {}},
+                  {f::CONTRAT, {dossier.CleContratCourant}, {}},
+                  {f::LIENCONTRAT, {std::string(f::PrefixeContrats) + suffixe}, {}},
+                  {f::LIENAVENANT, {std::string(f::PrefixeAvenants) + suffixe}, {}}});
+}
+
+}  // namespace editor

@@ -1,0 +1,276 @@
+// tempete [--sur fichier|serveur] [--secondes N] [--postes N] [--graine G]
+//
+// Stations, each a process of its own, create, change, end and delete contracts of the same carers
+// through the screens for a while, on one data file, on one server, or on both in turn. Then no
+// contract that a station was told is stored may be missing, no number given twice, and the data
+// tool's check must be silent.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <random>
+#include <set>
+#include <sstream>
+
+#include "base/executer.h"
+#include "data/db.h"
+#include "data/layouts/contrat.h"
+#include "data/layouts/voisins.h"
+#include "pilote/programme.h"
+#include "storage/ouvrir.h"
+#include "support/serveur.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+struct Options {
+  std::string sur;
+  int secondes = 4;
+  int postes = 8;
+  unsigned graine = std::random_device{}();
+};
+
+constexpr const char* Aidants[] = {"00003", "00004", "00005", "00006"};
+constexpr int PremierEmployeur = 99100;
+// Of the contracts that all stations change.
+constexpr int Commun = PremierEmployeur + 99;
+
+constexpr const char* PourCreer =
+    "cliquer Cmd_Ajouter\ntaper Txt_ConvColContrat 02\ntaper Txt_AssocContrat 001\n"
+    "taper Txt_EmplEtabContrat EMPLOYEUR\ntaper Txt_DatDebContrat 07/12/2026\n"
+    "onglet 1\nchoisir Cbo_QualifContrat #0\ntaper Txt_DureeWContrat 1\n"
+    "choisir Cbo_FreqWContrat Hebdo\ntaper Txt_TauxHorContrat 12,02\n"
+    "onglet 2\ntaper Txt_ProfilContrat 210\nchoisir Cbo_Activite #0\ncliquer Cmd_OK\n"
+    "forme Frm_ImpressionA4\ncliquer Cmd_Ok\nforme Ctr_Contrat\n";
+constexpr const char* PourChanger =
+    "onglet 1\ntaper Txt_TauxHorContrat TAUX\ncliquer Cmd_OK\nforme Ctr_Contrat\n";
+constexpr const char* PourFinir =
+    "onglet 4\ntaper Txt_DatNotifContrat 07/12/2026\n"
+    "choisir Cbo_MotifFinContrat \"Rupture conventionnelle\"\n"
+    "taper Txt_DateFinContrat 07/12/2026\ntaper Txt_DernJrWContrat 07/12/2026\n"
+    "taper Txt_DateSignConvCol 07/12/2026\ncliquer Cmd_OK\nforme Ctr_Contrat\n";
+constexpr const char* PourSupprimer =
+    "onglet 4\nrepondre OUI\ncliquer Cmd_SupprimerContrat\nforme Ctr_Contrat\n";
+
+// A person whom this station alone takes for an employer.
+std::string employeurDe(int poste) {
+  return std::to_string(PremierEmployeur + poste);
+}
+
+std::string employeurCommun() {
+  return std::to_string(Commun);
+}
+
+std::string remplacer(std::string texte, const std::string& mot, const std::string& par) {
+  return texte.replace(texte.find(mot), mot.size(), par);
+}
+
+class Poste {
+ public:
+  Poste(const Options& options, std::string base, int numero, std::ostream& journal)
+      : options_(options),
+        base_(std::move(base)),
+        numero_(numero),
+        journal_(journal),
+        hasard_(options.graine + static_cast<unsigned>(numero)) {}
+
+  void Travailler() {
+    const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(options_.secondes);
+    while (std::chrono::steady_clock::now() < fin) UnActe();
+  }
+
+  // Before the storm: what all stations then change at once.
+  void CreerCommuns() {
+    for (const char* const aidant : Aidants) {
+      Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurCommun()));
+    }
+  }
+
+ private:
+  std::size_t Tirer(std::size_t n) { return hasard_() % n; }
+
+  // One act of a clerk, on a contract as its own last acts left it.
+  void UnActe() {
+    const std::string aidant = Aidants[Tirer(std::size(Aidants))];
+    Etat& etat = etats_[aidant];
+    if (etat.contrat.empty()) {
+      if (!Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurDe(numero_))))
+        return;
+      etat = {aidant + DernierNumero(aidant, employeurDe(numero_)), false};
+      journal_ << "contrat " << etat.contrat << ' ' << employeurDe(numero_) << std::endl;
+    } else if (Tirer(2) == 0) {
+      Changer(aidant,
+              Tirer(2) == 0 ? etat.contrat : aidant + DernierNumero(aidant, employeurCommun()));
+    } else if (!etat.fini) {
+      etat.fini = Jouer("finir", aidant, etat.contrat, PourFinir);
+    } else if (Jouer("supprimer", aidant, etat.contrat, PourSupprimer)) {
+      etat = {};
+    }
+  }
+
+  void Changer(const std::string& aidant, const std::string& contrat) {
+    const std::string taux = "12," + std::to_string(10 + Tirer(80));
+    Jouer("changer", aidant, contrat, remplacer(PourChanger, "TAUX", taux));
+  }
+
+  // False when the act was refused, as when another station has just ended the contract.
+  bool Jouer(const char* acte, const std::string& aidant, const std::string& contrat,
+             const std::string& scenario) {
+    std::vector<std::string> arguments = {"--base", base_,    "--aidant",
+                                          aidant,   "--date", "22/11/2026"};
+    if (!contrat.empty()) arguments.insert(arguments.end(), {"--contrat", contrat});
+    std::istringstream entree(scenario);
+    std::ostringstream sortie;
+    std::ostringstream erreurs;
+    const int code = pilote::executer(arguments, entree, sortie, erreurs);
+    journal_ << (code == 0 ? "fait " : "refuse ") << acte << std::endl;
+    if (code == 0) return true;
+    std::string erreur = erreurs.str();
+    for (char& c : erreur) c = c == '\n' ? ' ' : c;
+    journal_ << "motif " << acte << ' ' << contrat << ' ' << erreur << std::endl;
+    return false;
+  }
+
+  std::string DernierNumero(const std::string& aidant, const std::string& employeur) {
+    const data::PosteFixe poste(21511);
+    storage::OptionsOuverture lecture;
+    lecture.lecture = true;
+    const auto magasin = storage::ouvrir(base_, poste, lecture);
+    std::string texte;
+    if (!magasin->Get("CONTRATINV", aidant + employeur, texte)) return {};
+    const data::CItem inverse(texte);
+    return inverse(data::ContratInv::Numeros, inverse.DCount(data::ContratInv::Numeros));
+  }
+
+  struct Etat {
+    std::string contrat;
+    bool fini = false;
+  };
+
+  const Options& options_;
+  std::string base_;
+  int numero_;
+  std::ostream& journal_;
+  std::mt19937 hasard_;
+  std::map<std::string, Etat> etats_;
+};
+
+void preparer(const std::string& base, const Options& options) {
+  const data::PosteFixe poste(21511);
+  const auto magasin = storage::ouvrir(base, poste);
+  for (int p = 0; p <= options.postes; ++p) {
+    data::CItem employeur;
+    employeur.Set(data::CivilAide::Nom, "STATION " + std::to_string(p));
+    magasin->Put("CIVILAIDE", p < options.postes ? employeurDe(p) : employeurCommun(),
+                 employeur.Text());
+  }
+  std::ostringstream journal;
+  Poste(options, base, 0, journal).CreerCommuns();
+}
+
+// What the stations were told, held against what stands. The number of faults. A change alone may
+// be refused: another station was changing the same contract.
+int controler(const std::string& base, const std::string& journaux, int postes) {
+  int fautes = 0;
+  const auto faute = [&](const std::string& texte) {
+    std::cout << "FAUTE : " << texte << '\n';
+    ++fautes;
+  };
+  const data::PosteFixe poste(21511);
+  const auto magasin = storage::ouvrir(base, poste);
+  std::map<std::string, int> comptes;
+  std::map<std::string, std::string> contrats;  // by key, its employer
+  for (int p = 0; p < postes; ++p) {
+    std::ifstream journal(journaux + std::to_string(p));
+    for (std::string ligne; std::getline(journal, ligne);) {
+      std::istringstream mots(ligne);
+      std::string quoi;
+      std::string cle;
+      std::string employeur;
+      mots >> quoi >> cle >> employeur;
+      if (quoi != "contrat") {
+        if (quoi == "motif" && cle != "changer") {
+          faute(ligne);
+        } else if (quoi != "motif") {
+          ++comptes[quoi + " " + cle];
+        }
+        continue;
+      }
+      if (!contrats.emplace(cle, employeur).second) faute(cle + " donné deux fois");
+      std::string texte;
+      if (!magasin->Get("CONTRAT", cle, texte)) faute(cle + " manque");
+      if (data::CItem(texte)(data::Contrat::Employeur) != employeur) {
+        faute(cle + " n'est pas celui de " + employeur);
+      }
+    }
+  }
+  for (const auto& [quoi, compte] : comptes) std::cout << quoi << " : " << compte << '\n';
+  for (const char* const acte : {"creer", "changer", "finir", "supprimer"}) {
+    if (comptes[std::string("fait ") + acte] == 0) faute(std::string(acte) + " n'a jamais passé");
+  }
+  std::istringstream entree;
+  std::ostringstream constats;
+  if (base::executer({"verifier", base}, entree, constats, constats) != 0) faute(constats.str());
+  return fautes;
+}
+
+int tempete(const Options& options, const std::string& base) {
+  std::istringstream entree;
+  std::ostringstream sortie;
+  if (base::executer({"demo", base, "--aidants", "40", "--graine", "1"}, entree, sortie, sortie) !=
+      0) {
+    std::cout << sortie.str();
+    return 1;
+  }
+  preparer(base, options);
+  const support::TempDir dossier;
+  const std::string journaux = dossier.Chemin("journal");
+  std::vector<pid_t> postes;
+  for (int p = 0; p < options.postes; ++p) {
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+      std::ofstream journal(journaux + std::to_string(p));
+      Poste(options, base, p, journal).Travailler();
+      _exit(0);
+    }
+    postes.push_back(enfant);
+  }
+  int fautes = 0;
+  for (const pid_t poste : postes) {
+    int fin = -1;
+    waitpid(poste, &fin, 0);
+    if (fin == 0) continue;
+    std::cout << "FAUTE : un poste s'est arrêté\n";
+    ++fautes;
+  }
+  return fautes + controler(base, journaux, options.postes);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  for (int i = 1; i + 1 < argc; i += 2) {
+    const std::string nom = argv[i];
+    if (nom == "--sur") options.sur = argv[i + 1];
+    if (nom == "--secondes") options.secondes = std::atoi(argv[i + 1]);
+    if (nom == "--postes") options.postes = std::atoi(argv[i + 1]);
+    if (nom == "--graine") options.graine = static_cast<unsigned>(std::atoi(argv[i + 1]));
+  }
+  std::cout << "graine " << options.graine << '\n';
+  int fautes = 0;
+  if (options.sur != "serveur") {
+    const support::TempDir dossier;
+    fautes += tempete(options, dossier.Chemin("tempete.contrats"));
+  }
+  if (options.sur != "fichier") {
+    fautes += tempete(options, support::Serveur::Commun().NouvelleBase());
+  }
+  return fautes == 0 ? 0 : 1;
+}
