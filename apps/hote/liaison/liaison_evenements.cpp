@@ -214,8 +214,8 @@ bool Liaison::Tabuler(bool arriere) {
   const auto debut = actif == ordre.end() ? ordre.begin() : actif + 1;
   const screen::Field* const libelle = arriere ? nullptr : libelleRempli(forme_.Active(), forme_);
   const auto prenable = [this, libelle](const screen::Field* champ) {
-    return champ->Focalisable() && champ->Disponible() && champ != libelle && !optionPassee(*champ) &&
-           !colonnePassee(*champ, forme_.Active());
+    return champ->Focalisable() && champ->Disponible() && champ != libelle &&
+           !optionPassee(*champ) && !colonnePassee(*champ, forme_.Active());
   };
   auto suivant = std::find_if(debut, ordre.end(), prenable);
   if (suivant == ordre.end()) {
