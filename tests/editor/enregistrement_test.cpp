@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "data/texte.h"
 #include "dialogs/frm_reprise.h"
 #include "editor/editeur_essai.h"
 
@@ -82,46 +83,32 @@ class Enregistre : public essai::Editeur {
 // and free numbers afterwards, and what is told.
 TEST_F(Enregistre, ChoisitLeNumero) {
   const struct {
-    const char *dernier, *libres;
-    std::vector<const char*> presents;
-    const char *numero, *apres, *message;
+    const char *dernier, *libres, *presents, *numero, *apres, *message;
   } cas[] = {
-      {"", "", {}, "001", "001^", ""},
-      {"009", "", {}, "010", "010^", ""},
-      {"009", "005|007", {}, "005", "009^007", ""},
+      {"", "", "", "001", "001^", ""},
+      {"009", "", "", "010", "010^", ""},
+      {"009", "005|007", "", "005", "009^007", ""},
       // The record of a cancelled contract does not keep its number from being given back; the
       // counter's own numbers never fall on a record.
-      {"009", "005", {"005-"}, "005", "009^", ""},
-      {"009",
-       "005|007",
-       {"005"},
-       "007",
-       "009^",
+      {"009", "005", "005-", "005", "009^", ""},
+      {"009", "005|007", "005", "007", "009^",
        "Un contrat de cet aidant porte déjà le numéro 005 : le nouveau contrat prend le numéro "
        "007."},
-      {"009",
-       "005",
-       {"005", "010-"},
-       "011",
-       "011^",
+      {"009", "005", "005 010-", "011", "011^",
        "Des contrats de cet aidant portent déjà les numéros 005, 010 : le nouveau contrat prend le "
        "numéro 011."},
       // What was given back is a number, however it was written.
-      {"009", "x|5", {}, "005", "009^", ""},
-      {"999",
-       "",
-       {},
-       "",
-       "999^",
+      {"009", "x|5", "", "005", "009^", ""},
+      {"999", "", "", "", "999^",
        "Cet aidant n'a plus de numéro de contrat libre : 999 ont été donnés."},
   };
   for (const auto& [dernier, libres, presents, numero, apres, message] : cas) {
     vider();
     article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, dernier}, {42, valeurs(libres)}});
-    for (const char* present : presents) {
-      contrat("00001" + std::string(present, 3), {{C::Annule, present[3] == '-' ? "O" : ""},
-                                                  {C::Association, "002"},
-                                                  {C::Employeur, "002001"}});
+    for (const std::string& present : data::mots(presents)) {
+      contrat("00001" + present.substr(0, 3), {{C::Annule, present.ends_with('-') ? "O" : ""},
+                                               {C::Association, "002"},
+                                               {C::Employeur, "002001"}});
     }
     creerContrat("01/12/2026");
     cliquer(cmd("OK"));
@@ -132,7 +119,7 @@ TEST_F(Enregistre, ChoisitLeNumero) {
       EXPECT_EQ(cle(), "00001" + std::string(numero));
       EXPECT_EQ(lisible(fiche(cle()), {C::DateDebut, C::Annule}), "21520 ");
     }
-    for (const std::string present : presents) {
+    for (const std::string& present : data::mots(presents)) {
       if (present.substr(0, 3) == numero) continue;
       EXPECT_EQ(fiche("00001" + present.substr(0, 3))(C::Employeur), "002001");
     }
