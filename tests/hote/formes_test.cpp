@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QDir>
+#include <QProgressBar>
 #include <QToolTip>
 
 #include "control/ctr_contrat.h"
@@ -104,6 +105,15 @@ TEST_F(Formes, NoFieldLacksAWidgetNorWidgetAField) {
            &attente}) {
     EXPECT_EQ(ecarts(*forme), "") << forme->Nom();
   }
+  // What stands while one waits moves from the load on, until it is stopped.
+  const std::unique_ptr<QWidget> fenetre = bureau.Construire(attente.Nom());
+  hote::Liaison liaison(attente, *fenetre, bureau);
+  const auto* const barre = fenetre->findChild<QProgressBar*>("Ani_Attente");
+  liaison.Pousser();
+  EXPECT_EQ(barre->maximum(), 0);
+  attente.Ani_Attente.Arreter();
+  liaison.Pousser();
+  EXPECT_EQ(barre->maximum(), 1);
 }
 
 // Keys alone: the filters, Ajouter, the codes, the dates, OK, and the list again.
