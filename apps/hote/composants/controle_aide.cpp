@@ -59,7 +59,7 @@ class ControleAide::Saisie : public QWidget {
   // Why the first wrong place cannot stand, which takes the focus; "" when all were taken.
   std::string Reprendre() {
     for (std::size_t i = 0; i < entrees_.size(); ++i) {
-      const std::string refus = fiche_.Ecrire(FicheAide::Places()[i], Texte(i));
+      std::string refus = fiche_.Ecrire(FicheAide::Places()[i], Texte(i));
       if (refus.empty()) continue;
       entrees_[i]->setFocus();
       return refus;
