@@ -61,7 +61,7 @@ std::optional<ContratAidant> Ctr_Contrat::EnMain() const {
   contrat.cle = editeur_->Dossier().CleContratCourant;
   contrat.portee = editeur_->Portee();
   contrat.dates = editeur_->Dates();
-  if (origine.Determine()) contrat.finPresumee = origine.FinPresumee();
+  if (origine.Genre().Determine()) contrat.finPresumee = origine.FinPresumee();
   return contrat;
 }
 
