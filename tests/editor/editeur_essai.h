@@ -253,7 +253,8 @@ class Editeur : public ::testing::Test {
   // Every record, one a line.
   std::string tout() {
     std::string lignes;
-    for (const auto& [nom, nombre] : memoire.Fichiers()) {
+    for (const auto& fichier : memoire.Fichiers()) {
+      const std::string& nom = fichier.nom;
       memoire.Scan(nom, data::KeyRange::Tout(), [&](auto cle, auto) {
         lignes += nom + " " + std::string(cle) + " " + texteDe(nom, std::string(cle)) + "\n";
         return true;
