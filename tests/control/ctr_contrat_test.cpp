@@ -6,12 +6,7 @@ namespace C = data::Contrat;
 
 class ListeContrats : public essai::Liste {
  protected:
-  ListeContrats() {
-    article("ASSOCIATION", "002", {{1, "Bien Chez Soi"}});
-    article("CONVENTIONCOL", "02", {{1, "Particuliers"}});
-    article("CIVILAIDE", "00007", {{2, "MARTIN"}, {3, "Rose"}});
-    article("CIVILAIDE", "00008", {{2, "ABADIE"}, {3, "Jean"}});
-  }
+  ListeContrats() { article("CIVILAIDE", "00008", {{2, "ABADIE"}, {3, "Jean"}}); }
 
   // An open-ended contract of the first entity, or of private employer `aide`.
   void contrat(int numero, const char* debut, const char* fin, const char* aide = "",

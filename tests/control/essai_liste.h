@@ -1,43 +1,14 @@
 #pragma once
-// The list control on a store in memory and a host without a display: one carer, two entities and
-// November 2026 as the pay period; the day is 22/11/2026. The tests add contracts and open it.
-
-#include <gtest/gtest.h>
+// The list control on the records of the editor's tests. The tests add contracts and open it.
 
 #include "control/ctr_contrat.h"
 #include "data/cles.h"
-#include "data/jour.h"
-#include "data/layouts/contrat.h"
-#include "screen/headless/hote.h"
-#include "screen/user.h"
-#include "storage/memory.h"
-#include "support/faulty_storage.h"
+#include "editor/editeur_essai.h"
 
 namespace essai {
 
-namespace C = data::Contrat;
-using screen::Acte;
-
-class Liste : public ::testing::Test {
+class Liste : public Editeur {
  protected:
-  using Attributs = std::map<int, std::string>;
-
-  Liste() {
-    article("COMPTEUR", "999", {{18, "1"}});
-    article("PERIODESPAIE", "1", {{1, "202611"}});
-    article("ASSOCIATION", "001", {{1, "Aide du Val"}});
-    article("CONVENTIONCOL", "01", {{1, "Branche"}});
-  }
-
-  void article(const char* fichier, const std::string& cle, const Attributs& attributs) {
-    data::CItem item = db.OpenFile(fichier).NewItem(cle);
-    for (const auto& [a, texte] : attributs) item.Set(a, texte);
-    item.DBWrite();
-  }
-  // Internal day of a displayed date; "" stays.
-  static std::string jour(const std::string& affichee) {
-    return affichee.empty() ? "" : std::to_string(data::lireDateAffichee(affichee).value());
-  }
   // Carer 00001, whose last contract number is `dernier`.
   void compteur(const char* dernier) {
     article("CIVILAIDANT", "00001", {{2, "DURAND"}, {41, dernier}});
@@ -65,12 +36,6 @@ class Liste : public ::testing::Test {
     return *controle;
   }
 
-  screen::headless::Hote hote{21511};
-  storage::MemoryStorage memoire{hote.poste};
-  std::shared_ptr<support::FaultyStorage> stockage =
-      std::make_shared<support::FaultyStorage>(memoire);
-  data::Db db{stockage};
-  session::DroitsUniformes droits{2};
   std::unique_ptr<control::Ctr_Contrat> controle;
 };
 

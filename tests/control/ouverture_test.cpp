@@ -5,6 +5,7 @@
 namespace {
 
 using editor::Frm_ElementsContrat;
+using essai::jour;
 using screen::Acte;
 namespace C = data::Contrat;
 
@@ -12,7 +13,6 @@ class Ouverture : public essai::Liste {
  protected:
   Ouverture() {
     compteur("003");
-    article("ETABLISSEMENT", "001001", {{1, "Siège"}});
     for (int n = 1; n <= 3; ++n) {
       const std::string annee = std::to_string(2020 + n);
       contrat(n, "01/01/" + annee, "30/06/" + annee,

@@ -240,6 +240,28 @@ class Editeur : public ::testing::Test {
   }
   std::string stocke(const std::vector<int>& attributs) { return lisible(fiche(), attributs); }
   std::string lu(const std::vector<int>& attributs) { return lisible(c(), attributs); }
+  // The record's text with visible separators, "-" for none.
+  std::string texteDe(const std::string& fichier, const std::string& cle) {
+    std::string texte;
+    if (!memoire.Get(fichier, cle, texte)) return "-";
+    for (char& c : texte) {
+      if (c == data::SepAttribut) c = '^';
+      if (c == data::SepValeur) c = '|';
+    }
+    return texte;
+  }
+  // Every record, one a line.
+  std::string tout() {
+    std::string lignes;
+    for (const auto& fichier : memoire.Fichiers()) {
+      const std::string& nom = fichier.nom;
+      memoire.Scan(nom, data::KeyRange::Tout(), [&](auto cle, auto) {
+        lignes += nom + " " + std::string(cle) + " " + texteDe(nom, std::string(cle)) + "\n";
+        return true;
+      });
+    }
+    return lignes;
+  }
 
   // Fields by name; one that does not exist ends the test.
   template <class Champ>

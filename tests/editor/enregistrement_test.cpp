@@ -14,29 +14,8 @@ namespace C = data::Contrat;
 
 class Enregistre : public essai::Editeur {
  protected:
-  // The record's text with visible separators, "-" for none.
-  std::string lu(const std::string& fichier, const std::string& cle) {
-    std::string texte;
-    if (!memoire.Get(fichier, cle, texte)) return "-";
-    for (char& c : texte) {
-      if (c == data::SepAttribut) c = '^';
-      if (c == data::SepValeur) c = '|';
-    }
-    return texte;
-  }
   std::string attribut(const std::string& fichier, const std::string& cle, int a) {
     return db.OpenFile(fichier).Read(cle)(a);
-  }
-  // Every record, one a line.
-  std::string tout() {
-    std::string lignes;
-    for (const auto& [nom, nombre] : memoire.Fichiers()) {
-      memoire.Scan(nom, data::KeyRange::Tout(), [&](auto cle, auto) {
-        lignes += nom + " " + std::string(cle) + " " + lu(nom, std::string(cle)) + "\n";
-        return true;
-      });
-    }
-    return lignes;
   }
   // No fault, no editor and no contract.
   void vider() {
@@ -171,7 +150,7 @@ TEST_F(Enregistre, LaRepriseSeLimiteAuxDatesOuPrendLesConges) {
     EXPECT_EQ(lisible(fiche("00001002"), {C::DateAnciennete, C::CongesReprisDe}),
               jour("01/01/2025") + (conges ? " 00001001" : " "));
     EXPECT_EQ(stocke({C::CongesReportesSur, C::PrimePrecarite}), conges ? "00001002 0" : " 1");
-    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), "E^1");
+    EXPECT_EQ(texteDe("DSNEVENEMENT", "00001001"), "E^1");
   }
 }
 
@@ -222,7 +201,7 @@ TEST_F(Enregistre, LEvenementSuitLaFinEtLesLiens) {
     ouvrir("00001001");
     if (finChangee) editeur->Dossier().Initial.Set(C::DateFin, "");
     enregistrer(nom);
-    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), apres) << nom;
+    EXPECT_EQ(texteDe("DSNEVENEMENT", "00001001"), apres) << nom;
   }
 }
 
@@ -237,7 +216,7 @@ TEST_F(Enregistre, UneFinSansDernierBulletinSeDitEtFinitLesMissions) {
             "ordinateur et merci d'appeler KORVALDIS.");
   EXPECT_EQ(hote.messages.Tous().back().titre, "");
   const std::string fin = jour("30/06/2026");
-  EXPECT_EQ(lu("MISSIONSAIDANT", "00001").substr(2),
+  EXPECT_EQ(texteDe("MISSIONSAIDANT", "00001").substr(2),
             fin + "|21000|" + fin + "|22000^^^^^^^^^^001|001|001|002");
 }
 
@@ -310,12 +289,12 @@ TEST_F(Panne, CreationPourUneEntiteApresUnContrat) {
 TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
   for (const bool abandonner : {true, false}) {
     saisirUneSuite();
-    const std::string avant = lu("CONTRAT", "00001001");
+    const std::string avant = texteDe("CONTRAT", "00001001");
     accepterReprise(true);
     // Previous contract, its event, the contract and the counter; then the mark of the follow-up.
     stockage->EchouerEcriture(5);
     EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
-    EXPECT_NE(lu("CONTRAT", "00001001"), avant);
+    EXPECT_NE(texteDe("CONTRAT", "00001001"), avant);
     stockage->EchouerEcriture(0);
     if (abandonner) {
       quitter(screen::Reponse::Oui);
@@ -327,8 +306,8 @@ TEST_F(Panne, ApresUnePanneLeContratSAbandonneOuSeReprendSansConges) {
     EXPECT_EQ(fiche("00001002")(C::Annule), abandonner ? "O" : "");
     EXPECT_EQ(fiche("00001002")(C::CongesReprisDe), "");
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 41), "002");
-    EXPECT_EQ(lu("CONTRAT", "00001001"), avant);
-    EXPECT_EQ(lu("DSNEVENEMENT", "00001001"), "^1");
+    EXPECT_EQ(texteDe("CONTRAT", "00001001"), avant);
+    EXPECT_EQ(texteDe("DSNEVENEMENT", "00001001"), "^1");
   }
 }
 
@@ -386,16 +365,16 @@ TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
 TEST_F(Panne, UneSecondeTentativeOublieLaPremiere) {
   saisirUneSuite();
   article("ETABLISSEMENT", "001002", {{1, "Annexe"}});
-  const std::string avant = lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001");
+  const std::string avant = texteDe("CONTRAT", "00001001") + texteDe("DSNEVENEMENT", "00001001");
   accepterReprise(true);
   stockage->EchouerEcriture(5);
   EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
   stockage->EchouerEcriture(0);
-  EXPECT_NE(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
+  EXPECT_NE(texteDe("CONTRAT", "00001001") + texteDe("DSNEVENEMENT", "00001001"), avant);
   // Another establishment has no contract before.
   remplir(txt("EmplEtabContrat"), "002");
   enregistrer();
-  EXPECT_EQ(lu("CONTRAT", "00001001") + lu("DSNEVENEMENT", "00001001"), avant);
+  EXPECT_EQ(texteDe("CONTRAT", "00001001") + texteDe("DSNEVENEMENT", "00001001"), avant);
   EXPECT_EQ(fiche("00001002")(C::Employeur), "001002");
   EXPECT_EQ(fiche("00001002")(C::CongesReprisDe), "");
 }
@@ -424,8 +403,8 @@ TEST_F(Panne, UneCreationAMoitieSeQuitte) {
     EXPECT_EQ(vus.find("Le contrat 002 a été enregistré en partie") != std::string::npos, encore);
     EXPECT_EQ(fiche("00001002")(C::Annule), encore ? "" : "O");
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), encore ? jour("01/12/2026") : "");
-    EXPECT_EQ(lu("CONTRATINV", "0000100007"), encore ? "002" : "-");
-    EXPECT_EQ(lu("CONTRAT00102", "00001002"), "-");
+    EXPECT_EQ(texteDe("CONTRATINV", "0000100007"), encore ? "002" : "-");
+    EXPECT_EQ(texteDe("CONTRAT00102", "00001002"), "-");
   }
 }
 

@@ -133,26 +133,6 @@ TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
   EXPECT_EQ(db.OpenFile("DSNEVENEMENT").Read("00001001")(2), "1");
 }
 
-TEST_F(FinFiche, LeMotifMontreCeQuiEnDepend) {
-  const struct {
-    const char* motif;
-    bool signature, indemnite;
-    const char* ecrit;  // 129 and 132
-  } cas[] = {{"Rupture conventionnelle", true, false, "21300  "},
-             {"Licenciement", false, true, " 1 "},
-             {"Démission", false, false, "  "}};
-  for (const auto& [motif, signature, indemnite, ecrit] : cas) {
-    ouvrirFin();
-    notifier("15/08/2026", motif);
-    EXPECT_EQ(txt("DateSignConvCol").Visible(), signature) << motif;
-    EXPECT_EQ(cac("CalcIndLic").Visible(), indemnite) << motif;
-    if (signature) remplir(txt("DateSignConvCol"), "25/04/2026");
-    quitter(Reponse::Annuler);
-    EXPECT_EQ(lu({C::DateSignatureRupture, C::CalculLicenciement}), ecrit) << motif;
-    messages();
-  }
-}
-
 TEST_F(FinFiche, LesMotifsObsoletesNeSontOffertsQueSurFichier) {
   ouvrirFin();
   notifier("15/08/2026", "Licenciement");

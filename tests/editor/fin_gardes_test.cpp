@@ -127,17 +127,6 @@ TEST_F(FinGardes, UneFinInterrompuePuisReprise) {
         [](screen::Form& form) { screen::User(form).Cliquer(*form.Find("Cmd_Ok")); });
     cliquer(cmd("OK"));
   };
-  const auto tout = [&] {
-    std::string texte;
-    for (const char* fichier :
-         {"CONTRAT", "DSNEVENEMENT", "ACTUSUIVICONTRAT", "MISSIONSAIDANT", "TPSDETAILSINTERV"}) {
-      memoire.Scan(fichier, data::KeyRange::Tout(), [&](auto cle, auto lu) {
-        texte += std::string(cle) + "=" + std::string(lu) + "\n";
-        return true;
-      });
-    }
-    return texte;
-  };
   preparer();
   stockage->EchouerEcriture(0);
   enregistrer();

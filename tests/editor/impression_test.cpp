@@ -24,26 +24,16 @@ class Declaration : public essai::Editeur {
   }
 };
 
-TEST_F(Declaration, ElleSImprimeSelonLaConventionEtDateLeContrat) {
-  const struct {
-    Attributs contrat;
-    const char* bouton;
-    std::size_t pages;
-    const char* employeur;
-  } cas[] = {
-      {{}, "DPAE", 2, "Siège"},
-      {{{C::Convention, "02"}, {C::Employeur, "00007"}}, "D.E.F.", 1, "MARTIN"},
-  };
-  for (const auto& c : cas) {
-    ouvrirContrat(c.contrat);
-    EXPECT_EQ(cmd("DPAE").Libelle(), c.bouton);
-    EXPECT_EQ(cliquer(cmd("DPAE")), Acte::Fait);
-    EXPECT_EQ(pages(), c.pages);
-    EXPECT_TRUE(porte(c.employeur) && porte("DURAND")) << c.bouton;
-    EXPECT_EQ(declaree(), "21511");
-    // Nothing is left to be saved.
-    sortir();
-  }
+// An entity's declaration is declaration.scenario's.
+TEST_F(Declaration, CelleDUnParticulierTientSurUnePageEtDateLeContrat) {
+  ouvrirContrat({{C::Convention, "02"}, {C::Employeur, "00007"}});
+  EXPECT_EQ(cmd("DPAE").Libelle(), "D.E.F.");
+  EXPECT_EQ(cliquer(cmd("DPAE")), Acte::Fait);
+  EXPECT_EQ(pages(), 1U);
+  EXPECT_TRUE(porte("MARTIN") && porte("DURAND"));
+  EXPECT_EQ(declaree(), "21511");
+  // Nothing is left to be saved.
+  sortir();
 }
 
 // What was given up, or did not come onto paper, is not declared; the next try is a document of its
