@@ -7,6 +7,7 @@
 //   caracteresMax  the largest width of a list, in digits
 //   rangees        the least height of a list, in rows
 //   colonne        labels of one form with the same word here are as wide as the widest of them
+//   chasseFixe     true for a text whose columns are made of blanks: letters of one width
 //
 // Nothing here is a colour or a size of its own: the host's style, palette and font decide.
 
