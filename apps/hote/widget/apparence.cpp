@@ -1,10 +1,12 @@
 #include "widget/apparence.h"
 
 #include <QEvent>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMap>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleOptionFrame>
 #include <algorithm>
@@ -21,6 +23,7 @@ constexpr const char* CaracteresMin = "caracteresMin";
 constexpr const char* CaracteresMax = "caracteresMax";
 constexpr const char* Rangees = "rangees";
 constexpr const char* Colonne = "colonne";
+constexpr const char* ChasseFixe = "chasseFixe";
 // Beside the caption of a button, both sides together, in digits.
 constexpr int AirBouton = 4;
 
@@ -138,6 +141,11 @@ class Apparence : public QObject {
           std::max(texte, chiffres(mesures, bouton->property(Caracteres).toInt())));
     }
     for (auto* const liste : racine_.findChildren<QListWidget*>()) dimensionner(*liste);
+    QFont fixe = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixe.setPointSizeF(racine_.font().pointSizeF());
+    for (auto* const texte : racine_.findChildren<QPlainTextEdit*>()) {
+      if (texte->property(ChasseFixe).toBool()) texte->setFont(fixe);
+    }
   }
 
   QWidget& racine_;

@@ -9,6 +9,7 @@
 //   date           an entry of a date: it has the keys of dates and a calendar (the binder)
 //   toutes         a list that takes only its rows: the text of the row for none (the binder)
 //   colonne        labels of one form with the same word here are as wide as the widest of them
+//   chasseFixe     true for a text whose columns are made of blanks: letters of one width
 //
 // Nothing here is a colour or a size of its own: the host's style, palette and font decide.
 
