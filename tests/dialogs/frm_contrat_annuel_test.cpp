@@ -130,25 +130,6 @@ TEST_F(SuiviAnnuel, WhatEachModeOpens) {
   EXPECT_EQ(dossier.ItemContrat.Text(), avant);
 }
 
-TEST_F(SuiviAnnuel, ALineWithoutItsPeriodIsRefused) {
-  ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {
-    user.Cliquer(f.Cmd_Ajouter);
-    EXPECT_EQ(accessibles(f), "Periode HresParContrat OK Annuler");
-    EXPECT_EQ(actif(f), "Cbo_Periode");
-    EXPECT_EQ(clic(user, f.Cmd_OK),
-              "E La période ainsi que les heures mensuelles sont obligatoires.");
-    user.Taper(f.remunere.Txt_HresParContrat, "151,67");
-    EXPECT_EQ(user.Cliquer(f.Cmd_Retour), Acte::Inaccessible);
-    for (const Reponse reponse : {Reponse::Non, Reponse::Oui}) {
-      EXPECT_EQ(f.remunere.Txt_HresParContrat.Text(), "151,67");
-      repondre({reponse});
-      clic(user, f.Cmd_Annuler);
-    }
-    EXPECT_EQ(f.remunere.Txt_HresParContrat.Text(), "");
-    user.Cliquer(f.Cmd_Retour);
-  });
-}
-
 // What is no number of the field keeps the user there, with a hint.
 TEST_F(SuiviAnnuel, NonsenseInTheEditLine) {
   ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {

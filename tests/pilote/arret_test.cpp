@@ -214,14 +214,10 @@ TEST_F(Arret, PendantLaRepriseDUnContrat) {
 // Contract, mark of the follow-up, mark of the index, then the amendment in it: what stands is a
 // beginning of that order, and the next amendment follows whatever was lost.
 TEST_F(Arret, PendantLAjoutDUnAvenant) {
-  const Route route{"00007", "", "001", ""};
-  const auto ajouter = [](const char* effet) {
-    return "cliquer Opt_TousValid\ncliquer Cmd_Recherche\n"
-           "choisir Lst_DatDebContrat 01/03/2024\ndouble Lst_DatDebContrat\nonglet 1\n"
-           "cliquer Cmd_AjoutAvenant\ntaper Txt_DatEffetContrat " +
-           std::string(effet) +
-           "\ntaper Txt_DureeWContrat 30\ncliquer Cmd_OKAvenant\ncliquer Cmd_OK\n"
-           "forme Ctr_Contrat\naucun-message\n";
+  const Route route{"00007", "Avenant", "001", ""};
+  const auto ajouter = [&route](const char* effet) {
+    std::string scenario = route.creation;
+    return scenario.replace(scenario.find("EFFET"), 5, effet);
   };
   const std::string ordre[] = {"CONTRAT 00007001", "ACTUSUIVICONTRAT 00007",
                                "LIENAVENANT AVENANT00101", "AVENANT00101 0000700103"};

@@ -100,8 +100,8 @@ class Essai : public Form {
   std::map<std::string, Handler> suites_;
 };
 
-// What the program or the user does, in words of the tables: "texte Txt_A abc; cliquer Cmd_OK". What
-// the last act of the user came to. Frm is the form itself.
+// What the program or the user does, in words of the tables: "texte Txt_A abc; cliquer Cmd_OK"; Frm
+// is the form itself. What the last act of the user came to.
 inline Acte faire(Essai& e, const std::string& actes) {
   Acte rendu = Acte::Fait;
   for (std::size_t debut = 0; debut < actes.size();) {
