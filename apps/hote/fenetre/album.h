@@ -1,0 +1,39 @@
+#pragma once
+// The pictures of one run, as files of one folder.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStringList>
+#include <QWidget>
+#include <stdexcept>
+
+namespace hote {
+
+class Album {
+ public:
+  // Makes the folder when it is absent. `taille`: what the windows are sized to.
+  Album(const QString& dossier, const QSize& taille) : dossier_(dossier), taille_(taille) {
+    if (!dossier_.mkpath(".")) {
+      throw std::runtime_error(
+          ("Le dossier « " + dossier + " » ne peut pas être créé.").toStdString());
+    }
+  }
+  // An invalid size leaves each window its own.
+  const QSize& Taille() const { return taille_; }
+  void Prendre(QWidget& widget, const QString& nom) {
+    QCoreApplication::processEvents();
+    const QString chemin = dossier_.filePath(nom + ".png");
+    if (!widget.grab().save(chemin)) {
+      throw std::runtime_error(("L'image « " + chemin + " » ne s'écrit pas.").toStdString());
+    }
+    images_ << chemin;
+  }
+  const QStringList& Images() const { return images_; }
+
+ private:
+  QDir dossier_;
+  QSize taille_;
+  QStringList images_;
+};
+
+}  // namespace hote
