@@ -1,6 +1,7 @@
 #include "control/frise.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 #include "data/cles.h"
@@ -73,9 +74,27 @@ void mesurerAxe(Frise& frise) {
   }
 }
 
-// The contracts of one band, by start, each in the first row in which nothing runs any more; what
-// was cancelled comes last, so that it pushes none of the others down. A contract that overlaps
-// another one overlaps the one of those before it that ends last.
+// The first row of a band in which the contract's days are free; a new one where none is. What
+// comes by start only has to look at the last of a row; what was cancelled comes after all others.
+int placer(std::vector<std::vector<rules::Dates>>& rangs, const ContratAidant& contrat) {
+  const auto prise = [&](const rules::Dates& dates) {
+    return rules::seChevauchent(dates, contrat.dates);
+  };
+  const auto libre = std::find_if(rangs.begin(), rangs.end(), [&](const auto& rang) {
+    return contrat.annule ? std::none_of(rang.begin(), rang.end(), prise) : !prise(rang.back());
+  });
+  const auto numero = static_cast<int>(libre - rangs.begin());
+  if (libre == rangs.end()) {
+    rangs.push_back({contrat.dates});
+  } else {
+    libre->push_back(contrat.dates);
+  }
+  return numero;
+}
+
+// The contracts of one band, by start; what was cancelled comes last, so that it pushes none of the
+// others down. A contract that overlaps another one overlaps the one of those before it that ends
+// last.
 void poserBande(Frise& frise, std::vector<Pose> poses) {
   std::stable_sort(poses.begin(), poses.end(), [](const Pose& a, const Pose& b) {
     return std::make_tuple(a.contrat->annule, a.contrat->dates.debut, a.contrat->cle) <
@@ -83,20 +102,13 @@ void poserBande(Frise& frise, std::vector<Pose> poses) {
   });
   frise.bandes.push_back({poses.front().contrat->portee, frise.rangs, 0});
   Bande& bande = frise.bandes.back();
-  std::vector<long> fins;
+  std::vector<std::vector<rules::Dates>> rangs;
   const ContratAidant* plusLong = nullptr;
   std::size_t barreDuPlusLong = 0;
   for (const Pose& pose : poses) {
     const ContratAidant& contrat = *pose.contrat;
     Barre barre = faireBarre(pose, frise.aujourdhui);
-    const auto libre =
-        std::find_if(fins.begin(), fins.end(), [&](long fin) { return fin < contrat.dates.debut; });
-    barre.rang = frise.rangs + static_cast<int>(libre - fins.begin());
-    if (libre == fins.end()) {
-      fins.push_back(derniere(contrat));
-    } else {
-      *libre = derniere(contrat);
-    }
+    barre.rang = frise.rangs + placer(rangs, contrat);
     if (!contrat.annule) {
       const bool conflit = plusLong != nullptr &&
                            rules::memePortee(contrat.portee, plusLong->portee) &&
@@ -109,7 +121,7 @@ void poserBande(Frise& frise, std::vector<Pose> poses) {
     }
     frise.barres.push_back(std::move(barre));
   }
-  bande.rangs = static_cast<int>(fins.size());
+  bande.rangs = static_cast<int>(rangs.size());
   frise.rangs += bande.rangs;
 }
 
@@ -117,6 +129,14 @@ void poserBande(Frise& frise, std::vector<Pose> poses) {
 
 bool Frise::Chevauchement() const {
   return std::any_of(barres.begin(), barres.end(), [](const Barre& b) { return b.chevauche; });
+}
+
+Frise faireFriseBande(const std::vector<ContratAidant>& contrats, const ContratAidant& enMain,
+                      long aujourdhui) {
+  std::vector<ContratAidant> bande;
+  std::copy_if(contrats.begin(), contrats.end(), std::back_inserter(bande),
+               [&](const ContratAidant& c) { return portee(c) == portee(enMain); });
+  return faireFrise(bande, enMain, aujourdhui);
 }
 
 Frise faireFrise(const std::vector<ContratAidant>& contrats,

@@ -59,5 +59,8 @@ struct Frise {
 // each kind by its first start.
 Frise faireFrise(const std::vector<ContratAidant>& contrats,
                  const std::optional<ContratAidant>& enMain, long aujourdhui);
+// The same with the band of `enMain` alone.
+Frise faireFriseBande(const std::vector<ContratAidant>& contrats, const ContratAidant& enMain,
+                      long aujourdhui);
 
 }  // namespace control

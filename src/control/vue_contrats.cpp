@@ -17,7 +17,15 @@ EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
 }
 
 Frise VueContrats::FaireFrise() const {
-  return faireFrise(liste_.Contrats(), liste_.EnMain(), liste_.Services().poste.Aujourdhui());
+  return faireFrise(liste_.Contrats(), std::nullopt, liste_.Services().poste.Aujourdhui());
+}
+
+Frise VueContrats::FaireFriseEnMain(int rangsMax) const {
+  const long aujourdhui = liste_.Services().poste.Aujourdhui();
+  const auto enMain = liste_.EnMain();
+  Frise frise = faireFrise(liste_.Contrats(), enMain, aujourdhui);
+  if (frise.rangs <= rangsMax || !enMain || enMain->portee.association.empty()) return frise;
+  return faireFriseBande(liste_.Contrats(), *enMain, aujourdhui);
 }
 
 std::string VueContrats::Dire(const Barre& barre) const {
@@ -42,9 +50,7 @@ std::string VueContrats::DirePourquoiSansAjout() const {
   if (!liste_.Etat().DroitComplet()) {
     return "Consultation : vos droits ne permettent ni ajout ni modification.";
   }
-  return liste_.W_EtatSuppAidant
-             ? "Aidant supprimé : ses contrats se consultent, aucun ne peut être ajouté."
-             : "";
+  return liste_.W_EtatSuppAidant ? "Aidant supprimé : aucun contrat ne peut être ajouté." : "";
 }
 
 std::string VueContrats::DireVide() const {

@@ -21,8 +21,10 @@ class VueContrats {
   Compte Compter() const;
   EtatContrat Etat(const ContratAidant& contrat) const;
 
-  // On a time axis; and with the contract of the editor as it stands there.
+  // On a time axis; with the contract of the editor as it stands there, alone with those that it
+  // must not overlap where all of them take more rows than `rangsMax`.
   Frise FaireFrise() const;
+  Frise FaireFriseEnMain(int rangsMax) const;
   // What a bar means, in a sentence: "Contrat 061, du 01/02/2026 au 24/01/2027 (fin présumée), en
   // cours".
   std::string Dire(const Barre& barre) const;

@@ -89,7 +89,7 @@ TEST_F(Vue, UneListeVideDitPourquoi) {
     int niveau;
     const char* suite;
   } cas[] = {{false, 2, "Ajouter (Inser) en crée un."},
-             {true, 2, "Aidant supprimé : ses contrats se consultent, aucun ne peut être ajouté."},
+             {true, 2, "Aidant supprimé : aucun contrat ne peut être ajouté."},
              {false, 1, "Consultation : vos droits ne permettent ni ajout ni modification."}};
   for (const auto& [supprime, niveau, suite] : cas) {
     const session::DroitsUniformes essayes(niveau);

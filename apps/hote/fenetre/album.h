@@ -1,5 +1,5 @@
 #pragma once
-// A folder of pictures.
+// The pictures of one run, as files of one folder.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,11 +14,14 @@ namespace hote {
 
 class Album {
  public:
-  explicit Album(const QString& dossier) : dossier_(dossier) {
+  // Makes the folder when it is absent. `taille`: what the windows are sized to; an invalid size
+  // leaves each window its own.
+  Album(const QString& dossier, const QSize& taille) : dossier_(dossier), taille_(taille) {
     if (!dossier_.mkpath(".")) {
       throw std::runtime_error(versModele("Le dossier « " + dossier + " » ne peut pas être créé."));
     }
   }
+  const QSize& Taille() const { return taille_; }
   void Prendre(QWidget& widget, const QString& nom) {
     QCoreApplication::processEvents();
     const QString chemin = dossier_.filePath(nom + ".png");
@@ -40,6 +43,7 @@ class Album {
 
  private:
   QDir dossier_;
+  QSize taille_;
   QStringList images_;
 };
 

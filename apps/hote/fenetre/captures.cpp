@@ -29,6 +29,7 @@
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
 #include "fenetre/album.h"
+#include "fenetre/captures_liste.h"
 #include "fenetre/captures_papier.h"
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
@@ -79,7 +80,7 @@ class Visite : public QObject {
       Refuser(*boite);
     } else if (fenetre != nullptr && !vue_) {
       vue_ = true;
-      fenetre->resize(TailleControle);
+      fenetre->resize(album_.Taille().isValid() ? album_.Taille() : TailleControle);
       auto* const onglets = fenetre->findChild<QTabWidget*>("Ong_Contrat");
       for (int i = 0; onglets != nullptr && i < onglets->count(); ++i) {
         onglets->setCurrentIndex(i);
@@ -132,6 +133,25 @@ class Visite : public QObject {
   bool occupee_ = false;
   int tours_ = 0;
 };
+
+// As a desktop with light letters on a dark ground has it.
+void assombrir() {
+  const QColor fond(0x20, 0x22, 0x26), base(0x17, 0x18, 0x1b), texte(0xe6, 0xe6, 0xe6);
+  QPalette palette(QColor(0x2c, 0x2f, 0x34), fond);
+  const std::pair<QPalette::ColorRole, QColor> couleurs[] = {
+      {QPalette::Base, base},
+      {QPalette::AlternateBase, QColor(0x1c, 0x1e, 0x22)},
+      {QPalette::ToolTipBase, base},
+      {QPalette::Highlight, QColor(0x2a, 0x6f, 0xb0)},
+      {QPalette::HighlightedText, Qt::white},
+      {QPalette::Link, QColor(0x6c, 0xb4, 0xee)}};
+  for (const auto& [role, couleur] : couleurs) palette.setColor(role, couleur);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                          QPalette::ToolTipText, QPalette::PlaceholderText}) {
+    palette.setColor(role, texte);
+  }
+  QApplication::setPalette(palette);
+}
 
 struct Vedettes {
   std::string premier;       // the first carer with a contract
@@ -235,7 +255,7 @@ void capturerSelection(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   ecran.W_NomPrenom = liste.W_NomPrenom;
   ecran.DroitsUtilisateur(droits);
   ecran.init();
-  ecran.resize(TailleControle);
+  ecran.resize(album.Taille().isValid() ? album.Taille() : TailleControle);
   ecran.show();
   album.Prendre(ecran, "selection");
 }
@@ -244,7 +264,7 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   FenetreHote fenetre(bureau);
   fenetre.show();
   // The screen that the pictures are made on is smaller than any real one.
-  fenetre.resize(TailleFenetre);
+  fenetre.resize(album.Taille().isValid() ? album.Taille() : TailleFenetre);
   if (!fenetre.OuvrirFichier(copie)) throw std::runtime_error("Le fichier ne s'ouvre pas.");
   album.Prendre(fenetre, "fenetre");
   const data::PosteSysteme poste;
@@ -257,9 +277,11 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   fenetre.Ecran()->Affiche("", "", "");
   album.Prendre(fenetre, "liste-longue");
   if (!fenetre.OuvrirAidant(aidant)) throw std::runtime_error("L'aidant ne s'affiche pas.");
-  control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
   fenetre.Ecran()->Affiche("", "", "");
   album.Prendre(fenetre, "liste");
+  capturerEtatsListe(album, fenetre);
+  control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
+  fenetre.Ecran()->Affiche("", "", "");
   if (liste.Lst_DatDebContrat.ListCount() == 0) {
     throw std::runtime_error("L'aidant « " + aidant + " » n'a pas de contrat à montrer.");
   }
@@ -280,11 +302,12 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
 }  // namespace
 
 QStringList capturerFormes(const QString& fichier, const std::string& aidant,
-                           const QString& dossier) {
+                           const QString& dossier, const QSize& taille, bool sombre) {
   const QTemporaryDir essai;
   const QString copie = essai.filePath(QFileInfo(fichier).fileName());
   storage::copierFichier(versModele(fichier), versModele(copie));
-  Album album(dossier);
+  if (sombre) assombrir();
+  Album album(dossier, taille);
   Bureau bureau(nullptr,
                 std::make_unique<QSettings>(essai.filePath("reglages.ini"), QSettings::IniFormat));
   capturerEcrans(album, bureau, copie, aidant);

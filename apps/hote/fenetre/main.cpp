@@ -24,9 +24,11 @@ int capturer(const QCommandLineParser& options) {
       erreurs << "--captures : donnez le fichier de données à montrer.\n";
       return 2;
     }
-    for (const QString& image : hote::capturerFormes(options.positionalArguments().constFirst(),
-                                                     hote::versModele(options.value("aidant")),
-                                                     options.value("captures"))) {
+    const QStringList cotes = options.value("taille").split('x');
+    const QSize taille = cotes.size() == 2 ? QSize(cotes[0].toInt(), cotes[1].toInt()) : QSize();
+    for (const QString& image : hote::capturerFormes(
+             options.positionalArguments().constFirst(), hote::versModele(options.value("aidant")),
+             options.value("captures"), taille, options.isSet("sombre"))) {
       QTextStream(stdout) << image << '\n';
     }
     return 0;
@@ -72,6 +74,9 @@ int main(int argc, char** argv) {
   options.addVersionOption();
   options.addOption(
       {"captures", "Écrit les images des écrans dans ce dossier et s'arrête.", "dossier"});
+  options.addOption(
+      {"taille", "Donne aux images cette taille de fenêtre, 1024x768 par exemple.", "LxH"});
+  options.addOption({"sombre", "Prend les images sur fond sombre."});
   options.addOption({"aidant", "Ouvre l'aidant de ce code.", "code"});
   options.addOption(
       {"meme-en-reseau", "Admet un fichier d'un dossier du réseau, qu'un seul poste ouvre."});

@@ -70,6 +70,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   liste_->setUniformRowHeights(true);
   liste_->setAllColumnsShowFocus(true);
   liste_->setHeaderHidden(true);
+  liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   liste_->header()->setStretchLastSection(true);
   liste_->setItemDelegate(new LigneAidant(liste_, annuaire_));

@@ -3,7 +3,7 @@ _contrat_hote() {
   local mot=${COMP_WORDS[COMP_CWORD]}
   COMPREPLY=()
   if [[ $mot == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "--aidant --captures --meme-en-reseau --help --version" -- "$mot")
+    mapfile -t COMPREPLY < <(compgen -W "--aidant --captures --taille --sombre --meme-en-reseau --help --version" -- "$mot")
   else
     compopt -o filenames 2>/dev/null
     mapfile -t COMPREPLY < <(compgen -f -- "$mot")

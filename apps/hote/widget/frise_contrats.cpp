@@ -115,7 +115,8 @@ void FriseContrats::SetLignesMax(int lignes) {
 // Geometry.
 
 QSize FriseContrats::sizeHint() const {
-  const int rangs = std::max(frise_.rangs, 1);
+  const int rangs = frise_.rangs;
+  if (rangs == 0) return minimumSizeHint();
   const int ligne = fontMetrics().height();
   const int place = std::min(rangs * RangIdeal, lignesMax_ * ligne - ligne);
   return {fontMetrics().averageCharWidth() * 60,
@@ -127,9 +128,14 @@ QSize FriseContrats::minimumSizeHint() const {
   return {fontMetrics().averageCharWidth() * 20, 0};
 }
 
+// A strip that is pressed together keeps its rows rather than its years.
+bool FriseContrats::AvecAxe() const {
+  return height() - fontMetrics().height() - 2 * Air >= frise_.rangs * RangMin;
+}
+
 QRect FriseContrats::Cadre() const {
   const int noms = std::min(width() / PartNoms, NomsMax);
-  const int axe = fontMetrics().height();
+  const int axe = AvecAxe() ? fontMetrics().height() : 0;
   return QRect(noms, Air, width() - noms - Air, height() - axe - 2 * Air);
 }
 
@@ -228,7 +234,7 @@ void FriseContrats::TracerAxe(QPainter& pinceau) const {
     pinceau.setPen(discret);
     pinceau.drawLine(QPointF(x, cadre.top()), QPointF(x, bas + Air));
     const int largeur = fontMetrics().horizontalAdvance(trait.texte);
-    if (x < libre || x + largeur > width()) continue;
+    if (!AvecAxe() || x < libre || x + largeur > width()) continue;
     pinceau.setPen(palette().color(QPalette::WindowText));
     pinceau.drawText(QPointF(x, bas + fontMetrics().ascent() + 1), trait.texte);
     libre = x + largeur + Air;
@@ -355,11 +361,21 @@ void FriseContrats::mouseDoubleClickEvent(QMouseEvent* evenement) {
 bool FriseContrats::event(QEvent* evenement) {
   if (evenement->type() != QEvent::ToolTip) return QWidget::event(evenement);
   const auto& aide = static_cast<QHelpEvent&>(*evenement);
-  const Barre* const barre = BarreEn(aide.pos());
-  if (barre == nullptr || !Infobulle) {
-    QToolTip::hideText();
-    return true;
+  if (const Barre* const barre = BarreEn(aide.pos()); barre != nullptr && Infobulle) {
+    QToolTip::showText(aide.globalPos(), Infobulle(*barre), this, Place(*barre));
+  } else {
+    QToolTip::showText(aide.globalPos(), NomEn(aide.pos()), this);
   }
-  QToolTip::showText(aide.globalPos(), Infobulle(*barre), this, Place(*barre));
   return true;
+}
+
+// The whole name of a band, which may have no room; empty elsewhere.
+QString FriseContrats::NomEn(const QPoint& place) const {
+  if (place.x() >= Cadre().left() || HauteurRang() < 2) return {};
+  const int rang = static_cast<int>((place.y() - Cadre().top()) / HauteurRang());
+  for (std::size_t i = 0; i < frise_.bandes.size(); ++i) {
+    const control::Bande& bande = frise_.bandes[i];
+    if (rang >= bande.rang && rang < bande.rang + bande.rangs) return noms_[i];
+  }
+  return {};
 }

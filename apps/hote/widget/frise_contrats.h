@@ -52,9 +52,11 @@ class FriseContrats : public QWidget {
 
   // The part of the widget in which bars stand, and the height of a row in it.
   QRect Cadre() const;
+  bool AvecAxe() const;
   double HauteurRang() const;
   double X(long jour) const;
   const control::Barre* BarreEn(const QPoint& place) const;
+  QString NomEn(const QPoint& place) const;
   Graduation Graduer() const;
 
   void TracerBandes(QPainter& pinceau) const;

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QResizeEvent>
 
 #include "control/ctr_contrat.h"
 #include "liaison/liaison.h"
@@ -15,6 +16,9 @@ namespace hote {
 namespace {
 
 constexpr int LignesFrise = 5;
+constexpr int RangsMax = 4;
+// In a lower window the fields need the room.
+constexpr int HauteurFrise = 560;  // pixels
 
 }  // namespace
 
@@ -22,12 +26,22 @@ HabitEditeur::HabitEditeur(control::Ctr_Contrat& controle, Liaison& liaison, QSe
     : QObject(&liaison),
       controle_(controle),
       liaison_(liaison),
+      reglages_(reglages),
       vue_(controle),
       frise_(liaison.Racine().findChild<FriseContrats*>("frise")) {
   frise_->SetLignesMax(LignesFrise);
   habillerFrise(*frise_, vue_, reglages);
+  liaison_.Racine().installEventFilter(this);
   GuetterSaisie();
   connect(&liaison_, &Liaison::poussee, this, &HabitEditeur::Regarder);
+}
+
+bool HabitEditeur::eventFilter(QObject*, QEvent* evenement) {
+  if (evenement->type() == QEvent::Resize) {
+    const int hauteur = static_cast<QResizeEvent*>(evenement)->size().height();
+    frise_->setVisible(hauteur >= HauteurFrise && friseVisible(reglages_));
+  }
+  return false;
 }
 
 void HabitEditeur::GuetterSaisie() {
@@ -51,7 +65,7 @@ void HabitEditeur::GuetterSaisie() {
 void HabitEditeur::Regarder() {
   if (auto enMain = controle_.EnMain(); enMain && enMain != montre_) {
     montre_ = std::move(enMain);
-    frise_->Montrer(vue_.FaireFrise());
+    frise_->Montrer(vue_.FaireFriseEnMain(RangsMax));
   }
   liaison_.Marquer(controle_.Etat().DroitComplet() && (saisie_ || controle_.EnMainModifie()));
 }

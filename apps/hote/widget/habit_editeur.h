@@ -26,6 +26,8 @@ class HabitEditeur : public QObject {
   // Lives as long as the binder of the editor that `controle` has open.
   HabitEditeur(control::Ctr_Contrat& controle, Liaison& liaison, QSettings& reglages);
 
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
+
  private:
   // Any of the user's ways to change a field; what the form fills in itself is none.
   void GuetterSaisie();
@@ -33,6 +35,7 @@ class HabitEditeur : public QObject {
 
   const control::Ctr_Contrat& controle_;
   Liaison& liaison_;
+  const QSettings& reglages_;
   control::VueContrats vue_;
   FriseContrats* frise_;
   std::optional<control::ContratAidant> montre_;
