@@ -6,6 +6,7 @@ namespace {
 
 namespace C = data::Contrat;
 using control::EtatContrat;
+using essai::jour;
 
 class Vue : public essai::Liste {
  protected:

@@ -199,8 +199,7 @@ TEST_F(Formes, WholeCreationByKeyboard) {
 
 // The strip leads into the list, says in words what it shows, and shows an overlap as it is typed.
 TEST_F(Formes, TheStripOfTimeFollowsListAndEditor) {
-  article("CONTRAT", "00001001",
-          "1=01; 2=001; 3=001001; 4=I; 5=H; 6=P; 7=21000");
+  article("CONTRAT", "00001001", "1=01; 2=001; 3=001001; 4=I; 5=H; 6=P; 7=21000");
   article("CIVILAIDANT", "00001", "2=DURAND; 3=Anne; 41=001");
   const auto ecran = ouvrir();
   ecran->resize(1000, 700);
