@@ -98,26 +98,38 @@ void Ctr_Contrat::Effacer_Donnees() {
 void Ctr_Contrat::Recherche_Contrat() {
   const long debutPeriode = data::premierJour(session_.PeriodePaie()).value_or(0);
   ViderListes();
-  data::CItem aidant;
-  session_.F_CIVILAIDANT.Lire(W_Code, aidant);
-  const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
-                                     data::DernierNumeroPossible);
-
-  contrats_.clear();
+  contratsLus_ = false;
+  std::vector<ContratAidant> contrats;
   std::vector<LigneContrat> lignes;
   std::string employeur;
-  for (long numero = 1; numero <= dernier; ++numero) {
-    data::CItem contrat;
-    if (!session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) continue;
-    contrats_.push_back(ContratAidant::De(contrat));
-    if (contrat.Vue(data::Contrat::Annule) == "O") continue;
-    if (!GarderValidite(contrat, debutPeriode) || !GarderType(contrat)) continue;
+  PourChaqueContrat([&](const data::CItem& contrat) {
+    contrats.push_back(ContratAidant::De(contrat));
+    if (contrats.back().annule) return;
+    if (!GarderValidite(contrat, debutPeriode) || !GarderType(contrat)) return;
     LireEmployeur(contrat, employeur);
     LigneContrat ligne = FaireLigne(contrat, employeur);
     const auto rang = rangInsertion(lignes, ligne, TriChoisi());
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
-  }
+  });
   AfficherLignes(lignes);
+  RetenirContrats(std::move(contrats));
+}
+
+// By number; a number without a record is passed over.
+void Ctr_Contrat::PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const {
+  data::CItem aidant;
+  session_.F_CIVILAIDANT.Lire(W_Code, aidant);
+  const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
+                                     data::DernierNumeroPossible);
+  for (long numero = 1; numero <= dernier; ++numero) {
+    data::CItem contrat;
+    if (session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) acte(contrat);
+  }
+}
+
+void Ctr_Contrat::RetenirContrats(std::vector<ContratAidant> contrats) {
+  contrats_ = std::move(contrats);
+  contratsLus_ = true;
   if (SurContrats) SurContrats();
 }
 

@@ -77,6 +77,8 @@ class Ctr_Contrat : public screen::Form {
   // Every contract that the last search has read, kept by the filters or not; what was opened or
   // created since is as it stands now.
   const std::vector<ContratAidant>& Contrats() const { return contrats_; }
+  // False before the first search, and after one that the store has broken off.
+  bool ContratsLus() const { return contratsLus_; }
   // Called when they are others. Unset, nothing happens.
   screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
@@ -141,6 +143,9 @@ class Ctr_Contrat : public screen::Form {
   void Cmd_Retour_Click();
   void PrendreFiltresParDefaut();
   void ViderListes();
+  void PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const;
+  void AssurerContrats();
+  void RetenirContrats(std::vector<ContratAidant> contrats);
   bool GarderValidite(const data::CItem& contrat, long debutPeriode) const;
   bool GarderType(const data::CItem& contrat) const;
   void LireEmployeur(const data::CItem& contrat, std::string& libelle) const;
@@ -168,6 +173,7 @@ class Ctr_Contrat : public screen::Form {
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
   std::vector<ContratAidant> contrats_;
+  bool contratsLus_ = false;
   screen::Colonnes lignes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,
