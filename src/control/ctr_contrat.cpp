@@ -102,27 +102,39 @@ void Ctr_Contrat::Recherche_Contrat() {
   AnnoncerContrats(route);
   const FiltreContrats filtre = Filtre();
   ViderListes();
-  data::CItem aidant;
-  session_.F_CIVILAIDANT.Lire(W_Code, aidant);
-  const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
-                                     data::DernierNumeroPossible);
-
-  contrats_.clear();
+  contratsLus_ = false;
+  std::vector<ContratAidant> contrats;
   std::vector<LigneContrat> lignes;
   LecteurLignes lecteur(session_);
-  for (long numero = 1; numero <= dernier; ++numero) {
-    data::CItem contrat;
-    if (!session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) continue;
-    contrats_.push_back(ContratAidant::De(contrat));
-    if (!filtre.Garde(contrat)) continue;
+  PourChaqueContrat([&](const data::CItem& contrat) {
+    contrats.push_back(ContratAidant::De(contrat));
+    if (!filtre.Garde(contrat)) return;
     LigneContrat ligne = lecteur.Lire(contrat);
     const auto rang = rangInsertion(lignes, ligne, TriChoisi());
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
-  }
+  });
   for (const LigneContrat& ligne : lignes) {
     lignes_.Ajouter(ligne.Textes());
     clesContrats_.Append(ligne.cle);
   }
+  RetenirContrats(std::move(contrats));
+}
+
+// By number; a number without a record is passed over.
+void Ctr_Contrat::PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const {
+  data::CItem aidant;
+  session_.F_CIVILAIDANT.Lire(W_Code, aidant);
+  const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
+                                     data::DernierNumeroPossible);
+  for (long numero = 1; numero <= dernier; ++numero) {
+    data::CItem contrat;
+    if (session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) acte(contrat);
+  }
+}
+
+void Ctr_Contrat::RetenirContrats(std::vector<ContratAidant> contrats) {
+  contrats_ = std::move(contrats);
+  contratsLus_ = true;
   if (SurContrats) SurContrats();
 }
 

@@ -79,6 +79,8 @@ class Ctr_Contrat : public screen::Form {
   // Every contract that the last search has read, kept by the filters or not; what was opened or
   // created since is as it stands now.
   const std::vector<ContratAidant>& Contrats() const { return contrats_; }
+  // False before the first search, and after one that the store has broken off.
+  bool ContratsLus() const { return contratsLus_; }
   // Called when they are others. Unset, nothing happens.
   screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
@@ -145,6 +147,9 @@ class Ctr_Contrat : public screen::Form {
   // What the options and the legal entity ask for.
   FiltreContrats Filtre() const;
   void AnnoncerContrats(data::Route& route);
+  void PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const;
+  void AssurerContrats();
+  void RetenirContrats(std::vector<ContratAidant> contrats);
   Tri TriChoisi() const;
 
   // Opens the contract of that key; a row of the list that it is follows.
@@ -167,6 +172,7 @@ class Ctr_Contrat : public screen::Form {
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
   std::vector<ContratAidant> contrats_;
+  bool contratsLus_ = false;
   screen::Colonnes lignes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,

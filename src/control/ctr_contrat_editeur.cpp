@@ -14,7 +14,17 @@ void Ctr_Contrat::Appel_Contrat() {
   OuvrirContrat(ligne < 0 ? W_CodeContrat : clesContrats_(ligne + 1));
 }
 
+// A contract that is opened or created before any search is shown among the others all the same.
+void Ctr_Contrat::AssurerContrats() {
+  if (contratsLus_) return;
+  std::vector<ContratAidant> contrats;
+  PourChaqueContrat(
+      [&](const data::CItem& contrat) { contrats.push_back(ContratAidant::De(contrat)); });
+  RetenirContrats(std::move(contrats));
+}
+
 void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
+  AssurerContrats();
   const editor::Frm_ElementsContrat& editeur =
       Editeur([&](editor::Frm_ElementsContrat& e) { e.Ouvrir(cle); });
   editeur_->ShowModal();
@@ -26,6 +36,7 @@ void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
 }
 
 void Ctr_Contrat::Cmd_Ajouter_Click() {
+  AssurerContrats();
   editor::Frm_ElementsContrat& editeur = Editeur([](editor::Frm_ElementsContrat& e) { e.Creer(); });
   editeur.ShowModal();
   screen::Attente retour(*this);

@@ -56,6 +56,7 @@ std::string VueContrats::DirePourquoiSansAjout() const {
 std::string VueContrats::DireVide() const {
   if (liste_.Lst_DatDebContrat.ListCount() > 0) return "";
   if (!liste_.Lst_DatDebContrat.Enabled()) return "Choisissez les filtres, puis Recherche (F5).";
+  if (!liste_.ContratsLus()) return "Les contrats n'ont pas pu être lus.";
   if (Compter().Vivants() > 0) return "Aucun contrat sous ces filtres.";
   const std::string sansAjout = DirePourquoiSansAjout();
   return "Cet aidant n'a aucun contrat. " +

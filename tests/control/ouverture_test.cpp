@@ -68,6 +68,8 @@ TEST_F(Ouverture, LaLigneOuverteSuitLArticle) {
        "003 01/01/2023 30/06/2023|002 02/01/2022 30/06/2022|001 01/01/2021 30/06/2021"},
       {"cancelled", "02/01/2022", "O", "003 01/01/2023 30/06/2023|001 01/01/2021 30/06/2021"},
   };
+  std::string avis;
+  controle->SurAvis = [&](const std::string& texte) { avis += texte; };
   for (const auto& [nom, debut, annule, apres] : cas) {
     dansLEditeur([&](Frm_ElementsContrat& f, screen::User& user) {
       EXPECT_EQ(texte(f, "Txt_NumContrat"), "002");
@@ -81,6 +83,7 @@ TEST_F(Ouverture, LaLigneOuverteSuitLArticle) {
     EXPECT_EQ(lignes(), apres) << nom;
     EXPECT_TRUE(controle->Enabled());
     EXPECT_FALSE(hote.curseur.EnAttente());
+    EXPECT_EQ(avis, *annule == '\0' ? "" : "Contrat 002 supprimé") << nom;
   }
   EXPECT_EQ(hote.messages.Tous().size(), 0u);
 }

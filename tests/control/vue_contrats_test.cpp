@@ -100,6 +100,11 @@ TEST_F(Vue, UneListeVideDitPourquoi) {
     EXPECT_EQ(vue.DireVide(), std::string("Cet aidant n'a aucun contrat. ") + suite);
     controle->DroitsUtilisateur(droits);
   }
+  // A search that the store breaks off does not say that there is none.
+  stockage->EchouerAppel(1);
+  EXPECT_THROW(controle->Affiche("", "", ""), data::StoreError);
+  stockage->EchouerAppel(0);
+  EXPECT_EQ(vue.DireVide(), "Les contrats n'ont pas pu être lus.");
 }
 
 }  // namespace

@@ -29,13 +29,6 @@ inline data::CItem item(const std::string& texte) {
   return fait;
 }
 
-using Attributs = std::map<int, std::string>;
-inline data::CItem item(const Attributs& attributs) {
-  data::CItem fait;
-  for (const auto& [a, texte] : attributs) fait.Set(a, texte);
-  return fait;
-}
-
 inline data::CItem table(const std::map<std::string, std::string>& libelles) {
   data::CItem fait;
   for (int v = 0; const auto& [code, libelle] : libelles) {

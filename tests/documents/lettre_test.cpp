@@ -14,7 +14,7 @@ DossierLettre lettre(const std::string& autres = "", const std::string& avenant 
   DossierLettre l;
   l.cle = "00031002";
   l.avenant = avenant;
-  d.contrat = essai::item("1=01|4=I|5=H|7=@05/01/2026|27=1");
+  d.contrat = essai::item("1=01; 4=I; 5=H; 7=@05/01/2026; 27=1");
   const std::pair<int, std::pair<const char*, const char*>> valeurs[] = {
       {14, {"0", "01"}},        {16, {"Aide à domicile", "Auxiliaire"}},
       {23, {"12020", "12345"}}, {24, {"15167", "2000"}},
