@@ -95,6 +95,8 @@ class Liaison : public QObject {
   void NoterFocus(QWidget* arrivee);
   void Attendre(Lien& lien);
   void PousserFocus();
+  // After a box the text that it was about is there to be typed over.
+  void Selectionner(unsigned long interruptions);
   void Apres();
 
   bool Ouverte() const;
