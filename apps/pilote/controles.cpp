@@ -27,6 +27,11 @@ std::string enClair(std::string_view texte) {
   return clair;
 }
 
+std::string ecart(const std::string& legende, const std::string& surFichier,
+                  const std::string& ici) {
+  return "[" + legende + " : " + surFichier + " / " + ici + "]";
+}
+
 // Nothing for an absent record.
 std::optional<data::CItem> lireArticle(Pilote& pilote, const Commande& c) {
   data::CItem item;
@@ -62,9 +67,9 @@ void verifierConflit(Pilote& pilote, const Commande& c) {
   std::string trouves;
   for (const auto& [legende, surFichier, ici] : conflit->ecarts) {
     if (legende == c.Texte(0) && surFichier == c.Texte(1) && ici == c.Texte(2)) return;
-    trouves += "[" + legende + " : " + surFichier + " / " + ici + "]";
+    trouves += ecart(legende, surFichier, ici);
   }
-  pilote.Echouer("[" + c.Texte(0) + " : " + c.Texte(1) + " / " + c.Texte(2) + "]", trouves);
+  pilote.Echouer(ecart(c.Texte(0), c.Texte(1), c.Texte(2)), trouves);
 }
 
 void verifierForme(Pilote& pilote, const Commande& c) {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "data/layouts/recherches.h"
 #include "data/storage.h"
 
 namespace data {
@@ -33,9 +34,8 @@ constexpr long dernierJourEssai(long debut, long jours) {
 // Of one contract, in the order of the kinds above; none of a cancelled one.
 std::vector<JourEcheance> joursEcheances(std::string_view contrat);
 
-// The values that an index of contracts holds of it.
-std::vector<std::string> valeursEcheances(std::string_view contrat);
-// Its range of the days from `debut` to `fin`. Days have five digits from 1995 to 2241.
+// The index of contracts holds the values of valeursEcheances; its range of the days
+// from `debut` to `fin`. Days have five digits from 1995 to 2241.
 KeyRange valeursEcheances(GenreEcheance genre, long debut, long fin);
 
 }  // namespace data

@@ -95,6 +95,19 @@ TEST_F(Touches, ADateTakesItsKeysOnceItIsWhole) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return forme.Txt_Date.Text() == "09/03/2026"; }, 2000));
 }
 
+TEST_F(Touches, ARefusalLeavesTheTextToBeTypedOver) {
+  aller("Txt_Notes");
+  aller("Txt_Date");
+  taper("boite");
+  forme.Txt_Date.LostFocus = [this] {
+    forme.MessageBox("Date douteuse");
+    forme.Txt_Date.SetFocus();
+  };
+  const essai::Apres clerc([](QWidget& boite) { QTest::keyClick(&boite, Qt::Key_Return); });
+  touche(Qt::Key_Tab);
+  EXPECT_EQ(w<QLineEdit>("Txt_Date").selectedText(), "boite");
+}
+
 class Frm_Codes : public screen::Form {
  public:
   explicit Frm_Codes(screen::Platform& platform) : Form(platform, "Frm_Codes", "Codes") {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -75,6 +76,12 @@ void montrerCalendrier(QLineEdit& ligne, long aujourdhui,
   calendrier->setFirstDayOfWeek(Qt::Monday);
   calendrier->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
   calendrier->setGridVisible(true);
+  // The toolkit's red does not read on a dark ground.
+  QTextCharFormat semaine;
+  semaine.setForeground(calendrier->palette().brush(QPalette::PlaceholderText));
+  for (const Qt::DayOfWeek jour : {Qt::Saturday, Qt::Sunday}) {
+    calendrier->setWeekdayTextFormat(jour, semaine);
+  }
   calendrier->setSelectedDate(versQt(jourDuTexte(ligne.text()).value_or(aujourdhui)));
   auto* const disposition = new QVBoxLayout(fenetre);
   disposition->setContentsMargins(2, 2, 2, 2);

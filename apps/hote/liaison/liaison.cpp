@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QRegularExpression>
@@ -184,6 +185,7 @@ bool Liaison::Drainer() {
   }
   if (!la) return false;
   Apres();
+  if (la) Selectionner(interruptions);
   return la && entre && interruptions == screen::Form::Interruptions() &&
          menus == bureau_.Menus() && forme_.Active() == &champ;
 }
@@ -200,12 +202,23 @@ bool Liaison::Jouer(const std::function<void(screen::User&)>& acte) {
   const QPointer<Liaison> la(this);
   const bool libre = Drainer();
   if (!la) return false;
+  const unsigned long interruptions = screen::Form::Interruptions();
   if (libre) {
     const Compte occupe(*this, occupation_);
     bureau_.Proteger([&] { acte(user_); });
   }
   if (la) Apres();
+  if (la) Selectionner(interruptions);
   return libre;
+}
+
+void Liaison::Selectionner(unsigned long interruptions) {
+  if (interruptions == screen::Form::Interruptions()) return;
+  const auto actif = parChamp_.find(forme_.Active());
+  if (actif == parChamp_.end()) return;
+  if (auto* const ligne = qobject_cast<QLineEdit*>(&actif->second->CibleFocus())) {
+    ligne->selectAll();
+  }
 }
 
 void Liaison::Apres() {

@@ -104,6 +104,8 @@ class Liaison : public QObject {
   void Attendre(Lien& lien);
   void PousserTitre();
   void PousserFocus();
+  // After a box the text that it was about is there to be typed over.
+  void Selectionner(unsigned long interruptions);
   void Apres();
 
   bool Ouverte() const;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -69,18 +70,17 @@ class LienSaisie : public Lien {
   void Transmettre(const QString& texte) {
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
   }
-  // Whether the field is the model's active one, or may become it. When not, the widget shows what
-  // the model holds again.
+  // Whether the field is the model's active one, or has become it.
   bool Entre() {
-    if (modele_.Forme().Active() != &modele_) {
-      Binder().Jouer([&](screen::User& user) { user.Focus(modele_); });
+    screen::TextField& champ = modele_;
+    if (champ.Forme().Active() != &champ) {
+      Binder().Jouer([&](screen::User& user) { user.Focus(champ); });
     }
-    const bool entre = modele_.Forme().Active() == &modele_;
-    if (!entre) Binder().Pousser();
-    return entre;
+    return champ.Forme().Active() == &champ;
   }
   // What a paste or a drop has brought into the field goes through its key filter, character by
-  // character, as if it were typed; a key has been through it already.
+  // character, as if it were typed; a key has been through it already. The text, and where the
+  // cursor goes, -1 where it stays.
   Insertion Filtree(const QString& texte) {
     const bool tapee = std::exchange(tapee_, false);
     const Insertion insertion = insertionDe(versQt(modele_.Text()), texte);
@@ -139,6 +139,7 @@ class LienLigne : public LienSaisie {
     return debut < 0 ? texte : texte.remove(debut, ligne_.selectedText().size());
   }
   void PousserEtat() override {
+    if (enEdition_) return;
     SuivreEntree();
     montrerConsultation(ligne_, Binder().Consultation());
     const QString texte = versQt(modele_.Text());
@@ -168,19 +169,27 @@ class LienLigne : public LienSaisie {
     if (date) Editer(*date);
     return date.has_value();
   }
+  // The text as the user has left it. A drop comes before the focus does.
   void Editer(const QString& texte) {
-    // A drop comes before the focus does.
-    if (!Entre()) return;
-    const auto [filtre, curseur] = Filtree(texte);
-    if (curseur >= 0) {
-      ligne_.setText(filtre);
-      ligne_.setCursorPosition(static_cast<int>(curseur));
+    const QPointer<LienLigne> la(this);
+    const int place = ligne_.cursorPosition();
+    // Until the model has it, what the model holds is not shown.
+    enEdition_ = true;
+    const bool entre = Entre();
+    const Insertion filtree = la && entre ? Filtree(texte) : Insertion{};
+    if (!la) return;
+    enEdition_ = false;
+    if (!entre) return Binder().Pousser();
+    if (ligne_.text() != filtree.texte) {
+      ligne_.setText(filtree.texte);
+      ligne_.setCursorPosition(filtree.place < 0 ? place : static_cast<int>(filtree.place));
     }
-    Transmettre(filtre);
+    Transmettre(filtree.texte);
   }
 
   QLineEdit& ligne_;
   int longueurQt_;
+  bool enEdition_ = false;
 };
 
 class LienTexteLong : public LienSaisie {

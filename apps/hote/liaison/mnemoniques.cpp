@@ -9,6 +9,9 @@ namespace hote {
 
 namespace {
 
+// Who gets a letter first.
+enum Tour { Confirmer, HorsPages, SurPages };
+
 bool utilisable(QChar lettre) {
   return lettre.toLower() >= u'a' && lettre.toLower() <= u'z';
 }
@@ -42,18 +45,22 @@ Mnemoniques::Mnemoniques(const screen::Form& forme, const QSet<QChar>& pris) {
     return champ->Genre() == screen::Kind::Onglets;
   });
   std::map<const screen::Frame*, QSet<QChar>> prises{{nullptr, pris}};
-  // Those beside the tabs first: they are in view with every page.
-  for (const bool surPage : {false, true}) {
+  const auto donner = [&](const screen::Field& champ) {
+    QSet<QChar>& ici = prises[pageDe(champ, onglets)];
+    for (const QChar lettre : candidates(versQt(champ.Libelle()))) {
+      if (ici.contains(lettre) || prises[nullptr].contains(lettre)) continue;
+      ici.insert(lettre);
+      lettres_[&champ] = lettre;
+      return;
+    }
+  };
+  // The form's own OK first, then what stands beside the tabs, in view with every page.
+  for (const int tour : {Confirmer, HorsPages, SurPages}) {
     for (const screen::Field* const champ : champs) {
-      const screen::Frame* const page = pageDe(*champ, onglets);
-      if (champ->Genre() != screen::Kind::Bouton || (page != nullptr) != surPage) continue;
-      QSet<QChar>& ici = prises[page];
-      for (const QChar lettre : candidates(versQt(champ->Libelle()))) {
-        if (ici.contains(lettre) || prises[nullptr].contains(lettre)) continue;
-        ici.insert(lettre);
-        lettres_[champ] = lettre;
-        break;
-      }
+      if (champ->Genre() != screen::Kind::Bouton || lettres_.contains(champ)) continue;
+      const bool ok = champ->Nom() == "Cmd_OK" || champ->Nom() == "Cmd_Ok";
+      const bool page = pageDe(*champ, onglets) != nullptr;
+      if (tour == (ok ? Confirmer : page ? SurPages : HorsPages)) donner(*champ);
     }
   }
 }

@@ -17,7 +17,7 @@
 
 namespace data {
 
-// See data/echeances.h.
+// The values that an index holds of a contract: see data/echeances.h.
 std::vector<std::string> valeursEcheances(std::string_view contrat);
 
 struct Index {
