@@ -4,8 +4,10 @@
 #include <benchmark/benchmark.h>
 #include <libpq-fe.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -323,28 +325,48 @@ const std::vector<bench::Rapport> Rapports{
     {"1 ms away: a contract opened / one read", "loinOuvrir", "loinLire", 15},
 };
 
-// What the server's processes have used so far: seconds of processor, and megabytes of their own.
-struct Usage {
-  double secondes = 0;
-  double megaoctets = 0;
-};
-Usage usageServeur() {
-  Usage usage;
+// What each of the server's processes has used so far: nanoseconds of processor.
+using Processeur = std::map<std::string, double>;
+
+template <typename Visite>
+void parcourirServeur(const Visite& visite) {
   for (const auto& entree : std::filesystem::directory_iterator("/proc")) {
     std::ifstream stat(entree.path() / "stat");
     std::string ligne;
-    if (!std::getline(stat, ligne) || ligne.find("(postgres)") == std::string::npos) continue;
-    std::istringstream champs(ligne.substr(ligne.rfind(')') + 2));
-    std::string champ;
-    for (int i = 3; i <= 15 && champs >> champ; ++i) {
-      if (i >= 14) usage.secondes += std::stod(champ) / static_cast<double>(sysconf(_SC_CLK_TCK));
-    }
-    std::ifstream resume(entree.path() / "smaps_rollup");
-    while (std::getline(resume, ligne)) {
-      if (ligne.starts_with("Pss_Anon:")) usage.megaoctets += std::stod(ligne.substr(9)) / 1024;
+    if (std::getline(stat, ligne) && ligne.find("(postgres)") != std::string::npos) {
+      visite(entree.path());
     }
   }
-  return usage;
+}
+
+Processeur processeur() {
+  Processeur par;
+  parcourirServeur([&](const std::filesystem::path& processus) {
+    std::ifstream(processus / "schedstat") >> par[processus.string()];
+  });
+  return par;
+}
+
+// Milliseconds since then, of the processes that still live.
+double depuis(const Processeur& avant) {
+  double total = 0;
+  for (const auto& [processus, temps] : processeur()) {
+    const auto debut = avant.find(processus);
+    total += temps - (debut == avant.end() ? 0 : debut->second);
+  }
+  return total / 1e6;
+}
+
+// Megabytes of their own, which they share with nobody.
+double memoire() {
+  double total = 0;
+  parcourirServeur([&](const std::filesystem::path& processus) {
+    std::ifstream resume(processus / "smaps_rollup");
+    for (std::string ligne; std::getline(resume, ligne);) {
+      if (ligne.starts_with("Pss_Anon:")) total += std::stod(ligne.substr(9)) / 1024;
+    }
+  });
+  return total;
 }
 
 // A clerk's day: so many lists, openings and saves in seven hours.
@@ -368,7 +390,7 @@ void simuler(int postes) {
                            });
                            for (const char* cle : Ecrits) c.Stockage().Put("ETRANGER", cle, texte);
                          }}};
-  const Usage vide = usageServeur();
+  const double vide = memoire();
   std::vector<std::unique_ptr<Clerc>> clercs;
   for (int i = 0; i < postes; ++i) {
     clercs.push_back(std::make_unique<Clerc>(adresse()));
@@ -378,20 +400,22 @@ void simuler(int postes) {
   }
   double parJour = 0;
   for (const Acte& acte : actes) {
-    constexpr int Fois = 1000;
-    const double avant = usageServeur().secondes;
+    constexpr int Fois = 2000;
+    const Processeur avant = processeur();
+    const auto debut = std::chrono::steady_clock::now();
     for (int i = 0; i < Fois; ++i) {
       acte.faire(*clercs[static_cast<std::size_t>(i) % clercs.size()]);
     }
-    const double un = (usageServeur().secondes - avant) / Fois;
+    const double un = depuis(avant) / Fois;
+    const std::chrono::duration<double, std::milli> duree =
+        std::chrono::steady_clock::now() - debut;
     parJour += un * acte.parJour;
-    std::printf("%4d postes, %-14s : %.3f ms de processeur du serveur\n", postes, acte.nom,
-                un * 1e3);
+    std::printf("%4d postes, %-14s : %.3f ms de processeur du serveur, %.3f ms en tout\n", postes,
+                acte.nom, un, duree.count() / Fois);
   }
-  const Usage plein = usageServeur();
-  constexpr double Journee = 7 * 3600;
-  std::printf("%4d postes : %.1f Mo par poste, %.2f %% d'un processeur en journée\n", postes,
-              (plein.megaoctets - vide.megaoctets) / postes, 100 * postes * parJour / Journee);
+  constexpr double Journee = 7 * 3600 * 1e3;
+  std::printf("%4d postes : %.1f Mo par poste, %.3f %% d'un processeur en journée\n", postes,
+              (memoire() - vide) / postes, 100 * postes * parJour / Journee);
 }
 
 }  // namespace
