@@ -18,10 +18,10 @@
 #include "data/layouts/voisins.h"
 #include "demo/generateur.h"
 #include "rapports.h"
-#include "relais.h"
 #include "screen/headless/hote.h"
 #include "screen/user.h"
 #include "storage/postgres.h"
+#include "support/relais.h"
 #include "support/serveur.h"
 
 namespace {
@@ -272,7 +272,7 @@ struct Loin {
     return base.replace(hote, std::string::npos, dossier.Dossier().string());
   }
   support::TempDir dossier;
-  bench::Relais relais;
+  support::Relais relais;
 };
 
 void aLaLigne(benchmark::State& state, const char* aidant,

@@ -1,4 +1,4 @@
-#include "relais.h"
+#include "support/relais.h"
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -10,7 +10,7 @@
 #include <mutex>
 #include <stdexcept>
 
-namespace bench {
+namespace support {
 
 namespace {
 
@@ -29,8 +29,9 @@ int prise() {
   return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 }
 
-// One way of one connection: what is read now is written after the delay, in order.
-void porter(int de, int vers, std::chrono::microseconds delai) {
+// One way of one connection: what is read now is written after the delay, in order. `perdre`, if
+// any, asks for the next of it to be lost, with the connection.
+void porter(int de, int vers, std::chrono::microseconds delai, std::atomic<bool>* perdre) {
   struct Envoi {
     Horloge::time_point heure;
     std::string octets;
@@ -42,6 +43,7 @@ void porter(int de, int vers, std::chrono::microseconds delai) {
     char tampon[65536];
     for (ssize_t lus = 1; lus > 0;) {
       lus = read(de, tampon, sizeof tampon);
+      if (perdre != nullptr && perdre->exchange(false)) lus = 0;
       const std::lock_guard<std::mutex> garde(verrou);
       envois.push_back({Horloge::now() + delai,
                         std::string(tampon, lus > 0 ? static_cast<std::size_t>(lus) : 0)});
@@ -66,8 +68,7 @@ void porter(int de, int vers, std::chrono::microseconds delai) {
     }
     ouvert = !envoi.octets.empty() && ecrits == envoi.octets.size();
   }
-  shutdown(vers, SHUT_WR);
-  shutdown(de, SHUT_RD);
+  for (const int bout : {de, vers}) shutdown(bout, SHUT_RDWR);
   lecture.join();
 }
 
@@ -92,11 +93,20 @@ Relais::~Relais() {
   close(ecoute_);
 }
 
+void Relais::PerdreLaReponse(bool pourDeBon) {
+  perdre_ = true;
+  ferme_ = pourDeBon;
+}
+
 void Relais::Accueillir() {
   while (!fini_) {
     pollfd attente{ecoute_, POLLIN, 0};
     if (poll(&attente, 1, 50) <= 0) continue;
     const int client = accept(ecoute_, nullptr, nullptr);
+    if (ferme_) {
+      close(client);
+      continue;
+    }
     const int serveur = prise();
     const sockaddr_un lieu = adresse(la_);
     prises_.insert(prises_.end(), {client, serveur});
@@ -104,9 +114,9 @@ void Relais::Accueillir() {
       shutdown(client, SHUT_RDWR);
       continue;
     }
-    fils_.emplace_back([=, this] { porter(client, serveur, moitie_); });
-    fils_.emplace_back([=, this] { porter(serveur, client, moitie_); });
+    fils_.emplace_back([=, this] { porter(client, serveur, moitie_, nullptr); });
+    fils_.emplace_back([=, this] { porter(serveur, client, moitie_, &perdre_); });
   }
 }
 
-}  // namespace bench
+}  // namespace support

@@ -1,6 +1,6 @@
 #pragma once
-// A line with a delay, on this machine: whoever connects to the relay's socket talks to the server
-// behind it, and each way takes half the delay. A trip there and back takes all of it.
+// A line to a server, on this machine: whoever connects to the relay's socket talks to the server
+// behind it. It can be slow, each way taking half of its delay, and it can break.
 
 #include <atomic>
 #include <chrono>
@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace bench {
+namespace support {
 
 class Relais {
  public:
@@ -16,6 +16,8 @@ class Relais {
   // to the one in `la`.
   Relais(const std::string& ici, const std::string& la, std::chrono::microseconds delai);
   ~Relais();
+  // The next answer of the server is lost with its connection. With `pourDeBon` none is made anew.
+  void PerdreLaReponse(bool pourDeBon = false);
   Relais(const Relais&) = delete;
   Relais& operator=(const Relais&) = delete;
 
@@ -26,9 +28,11 @@ class Relais {
   std::chrono::microseconds moitie_;
   int ecoute_;
   std::atomic<bool> fini_ = false;
+  std::atomic<bool> perdre_ = false;
+  std::atomic<bool> ferme_ = false;
   std::vector<std::thread> fils_;
   std::vector<int> prises_;
   std::thread accueil_;
 };
 
-}  // namespace bench
+}  // namespace support
