@@ -32,6 +32,11 @@ void AnnoncerGardes(Frm_ElementsContrat& editeur, data::Route& route) {
     annonces.push_back({f::TPSDETAILSINTERV, {}, {aidant}});
     annonces.push_back({f::TPSPARAM, {data::TpsParam::Cle}, {}});
   }
+  const session::Dossier& dossier = editeur.Dossier();
+  if (!dossier.ModeCreation) {
+    annonces.push_back({f::PROFIL, {dossier.ItemContrat(C::Profil)}, {}});
+    annonces.push_back({f::RUBCHARGE, {}, {KeyRange::Tout()}});
+  }
   route.Annoncer(annonces);
 }
 

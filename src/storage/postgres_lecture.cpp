@@ -33,12 +33,14 @@ constexpr Ordre kPlage{"plage",
 // Each with the signature, also where there is no row: only under the right one do entries count.
 constexpr Ordre kCompterEntrees{
     "compter_entrees",
-    "SELECT (SELECT signature FROM contrats.etat), (SELECT count(*) FROM (SELECT 1 FROM "
+    "SELECT (SELECT signature FROM contrats.etat WHERE ligne = 1), (SELECT count(*) FROM (SELECT 1 "
+    "FROM "
     "contrats.entree WHERE indice = $1::int8 AND valeur >= $2::bytea AND valeur < $3::bytea "
     "LIMIT $4::int8) e)"};
 constexpr Ordre kCompterCles{
     "compter_cles",
-    "SELECT (SELECT signature FROM contrats.etat), (SELECT count(*) FROM (SELECT 1 FROM "
+    "SELECT (SELECT signature FROM contrats.etat WHERE ligne = 1), (SELECT count(*) FROM (SELECT 1 "
+    "FROM "
     "contrats.article WHERE fichier = $1::bytea AND cle >= $2::bytea AND cle < $3::bytea "
     "LIMIT $4::int8) a)"};
 constexpr Ordre kPoignees{
@@ -46,18 +48,18 @@ constexpr Ordre kPoignees{
     "SELECT s.signature, e.cle, a.texte, a.controle FROM contrats.etat s "
     "LEFT JOIN (SELECT cle FROM contrats.entree WHERE indice = $2::int8 AND valeur >= $3::bytea "
     "AND valeur < $4::bytea LIMIT $5::int8) e ON true "
-    "LEFT JOIN contrats.article a ON a.fichier = $1::bytea AND a.cle = e.cle"};
+    "LEFT JOIN contrats.article a ON a.fichier = $1::bytea AND a.cle = e.cle WHERE s.ligne = 1"};
 constexpr Ordre kParValeur{
     "par_valeur",
     "SELECT s.signature, a.cle, a.texte, a.controle FROM contrats.etat s "
     "LEFT JOIN contrats.article a ON a.fichier = $1::bytea AND a.cle = ANY(ARRAY("
     "SELECT e.cle FROM contrats.entree e WHERE e.indice = $2::int8 AND e.valeur >= $3::bytea "
-    "AND e.valeur < $4::bytea))"};
+    "AND e.valeur < $4::bytea)) WHERE s.ligne = 1"};
 constexpr Ordre kParCle{
     "par_cle",
     "SELECT s.signature, a.cle, a.texte, a.controle FROM contrats.etat s "
     "LEFT JOIN contrats.article a ON a.fichier = $1::bytea AND a.cle >= $2::bytea "
-    "AND a.cle < $3::bytea"};
+    "AND a.cle < $3::bytea WHERE s.ligne = 1"};
 
 // Above every text that is valid UTF-8.
 constexpr std::string_view kFinDeTout = "\xFF";

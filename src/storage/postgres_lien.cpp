@@ -16,6 +16,9 @@ namespace {
 
 constexpr int kBinaire = 1;
 constexpr int kAttenteConnexionMs = 10000;
+// Orders after which statements are planned anew, and how much later each time.
+constexpr long kPremierPlan = 100;
+constexpr long kPasPlan = 4;
 constexpr std::uint32_t kTypeOctets = 17;
 constexpr std::uint32_t kTypeEntier = 20;
 // Of the first server whose statements are all that is asked of one here.
@@ -176,6 +179,8 @@ void Lien::Connecter(const Acte& acte) {
   valeurs.push_back(nullptr);
   prepares_.clear();
   attendus_.clear();
+  envois_ = 0;
+  prochainPlan_ = kPremierPlan;
   connexion_.reset(PQconnectStartParams(noms.data(), valeurs.data(), 1));
   PGconn* const c = connexion_.get();
   if (c == nullptr) throw erreurConnexion("", adresse_, acte);
@@ -196,14 +201,28 @@ void Lien::Connecter(const Acte& acte) {
   Regler();
 }
 
+// What an engine does not know, it does without.
 void Lien::Regler() {
   const Acte acte{"Ouverture de"};
-  const std::string verrou = "SET lock_timeout = " + std::to_string(attenteMs_);
-  Envoyer({"", verrou.c_str()}, {}, acte);
-  // A station that is switched off in the middle of a write does not keep the others waiting.
-  Envoyer({"", "SET idle_in_transaction_session_timeout = 60000"}, {}, acte);
-  Attendre();
-  --voyages_;
+  const std::string reglages[] = {
+      "SET lock_timeout = " + std::to_string(attenteMs_),
+      // A station that is switched off in the middle of a write does not keep the others waiting.
+      "SET idle_in_transaction_session_timeout = 60000",
+      // By their keys, always: a scan of a small table would stand in every other writer's way.
+      "SET enable_seqscan = off",
+      // It takes longer than any statement of ours.
+      "SET jit = off",
+  };
+  const long avant = voyages_;
+  for (const std::string& reglage : reglages) {
+    try {
+      Envoyer({"", reglage.c_str()}, {}, acte);
+      Attendre();
+    } catch (const PanneServeur& panne) {
+      if (panne.Coupure()) throw;
+    }
+  }
+  voyages_ = avant;
 }
 
 int Lien::VersionServeur() const {
@@ -248,9 +267,11 @@ void Lien::Envoyer(const Ordre& ordre, const Parametres& parametres, const Acte&
   PGconn* const c = connexion_.get();
   if (c == nullptr) throw erreurCoupure(adresse_, acte);
   const bool nomme = *ordre.nom != '\0';
+  if (nomme && ++envois_ == prochainPlan_) Replanifier(acte);
+  const std::string nom = nomme ? ordre.nom + std::to_string(generation_) : std::string();
   if (nomme && !prepares_.contains(ordre.nom)) {
     Noter(ordre.nom, acte);
-    if (PQsendPrepare(c, ordre.nom, ordre.sql, 0, nullptr) == 0) Couper();
+    if (PQsendPrepare(c, nom.c_str(), ordre.sql, 0, nullptr) == 0) Couper();
     prepares_.insert(ordre.nom);
   }
   std::vector<const char*> valeurs;
@@ -262,11 +283,23 @@ void Lien::Envoyer(const Ordre& ordre, const Parametres& parametres, const Acte&
   const std::vector<int> formats(valeurs.size(), kBinaire);
   const int nombre = static_cast<int>(valeurs.size());
   Noter(nullptr, acte);
-  const int envoye = nomme ? PQsendQueryPrepared(c, ordre.nom, nombre, valeurs.data(),
+  const int envoye = nomme ? PQsendQueryPrepared(c, nom.c_str(), nombre, valeurs.data(),
                                                  longueurs.data(), formats.data(), kBinaire)
                            : PQsendQueryParams(c, ordre.sql, nombre, nullptr, valeurs.data(),
                                                longueurs.data(), formats.data(), kBinaire);
   if (envoye == 0) Couper();
+}
+
+// A plan that was good for the tables of a new base is not when they have grown under it.
+void Lien::Replanifier(const Acte& acte) {
+  prochainPlan_ *= kPasPlan;
+  ++generation_;
+  prepares_.clear();
+  Noter("", acte);
+  if (PQsendQueryParams(connexion_.get(), "DEALLOCATE ALL", 0, nullptr, nullptr, nullptr, nullptr,
+                        kBinaire) == 0) {
+    Couper();
+  }
 }
 
 void Lien::Partir() {

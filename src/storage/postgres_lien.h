@@ -92,7 +92,7 @@ class Lien {
 
  private:
   struct Attendu {
-    const char* prepare;  // the statement that this answer says is prepared; null for an order
+    const char* prepare;  // null for an order; else what was prepared, "" when all was let go of
     std::string acte;
     std::string fichier;
     std::string cle;
@@ -104,6 +104,7 @@ class Lien {
   void Connecter(const Acte& acte);
   void Regler();
   bool Vivant();
+  void Replanifier(const Acte& acte);
   void Noter(const char* prepare, const Acte& acte);
   [[noreturn]] void Couper();
 
@@ -114,6 +115,9 @@ class Lien {
   std::deque<Attendu> attendus_;
   std::set<std::string_view> prepares_;
   long voyages_ = 0;
+  long envois_ = 0;  // over this connection
+  long prochainPlan_ = 0;
+  int generation_ = 0;  // of the statements that are prepared
 };
 
 }  // namespace storage

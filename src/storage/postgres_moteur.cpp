@@ -68,7 +68,8 @@ constexpr Ordre kPoserEntrees{
 // A program with other indexes cannot know of what is written here.
 constexpr Ordre kPerimer{
     "perimer",
-    "UPDATE contrats.etat SET signature = 0 WHERE signature <> $1::int8 AND signature <> 0"};
+    "UPDATE contrats.etat SET signature = 0 WHERE ligne = 1 AND signature <> $1::int8 "
+    "AND signature <> 0"};
 
 constexpr const char* kIncertain =
     "la liaison avec le serveur est coupée, et on ne sait pas si cette écriture est faite. "

@@ -49,7 +49,7 @@ void Veille::Suivre(const Connexion& connexion) {
 }
 
 // A new mark stands beside the log that it names; until that one is begun, beside the former log,
-// which is the one that was seen last.
+// which it names, too. Others may have begun several logs since the last look.
 bool Veille::MarqueTient() const {
   const auto marque = lireMarque(connexion_->Fichier());
   if (!marque) return true;  // damaged: the next read says so
@@ -59,7 +59,7 @@ bool Veille::MarqueTient() const {
     marque_ = *marque;
     return true;
   }
-  return marque->precedent == marque_.journal && (!sels || *sels == marque->precedent);
+  return marque->precedent == sels.value_or(marque_.journal);
 }
 
 bool Veille::Substitue() const {

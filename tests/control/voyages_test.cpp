@@ -153,6 +153,34 @@ TEST_F(VoyagesPostgres, OpeningAContract) {
   }
 }
 
+// A contract on file, whose marks stand: one record, with what must be read before it.
+TEST_F(VoyagesPostgres, ChangingAContract) {
+  std::string cle;
+  serveur_->Scan("CONTRAT", data::KeyRange::Tout(), [&](std::string_view k, std::string_view t) {
+    const data::CItem contrat(t);
+    cle = k;
+    return contrat(C::Convention) == "02" || contrat(C::DateFin) != "" || contrat(C::Annule) == "O";
+  });
+  Afficher(cle.substr(0, 5));
+  long voyages = 0;
+  const char* taux = "12,31";
+  acte_ = [&](screen::Form& form) {
+    auto& editeur = dynamic_cast<editor::Frm_ElementsContrat&>(form);
+    screen::User user(form);
+    user.Onglet(editeur.Ong_Contrat, editor::Caracteristiques);
+    user.Taper(*editeur.Find("Txt_TauxHorContrat"), taux);
+    compte_.ecritures = 0;
+    voyages = Voyages([&] { user.Cliquer(editeur.Cmd_OK); });
+    EXPECT_FALSE(form.Visible());
+  };
+  controle_->W_CodeContrat = cle;
+  controle_->Appel_Contrat();
+  taux = "12,32";
+  controle_->Appel_Contrat();
+  EXPECT_EQ(compte_.ecritures, 1);
+  EXPECT_LE(voyages, 4);
+}
+
 TEST_F(VoyagesPostgres, SavingAContract) {
   Afficher("90000");
   long voyages = 0;

@@ -17,6 +17,7 @@
 #include "storage/adresse.h"
 #include "storage/ouvrir.h"
 #include "storage/postgres_erreur.h"
+#include "support/relais.h"
 #include "support/serveur.h"
 
 namespace {
@@ -258,6 +259,39 @@ TEST_F(Postgres, ALineCutInABlockLeavesNothingOfIt) {
   }
   store->EnUnBloc([&] { store->Put("CONTRAT", "0", "b"); });
   EXPECT_EQ(essai::anciens(*store, "CONTRAT", "0"), "1:a");
+}
+
+// The server did the write, and the line broke before it could say so.
+TEST_F(Postgres, AnAnswerThatIsLostIsNoWriteThatIsLost) {
+  support::TempDir ici;
+  const std::size_t hote = adresse_.find("host=") + 5;
+  support::Relais relais(ici.Dossier().string(), adresse_.substr(hote), {});
+  const auto store =
+      PostgresStorage::Ouvrir(adresse_.substr(0, hote) + ici.Dossier().string(), poste_);
+  int tours = 0;
+  store->EnUnBloc([&] {
+    ++tours;
+    store->Put("CONTRAT", "0", "b");
+    store->Put("PAYS", "1", "p");
+    relais.PerdreLaReponse();
+  });
+  EXPECT_EQ(tours, 1);
+  relais.PerdreLaReponse();
+  store->Put("CONTRAT", "0", "c");
+  EXPECT_EQ(etat(*store), "CONTRAT[0=c] PAYS[1=p]");
+  EXPECT_EQ(essai::anciens(*store, "CONTRAT", "0"), "1:a 2:b");
+  const std::function<void()> actes[] = {
+      [&] { store->EnUnBloc([&] { store->Put("CONTRAT", "0", "d"); }); },
+      [&] { store->Put("CONTRAT", "0", "d"); },
+  };
+  relais.PerdreLaReponse(true);
+  std::string message;
+  EXPECT_EQ(refus([&] { actes[0](); }, &message), "EntreeSortie");
+  EXPECT_NE(message.find("on ne sait pas si cette écriture est faite"), std::string::npos)
+      << message;
+  EXPECT_EQ(refus([&] { actes[1](); }), "EntreeSortie CONTRAT 0");
+  const auto autre = Ouvrir();
+  EXPECT_EQ(etat(*autre), "CONTRAT[0=d] PAYS[1=p]");
 }
 
 TEST_F(Postgres, AServerThatIsDownIsToldAndFoundAgain) {

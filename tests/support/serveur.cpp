@@ -33,7 +33,7 @@ Serveur& Serveur::Commun() {
   return serveur;
 }
 
-Serveur::Serveur() {
+Serveur::Serveur(int postes) : postes_(postes) {
   std::filesystem::permissions(dossier_.Dossier(), std::filesystem::perms(0755));
   std::filesystem::create_directory(donnees_);
   if (const passwd* const autre = geteuid() == 0 ? getpwnam("nobody") : nullptr) {
@@ -78,7 +78,7 @@ std::string Serveur::Sql(const std::string& base, const std::string& sql) const 
 
 void Serveur::Demarrer() {
   serveur_ = Lancer({"postgres", "-D", donnees_, "-k", donnees_, "-c", "listen_addresses=", "-c",
-                     "fsync=off", "-c", "max_connections=60"});
+                     "fsync=off", "-c", "max_connections=" + std::to_string(postes_)});
   constexpr int kEssais = 600;
   for (int essai = 0; essai < kEssais; ++essai) {
     try {

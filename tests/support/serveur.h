@@ -18,7 +18,8 @@ class Serveur {
  public:
   static Serveur& Commun();
 
-  Serveur();
+  // For at most so many stations at once.
+  explicit Serveur(int postes = 60);
   ~Serveur() { Arreter(SIGQUIT); }
   Serveur(const Serveur&) = delete;
   Serveur& operator=(const Serveur&) = delete;
@@ -48,6 +49,7 @@ class Serveur {
   gid_t groupe_ = 0;
   pid_t serveur_ = 0;
   pid_t proprietaire_ = getpid();
+  int postes_;
   int bases_ = 0;
 };
 

@@ -303,6 +303,10 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
 
 QStringList capturerFormes(const QString& fichier, const std::string& aidant,
                            const QString& dossier, const QSize& taille, bool sombre) {
+  if (surServeur(fichier)) {
+    throw std::runtime_error(
+        "--captures : les images se font d'un fichier de données, non d'un serveur.");
+  }
   const QTemporaryDir essai;
   const QString copie = essai.filePath(QFileInfo(fichier).fileName());
   storage::copierFichier(versModele(fichier), versModele(copie));
