@@ -1,6 +1,6 @@
 // bench_hote: what a user waits for at the screen. --dossier=DIR says where the data files stand;
-// of the words demarrage, touches, liste, frise, suivi, papier and rapport, those given are measured,
-// else all.
+// of the words demarrage, touches, liste, frise, suivi, papier and rapport those given are
+// measured, else all.
 
 #include <QApplication>
 #include <algorithm>
