@@ -37,8 +37,8 @@ struct Options {
   unsigned graine = std::random_device{}();
 };
 
-// All stations work on the same few carers, and go on to the next ones before their numbers, 999 for
-// each, are all given.
+// All stations work on the same few carers, and go on to the next ones before their numbers, 999
+// for each, are all given.
 constexpr int AidantsDemo = 40;
 constexpr std::size_t Ensemble = 4;
 constexpr int SecondesEnsemble = 8;
