@@ -143,6 +143,7 @@ std::vector<data::FichierCompte> PostgresStorage::Fichiers() {
   const auto reponses = moteur_->Interroger(
       kComptage, 1, [&] { moteur_->LaLigne().Envoyer(kFichiers, {}, kComptage); });
   std::vector<data::FichierCompte> comptes;
+  comptes.reserve(static_cast<std::size_t>(reponses.front().Lignes()));
   for (int i = 0; i < reponses.front().Lignes(); ++i) {
     comptes.push_back({std::string(reponses.front().Texte(i, 0)),
                        static_cast<long>(reponses.front().Nombre(i, 1))});
@@ -157,6 +158,7 @@ std::vector<data::AncienTexte> PostgresStorage::Historique(std::string_view fich
     moteur_->LaLigne().Envoyer(kAnciens, Parametres().Texte(fichier).Texte(cle), acte);
   });
   std::vector<data::AncienTexte> anciens;
+  anciens.reserve(static_cast<std::size_t>(reponses.front().Lignes()));
   for (int i = 0; i < reponses.front().Lignes(); ++i) {
     anciens.push_back(ancien(reponses.front(), i, 0, fichier, cle, Adresse()));
   }

@@ -72,11 +72,10 @@ void PostgresStorage::Controleur::Table(const Ordre& ordre, bool anciens,
       cle = page.Texte(i, 1);
       numero = page.Nombre(i, 2);
       if (page.Nombre(i, 4) == controleArticle(fichier, cle, page.Texte(i, 3))) continue;
-      const std::string quoi =
+      std::string message =
           anciens ? "L'ancien texte " + std::to_string(numero) + " de l'article" : "L'article";
-      signaler({fichier, cle,
-                quoi + " « " + cle + " » du fichier " + fichier +
-                    " ne se relit pas tel qu'il a été écrit."});
+      message.append(" « ").append(cle).append(" » du fichier ").append(fichier);
+      signaler({fichier, cle, message += " ne se relit pas tel qu'il a été écrit."});
     }
     lus += page.Lignes();
     if (avance) avance(lus);

@@ -22,6 +22,7 @@
 #include "data/db.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/voisins.h"
+#include "demo/generateur.h"
 #include "pilote/programme.h"
 #include "storage/ouvrir.h"
 #include "support/serveur.h"
@@ -36,7 +37,11 @@ struct Options {
   unsigned graine = std::random_device{}();
 };
 
-constexpr const char* Aidants[] = {"00003", "00004", "00005", "00006"};
+// All stations work on the same few carers, and go on to the next ones before their numbers, 999
+// for each, are all given.
+constexpr int AidantsDemo = 40;
+constexpr std::size_t Ensemble = 4;
+constexpr int SecondesEnsemble = 8;
 constexpr int PremierEmployeur = 99100;
 // Of the contracts that all stations change.
 constexpr int Commun = PremierEmployeur + 99;
@@ -73,23 +78,35 @@ std::string remplacer(std::string texte, const std::string& mot, const std::stri
 
 class Poste {
  public:
-  Poste(const Options& options, std::string base, int numero, std::ostream& journal)
+  Poste(const Options& options, std::string base, int numero, std::vector<std::string> aidants,
+        std::ostream& journal)
       : options_(options),
         base_(std::move(base)),
         numero_(numero),
+        aidants_(std::move(aidants)),
         journal_(journal),
         hasard_(options.graine + static_cast<unsigned>(numero)) {}
 
   void Travailler() {
-    const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(options_.secondes);
-    while (std::chrono::steady_clock::now() < fin) UnActe();
+    using Horloge = std::chrono::steady_clock;
+    const auto debut = Horloge::now();
+    while (Horloge::now() < debut + std::chrono::seconds(options_.secondes)) {
+      premier_ = static_cast<std::size_t>((Horloge::now() - debut) /
+                                          std::chrono::seconds(SecondesEnsemble)) *
+                 Ensemble;
+      UnActe();
+    }
   }
 
-  // Before the storm: what all stations then change at once.
-  void CreerCommuns() {
-    for (const char* const aidant : Aidants) {
-      Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurCommun()));
+  // Before the storm: what all stations then change at once. The carers who can have it.
+  std::vector<std::string> CreerCommuns() {
+    std::vector<std::string> aidants;
+    for (const std::string& aidant : aidants_) {
+      if (Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurCommun()))) {
+        aidants.push_back(aidant);
+      }
     }
+    return aidants;
   }
 
  private:
@@ -97,7 +114,7 @@ class Poste {
 
   // One act of a clerk, on a contract as its own last acts left it.
   void UnActe() {
-    const std::string aidant = Aidants[Tirer(std::size(Aidants))];
+    const std::string& aidant = aidants_[(premier_ + Tirer(Ensemble)) % aidants_.size()];
     Etat& etat = etats_[aidant];
     if (etat.contrat.empty()) {
       if (!Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurDe(numero_))))
@@ -156,12 +173,14 @@ class Poste {
   const Options& options_;
   std::string base_;
   int numero_;
+  std::vector<std::string> aidants_;
   std::ostream& journal_;
   std::mt19937 hasard_;
+  std::size_t premier_ = 0;  // of the carers that the stations work on now
   std::map<std::string, Etat> etats_;
 };
 
-void preparer(const std::string& base, const Options& options) {
+std::vector<std::string> preparer(const std::string& base, const Options& options) {
   const data::PosteFixe poste(21511);
   const auto magasin = storage::ouvrir(base, poste);
   for (int p = 0; p <= options.postes; ++p) {
@@ -171,7 +190,9 @@ void preparer(const std::string& base, const Options& options) {
                  employeur.Text());
   }
   std::ostringstream journal;
-  Poste(options, base, 0, journal).CreerCommuns();
+  std::vector<std::string> aidants;
+  for (int n = 1; n <= AidantsDemo; ++n) aidants.push_back(demo::codePersonne(n));
+  return Poste(options, base, 0, std::move(aidants), journal).CreerCommuns();
 }
 
 // What the stations were told, held against what stands. The number of faults. A change alone may
@@ -223,12 +244,16 @@ int controler(const std::string& base, const std::string& journaux, int postes) 
 int tempete(const Options& options, const std::string& base) {
   std::istringstream entree;
   std::ostringstream sortie;
-  if (base::executer({"demo", base, "--aidants", "40", "--graine", "1"}, entree, sortie, sortie) !=
-      0) {
+  if (base::executer({"demo", base, "--aidants", std::to_string(AidantsDemo), "--graine", "1"},
+                     entree, sortie, sortie) != 0) {
     std::cout << sortie.str();
     return 1;
   }
-  preparer(base, options);
+  const std::vector<std::string> aidants = preparer(base, options);
+  if (aidants.size() < Ensemble) {
+    std::cout << "FAUTE : les contrats communs ne se créent pas\n";
+    return 1;
+  }
   const support::TempDir dossier;
   const std::string journaux = dossier.Chemin("journal");
   std::vector<pid_t> postes;
@@ -236,7 +261,7 @@ int tempete(const Options& options, const std::string& base) {
     const pid_t enfant = fork();
     if (enfant == 0) {
       std::ofstream journal(journaux + std::to_string(p));
-      Poste(options, base, p, journal).Travailler();
+      Poste(options, base, p, aidants, journal).Travailler();
       _exit(0);
     }
     postes.push_back(enfant);
