@@ -12,6 +12,7 @@
 #include "screen/headless/hote.h"
 #include "screen/user.h"
 #include "storage/postgres.h"
+#include "support/relais_storage.h"
 #include "support/serveur.h"
 
 namespace {
@@ -19,50 +20,20 @@ namespace {
 namespace C = data::Contrat;
 
 // The store on the server, and how much was written to it.
-class Compte : public data::Storage {
+class Compte : public support::RelaisStorage {
  public:
-  explicit Compte(data::Storage& dessous) : dessous_(dessous) {}
+  using RelaisStorage::RelaisStorage;
 
   int ecritures = 0;
 
-  bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
-    return dessous_.Get(fichier, cle, texte);
-  }
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
     ++ecritures;
-    dessous_.Put(fichier, cle, texte);
+    RelaisStorage::Put(fichier, cle, texte);
   }
   bool Erase(std::string_view fichier, std::string_view cle) override {
     ++ecritures;
-    return dessous_.Erase(fichier, cle);
+    return RelaisStorage::Erase(fichier, cle);
   }
-  void Scan(std::string_view fichier, const data::KeyRange& cles,
-            const Visiteur& visiteur) override {
-    dessous_.Scan(fichier, cles, visiteur);
-  }
-  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
-                                     std::size_t plafond) override {
-    return dessous_.Compter(fichier, chemin, plafond);
-  }
-  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
-                   const Visiteur& visiteur) override {
-    return dessous_.ScanChemins(fichier, chemins, visiteur);
-  }
-  std::vector<data::FichierCompte> Fichiers() override { return dessous_.Fichiers(); }
-  std::vector<data::AncienTexte> Historique(std::string_view fichier,
-                                            std::string_view cle) override {
-    return dessous_.Historique(fichier, cle);
-  }
-  void EnUnBloc(const std::function<void()>& travail) override { dessous_.EnUnBloc(travail); }
-  bool ALaLigne() const override { return dessous_.ALaLigne(); }
-  void DebuterRoute() override { dessous_.DebuterRoute(); }
-  void FinirRoute() noexcept override { dessous_.FinirRoute(); }
-  void Annoncer(const std::vector<data::Annonce>& annonces) override {
-    dessous_.Annoncer(annonces);
-  }
-
- private:
-  data::Storage& dessous_;
 };
 
 class VoyagesPostgres : public testing::Test {

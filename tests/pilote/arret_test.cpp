@@ -1,4 +1,5 @@
-// The pilot's process is killed next to every write of a save or a deletion, on a real file.
+// The pilot's process is killed next to every write of a save or a deletion, on a real file and on
+// a server.
 // What was acknowledged stands, nothing else does: the contract with its number and its link, or
 // nothing at all. The data tool accepts the file, and the next process brings the work to its end.
 
@@ -13,8 +14,9 @@
 
 #include "base_demo.h"
 #include "pilote/programme.h"
-#include "storage/sqlite.h"
+#include "storage/ouvrir.h"
 #include "support/killing_storage.h"
+#include "support/serveur.h"
 #include "support/temp_dir.h"
 
 namespace pilote {
@@ -48,17 +50,23 @@ struct Route {
 
 struct Modification;
 
-class Arret : public testing::Test {
+// On "fichier" or "postgres".
+class Arret : public testing::TestWithParam<const char*> {
  protected:
   Arret() {
+    if (SurServeur()) base = Serveur().NouvelleBase();
     creerBaseDemo(base);
     initial = Lire(base);
   }
 
+  static support::Serveur& Serveur() { return support::Serveur::Commun(); }
+  static bool SurServeur() { return GetParam() == std::string("postgres"); }
   static Etat Lire(const std::string& chemin) {
     Etat etat;
     const data::PosteSysteme poste;
-    const auto stockage = storage::SqliteStorage::OuvrirEnLecture(chemin, poste);
+    storage::OptionsOuverture options;
+    options.lecture = true;
+    const auto stockage = storage::ouvrir(chemin, poste, options);
     for (const auto& fichier : stockage->Fichiers()) {
       stockage->Scan(fichier.nom, data::KeyRange::Tout(), [&](auto cle, auto texte) {
         etat[fichier.nom + " " + std::string(cle)] = texte;
@@ -108,8 +116,12 @@ class Arret : public testing::Test {
       std::filesystem::copy_file(source + "-wal", copie + "-wal");
     }
   }
-  void Remettre() const {
-    Copier(base, essai);
+  void Remettre() {
+    if (SurServeur()) {
+      essai = Serveur().Copie(base);
+    } else {
+      Copier(base, essai);
+    }
     std::filesystem::remove(journal);
   }
 
@@ -207,13 +219,13 @@ void Arret::Continuer(const Route& route) {
   EXPECT_EQ(Nouveaux().find("CONTRAT\t" + route.aidant + route.suivant), std::string::npos);
 }
 
-TEST_F(Arret, PendantLaRepriseDUnContrat) {
+TEST_P(Arret, PendantLaRepriseDUnContrat) {
   EprouverArrets({"00003", "Reprise", "002", "003"});
 }
 
 // Contract, mark of the follow-up, mark of the index, then the amendment in it: what stands is a
 // beginning of that order, and the next amendment follows whatever was lost.
-TEST_F(Arret, PendantLAjoutDUnAvenant) {
+TEST_P(Arret, PendantLAjoutDUnAvenant) {
   const Route route{"00007", "Avenant", "001", ""};
   const auto ajouter = [&route](const char* effet) {
     std::string scenario = route.creation;
@@ -239,7 +251,7 @@ TEST_F(Arret, PendantLAjoutDUnAvenant) {
   }
 }
 
-TEST_F(Arret, PendantLaCreationPourUnParticulier) {
+TEST_P(Arret, PendantLaCreationPourUnParticulier) {
   EprouverArrets({"00002", "Particulier", "001", "002"});
 }
 
@@ -331,9 +343,12 @@ void Arret::EprouverModification(const Modification& m) {
   }
 }
 
-TEST_F(Arret, PendantUneModification) {
+TEST_P(Arret, PendantUneModification) {
   for (const Modification& m : Modifications) EprouverModification(m);
 }
+
+INSTANTIATE_TEST_SUITE_P(Sur, Arret, testing::Values("fichier", "postgres"),
+                         [](const auto& sur) { return std::string(sur.param); });
 
 }  // namespace
 }  // namespace pilote

@@ -40,7 +40,10 @@ class KillingStorage : public RelaisStorage {
   }
   void EnUnBloc(const std::function<void()>& travail) override {
     enBloc_ = true;
-    RelaisStorage::EnUnBloc(travail);
+    RelaisStorage::EnUnBloc([&] {
+      enAttente_.clear();
+      travail();
+    });
     enBloc_ = false;
     Acquitter();
   }

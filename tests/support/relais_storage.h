@@ -48,6 +48,14 @@ class RelaisStorage : public data::Storage {
     Appel({}, {});
     dessous_.EnUnBloc(travail);
   }
+  bool ALaLigne() const override { return dessous_.ALaLigne(); }
+  void DebuterRoute() override { dessous_.DebuterRoute(); }
+  void FinirRoute() noexcept override { dessous_.FinirRoute(); }
+  void OublierRoute() noexcept override { dessous_.OublierRoute(); }
+  void Annoncer(const std::vector<data::Annonce>& annonces) override {
+    if (ALaLigne()) Appel({}, {});
+    dessous_.Annoncer(annonces);
+  }
 
  protected:
   // Before everything but a write.

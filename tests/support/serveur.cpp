@@ -62,6 +62,25 @@ std::string Serveur::NouvelleBase() {
   return Adresse(base);
 }
 
+// A database takes long to make, its few records do not take long to put back. The tables wait for
+// whoever was killed while writing to them.
+std::string Serveur::Copie(const std::string& adresse) {
+  const std::size_t debut = adresse.find("@/") + 2;
+  const std::string base = adresse.substr(debut, adresse.find('?') - debut);
+  const std::string copie = base + "_copie";
+  const bool nouvelle = copies_.insert(base).second;
+  if (nouvelle) Sql("postgres", "CREATE DATABASE " + copie + " TEMPLATE " + base);
+  std::string remettre = nouvelle ? "CREATE SCHEMA modele;" : "";
+  for (const std::string table : {"etat", "article", "ancien", "entree"}) {
+    const std::string modele = " modele." + table;
+    remettre += nouvelle ? "CREATE TABLE" + modele + " AS TABLE contrats." + table + ";"
+                         : "TRUNCATE contrats." + table + "; INSERT INTO contrats." + table +
+                               " TABLE" + modele + ";";
+  }
+  Sql(copie, remettre);
+  return Adresse(copie);
+}
+
 std::string Serveur::Sql(const std::string& base, const std::string& sql) const {
   const std::string adresse = base.starts_with("postgresql:") ? base : Adresse(base);
   const std::string commande =

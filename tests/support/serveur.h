@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,8 @@ class Serveur {
   std::string Adresse(const std::string& base) const;
   // That of a new database, empty.
   std::string NouvelleBase();
+  // That of a copy of a base, which nobody has open; again as the base was, at every later call.
+  std::string Copie(const std::string& adresse);
   // What psql answers, without its frame. `base` is a name or an address.
   std::string Sql(const std::string& base, const std::string& sql) const;
 
@@ -51,6 +54,7 @@ class Serveur {
   pid_t proprietaire_ = getpid();
   int postes_;
   int bases_ = 0;
+  std::set<std::string> copies_;
 };
 
 }  // namespace support
