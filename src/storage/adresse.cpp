@@ -15,8 +15,6 @@ constexpr std::string_view kSchemas[] = {"postgresql://", "postgres://"};
 constexpr std::string_view kDebuts[] = {
     "host=", "hostaddr=", "dbname=", "port=", "user=", "service="};
 constexpr std::string_view kSecrets[] = {"password", "sslpassword"};
-// Shown for an address that libpq cannot read: any part of it may be a password.
-constexpr const char* kIllisible = "postgresql://…";
 
 // For a place in a URI. What a name of the trade holds is left readable.
 std::string encoder(std::string_view texte) {
@@ -74,11 +72,23 @@ bool estAdresseServeur(const std::string& base) {
   return false;
 }
 
+std::string adresseServeur(const std::string& serveur, const std::string& base,
+                           const std::string& compte) {
+  Valeurs valeurs{{"host", serveur}, {"dbname", base}, {"user", compte}};
+  // One colon: an address in numbers has several, and a port of its own parameter.
+  const std::size_t port = serveur.find(':');
+  if (port != std::string::npos && port == serveur.rfind(':') && serveur.front() != '/') {
+    valeurs["host"] = serveur.substr(0, port);
+    valeurs["port"] = serveur.substr(port + 1);
+  }
+  return enUri(std::move(valeurs));
+}
+
 std::string sansMotDePasse(const std::string& base) {
   if (!estAdresseServeur(base)) return base;
   const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> lues(
       PQconninfoParse(base.c_str(), nullptr), PQconninfoFree);
-  if (lues == nullptr) return kIllisible;
+  if (lues == nullptr) return kAdresseIllisible;
   Valeurs valeurs;
   for (const PQconninfoOption* option = lues.get(); option->keyword != nullptr; ++option) {
     if (option->val != nullptr) valeurs[option->keyword] = option->val;

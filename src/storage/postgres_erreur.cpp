@@ -2,6 +2,8 @@
 
 #include <cctype>
 
+#include "storage/adresse.h"
+
 namespace storage {
 
 namespace {
@@ -35,6 +37,17 @@ constexpr std::string_view kCoupure =
 constexpr std::string_view kEndommage =
     "la base du serveur est endommagée. Arrêtez la saisie et prévenez la personne qui gère le "
     "serveur.";
+
+constexpr std::string_view kIllisible =
+    "cette adresse n'est pas écrite comme il faut. Elle a la forme "
+    "postgresql://compte@serveur/base "
+    "; demandez-la à la personne qui gère le serveur.";
+constexpr std::string_view kChiffrement =
+    "la liaison chiffrée (SSL) ne se fait pas avec ce serveur. Montrez l'adresse à la personne qui "
+    "gère le serveur.";
+constexpr std::string_view kAbsent =
+    "aucun serveur ne répond à cette adresse. Vérifiez l'adresse et le réseau, puis recommencez ; "
+    "si cela dure, prévenez la personne qui gère le serveur.";
 
 // By the first characters of the state; the first row that fits.
 struct Traduction {
@@ -116,10 +129,10 @@ PanneServeur erreurConnexion(std::string_view message, const std::string& adress
   if (message.find("fe_sendauth") != std::string_view::npos) {
     return erreurServeur("28P01", "", adresse, acte);
   }
-  return {erreur(NumeroErreur::EntreeSortie, adresse, acte,
-                 "aucun serveur ne répond à cette adresse. Vérifiez l'adresse et le réseau, puis "
-                 "recommencez ; si cela dure, prévenez la personne qui gère le serveur."),
-          Sorte::Coupure};
+  const bool illisible = adresse == kAdresseIllisible;
+  const bool chiffrement = message.find("SSL") != std::string_view::npos;
+  const std::string_view suite = illisible ? kIllisible : chiffrement ? kChiffrement : kAbsent;
+  return {erreur(NumeroErreur::EntreeSortie, adresse, acte, std::string(suite)), Sorte::Coupure};
 }
 
 data::StoreError erreurRelecture(const std::string& adresse, const Acte& acte) {

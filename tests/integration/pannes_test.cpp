@@ -1,5 +1,5 @@
 // Failures of the store under the open screens, through real widgets: each one is told, what was
-// typed stays, and the same act passes when the store is well again.
+// typed stays, and the same act passes when the store is well again. On a file and on a server.
 
 #include <QAbstractScrollArea>
 #include <QClipboard>
@@ -10,8 +10,11 @@
 
 #include "base/executer.h"
 #include "control/ctr_contrat.h"
+#include "fenetre/choix_serveur.h"
 #include "integration/hote_essai.h"
+#include "storage/ouvrir.h"
 #include "support/faulty_storage.h"
+#include "support/serveur.h"
 #include "widget/contrat_widget.h"
 
 namespace {
@@ -26,7 +29,7 @@ struct Panne : Dessous, support::FaultyStorage {
       : Dessous{std::move(sain)}, FaultyStorage(*magasin) {}
 };
 
-class Pannes : public ::testing::Test {
+class Pannes : public ::testing::TestWithParam<const char*> {
  protected:
   Pannes() {
     for (const std::vector<std::string>& commande :
@@ -39,15 +42,20 @@ class Pannes : public ::testing::Test {
     fenetre_.show();
   }
 
-  std::string Chemin() const { return dossier_.filePath("a.contrats").toStdString(); }
-  void Copier(const std::string& chemin) const {
+  const std::string& Chemin() const { return chemin_; }
+  static bool SurServeur() { return GetParam() == std::string("postgres"); }
+  // That of a copy of the base.
+  std::string Copie(int n) const {
+    if (SurServeur()) return support::Serveur::Commun().Copie(Chemin());
     storage::SqliteStorage::Ouvrir(Chemin(), poste_);
-    EXPECT_TRUE(QFile::copy(QString::fromStdString(Chemin()), QString::fromStdString(chemin)));
+    const std::string copie = Chemin() + std::to_string(n);
+    EXPECT_TRUE(QFile::copy(QString::fromStdString(Chemin()), QString::fromStdString(copie)));
+    return copie;
   }
   // What another program reads.
   std::string Lu(const std::string& chemin, const char* fichier, const char* cle) const {
     std::string texte = "-";
-    storage::SqliteStorage::Ouvrir(chemin, poste_)->Get(fichier, cle, texte);
+    storage::ouvrir(chemin, poste_)->Get(fichier, cle, texte);
     return texte;
   }
   // The first failing call, then ever later ones, until the act passes without meeting it.
@@ -94,6 +102,8 @@ class Pannes : public ::testing::Test {
   }
 
   const QTemporaryDir dossier_{};
+  const std::string chemin_ = SurServeur() ? support::Serveur::Commun().NouvelleBase()
+                                           : dossier_.filePath("a.contrats").toStdString();
   const data::PosteFixe poste_{21511};
   hote::Bureau bureau_{&poste_, std::make_unique<QSettings>(dossier_.filePath("reglages.ini"),
                                                             QSettings::IniFormat)};
@@ -107,7 +117,7 @@ class Pannes : public ::testing::Test {
   essai::Lecteur lecteur_{};
 };
 
-TEST_F(Pannes, EveryReadThatFailsIsToldAndTheScreenGoesOn) {
+TEST_P(Pannes, EveryReadThatFailsIsToldAndTheScreenGoesOn) {
   ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(Chemin())));
   ChaquePanne("carer", [&] { return fenetre_.OuvrirAidant("00001"); });
   auto* const liste = fenetre_.Ecran();
@@ -127,11 +137,10 @@ TEST_F(Pannes, EveryReadThatFailsIsToldAndTheScreenGoesOn) {
 
 // The writes of a new contract: itself, the follow-up, the carer's numbers, two marks that the
 // indexes exist, and one index.
-TEST_F(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
+TEST_P(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
   constexpr int Ecritures = 6;
   for (int n = 1; n <= Ecritures; ++n) {
-    const std::string chemin = Chemin() + std::to_string(n);
-    Copier(chemin);
+    const std::string chemin = Copie(n);
     ASSERT_TRUE(fenetre_.OuvrirFichier(QString::fromStdString(chemin)));
     ASSERT_TRUE(fenetre_.OuvrirAidant("00002"));
     const essai::DansForme editeur("Frm_ElementsContrat",
@@ -159,7 +168,7 @@ TEST_F(Pannes, ASaveThatFailsAtAnyWriteKeepsWhatWasTypedAndPassesLater) {
 }
 
 // A clipboard with a whole report in it: each line holds what its field can, and the screen lives.
-TEST_F(Pannes, APasteOfAHundredThousandCharactersIsCut) {
+TEST_P(Pannes, APasteOfAHundredThousandCharactersIsCut) {
   static constexpr int Colles = 100000;
   static constexpr int LePlusLong = 80;
   QApplication::clipboard()->setText(QString(Colles, '7') +
@@ -192,5 +201,50 @@ TEST_F(Pannes, APasteOfAHundredThousandCharactersIsCut) {
   QTest::mouseDClick(dates, Qt::LeftButton, {}, {10, 10});
   EXPECT_EQ(editeur.Faits(), 2U);
 }
+
+class PannesServeur : public Pannes {};
+
+// From the address of the dialog, with a password that somebody pasted into it.
+TEST_P(PannesServeur, AServerThatGoesDuringASaveIsFoundAgainAndNoPasswordIsKept) {
+  QString adresse;
+  {
+    hote::ChoixServeur choix(&fenetre_);
+    EXPECT_EQ(choix.Adresse(), "");
+    auto* const serveur = choix.findChild<QLineEdit*>("serveur");
+    choix.findChild<QLineEdit*>("compte")->setText("rose");
+    serveur->setText("paie:5433");
+    EXPECT_EQ(choix.Adresse(), "postgresql://rose@paie:5433/contrats");
+    serveur->setText(QString::fromStdString(Chemin()).replace("essai@", "essai:sesame@"));
+    adresse = choix.Adresse();
+  }
+  EXPECT_EQ(adresse.toStdString(), Chemin());
+  ASSERT_TRUE(fenetre_.OuvrirFichier(adresse.replace("essai@", "essai:sesame@")));
+  ASSERT_TRUE(fenetre_.OuvrirAidant("00002"));
+  auto& serveur = support::Serveur::Commun();
+  const essai::DansForme editeur("Frm_ElementsContrat",
+                                 {Remplir, [&](QWidget& fenetre) {
+                                    serveur.Arreter();
+                                    essai::cliquer(fenetre, "Cmd_OK");
+                                    EXPECT_FALSE(lecteur_.dit.contains("sesame"));
+                                    EXPECT_TRUE(lecteur_.ADit("aucun serveur ne répond"));
+                                    EXPECT_EQ(Texte(fenetre, "Txt_PerEssaiContrat"), "60");
+                                    serveur.Demarrer();
+                                    essai::cliquer(fenetre, "Cmd_OK");
+                                  }});
+  essai::cliquer(*fenetre_.Ecran(), "Cmd_Ajouter");
+  EXPECT_EQ(editeur.Faits(), 2U);
+  EXPECT_NE(Lu(Chemin(), "CONTRAT", "00002001"), "-");
+  EXPECT_FALSE(fenetre_.windowTitle().contains("sesame"));
+  bureau_.Reglages().sync();
+  QFile reglages(dossier_.filePath("reglages.ini"));
+  ASSERT_TRUE(reglages.open(QIODevice::ReadOnly));
+  const QByteArray gardes = reglages.readAll();
+  EXPECT_TRUE(gardes.contains("postgresql:") && !gardes.contains("sesame")) << gardes.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Sur, PannesServeur, ::testing::Values("postgres"),
+                         [](const auto& sur) { return std::string(sur.param); });
+INSTANTIATE_TEST_SUITE_P(Sur, Pannes, ::testing::Values("fichier", "postgres"),
+                         [](const auto& sur) { return std::string(sur.param); });
 
 }  // namespace

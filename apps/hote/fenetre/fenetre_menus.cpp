@@ -12,6 +12,7 @@
 
 #include "fenetre/aide.h"
 #include "fenetre/avertir.h"
+#include "fenetre/choix_serveur.h"
 #include "fenetre/fenetre_hote.h"
 #include "fenetre/fichier_demonstration.h"
 #include "fenetre/fichiers_recents.h"
@@ -33,6 +34,10 @@ void FenetreHote::FaireMenuFichier() {
   QMenu* const fichier = menuBar()->addMenu("&Fichier");
   fichier->addAction("&Ouvrir…", QKeySequence(QKeySequence::Open), this,
                      &FenetreHote::ChoisirFichier);
+  fichier->addAction("Ouvrir un &serveur…", this, [this] {
+    const QString adresse = ChoixServeur::Demander(this);
+    if (!adresse.isEmpty()) OuvrirFichier(adresse);
+  });
   recents_ = fichier->addMenu("Fichiers &récents");
   RemplirRecents();
   QAction* const demonstration = fichier->addAction(
