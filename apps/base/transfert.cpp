@@ -1,8 +1,6 @@
 #include "base/transfert.h"
 
-#include <filesystem>
 #include <memory>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -11,6 +9,7 @@
 #include "data/store_error.h"
 #include "storage/adresse.h"
 #include "storage/controle.h"
+#include "storage/copie.h"
 
 namespace base {
 namespace {
@@ -146,9 +145,8 @@ class Transfert {
 };
 
 // A base on a server may have been made beforehand, by who has the right to: it is then empty.
-std::unique_ptr<Magasin> ouvrirCible(const std::string& cible, const data::Poste& poste,
-                                     const storage::OptionsOuverture& options) {
-  if (!storage::estAdresseServeur(cible)) return storage::creer(cible, poste, options);
+std::unique_ptr<Magasin> ouvrirServeur(const std::string& cible, const data::Poste& poste,
+                                       const storage::OptionsOuverture& options) {
   try {
     auto magasin = storage::ouvrir(cible, poste, options);
     if (magasin->Fichiers().empty()) return magasin;
@@ -170,18 +168,23 @@ int transferer(Contexte& contexte, const Arguments& arguments) {
   Base base(contexte, arguments, Acces::Lecture);
   const std::string copie = arguments.Texte("COPIE");
   const data::PosteSysteme poste;
-  auto cible = ouvrirCible(copie, poste, optionsStockage(arguments));
-  Transfert transfert(contexte, base.Magasin(), *cible);
-  try {
-    transfert.Copier();
-  } catch (...) {
-    cible.reset();
-    std::error_code ignoree;  // the error under way is the one to tell
-    if (!storage::estAdresseServeur(copie)) std::filesystem::remove(copie, ignoree);
-    throw;
+  const storage::OptionsOuverture options = optionsStockage(arguments);
+  std::unique_ptr<storage::FichierEnChemin> fichier;
+  if (!storage::estAdresseServeur(copie)) {
+    fichier = std::make_unique<storage::FichierEnChemin>(copie);
+    fichier->ExigerLibre();
   }
+  auto cible = fichier == nullptr ? ouvrirServeur(copie, poste, options)
+                                  : storage::creer(fichier->Nom(), poste, options);
+  Transfert transfert(contexte, base.Magasin(), *cible);
+  transfert.Copier();
   transfert.Comparer();
-  if (storage::estAdresseServeur(copie)) cible->Compacter();
+  if (fichier == nullptr) {
+    cible->Compacter();
+  } else {
+    cible.reset();
+    fichier->Arriver();
+  }
   contexte.Ecrit(storage::sansMotDePasse(copie) + " est une copie entière, relue : " +
                  nombre(transfert.Articles(), " article", " articles") + " et " +
                  nombre(transfert.Anciens(), " ancien texte.\n", " anciens textes.\n"));

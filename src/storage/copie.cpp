@@ -25,23 +25,6 @@ using data::NumeroErreur;
 constexpr Acte kCopie{"Copie vers"};
 constexpr Acte kRestauration{"Restauration de"};
 
-// A file on its way to its name; what is left of it goes, with what SQLite put
-// beside it.
-class EnChemin {
- public:
-  explicit EnChemin(const std::string& but) : nom_(but + ".partiel") { Oter(); }
-  ~EnChemin() { Oter(); }
-  EnChemin(const EnChemin&) = delete;
-  EnChemin& operator=(const EnChemin&) = delete;
-  const std::string& Nom() const { return nom_; }
-
- private:
-  void Oter() const {
-    for (const char* suffixe : {"", "-journal", "-wal", "-shm"}) unlink((nom_ + suffixe).c_str());
-  }
-  std::string nom_;
-};
-
 // The names in the folder of `chemin` are on the disk, too.
 void fixerDossier(const std::string& chemin) {
   std::error_code code;
@@ -56,13 +39,6 @@ void fixerDossier(const std::string& chemin) {
   throw erreur(NumeroErreur::EntreeSortie, chemin, acte,
                "le fichier ne peut pas prendre ce nom (" + raison +
                    "). Vérifiez le dossier et vos droits, puis recommencez.");
-}
-
-void exigerLibre(const std::string& chemin) {
-  std::error_code code;
-  if (!fs::exists(fs::symlink_status(chemin, code))) return;
-  throw erreur(NumeroErreur::EntreeSortie, chemin, kCopie,
-               "il y a déjà un fichier ou un dossier de ce nom. Choisissez un autre nom.");
 }
 
 // The pages of `source` as they stand at one moment.
@@ -99,21 +75,21 @@ void relire(const std::string& chemin, const std::string& nom, SqliteOptions opt
 }
 
 // A whole and sound copy under a name that is not yet the one wanted.
-void preparer(const std::string& source, const EnChemin& partiel, const std::string& but,
+void preparer(const std::string& source, const std::string& partiel, const std::string& but,
               const SqliteOptions& options) {
   struct stat modele {};
   const bool connue = stat(source.c_str(), &modele) == 0;
   {
     const auto lue = ouvrirFichierEnLecture(source, options);
-    const auto copie = creerVide(partiel.Nom(), but);
+    const auto copie = creerVide(partiel, but);
     // What the file holds concerns the same readers wherever it stands.
-    if (connue) chmod(partiel.Nom().c_str(), modele.st_mode & 0777U);
+    if (connue) chmod(partiel.c_str(), modele.st_mode & 0777U);
     copierPages(*lue, *copie);
     lue->ExigerTenue({"Lecture de"});
     const int code = poserMarque(copie->Fichier(), marqueNeuve());
     if (code != SQLITE_OK) copie->Echouer(code, kCopie);
   }
-  relire(partiel.Nom(), but, options);
+  relire(partiel, but, options);
 }
 
 std::string nomLibre(const std::string& base) {
@@ -153,25 +129,45 @@ void prendreDroits(const std::string& partiel, const std::string& base) {
 
 }  // namespace
 
+FichierEnChemin::FichierEnChemin(const std::string& but) : but_(but), nom_(but + ".partiel") {
+  Oter();
+}
+
+void FichierEnChemin::Oter() const {
+  for (const char* suffixe : {"", "-journal", "-wal", "-shm"}) unlink((nom_ + suffixe).c_str());
+}
+
+void FichierEnChemin::ExigerLibre() const {
+  std::error_code code;
+  if (!fs::exists(fs::symlink_status(but_, code))) return;
+  throw erreur(NumeroErreur::EntreeSortie, but_, kCopie,
+               "il y a déjà un fichier ou un dossier de ce nom. Choisissez un autre nom.");
+}
+
+void FichierEnChemin::Arriver() const {
+  ExigerLibre();
+  if (rename(nom_.c_str(), but_.c_str()) != 0) echouerNom(but_, kCopie);
+  fixerDossier(but_);
+}
+
 void copierFichier(const std::string& source, const std::string& copie,
                    const SqliteOptions& options) {
-  exigerLibre(copie);
-  const EnChemin partiel(copie);
-  preparer(source, partiel, copie, options);
-  exigerLibre(copie);
-  if (rename(partiel.Nom().c_str(), copie.c_str()) != 0) echouerNom(copie, kCopie);
-  fixerDossier(copie);
+  const FichierEnChemin partiel(copie);
+  partiel.ExigerLibre();
+  preparer(source, partiel.Nom(), copie, options);
+  partiel.Arriver();
 }
 
 std::string restaurerFichier(const std::string& base, const std::string& copie,
                              const SqliteOptions& options) {
   SqliteOptions lointaine = options;
   lointaine.reseauAdmis = true;
-  const EnChemin partiel(base);
+  const FichierEnChemin chemin(base);
+  const std::string& partiel = chemin.Nom();
   preparer(copie, partiel, base, lointaine);
   std::error_code code;
   if (!fs::exists(base, code)) {
-    if (rename(partiel.Nom().c_str(), base.c_str()) != 0) echouerNom(base, kRestauration);
+    if (rename(partiel.c_str(), base.c_str()) != 0) echouerNom(base, kRestauration);
     fixerDossier(base);
     return {};
   }
@@ -183,9 +179,9 @@ std::string restaurerFichier(const std::string& base, const std::string& copie,
                  "un programme l'a ouvert. Fermez tous les programmes qui l'utilisent, puis "
                  "recommencez.");
   }
-  prendreDroits(partiel.Nom(), base);
+  prendreDroits(partiel, base);
   std::string ancien = nomLibre(base);
-  echanger(partiel.Nom(), base, ancien);
+  echanger(partiel, base, ancien);
   fixerDossier(base);
   return ancien;
 }

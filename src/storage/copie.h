@@ -7,6 +7,27 @@
 
 namespace storage {
 
+// A new file that has another name until it is whole. What an interrupted copy left under that name
+// goes, and so does the file when it has not arrived, with what SQLite put beside it.
+class FichierEnChemin {
+ public:
+  explicit FichierEnChemin(const std::string& but);
+  ~FichierEnChemin() { Oter(); }
+  FichierEnChemin(const FichierEnChemin&) = delete;
+  FichierEnChemin& operator=(const FichierEnChemin&) = delete;
+  const std::string& Nom() const { return nom_; }
+  // StoreError when its name is taken.
+  void ExigerLibre() const;
+  // It takes its name, if that is free. No program has it open.
+  void Arriver() const;
+
+ private:
+  void Oter() const;
+
+  std::string but_;
+  std::string nom_;
+};
+
 // Copies all that is written in `source` at one moment into the new file `copie`, reads the copy
 // through, and gives it that name only then. Others go on working. `copie` may stand in a network
 // folder. StoreError when the name is taken, when the source or the copy does not read back as it
