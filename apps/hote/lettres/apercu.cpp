@@ -4,6 +4,8 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QXmlStreamReader>
 #include <algorithm>
@@ -92,6 +94,16 @@ QString numerote(const QString& pied, int page, int pages) {
   return texte;
 }
 
+// Of the sizes in screen pixels, the layout brings all but this one to the paper's resolution.
+void mettreRetraits(QTextDocument& document) {
+  constexpr double PixelsParPouce = 96;
+  for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
+    QTextBlockFormat format = bloc.blockFormat();
+    format.setLeftMargin(format.leftMargin() * PointsParPouce / PixelsParPouce);
+    QTextCursor(bloc).setBlockFormat(format);
+  }
+}
+
 void dessiner(QTextDocument& document, QPdfWriter& pdf, const QString& pied) {
   const QSizeF page = document.pageSize();
   const int marge = enPoints(MargeMm);
@@ -135,6 +147,7 @@ QByteArray apercuPdf(const QByteArray& octets) {
     document.documentLayout()->setPaintDevice(&pdf);
     document.setDocumentMargin(0);
     remplirApercu(document, html);
+    mettreRetraits(document);
     document.setPageSize(
         QSizeF(pdf.width() - 2 * enPoints(MargeMm), pdf.height() - 2 * enPoints(MargeMm)));
     dessiner(document, pdf, styles == nullptr ? "" : piedDePage(*styles));
