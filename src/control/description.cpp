@@ -19,7 +19,7 @@ std::string numero(const std::string& cle) {
 }
 
 // "du 01/02/2026 au 24/01/2027", "depuis le 01/02/2026", "à partir du 01/12/2026".
-std::string periode(long debut, std::optional<long> fin, EtatContrat etat) {
+std::string periode(long debut, const std::optional<long>& fin, EtatContrat etat) {
   const std::string premier = data::dateAffichee(debut);
   if (fin) return "du " + premier + " au " + data::dateAffichee(*fin);
   return (etat == EtatContrat::AVenir ? "à partir du " : "depuis le ") + premier;
@@ -59,7 +59,8 @@ const char* direEtat(EtatContrat etat) {
 }
 
 std::string direBarre(const Barre& barre) {
-  const auto fin = barre.sansFin ? std::nullopt : std::optional<long>(barre.dite);
+  std::optional<long> fin = barre.dite;
+  if (barre.sansFin) fin.reset();
   std::string texte = numero(barre.cle) + ", " + periode(barre.debut, fin, barre.etat);
   if (barre.presumee) texte += " (fin présumée)";
   texte += std::string(", ") + direEtat(barre.etat);

@@ -24,10 +24,6 @@ constexpr int LargeurSiret = 28;
 std::string blancs(int n) {
   return std::string(static_cast<std::size_t>(n), ' ');
 }
-// The zone, then blanks up to a width of n.
-std::string P(int n, const std::string& zone) {
-  return completeADroite(zone, n);
-}
 
 template <auto Groupe, auto Zone>
 std::string zone(const Z& z) {
@@ -45,8 +41,8 @@ std::string numeros(const Z& z) {
 }
 
 // The title's cross falls into one of three boxes before the names.
-std::string noms(const Z& z) {
-  constexpr int LargeurTitres = 12, NomMax = 27, LargeurNom = 32;
+std::string titreEtNom(const Z& z) {
+  constexpr int LargeurTitres = 12, NomMax = 27;
   const struct {
     const char* titre;
     const char* croix;
@@ -56,13 +52,7 @@ std::string noms(const Z& z) {
   for (const auto& t : titres) {
     if (titre == t.titre) ligne = t.croix;
   }
-  return P(LargeurTitres, ligne) + P(LargeurNom, gauche(z.sal.nomNaissance, NomMax)) + z.sal.nom;
-}
-std::string prenom(const Z& z) {
-  return P(60, z.sal.prenom) + z.sal.sexe;
-}
-std::string numeroSecu(const Z& z) {
-  return P(48, z.sal.numeroSecu) + z.sal.dateNaissance;
+  return completeADroite(ligne, LargeurTitres) + gauche(z.sal.nomNaissance, NomMax);
 }
 std::string nationalite(const Z& z) {
   if (z.sal.nationalite == NationaliteFrance) return Croix;
@@ -111,9 +101,6 @@ std::string genre(const Z& z) {
 std::string sansNumero(const Z& z) {
   return z.sal.numeroSecu.empty() ? Croix : "";
 }
-std::string faitA(const Z& z) {
-  return P(37, z.contrat.lieu) + z.contrat.aujourdhui;
-}
 std::string villeEmployeur(const Z& z) {
   const std::string ville = z.dossier.etablissement(Etablissement::Ville);
   return ville.empty() ? z.dossier.association(Association::Ville) : ville;
@@ -122,10 +109,11 @@ std::string aujourdhui(const Z& z) {
   return dateAffichee(z.dossier.aujourdhui);
 }
 
-// Puts a line on the page. One that is too long for the paper keeps its columns: its last zone is
+constexpr double Chasse = ChasseFixe * PointsMatriciels / PointsParCentimetre;
+
+// Puts a text on the page. One that is too long for the paper keeps its columns: its last zone is
 // drawn narrower, or all of it when even that zone would begin off the paper.
 void poser(Page& page, double x, double y, const std::string& ligne) {
-  constexpr double Chasse = ChasseFixe * PointsMatriciels / PointsParCentimetre;
   const Police police{.points = PointsMatriciels};
   const auto trou = ligne.rfind("   ");
   if (x + longueur(ligne) * Chasse > BordDroit && trou != std::string::npos) {
@@ -139,6 +127,21 @@ void poser(Page& page, double x, double y, const std::string& ligne) {
     }
   }
   page.elements.emplace_back(Texte{x, y, ligne, police, BordDroit - x});
+}
+
+// A text that is too long for its own place is drawn narrower, and moves nothing behind it.
+void poser(Page& page, const LigneMatricielle& ligne, const Z& zones) {
+  const std::string texte = ligne.texte(zones);
+  const std::string suite = ligne.suite == nullptr ? "" : ligne.suite(zones);
+  if (ligne.largeur == 0 || longueur(texte) * Chasse <= ligne.largeur) {
+    const std::string entiere =
+        suite.empty() ? texte : completeADroite(texte, ligne.colonnes) + suite;
+    if (!entiere.empty()) poser(page, ligne.x, ligne.y, entiere);
+    return;
+  }
+  page.elements.emplace_back(
+      Texte{ligne.x, ligne.y, texte, Police{.points = PointsMatriciels}, ligne.largeur});
+  if (!suite.empty()) poser(page, ligne.x + ligne.colonnes * Chasse, ligne.y, suite);
 }
 
 }  // namespace
@@ -156,9 +159,11 @@ const std::vector<LigneMatricielle>& lignesMatricielles() {
       {5.25, 4.25, zone<&Z::empl, &ZonesEmployeur::adresse>},
       {6.1, 4.3, postalEmployeur},
       {8.3, 7, numeros},
-      {10.1, 4.4, noms},
-      {10.75, 4.45, prenom},
-      {11.7, 4.55, numeroSecu},
+      {10.1, 4.4, titreEtNom, 44, zone<&Z::sal, &ZonesSalarie::nom>},
+      {10.75, 4.45, zone<&Z::sal, &ZonesSalarie::prenom>, 60, zone<&Z::sal, &ZonesSalarie::sexe>,
+       13.2},
+      {11.7, 4.55, zone<&Z::sal, &ZonesSalarie::numeroSecu>, 48,
+       zone<&Z::sal, &ZonesSalarie::dateNaissance>, 11},
       {12.55, 4.5, nationalite},
       {13.3, 4.75, naissance},
       {14.15, 4.35, zone<&Z::sal, &ZonesSalarie::adresse>},
@@ -175,8 +180,9 @@ const std::vector<LigneMatricielle>& lignesMatricielles() {
       {23.3, 17, duree<'4'>},
       {24.95, 1.7, genre},
       {21.5, 18.95, sansNumero},
-      {26.3, 2, faitA},
-      {28.2, 2, villeEmployeur},
+      {26.3, 2, zone<&Z::contrat, &ZonesContrat::lieu>, 37,
+       zone<&Z::contrat, &ZonesContrat::aujourdhui>, 7.7},
+      {28.2, 2, villeEmployeur, 0, nullptr, 3.9},
       {28.2, 6.6, aujourdhui},
   };
   return Lignes;
@@ -186,10 +192,7 @@ Page declarationMatricielle(const DossierDeclaration& d) {
   const ZonesDeclaration zones(d);
   Page page;
   page.elements.emplace_back(fond(d, FondDue));
-  for (const LigneMatricielle& ligne : lignesMatricielles()) {
-    const std::string texte = ligne.texte(zones);
-    if (!texte.empty()) poser(page, ligne.x, ligne.y, texte);
-  }
+  for (const LigneMatricielle& ligne : lignesMatricielles()) poser(page, ligne, zones);
   signer(page, d);
   return page;
 }

@@ -23,8 +23,14 @@ struct ZonesDeclaration {
 };
 
 struct LigneMatricielle {
-  double y, x;                                    // centimetres
-  std::string (*texte)(const ZonesDeclaration&);  // "" where the case prints nothing
+  using Zone = std::string (*)(const ZonesDeclaration&);
+
+  double y, x;  // centimetres
+  Zone texte;   // "" where the case prints nothing
+  // Blanks fill the text up to that many columns, behind which `suite` stands.
+  int colonnes = 0;
+  Zone suite = nullptr;
+  double largeur = 0;  // centimetres that the text may take; 0 up to the paper's edge
 };
 
 // In the order of printing.

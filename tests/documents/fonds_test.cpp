@@ -110,6 +110,9 @@ TEST(Fonds, EveryTextFallsIntoABoxOfItsOwn) {
     personne->Set(9, "Résidence des Peupliers, bâtiment C, escalier 12");
     personne->Set(11, "Saint-Remy-en-Bouzemont-Saint-Genest-et-Isson");
   }
+  longs.aidant.Set(3, std::string(90, 'W'));
+  longs.association.Set(9, std::string(60, 'W'));
+  longs.etablissement.Set(9, std::string(60, 'W'));
   longs.association.Set(1, "Association départementale pour le maintien à domicile des aînés");
   longs.contrat.Set(4, "D");
   longs.contrat.Set(60, "22000");

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QProcess>
 #include <QTextBrowser>
 #include <QXmlStreamReader>
 
@@ -249,6 +250,30 @@ TEST_F(Lettres, APdfIsMadeByTheWordProcessorOrItsFailureIsTold) {
   ASSERT_TRUE(fait.open(QIODevice::ReadOnly));
   EXPECT_EQ(fait.readAll(), "texte");
   qputenv("PATH", chemin);
+}
+
+// Without any program: every character as typed, and the foot on the page.
+TEST_F(Lettres, APdfIsMadeWithoutAWordProcessor) {
+  documents::DossierLettre d = contrat();
+  const std::string nom =
+      "L'Écuyer & \"<Dubois>\" 100%1 de La Rochefoucauld Œlleville" + std::string(160, 'W');
+  d.aidant.Set(2, nom);
+  const QString pdf = hote::TraitementTexte::EnPdfSimple(ecrire(d).fichier);
+  QProcess lecture;
+  lecture.start("pdftotext", {pdf, "-"});
+  ASSERT_TRUE(lecture.waitForFinished()) << "pdftotext";
+  QString texte = QString::fromUtf8(lecture.readAllStandardOutput()).simplified();
+  EXPECT_TRUE(texte.contains("Aide du Val — page 1 sur ")) << texte.toStdString();
+  // Wherever the lines were broken.
+  const QString attendu = QString::fromStdString("Madame Anne " + nom + ", 3 ter avenue du Parc");
+  EXPECT_TRUE(texte.remove(' ').contains(QString(attendu).remove(' '))) << texte.toStdString();
+
+  QFile::remove(pdf);
+  QDir().mkpath(pdf + "/taken");
+  const QString lettre = QString(pdf).replace(".pdf", ".odt");
+  EXPECT_THROW(hote::TraitementTexte::EnPdfSimple(lettre), hote::ConversionManquee);
+  ASSERT_TRUE(hote::ecrireFichier(lettre, "no letter"));
+  EXPECT_THROW(hote::TraitementTexte::EnPdfSimple(lettre), hote::ConversionManquee);
 }
 
 // The clerk's page names every field with its meaning, and no other.

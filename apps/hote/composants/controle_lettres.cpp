@@ -64,18 +64,24 @@ void ControleLettres::Annoncer(const LettreOdt& lettre) {
 
 void ControleLettres::EnPdf(const QString& fichier) {
   const TraitementTexte traitement(bureau_.Reglages());
-  if (!traitement.SaitConvertir()) {
-    throw screen::ErreurImpression(
-        versModele("Ce poste n'a pas de programme qui convertit une lettre en PDF (LibreOffice). "
-                   "Ouvrez « " +
-                   fichier + " » et enregistrez-la en PDF depuis votre traitement de texte."));
-  }
   try {
+    if (!traitement.SaitConvertir()) return EnPdfSimple(fichier);
     const QString pdf = traitement.EnPdf(fichier, bureau_.FenetreCourante());
     if (!pdf.isEmpty() && bureau_.SurImpression) bureau_.SurImpression(pdf);
   } catch (const ConversionManquee& erreur) {
     throw screen::ErreurImpression(erreur.what());
   }
+}
+
+void ControleLettres::EnPdfSimple(const QString& fichier) {
+  const QString pdf = TraitementTexte::EnPdfSimple(fichier);
+  bureau_.Plateforme().messages.Montrer(
+      {versModele(
+           "Ce poste n'a pas LibreOffice : le PDF a la mise en page simple de l'aperçu, sans "
+           "les images du modèle. Pour une mise en page complète, ouvrez « " +
+           fichier + " » et enregistrez-la en PDF depuis le traitement de texte."),
+       screen::Boutons::Ok, screen::Icone::Information, screen::TitreMessage});
+  if (bureau_.SurImpression) bureau_.SurImpression(pdf);
 }
 
 }  // namespace hote

@@ -21,6 +21,7 @@ class ControleLettres : public ControleSuite {
  private:
   void Annoncer(const LettreOdt& lettre);
   void EnPdf(const QString& fichier);
+  void EnPdfSimple(const QString& fichier);
 
   Bureau& bureau_;
   const ObjetsSuite& objets_;

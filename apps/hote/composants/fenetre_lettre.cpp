@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "lettres/apercu.h"
@@ -62,8 +63,7 @@ FenetreLettre::FenetreLettre(const LettreOdt& lettre, QWidget* parente) : QDialo
   auto* const texte = new QTextBrowser(this);
   texte->setOpenLinks(false);
   texte->document()->setDocumentMargin(24);
-  texte->document()->setDefaultFont(QFont("Liberation Serif", 11));
-  texte->setHtml(apercu(lettre.fichier));
+  remplirApercu(*texte->document(), apercu(lettre.fichier));
   colonne->addWidget(texte, 1);
   auto* const boutons = new QDialogButtonBox(this);
   const struct {

@@ -1,5 +1,12 @@
 #include "lettres/apercu.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QXmlStreamReader>
 #include <algorithm>
 
@@ -40,7 +47,113 @@ const Rendu* rendu(QStringView element, QStringView style) {
   return trouve == std::end(Rendus) ? nullptr : trouve;
 }
 
+constexpr double Millimetre = 1 / 25.4;  // inches
+constexpr int PointsParPouce = 600;
+constexpr double MargeMm = 23;
+constexpr double HauteurPiedMm = 10;
+constexpr double CorpsPied = 8;
+
+int enPoints(double millimetres) {
+  return qRound(millimetres * Millimetre * PointsParPouce);
+}
+
+// The text at the foot of each page, "%1" and "%2" where the page's number and their count stand.
+QString piedDePage(const QByteArray& styles) {
+  QXmlStreamReader xml(styles);
+  xml.setNamespaceProcessing(false);
+  QString texte;
+  bool pied = false;
+  while (!xml.atEnd()) {
+    const auto lu = xml.readNext();
+    const auto nom = xml.qualifiedName();
+    if (nom == u"style:footer") pied = lu == QXmlStreamReader::StartElement;
+    if (!pied) continue;
+    if (lu == QXmlStreamReader::Characters) texte += xml.text().toString().replace('%', "%%");
+    if (lu != QXmlStreamReader::StartElement) continue;
+    if (nom == u"text:s" || nom == u"text:tab" || nom == u"text:p") texte += ' ';
+    const bool numero = nom == u"text:page-number";
+    if (!numero && nom != u"text:page-count") continue;
+    texte += numero ? "%1" : "%2";
+    // What the word processor last counted.
+    xml.skipCurrentElement();
+  }
+  return texte.simplified();
+}
+
+// What a record brought along is no mark: a "%" of its own is written twice.
+QString numerote(const QString& pied, int page, int pages) {
+  QString texte;
+  for (qsizetype i = 0; i < pied.size(); ++i) {
+    if (pied[i] != '%' || i + 1 == pied.size()) {
+      texte += pied[i];
+      continue;
+    }
+    const QChar marque = pied[++i];
+    texte += marque == '1' ? QString::number(page) : marque == '2' ? QString::number(pages) : "%";
+  }
+  return texte;
+}
+
+// Of the sizes in screen pixels, the layout brings all but this one to the paper's resolution.
+void mettreRetraits(QTextDocument& document) {
+  constexpr double PixelsParPouce = 96;
+  for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
+    QTextBlockFormat format = bloc.blockFormat();
+    format.setLeftMargin(format.leftMargin() * PointsParPouce / PixelsParPouce);
+    QTextCursor(bloc).setBlockFormat(format);
+  }
+}
+
+void dessiner(QTextDocument& document, QPdfWriter& pdf, const QString& pied) {
+  const QSizeF page = document.pageSize();
+  const int marge = enPoints(MargeMm);
+  QFont petite = document.defaultFont();
+  petite.setPointSizeF(CorpsPied);
+  QPainter pinceau(&pdf);
+  for (int i = 0; i < document.pageCount(); ++i) {
+    if (i > 0) pdf.newPage();
+    const QRectF vue(0, i * page.height(), page.width(), page.height());
+    pinceau.save();
+    pinceau.translate(marge, marge - vue.top());
+    document.drawContents(&pinceau, vue);
+    pinceau.restore();
+    pinceau.setFont(petite);
+    pinceau.drawText(QRectF(marge, marge + page.height(), page.width(), enPoints(HauteurPiedMm)),
+                     Qt::AlignHCenter | Qt::AlignBottom,
+                     numerote(pied, i + 1, document.pageCount()));
+  }
+}
+
 }  // namespace
+
+void remplirApercu(QTextDocument& document, const QString& html) {
+  document.setDefaultFont(QFont("Liberation Serif", 11));
+  document.setHtml(html);
+}
+
+QByteArray apercuPdf(const QByteArray& octets) {
+  const QString html = apercuHtml(octets);
+  ArchiveZip archive(octets);
+  const QByteArray* const styles = archive.Trouver("styles.xml");
+  QBuffer fichier;
+  fichier.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter pdf(&fichier);
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
+    pdf.setResolution(PointsParPouce);
+    pdf.setTitle("Lettre");
+    QTextDocument document;
+    document.documentLayout()->setPaintDevice(&pdf);
+    document.setDocumentMargin(0);
+    remplirApercu(document, html);
+    mettreRetraits(document);
+    document.setPageSize(
+        QSizeF(pdf.width() - 2 * enPoints(MargeMm), pdf.height() - 2 * enPoints(MargeMm)));
+    dessiner(document, pdf, styles == nullptr ? "" : piedDePage(*styles));
+  }
+  return fichier.data();
+}
 
 QString apercuHtml(const QByteArray& octets) {
   ArchiveZip archive(octets);

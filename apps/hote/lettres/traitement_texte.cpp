@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
+#include "lettres/apercu.h"
+#include "lettres/archive_zip.h"
 #include "lettres/modeles.h"
 #include "liaison/textes_qt.h"
 
@@ -46,6 +48,16 @@ bool systemeSait() {
 [[noreturn]] void manquer(const QString& fichier, const QString& raison) {
   throw ConversionManquee(versModele("Le fichier « " + fichier + " » n'est pas converti en PDF : " +
                                      raison + " La lettre elle-même est intacte."));
+}
+
+// Writes it beside the letter, under the letter's name.
+QString ranger(const QByteArray& octets, const QString& fichier) {
+  const QFileInfo document(fichier);
+  const QString pdf = document.dir().filePath(document.completeBaseName() + ".pdf");
+  if (!ecrireFichier(pdf, octets)) {
+    manquer(fichier, "« " + pdf + " » ne s'écrit pas. Vérifiez la place sur le disque.");
+  }
+  return pdf;
 }
 
 // Runs until the program ends; false when the user gave up.
@@ -118,16 +130,21 @@ QString TraitementTexte::EnPdf(const QString& fichier, QWidget* parente) const {
                   {"-env:UserInstallation=" + QUrl::fromLocalFile(profil).toString(), "--headless",
                    "--norestore", "--convert-to", "pdf", "--outdir", sortie.path(), fichier});
   if (!attendre(processus, parente)) return {};
-  const QFileInfo document(fichier);
-  QFile fait(sortie.filePath(document.completeBaseName() + ".pdf"));
+  QFile fait(sortie.filePath(QFileInfo(fichier).completeBaseName() + ".pdf"));
   if (!fait.open(QIODevice::ReadOnly)) {
     manquer(fichier, "le traitement de texte n'a rien rendu. Ouvrez-le et exportez-le de là.");
   }
-  const QString pdf = document.dir().filePath(document.completeBaseName() + ".pdf");
-  if (!ecrireFichier(pdf, fait.readAll())) {
-    manquer(fichier, "« " + pdf + " » ne s'écrit pas. Vérifiez la place sur le disque.");
+  return ranger(fait.readAll(), fichier);
+}
+
+QString TraitementTexte::EnPdfSimple(const QString& fichier) {
+  QFile lettre(fichier);
+  if (!lettre.open(QIODevice::ReadOnly)) manquer(fichier, lettre.errorString() + ".");
+  try {
+    return ranger(apercuPdf(lettre.readAll()), fichier);
+  } catch (const ArchiveIllisible& erreur) {
+    manquer(fichier, versQt(erreur.what()) + ".");
   }
-  return pdf;
 }
 
 }  // namespace hote

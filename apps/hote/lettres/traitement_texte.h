@@ -31,11 +31,14 @@ class TraitementTexte {
   // Shows the file. False when no program took it.
   bool Ouvrir(const QString& fichier) const;
 
-  // Whether a PDF file can be made here.
+  // Whether this station has a program that makes PDF files.
   bool SaitConvertir() const { return !Convertisseur().isEmpty(); }
   // Makes a PDF file of the document, beside it, and answers its name. Shows its progress over
-  // `parente`, and lets the user give up: "" then. A ConversionManquee when it fails.
+  // `parente`, and lets the user give up: "" then. A ConversionManquee when it fails, as of the
+  // next.
   QString EnPdf(const QString& fichier, QWidget* parente) const;
+  // The same without any program, in the plainer layout of the preview.
+  static QString EnPdfSimple(const QString& fichier);
 
  private:
   // The program's path, "" when there is none.
