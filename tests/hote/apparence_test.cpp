@@ -5,6 +5,7 @@
 #include "widget/apparence.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "essai.h"
 #include "widget/formes.h"
@@ -17,10 +18,10 @@ constexpr const char* Formes[] = {"Ctr_Contrat",        "Frm_ElementsContrat", "
                                   "Frm_QualifPro",      "Frm_ElemDroitPublic", "Frm_RubSaisie",
                                   "Frm_CommentBull",    "Frm_ContratAnnuel"};
 // A screen of 1366x768 at a scale of one and a half, less its title bar, its task bar and the
-// host's menu; and the width in which a page stands without scrolling sideways on a screen of
-// 1024.
+// host's menu; the pages scroll downwards only there, and their columns stand beside each other
+// on a screen of 1024.
 constexpr QSize Place{904, 426};
-constexpr int LargeurPage = 980;
+constexpr int LargeurAise = 1024;
 
 class Apparence : public ::testing::TestWithParam<double> {
  protected:
@@ -100,11 +101,30 @@ TEST_P(Apparence, NothingIsCutNorLaidOver) {
     for (int i = 0; i < (onglets == nullptr ? 1 : onglets->count()); ++i) {
       if (onglets != nullptr) onglets->setCurrentIndex(i);
       QCoreApplication::processEvents();
-      if (onglets != nullptr) {
-        const auto& zone = dynamic_cast<const QScrollArea&>(*onglets->currentWidget());
-        EXPECT_LE(zone.widget()->minimumSizeHint().width(), LargeurPage * GetParam()) << i;
-      }
       EXPECT_EQ(defauts(*racine), "") << forme << " page " << i;
+    }
+  }
+}
+
+TEST_P(Apparence, PagesScrollDownwardsOnly) {
+  grossir(GetParam());
+  // The table of fifteen columns needs the screen of 1024.
+  const std::pair<const char*, int> cas[] = {{"Frm_ElementsContrat", Place.width()},
+                                             {"Frm_ElementsContrat", LargeurAise},
+                                             {"Frm_ContratAnnuel", LargeurAise}};
+  for (const auto& [forme, largeur] : cas) {
+    const auto racine = montrer(forme);
+    auto* const onglets = racine->findChild<QTabWidget*>();
+    racine->resize(QSize(largeur, Place.height()) * GetParam());
+    for (int i = 0; i < onglets->count(); ++i) {
+      onglets->setCurrentIndex(i);
+      QCoreApplication::processEvents();
+      const auto& zone = dynamic_cast<const QScrollArea&>(*onglets->currentWidget());
+      EXPECT_EQ(zone.horizontalScrollBar()->maximum(), 0) << forme << i << " in " << largeur;
+      for (const auto* const rang : zone.findChildren<QBoxLayout*>()) {
+        if (!rang->objectName().startsWith("colonnes")) continue;
+        EXPECT_EQ(rang->direction() == QBoxLayout::LeftToRight, largeur == LargeurAise) << i;
+      }
     }
   }
 }

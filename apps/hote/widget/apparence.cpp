@@ -1,5 +1,6 @@
 #include "widget/apparence.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QLabel>
@@ -141,6 +142,10 @@ class Apparence : public QObject {
           std::max(texte, chiffres(mesures, bouton->property(Caracteres).toInt())));
     }
     for (auto* const liste : racine_.findChildren<QListWidget*>()) dimensionner(*liste);
+    for (auto* const combo : racine_.findChildren<QComboBox*>()) {
+      const int largeurMax = combo->property(CaracteresMax).toInt();
+      if (largeurMax > 0) combo->setMaximumWidth(chiffres(combo->fontMetrics(), largeurMax));
+    }
     QFont fixe = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     fixe.setPointSizeF(racine_.font().pointSizeF());
     for (auto* const texte : racine_.findChildren<QPlainTextEdit*>()) {

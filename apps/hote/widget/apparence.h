@@ -4,7 +4,7 @@
 //
 //   caracteres     width in digits: exact for an entry, the least one for a list, button or label
 //   caracteresMin  the least width of an entry that takes the room there is
-//   caracteresMax  the largest width of a list, in digits
+//   caracteresMax  the largest width of a list or a combo, in digits
 //   rangees        the least height of a list, in rows
 //   date           an entry of a date: it has the keys of dates and a calendar (the binder)
 //   toutes         a list that takes only its rows: the text of the row for none (the binder)

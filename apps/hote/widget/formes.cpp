@@ -1,6 +1,6 @@
 #include "widget/formes.h"
 
-#include <QScrollArea>
+#include <QTabWidget>
 
 #include "composants/suite.h"
 #include "liaison/bureau.h"
@@ -27,6 +27,7 @@
 #include "widget/apparence.h"
 #include "widget/calculs_origine.h"
 #include "widget/lignes_suivi.h"
+#include "widget/page_defilante.h"
 
 namespace hote {
 
@@ -39,30 +40,6 @@ std::unique_ptr<QWidget> construire() {
   appliquerApparence(*racine);
   return racine;
 }
-
-// The page of a tab scrolls where the screen is smaller than it; the buttons below stay.
-class PageDefilante : public QScrollArea {
- public:
-  explicit PageDefilante(QWidget& page) {
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
-    setWidget(&page);
-    // The ground is the tabs' own.
-    viewport()->setAutoFillBackground(false);
-    page.setAutoFillBackground(false);
-  }
-  // The toolkit stops at a size that no page has.
-  QSize sizeHint() const override { return widget()->sizeHint(); }
-
- protected:
-  // A page that was sized while it was hidden keeps the layout of its former width.
-  void showEvent(QShowEvent* evenement) override {
-    QScrollArea::showEvent(evenement);
-    widget()->layout()->invalidate();
-    widget()->layout()->activate();
-  }
-};
 
 template <typename Page>
 void ajouterPage(QTabWidget& onglets) {
