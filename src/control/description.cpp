@@ -59,7 +59,8 @@ const char* direEtat(EtatContrat etat) {
 }
 
 std::string direBarre(const Barre& barre) {
-  const auto fin = barre.sansFin ? std::nullopt : std::optional<long>(barre.dite);
+  std::optional<long> fin;
+  if (!barre.sansFin) fin = barre.dite;
   std::string texte = numero(barre.cle) + ", " + periode(barre.debut, fin, barre.etat);
   if (barre.presumee) texte += " (fin présumée)";
   texte += std::string(", ") + direEtat(barre.etat);
