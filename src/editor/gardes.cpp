@@ -161,18 +161,21 @@ Avis Gardes::ArticleChange() {
   if (dossier.ModeCreation) return Avis::Passe;
   data::CItem surFichier;
   dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, surFichier);
+  return Remplacement(surFichier);
+}
+
+Avis Gardes::Remplacement(const data::CItem& surFichier) {
+  session::Dossier& dossier = editeur_.Dossier();
   if (surFichier.Text() == dossier.SurFichier.Text()) return Avis::Passe;
   const auto ecarts = rules::ecartsContrat(dossier.Session.Lib, surFichier, dossier.ItemContrat);
-  if (ecarts.empty()) return Avis::Passe;
-  switch (editeur_.Services().conflits.Trancher(
-      {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts})) {
-    case screen::Tranche::Garder:
-      return Avis::Abandonne;
-    case screen::Tranche::Revenir:
-      return Avis::Reste;
-    case screen::Tranche::Remplacer:
-      break;
-  }
+  const auto tranche =
+      ecarts.empty()
+          ? screen::Tranche::Remplacer
+          : editeur_.Services().conflits.Trancher(
+                {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts});
+  if (tranche == screen::Tranche::Garder) return Avis::Abandonne;
+  if (tranche == screen::Tranche::Revenir) return Avis::Reste;
+  dossier.SurFichier = surFichier;
   return Avis::Passe;
 }
 
