@@ -34,9 +34,9 @@ const Gardes::Garde Gardes::Confirmation[5] = {&Gardes::Onglets, &Gardes::Prepar
                                                &Gardes::Heures, &Gardes::AutresContrats,
                                                &Gardes::CoherencePlanning};
 // The planning is written by its guard: who decides about the contract is asked before.
-const Gardes::Garde Gardes::Ecriture[5] = {&Gardes::Modification, &Gardes::DateFinModifiee,
-                                           &Gardes::CopieSimple, &Gardes::ArticleChange,
-                                           &Gardes::ImpactPlanning};
+const Gardes::Garde Gardes::Ecriture[6] = {&Gardes::Modification,  &Gardes::DateFinModifiee,
+                                           &Gardes::Ecrivables,    &Gardes::CopieSimple,
+                                           &Gardes::ArticleChange, &Gardes::ImpactPlanning};
 const Gardes::Garde Gardes::Depart[6] = {&Gardes::HeuresEnQuittant, &Gardes::Modification,
                                          &Gardes::DateFin,          &Gardes::CopieVerifiee,
                                          &Gardes::ArticleChange,    &Gardes::ImpactPlanning};
@@ -147,6 +147,13 @@ Avis Gardes::CoherencePlanning() {
 
 Avis Gardes::ImpactPlanning() {
   return planning_.Verif_ImpactPlanning() ? Avis::Passe : Avis::Reste;
+}
+
+Avis Gardes::Ecrivables() {
+  for (Onglet* const onglet : editeur_.Onglets()) {
+    if (!onglet->Ecrivable()) return Avis::Reste;
+  }
+  return Avis::Passe;
 }
 
 Avis Gardes::Copie(bool verifiee) {

@@ -35,7 +35,7 @@ class Gardes {
  private:
   using Garde = Avis (Gardes::*)();
   static const Garde Confirmation[5];
-  static const Garde Ecriture[5];
+  static const Garde Ecriture[6];
   static const Garde Depart[6];
   Avis Passer(std::span<const Garde> chaine);
 
@@ -54,6 +54,8 @@ class Gardes {
   Avis CoherencePlanning();
   Avis ImpactPlanning();
   Avis DateFin();
+  // What only the writing of a tab refuses.
+  Avis Ecrivables();
   Avis CopieSimple() { return Copie(false); }
   Avis CopieVerifiee() { return Copie(true); }
   Avis Copie(bool verifiee);
