@@ -88,6 +88,9 @@ class Brut {
  public:
   Brut() : connexion_(PQconnectdb(adresse().c_str())) {
     if (PQstatus(connexion_) != CONNECTION_OK) throw std::runtime_error("no server");
+    // What the store asks of the planner, so that both sides run the same plans.
+    Executer("SET enable_seqscan = off");
+    Executer("SET jit = off");
     Preparer("lire", "SELECT texte FROM contrats.article WHERE fichier = $1 AND cle = $2");
     Preparer("plage",
              "SELECT cle, texte FROM contrats.article WHERE fichier = $1 AND cle >= $2 AND "

@@ -216,12 +216,14 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
         return avis == Avis::Abandonne;
       }
       screen::Attente attente(*this);
-      bool ecrit = false;
+      Avis avis = Avis::Passe;
       DireCeQuiReste(*dossier_, [&] {
-        ecrit = enregistrement_.Ecrire_Existant();
-        if (ecrit) enregistrement_.Maj_Index();
+        avis = enregistrement_.Ecrire_Existant();
+        if (avis != Avis::Passe) return;
+        if (!enregistrement_.Relire()) avis = Avis::Reste;
+        if (avis == Avis::Passe) enregistrement_.Maj_Index();
       });
-      if (!ecrit) return false;
+      if (avis != Avis::Passe) return avis == Avis::Abandonne;
       enregistre_ = true;
       attente.Finir();
       return true;

@@ -37,9 +37,10 @@ std::string nomIndex(std::string_view prefixe, const data::CItem& contrat) {
 Avis Enregistrement::Ecrire_Donnees() {
   if (const Avis avis = gardes_.AvantEcriture(); avis != Avis::Passe) return avis;
   if (editeur_.Dossier().ModeCreation) return Ecrire_Nouveau();
+  const Avis avis = Ecrire_Existant();
   // What is on file stays as written when it does not read back soundly: the user has been told.
-  Ecrire_Existant();
-  return Avis::Passe;
+  if (avis == Avis::Passe) Relire();
+  return avis;
 }
 
 Avis Enregistrement::Ecrire_Nouveau() {
@@ -61,23 +62,40 @@ Avis Enregistrement::Ecrire_Nouveau() {
   return Avis::Passe;
 }
 
-bool Enregistrement::Ecrire_Existant() {
-  session::Dossier& dossier = editeur_.Dossier();
-  editeur_.conges.EcrireLiens();
-  const auto rompus = RompreParBulletin(dossier);
+// Replaces the contract on file by the one in hand. False, with nothing written, when it is not the
+// one that the user has seen: `surFichier` is.
+bool Enregistrement::RemplacerEnBloc(data::CItem& surFichier) {
+  const session::Dossier& dossier = editeur_.Dossier();
   data::Route route(dossier.Session.Db->Stockage());
+  bool remplace = false;
   dossier.Session.Db->Stockage().EnUnBloc([&] {
     AnnoncerModification(dossier, route);
+    surFichier = data::CItem();
+    dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, surFichier);
+    remplace = surFichier.Text() == dossier.SurFichier.Text();
+    if (!remplace) return;
     RompreEnRetour(dossier);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
     dossier.ItemContrat.DBWriteU();
   });
+  return remplace;
+}
+
+Avis Enregistrement::Ecrire_Existant() {
+  session::Dossier& dossier = editeur_.Dossier();
+  editeur_.conges.EcrireLiens();
+  const auto rompus = RompreParBulletin(dossier);
+  data::CItem surFichier;
+  while (!RemplacerEnBloc(surFichier)) {
+    if (const Avis avis = gardes_.Remplacement(surFichier); avis != Avis::Passe) return avis;
+  }
+  data::Route route(dossier.Session.Db->Stockage());
   dossier.SurFichier = dossier.ItemContrat;
   for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
   AnnoncerSuites(dossier, route);
   Marquer_Suivi();
   Ecrire_Tte();
-  return Relire();
+  return Avis::Passe;
 }
 
 // The latest contract that ended before the new one starts, with the same employer.

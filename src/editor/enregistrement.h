@@ -24,9 +24,11 @@ class Enregistrement {
 
   // The guards before the first write, then the contract with its side records.
   Avis Ecrire_Donnees();
-  // The writes of a contract on file: declaration event, contract, marks, then the reading back.
-  // False when the stored record is not sound: the user has been told.
-  bool Ecrire_Existant();
+  // The writes of a contract on file: declaration event, contract, marks. When somebody else has
+  // written it since the guards, the user is asked again before anything is written.
+  Avis Ecrire_Existant();
+  // Reads the stored contract back. False when it is not sound: the user has been told.
+  bool Relire();
   // After a successful write: the missions that end with the contract, and the indexes.
   void Maj_Missions();
   // `sansLiens`: a new contract stays out of the indexes of its entity and agreement.
@@ -41,8 +43,8 @@ class Enregistrement {
   std::optional<data::CItem> Chercher_ContratPrecedent() const;
 
   void Marquer_Suivi();
+  bool RemplacerEnBloc(data::CItem& surFichier);
   void Ecrire_Tte();
-  bool Relire();
   void Maj_PremiereEmbauche();
   void Maj_IndexCreation(bool sansLiens);
   void Maj_IndexAvenants();

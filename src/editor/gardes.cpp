@@ -34,9 +34,9 @@ const Gardes::Garde Gardes::Confirmation[5] = {&Gardes::Onglets, &Gardes::Prepar
                                                &Gardes::Heures, &Gardes::AutresContrats,
                                                &Gardes::CoherencePlanning};
 // The planning is written by its guard: who decides about the contract is asked before.
-const Gardes::Garde Gardes::Ecriture[5] = {&Gardes::Modification, &Gardes::DateFinModifiee,
-                                           &Gardes::CopieSimple, &Gardes::ArticleChange,
-                                           &Gardes::ImpactPlanning};
+const Gardes::Garde Gardes::Ecriture[6] = {&Gardes::Modification,  &Gardes::DateFinModifiee,
+                                           &Gardes::Ecrivables,    &Gardes::CopieSimple,
+                                           &Gardes::ArticleChange, &Gardes::ImpactPlanning};
 const Gardes::Garde Gardes::Depart[6] = {&Gardes::HeuresEnQuittant, &Gardes::Modification,
                                          &Gardes::DateFin,          &Gardes::CopieVerifiee,
                                          &Gardes::ArticleChange,    &Gardes::ImpactPlanning};
@@ -149,6 +149,13 @@ Avis Gardes::ImpactPlanning() {
   return planning_.Verif_ImpactPlanning() ? Avis::Passe : Avis::Reste;
 }
 
+Avis Gardes::Ecrivables() {
+  for (Onglet* const onglet : editeur_.Onglets()) {
+    if (!onglet->Ecrivable()) return Avis::Reste;
+  }
+  return Avis::Passe;
+}
+
 Avis Gardes::Copie(bool verifiee) {
   for (Onglet* const onglet : editeur_.Onglets()) {
     if (!onglet->Ecrire(verifiee)) return Avis::Reste;
@@ -161,18 +168,21 @@ Avis Gardes::ArticleChange() {
   if (dossier.ModeCreation) return Avis::Passe;
   data::CItem surFichier;
   dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, surFichier);
+  return Remplacement(surFichier);
+}
+
+Avis Gardes::Remplacement(const data::CItem& surFichier) {
+  session::Dossier& dossier = editeur_.Dossier();
   if (surFichier.Text() == dossier.SurFichier.Text()) return Avis::Passe;
   const auto ecarts = rules::ecartsContrat(dossier.Session.Lib, surFichier, dossier.ItemContrat);
-  if (ecarts.empty()) return Avis::Passe;
-  switch (editeur_.Services().conflits.Trancher(
-      {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts})) {
-    case screen::Tranche::Garder:
-      return Avis::Abandonne;
-    case screen::Tranche::Revenir:
-      return Avis::Reste;
-    case screen::Tranche::Remplacer:
-      break;
-  }
+  const auto tranche =
+      ecarts.empty()
+          ? screen::Tranche::Remplacer
+          : editeur_.Services().conflits.Trancher(
+                {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts});
+  if (tranche == screen::Tranche::Garder) return Avis::Abandonne;
+  if (tranche == screen::Tranche::Revenir) return Avis::Reste;
+  dossier.SurFichier = surFichier;
   return Avis::Passe;
 }
 

@@ -28,11 +28,14 @@ class Gardes {
   // Two contracts overlap: the message, and for a new contract the question what to do. Another
   // contract without an end leaves no date to choose: the creation is given up at once.
   Avis Chevauchement(const rules::Voisinage& voisins);
+  // The contract on file is that one. Where somebody else has written it since it was opened here,
+  // the user decides whose stands; ours replaces that one and no later one.
+  Avis Remplacement(const data::CItem& surFichier);
 
  private:
   using Garde = Avis (Gardes::*)();
   static const Garde Confirmation[5];
-  static const Garde Ecriture[5];
+  static const Garde Ecriture[6];
   static const Garde Depart[6];
   Avis Passer(std::span<const Garde> chaine);
 
@@ -51,10 +54,11 @@ class Gardes {
   Avis CoherencePlanning();
   Avis ImpactPlanning();
   Avis DateFin();
+  // What only the writing of a tab refuses.
+  Avis Ecrivables();
   Avis CopieSimple() { return Copie(false); }
   Avis CopieVerifiee() { return Copie(true); }
   Avis Copie(bool verifiee);
-  // Somebody else has written the contract since it was opened here: the user decides whose stands.
   Avis ArticleChange();
 
   Frm_ElementsContrat& editeur_;

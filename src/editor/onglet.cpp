@@ -55,7 +55,7 @@ void Onglet::Afficher() {
 
 bool Onglet::Ecrire(bool verifiee) {
   if (!charge_) return !verifiee || VerifFerme();
-  if (verifiee && !Verif_Ong()) return false;
+  if (verifiee && (!Verif_Ong() || !Ecrivable_Ong())) return false;
   Ecrire_Ong();
   return true;
 }

@@ -36,6 +36,9 @@ class Onglet {
   // The checks of the tab, in their order: the first that fails is shown. Those that hold for a tab
   // that was never shown are the others' (VerifFerme).
   bool Verif() { return charge_ ? Verif_Ong() : VerifFerme(); }
+  // What stands in the way of writing a tab whose checks have passed: it is shown. Asked after
+  // every other check of a save.
+  bool Ecrivable() { return !charge_ || Ecrivable_Ong(); }
   // From the fields to the contract in hand. `verifiee`: checks first and refuses with a message;
   // otherwise it copies silently.
   bool Ecrire(bool verifiee);
@@ -59,6 +62,7 @@ class Onglet {
   virtual void Afficher_Ong() {}
   virtual bool Verif_Ong() { return true; }
   virtual bool VerifFerme() { return true; }
+  virtual bool Ecrivable_Ong() { return true; }
   virtual void Ecrire_Ong() {}
   virtual void Vider_Ong() {}
 

@@ -60,8 +60,7 @@ void OngletFin::AfficherFin() {
   Txt_ObsFinContrat_1.SetText(contrat.Vue(C::ObservationsFin, 2));
   motif_.Activer(true);
   ActiverFin(true);
-  derniereDateFin_ = FinAffichee();
-  if (derniereDateFin_) bulletin_.Borner(editeur_.origine.Debut(), *derniereDateFin_);
+  if (const auto fin = FinAffichee()) bulletin_.Borner(editeur_.origine.Debut(), *fin);
   Cmd_SupprimerContrat.SetVisible(dates_.DateFin() == editeur_.origine.DateDebut());
 }
 
@@ -72,7 +71,6 @@ void OngletFin::SelonDroits(bool complet) {
 void OngletFin::Vider_Ong() {
   initiale_.Oublier();
   notificationVue_.clear();
-  derniereDateFin_.reset();
   motif_.Vider();
   preavis_.Vider();
   bulletin_.Vider();
@@ -155,22 +153,21 @@ void OngletFin::Txt_DatNotifContrat_LostFocus() {
   CalculPreavis();
 }
 
-// The last payslip is that of the end, until another is chosen for it.
+// The last payslip is that of the end each time that the end is left; a tab that shows what it
+// showed at first keeps the one that was chosen.
 void OngletFin::FinQuittee() {
   const auto fin = FinAffichee();
+  const bool intact = initiale_.Intact(Txt_DatNotifContrat.Text());
   Cmd_SupprimerContrat.SetVisible(fin && !Creation() && Session().DroitComplet() &&
                                   dates_.DateFin() == editeur_.origine.DateDebut());
   ActiverFin(fin.has_value());
   if (fin) {
-    const bool change = derniereDateFin_ != fin;
-    if (change) bulletin_.Effacer();
     bulletin_.Borner(editeur_.origine.Debut(), *fin);
-    if (change) bulletin_.MontrerFin();
+    if (!intact) bulletin_.MontrerFin();
   } else {
     dates_.ViderJours();
     bulletin_.Vider();
   }
-  derniereDateFin_ = fin;
   if (editeur_.origine.Particuliers()) retraite_.Choisir("", true);
 }
 
@@ -215,6 +212,7 @@ void OngletFin::CalculPreavis() {
                  "Préavis calculé : " + dureeEcrite(duree) + ", ancienneté depuis le " +
                      data::dateAffichee(depart) +
                      (situation.handicape ? ", travailleur handicapé." : "."));
+  bulletin_.MontrerFin();
   bulletin_.RevenirAu(*notification);
 }
 

@@ -69,8 +69,6 @@ class OngletFin : public Onglet {
   // The notification from which the notice was computed, or that was shown with its end.
   std::string notificationVue_;
   Suppression suppression_{editeur_};
-  // The end for which the last payslip was chosen.
-  std::optional<long> derniereDateFin_;
 
   // The end and its reason.
   screen::Label Etq_DatNotifContrat{Page, "Etq_DatNotifContrat",

@@ -62,6 +62,7 @@ class OngletPaie : public Onglet {
   void Afficher_Ong() override { Afficher_Ong3(); }
   bool Verif_Ong() override { return Verif_Ong3(); }
   bool VerifFerme() override { return profils_.Verif_Profil(); }
+  bool Ecrivable_Ong() override;
   void Ecrire_Ong() override { Ecrire_Ong3(); }
   void Vider_Ong() override;
   void SelonDroits(bool complet) override { activites_.SelonDroits(complet); }

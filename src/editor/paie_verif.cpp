@@ -33,19 +33,21 @@ const rules::Verification<OngletPaie> OngletPaie::Verifications[] = {
      "Le total de la répartition des activités est différent de 100."},
 };
 
-// After the list: the profile rule, the headings that hang on the activities, and the bank details
-// of a transfer.
+// After the list: the profile rule.
 bool OngletPaie::Verif_Ong3() {
-  if (!rules::Verifier<OngletPaie>(Verifications, *this,
-                                   [this](const rules::Refus& refus) { Refuser(refus); }) ||
-      !profils_.Verif_Profil()) {
-    return false;
-  }
+  return rules::Verifier<OngletPaie>(Verifications, *this,
+                                     [this](const rules::Refus& refus) { Refuser(refus); }) &&
+         profils_.Verif_Profil();
+}
+
+// The bank details of a transfer, and the headings that hang on the activities.
+bool OngletPaie::Ecrivable_Ong() {
+  if (RibManquant("paiement")) return false;
   if (activites_.RubriqueSansActivite()) {
     Refuser({RubriquesSansActivite});
     return false;
   }
-  return !RibManquant("paiement");
+  return true;
 }
 
 }  // namespace editor

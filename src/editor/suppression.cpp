@@ -63,14 +63,16 @@ bool Suppression::PlanningLibre() {
   return admis(editeur_, refus);
 }
 
-// The record as it is on file: what was typed and not saved goes with the screen.
+// The record as it is on file, whoever has written it last: what was typed and not saved goes with
+// the screen.
 void Suppression::Supprimer() {
   const session::Dossier& dossier = editeur_.Dossier();
-  data::CItem supprime = dossier.Initial;
-  supprime.Set(C::CongesReportesSur, "");
-  supprime.Set(C::CongesReprisDe, "");
-  supprime.Set(C::Annule, C::MarqueAnnule);
   dossier.Session.Db->Stockage().EnUnBloc([&] {
+    data::CItem supprime = dossier.Initial;
+    dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, supprime);
+    supprime.Set(C::CongesReportesSur, "");
+    supprime.Set(C::CongesReprisDe, "");
+    supprime.Set(C::Annule, C::MarqueAnnule);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, supprime);
     supprime.DBWriteU();
     Nettoyer_LiensConges(dossier, dossier.CleContratCourant);

@@ -31,13 +31,14 @@ constexpr Ordre kFin{"", "COMMIT"};
 constexpr Ordre kAnnuler{"", "ROLLBACK"};
 
 // The former text goes to the history with the checksum that it had. A text equal to the stored
-// one writes nothing.
+// one writes nothing. The last number is looked for from the end of the key: a plan for max() that
+// was made while the history was short goes through all of it.
 constexpr Ordre kPoser{
     "poser",
     "WITH avant AS (INSERT INTO contrats.ancien"
     "(fichier, cle, numero, texte, horodatage, utilisateur, supprime, controle) "
-    "SELECT a.fichier, a.cle, coalesce((SELECT max(n.numero) FROM contrats.ancien n "
-    "WHERE n.fichier = $1::bytea AND n.cle = $2::bytea), 0) + 1, "
+    "SELECT a.fichier, a.cle, coalesce((SELECT n.numero FROM contrats.ancien n "
+    "WHERE n.fichier = $1::bytea AND n.cle = $2::bytea ORDER BY n.numero DESC LIMIT 1), 0) + 1, "
     "a.texte, $5::bytea, $6::bytea, false, a.controle FROM contrats.article a "
     "WHERE a.fichier = $1::bytea AND a.cle = $2::bytea AND a.texte <> $3::bytea) "
     "INSERT INTO contrats.article(fichier, cle, texte, controle) "
@@ -48,8 +49,8 @@ constexpr Ordre kOter{
     "oter",
     "WITH avant AS (INSERT INTO contrats.ancien"
     "(fichier, cle, numero, texte, horodatage, utilisateur, supprime, controle) "
-    "SELECT a.fichier, a.cle, coalesce((SELECT max(n.numero) FROM contrats.ancien n "
-    "WHERE n.fichier = $1::bytea AND n.cle = $2::bytea), 0) + 1, "
+    "SELECT a.fichier, a.cle, coalesce((SELECT n.numero FROM contrats.ancien n "
+    "WHERE n.fichier = $1::bytea AND n.cle = $2::bytea ORDER BY n.numero DESC LIMIT 1), 0) + 1, "
     "a.texte, $3::bytea, $4::bytea, true, a.controle FROM contrats.article a "
     "WHERE a.fichier = $1::bytea AND a.cle = $2::bytea) "
     "DELETE FROM contrats.article WHERE fichier = $1::bytea AND cle = $2::bytea"};

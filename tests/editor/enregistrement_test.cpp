@@ -342,6 +342,47 @@ TEST_F(Enregistre, UnAutrePosteCreeLeMemeContratPendantLaReprise) {
   EXPECT_EQ(tout(), avant);
 }
 
+// Another station that writes between the guards of a save and its block.
+class EntreDeux : public support::RelaisStorage {
+ public:
+  using RelaisStorage::RelaisStorage;
+  std::function<void()> avantUnBloc;
+  void EnUnBloc(const std::function<void()>& travail) override {
+    if (const auto ecrire = std::exchange(avantUnBloc, nullptr)) ecrire();
+    RelaisStorage::EnUnBloc(travail);
+  }
+};
+
+TEST_F(Enregistre, UnAutrePosteEcritEntreLaQuestionEtLEcriture) {
+  const auto entreDeux = std::make_shared<EntreDeux>(*stockage);
+  data::Db poste(entreDeux);
+  session.Db = &poste;
+  session.OuvrirFichiers();
+  const struct {
+    screen::Tranche reponse;
+    bool visible;
+    std::string essai;
+  } cas[] = {{screen::Tranche::Revenir, true, "45"},
+             {screen::Tranche::Garder, false, "45"},
+             {screen::Tranche::Remplacer, false, "30"}};
+  for (const bool ok : {true, false}) {
+    for (const auto& [reponse, visible, essai] : cas) {
+      ouvrirContrat();
+      taper(txt("PerEssaiContrat"), "30");
+      entreDeux->avantUnBloc = [&] { contrat("00001001", {{C::PeriodeEssai, "45"}}); };
+      hote.conflits.Repondre(reponse);
+      confirmer(ok);
+      EXPECT_EQ(stocke({C::PeriodeEssai}), essai);
+      EXPECT_EQ(editeur->Visible(), visible);
+      const auto conflit = hote.conflits.Prendre();
+      ASSERT_TRUE(conflit && conflit->ecarts.size() == 1);
+      EXPECT_EQ(conflit->ecarts[0].surFichier + " " + conflit->ecarts[0].ici, "45 30");
+      EXPECT_FALSE(hote.conflits.Prendre()) << "asked once";
+      messages();
+    }
+  }
+}
+
 // What the steps before have put into the contract stays, unless the user takes over a date.
 TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
   for (const bool acceptee : {false, true}) {
