@@ -20,6 +20,7 @@
 #include "lettres/lettre_odt.h"
 #include "lettres/modele_odt.h"
 #include "lettres/traitement_texte.h"
+#include "liaison/ecriture.h"
 #include "screen/platform.h"
 #include "storage/memory.h"
 

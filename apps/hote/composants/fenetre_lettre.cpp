@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -64,6 +65,7 @@ FenetreLettre::FenetreLettre(const LettreOdt& lettre, QWidget* parente) : QDialo
   texte->setOpenLinks(false);
   texte->document()->setDocumentMargin(24);
   remplirApercu(*texte->document(), apercu(lettre.fichier));
+  texte->moveCursor(QTextCursor::Start);
   colonne->addWidget(texte, 1);
   auto* const boutons = new QDialogButtonBox(this);
   const struct {

@@ -1,11 +1,11 @@
 #include "fenetre/impression_liste.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QDir>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -13,8 +13,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "liaison/textes_qt.h"
-#include "screen/platform.h"
+#include "liaison/ecriture.h"
 
 namespace hote {
 
@@ -157,15 +156,11 @@ std::unique_ptr<QTextDocument> mettreEnPage(const Tableau& tableau, QPagedPaintD
 }
 
 QString imprimerListe(const Tableau& tableau, const QString& nom) {
-  QSaveFile fichier(cheminLibre(nom));
-  const auto refuser = [&fichier] {
-    throw screen::ErreurImpression(
-        versModele("Le document ne peut pas être écrit : " + fichier.fileName() +
-                   ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
-  };
-  if (!fichier.open(QIODevice::WriteOnly)) refuser();
+  QByteArray octets;
   {
-    QPdfWriter papier(&fichier);
+    QBuffer tampon(&octets);
+    tampon.open(QIODevice::WriteOnly);
+    QPdfWriter papier(&tampon);
     papier.setTitle(tableau.titre);
     papier.setResolution(PointsParPouce);
     papier.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
@@ -173,9 +168,9 @@ QString imprimerListe(const Tableau& tableau, const QString& nom) {
                                      QPageLayout::Millimeter));
     peindre(*mettreEnPage(tableau, papier), tableau, papier);
   }
-  // (The commit does not tell when its own last write fails.)
-  if (!fichier.flush() || !fichier.commit()) refuser();
-  return fichier.fileName();
+  const QString fichier = cheminLibre(nom);
+  ecrireDocument(fichier, octets);
+  return fichier;
 }
 
 }  // namespace hote

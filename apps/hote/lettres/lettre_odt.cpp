@@ -5,6 +5,7 @@
 
 #include "data/jour.h"
 #include "lettres/modele_odt.h"
+#include "liaison/ecriture.h"
 #include "liaison/textes_qt.h"
 #include "screen/platform.h"
 

@@ -3,12 +3,12 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <stdexcept>
 
 #include "documents/lettre.h"
 #include "lettres/archive_zip.h"
 #include "lettres/modele_odt.h"
+#include "liaison/ecriture.h"
 #include "liaison/textes_qt.h"
 #include "screen/platform.h"
 
@@ -132,12 +132,6 @@ void DossierModeles::Completer() const {
   for (const documents::ModeleLettre& modele : documents::modelesLettres()) {
     Fichier(modele.fichier);
   }
-}
-
-bool ecrireFichier(const QString& fichier, const QByteArray& octets) {
-  QSaveFile sortie(fichier);
-  return sortie.open(QIODevice::WriteOnly) && sortie.write(octets) == octets.size() &&
-         sortie.flush() && sortie.commit();
 }
 
 }  // namespace hote

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <utility>
 
 namespace hote {
 
@@ -27,9 +28,5 @@ class DossierModeles {
  private:
   QString dossier_;
 };
-
-// Writes the file whole or not at all: nothing stands under the name after a failure but what stood
-// there. False then.
-bool ecrireFichier(const QString& fichier, const QByteArray& octets);
 
 }  // namespace hote

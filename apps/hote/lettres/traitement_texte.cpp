@@ -14,6 +14,7 @@
 #include "lettres/apercu.h"
 #include "lettres/archive_zip.h"
 #include "lettres/modeles.h"
+#include "liaison/ecriture.h"
 #include "liaison/textes_qt.h"
 
 namespace hote {

@@ -1,12 +1,13 @@
+#include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <stdexcept>
 
 #include "liaison/bureau.h"
+#include "liaison/ecriture.h"
 #include "liaison/services_qt.h"
 #include "liaison/textes_qt.h"
 
@@ -19,12 +20,6 @@ constexpr double TwipsParPouce = 1440;
 
 int enPoints(int twips) {
   return qRound(twips * PointsParPouce / TwipsParPouce);
-}
-
-[[noreturn]] void refuser(const QSaveFile& fichier) {
-  throw screen::ErreurImpression(
-      versModele("Le document ne peut pas être écrit : " + fichier.fileName() +
-                 ". Vérifiez la place sur le disque et vos droits sur ce dossier."));
 }
 
 }  // namespace
@@ -47,12 +42,9 @@ void ImprimantePdf::Police(const std::string& nom, double points, bool gras) {
 
 QPainter& ImprimantePdf::Pinceau() {
   if (!document_) {
-    const QDir dossier(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dossier.mkpath(".");
-    const QString heure = QDateTime::currentDateTime().toString("yyyy-MM-dd HH-mm-ss-zzz");
-    auto fichier = std::make_unique<QSaveFile>(dossier.filePath("Impression " + heure + ".pdf"));
-    if (!fichier->open(QIODevice::WriteOnly)) refuser(*fichier);
-    fichier_ = std::move(fichier);
+    octets_.clear();
+    fichier_ = std::make_unique<QBuffer>(&octets_);
+    fichier_->open(QIODevice::WriteOnly);
     document_ = std::make_unique<QPdfWriter>(fichier_.get());
     document_->setPageMargins(QMarginsF(0, 0, 0, 0));
     document_->setResolution(PointsParPouce);
@@ -106,13 +98,15 @@ void ImprimantePdf::FinDocument() {
   pinceau_.reset();
   document_.reset();
   pageFinie_ = false;
-  // A document that did not come whole onto the disk does not stand there at all.
-  const std::unique_ptr<QSaveFile> fichier = std::move(fichier_);
-  // (The commit does not tell when its own last write fails.)
-  if (!fichier->flush() || !fichier->commit()) refuser(*fichier);
+  fichier_.reset();
+  const QDir dossier(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  dossier.mkpath(".");
+  const QString heure = QDateTime::currentDateTime().toString("yyyy-MM-dd HH-mm-ss-zzz");
+  const QString fichier = dossier.filePath("Impression " + heure + ".pdf");
+  ecrireDocument(fichier, octets_);
   // The user may be told of it, and asked.
   const CurseurQt::Levee levee(curseur_);
-  if (bureau_.SurImpression) bureau_.SurImpression(fichier->fileName());
+  if (bureau_.SurImpression) bureau_.SurImpression(fichier);
 }
 
 }  // namespace hote

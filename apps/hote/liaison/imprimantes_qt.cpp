@@ -58,16 +58,9 @@ QPainter& ImprimantesQt::Pinceau() {
         std::make_unique<QPrinter>(QPrinterInfo::printerInfo(choisie_), QPrinter::HighResolution);
     imprimante_->setFullPage(true);
     pinceau_ = std::make_unique<QPainter>();
-    if (!pinceau_->begin(imprimante_.get())) {
-      pinceau_.reset();
-      imprimante_.reset();
-      throw screen::ErreurImpression(
-          "L'imprimante « " + versModele(choisie_) +
-          " » ne répond pas. Vérifiez qu'elle est allumée, ou choisissez-en "
-          "une autre.");
-    }
-  } else if (pageFinie_) {
-    imprimante_->newPage();
+    if (!pinceau_->begin(imprimante_.get())) Echouer("ne répond pas");
+  } else if (pageFinie_ && !imprimante_->newPage()) {
+    Echouer("s'est arrêtée en cours d'impression");
   }
   pageFinie_ = false;
   return *pinceau_;
@@ -79,6 +72,7 @@ void ImprimantesQt::Texte(int x, int y, const std::string& texte, int largeur) {
   QFont police(versQt(police_));
   police.setPointSizeF(points_);
   police.setBold(gras_);
+  police.setStyleHint(QFont::TypeWriter);
   pinceau.setFont(police);
   const double echelle = imprimante_->resolution() / TwipsParPouce;
   ecrireLigne(pinceau, QPoint(qRound(x * echelle), qRound(y * echelle)), versQt(texte),
@@ -102,10 +96,26 @@ void ImprimantesQt::FinPage() {
 
 void ImprimantesQt::FinDocument() {
   if (!imprimante_) return pdf_.FinDocument();
-  pinceau_->end();
+  const bool fini = pinceau_->end();
+  const QPrinter::PrinterState etat = imprimante_->printerState();
+  if (!fini || etat == QPrinter::Error || etat == QPrinter::Aborted) {
+    Echouer("n'a pas pris le document");
+  }
+  Abandonner();
+}
+
+// The next document begins anew.
+void ImprimantesQt::Abandonner() {
   pinceau_.reset();
   imprimante_.reset();
   pageFinie_ = false;
+}
+
+void ImprimantesQt::Echouer(const char* panne) {
+  if (imprimante_) imprimante_->abort();
+  Abandonner();
+  throw screen::ErreurImpression("L'imprimante « " + versModele(choisie_) + " » " + panne +
+                                 ". Vérifiez qu'elle est allumée, ou choisissez-en une autre.");
 }
 
 }  // namespace hote

@@ -29,6 +29,9 @@ class ImprimantesQt : public screen::Imprimante {
 
  private:
   QPainter& Pinceau();
+  void Abandonner();
+  // Gives the document up and raises a screen::ErreurImpression: what the printer did.
+  [[noreturn]] void Echouer(const char* panne);
 
   ImprimantePdf pdf_;
   // "" for the PDF document.

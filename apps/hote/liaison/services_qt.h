@@ -1,6 +1,7 @@
 #pragma once
 // The services of the platform, on Qt.
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
 #include <map>
@@ -11,9 +12,9 @@
 
 #include "screen/platform.h"
 
+class QBuffer;
 class QPainter;
 class QPdfWriter;
-class QSaveFile;
 class QSettings;
 class QWidget;
 
@@ -99,7 +100,9 @@ class ImprimantePdf : public screen::Imprimante {
 
   Bureau& bureau_;
   CurseurQt& curseur_;
-  std::unique_ptr<QSaveFile> fichier_;
+  // The document while it grows; it goes onto the disk whole.
+  QByteArray octets_{};
+  std::unique_ptr<QBuffer> fichier_;
   std::unique_ptr<QPdfWriter> document_;
   std::unique_ptr<QPainter> pinceau_;
   bool pageFinie_ = false;
