@@ -145,11 +145,12 @@ int Annuaire::columnCount(const QModelIndex&) const {
 QVariant Annuaire::data(const QModelIndex& index, int role) const {
   const Fiche& fiche = fiches_[retenus_.at(static_cast<std::size_t>(index.row()))];
   const Aidant& aidant = fiche.aidant;
+  const QString distinction =
+      fiche.distinction.empty() ? QString() : " (" + versQt(fiche.distinction) + ")";
   if (role == Qt::DisplayRole) {
-    if (index.column() == Code) return versQt(aidant.code);
-    const QString nom = versQt(aidant.nomPrenom);
-    return fiche.distinction.empty() ? nom : nom + " (" + versQt(fiche.distinction) + ")";
+    return index.column() == Code ? versQt(aidant.code) : versQt(aidant.nomPrenom) + distinction;
   }
+  if (role == Distinction && index.column() == Nom) return distinction;
   if (aidant.code == ouvert_) {
     if (role == Qt::FontRole) {
       QFont gras;
@@ -159,6 +160,10 @@ QVariant Annuaire::data(const QModelIndex& index, int role) const {
     if (role == Qt::AccessibleDescriptionRole) return "Aidant ouvert";
   }
   if (role == Qt::ToolTipRole && aidant.supprime) return "Aidant supprimé : aucun ajout possible";
+  // The list's own leaves out what it takes to be read in the row.
+  if (role == Qt::ToolTipRole && !distinction.isEmpty()) {
+    return (versQt(aidant.nomPrenom) + distinction).toHtmlEscaped();
+  }
   if (role == Qt::ForegroundRole && aidant.supprime) {
     return QGuiApplication::palette().brush(QPalette::PlaceholderText);
   }

@@ -34,6 +34,8 @@ std::vector<Aidant> lireAidants(data::Storage& stockage);
 class Annuaire : public QAbstractTableModel {
  public:
   enum Colonne { Code, Nom, NombreColonnes };
+  // The end of a name's text that tells it from its namesakes, or "".
+  enum Role { Distinction = Qt::UserRole };
 
   // By name, then code; the filter is lifted. Those of one name are shown with their birth date or,
   // where that does not part them, their town.

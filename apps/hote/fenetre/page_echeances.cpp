@@ -60,6 +60,9 @@ PageEcheances::PageEcheances(screen::Platform& plateforme, QWidget* parent)
   liste_->setObjectName("listeEcheances");
   liste_->setAccessibleName("Échéances");
   liste_->setHeaderLabels({"Jour", "Échéance", "Aidant", "Contrat", "Employeur"});
+  liste_->header()->setMinimumSectionSize(2 * LigneListe::Marge);
+  liste_->header()->setStretchLastSection(false);
+  liste_->header()->setSectionResizeMode(NomEmployeur, QHeaderView::Stretch);
   liste_->setRootIsDecorated(false);
   liste_->setUniformRowHeights(true);
   liste_->setAllColumnsShowFocus(true);
@@ -147,7 +150,8 @@ void PageEcheances::Montrer() {
     lignes << ligneListe;
   }
   liste_->addTopLevelItems(lignes);
-  for (int colonne = 0; colonne < NombreColonnes; ++colonne) {
+  // The last one takes the rest.
+  for (int colonne = 0; colonne < NombreColonnes - 1; ++colonne) {
     liste_->resizeColumnToContents(colonne);
     liste_->setColumnWidth(colonne, liste_->columnWidth(colonne) + LigneListe::Marge);
   }

@@ -42,6 +42,7 @@ class LigneAidant : public LigneListe {
  protected:
   void initStyleOption(QStyleOptionViewItem* cellule, const QModelIndex& index) const override {
     LigneListe::initStyleOption(cellule, index);
+    Abreger(*cellule, index.data(Annuaire::Distinction).toString());
     if (!index.data(Qt::ForegroundRole).isValid()) return;
     QPalette& palette = cellule->palette;
     palette.setColor(QPalette::All, QPalette::Text,
@@ -49,6 +50,16 @@ class LigneAidant : public LigneListe {
   }
 
  private:
+  // Of namesakes the name gives way, not what tells them apart, which ends the text.
+  static void Abreger(QStyleOptionViewItem& cellule, const QString& distinction) {
+    if (distinction.isEmpty() || !cellule.rect.isValid()) return;
+    const int place = cellule.rect.width() - 2 * Marge;
+    const int reste = place - cellule.fontMetrics.horizontalAdvance(distinction);
+    const QString nom = cellule.text.chopped(distinction.size());
+    cellule.text =
+        cellule.fontMetrics.elidedText(nom, Qt::ElideRight, std::max(reste, 0)) + distinction;
+  }
+
   const Annuaire& annuaire_;
 };
 
@@ -72,7 +83,10 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   liste_->setHeaderHidden(true);
   liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   liste_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  liste_->header()->setStretchLastSection(true);
+  liste_->header()->setStretchLastSection(false);
+  liste_->header()->setSectionResizeMode(Annuaire::Nom, QHeaderView::Stretch);
+  // The toolkit's own would run under the bar of a narrow list.
+  liste_->header()->setMinimumSectionSize(2 * LigneListe::Marge);
   liste_->setItemDelegate(new LigneAidant(liste_, annuaire_));
   liste_->header()->resizeSection(
       Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
