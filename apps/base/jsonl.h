@@ -32,7 +32,6 @@ class LecteurJsonl {
 
   // The line that Suivant looked at last.
   long Ligne() const { return numero_; }
-  const std::string& TexteLigne() const { return ligne_; }
 
  private:
   bool LigneSuivante();

@@ -1,13 +1,9 @@
 #include "control/ctr_contrat.h"
 
-#include <algorithm>
-
-#include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
-#include "data/nombre.h"
 #include "data/requete.h"
 #include "screen/attente.h"
 
@@ -26,6 +22,9 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
   lignes_.SurDoubleClic = [this](int) { Appel_Contrat(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
 
+  contrats_.SurChangement = [this] {
+    if (SurContrats) SurContrats();
+  };
   aide_.Preparer(session::JeuAide::Trois);
   PrendreFiltresParDefaut();
   lignes_.Activer(false);
@@ -99,15 +98,12 @@ void Ctr_Contrat::Effacer_Donnees() {
 
 void Ctr_Contrat::Recherche_Contrat() {
   data::Route route(session_.Db->Stockage());
-  AnnoncerContrats(route);
+  contrats_.Annoncer(W_Code, route);
   const FiltreContrats filtre = Filtre();
   ViderListes();
-  contratsLus_ = false;
-  std::vector<ContratAidant> contrats;
   std::vector<LigneContrat> lignes;
   LecteurLignes lecteur(session_);
-  PourChaqueContrat([&](const data::CItem& contrat) {
-    contrats.push_back(ContratAidant::De(contrat));
+  contrats_.Lire(W_Code, [&](const data::CItem& contrat) {
     if (!filtre.Garde(contrat)) return;
     LigneContrat ligne = lecteur.Lire(contrat);
     const auto rang = rangInsertion(lignes, ligne, TriChoisi());
@@ -117,25 +113,6 @@ void Ctr_Contrat::Recherche_Contrat() {
     lignes_.Ajouter(ligne.Textes());
     clesContrats_.Append(ligne.cle);
   }
-  RetenirContrats(std::move(contrats));
-}
-
-// By number; a number without a record is passed over.
-void Ctr_Contrat::PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const {
-  data::CItem aidant;
-  session_.F_CIVILAIDANT.Lire(W_Code, aidant);
-  const long long dernier = std::min(data::entier(aidant.Vue(data::CivilAidant::DernierNumero)),
-                                     data::DernierNumeroPossible);
-  for (long numero = 1; numero <= dernier; ++numero) {
-    data::CItem contrat;
-    if (session_.F_CONTRAT.Lire(W_Code + data::numeroContrat(numero), contrat)) acte(contrat);
-  }
-}
-
-void Ctr_Contrat::RetenirContrats(std::vector<ContratAidant> contrats) {
-  contrats_ = std::move(contrats);
-  contratsLus_ = true;
-  if (SurContrats) SurContrats();
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "control/contrat_aidant.h"
+#include "control/contrats_lus.h"
 #include "control/filtre.h"
 #include "control/lecteur_lignes.h"
 #include "control/placement.h"
@@ -76,11 +77,8 @@ class Ctr_Contrat : public screen::Form {
 
   // The contract key of each row: attribute = row + 1.
   const data::CItem& ClesContrats() const { return clesContrats_; }
-  // Every contract that the last search has read, kept by the filters or not; what was opened or
-  // created since is as it stands now.
-  const std::vector<ContratAidant>& Contrats() const { return contrats_; }
-  // False before the first search, and after one that the store has broken off.
-  bool ContratsLus() const { return contratsLus_; }
+  // Every contract of the carer, kept by the filters or not.
+  const ContratsLus& Contrats() const { return contrats_; }
   // Called when they are others. Unset, nothing happens.
   screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
@@ -146,10 +144,6 @@ class Ctr_Contrat : public screen::Form {
   void ViderListes();
   // What the options and the legal entity ask for.
   FiltreContrats Filtre() const;
-  void AnnoncerContrats(data::Route& route);
-  void PourChaqueContrat(const std::function<void(const data::CItem&)>& acte) const;
-  void AssurerContrats();
-  void RetenirContrats(std::vector<ContratAidant> contrats);
   Tri TriChoisi() const;
 
   // Opens the contract of that key; a row of the list that it is follows.
@@ -159,8 +153,6 @@ class Ctr_Contrat : public screen::Form {
       const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
   // What became of the contract of that key.
   void Annoncer(const std::string& cle, const char* sort) const;
-  // Notes a contract that was opened or created as it stands on file now.
-  void Noter(const std::string& cle);
   void ActualiserLigne(const std::string& cle);
   void AjouterLigneEnTete(const std::string& cle);
 
@@ -171,8 +163,7 @@ class Ctr_Contrat : public screen::Form {
   // The legal entity that the list is restricted to; "" for all.
   std::string codeAssocFiltre_;
   data::CItem clesContrats_;
-  std::vector<ContratAidant> contrats_;
-  bool contratsLus_ = false;
+  ContratsLus contrats_{session_};
   screen::Colonnes lignes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,

@@ -1,7 +1,5 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
-#include <algorithm>
-
 #include "control/ctr_contrat.h"
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
@@ -14,35 +12,26 @@ void Ctr_Contrat::Appel_Contrat() {
   OuvrirContrat(ligne < 0 ? W_CodeContrat : clesContrats_(ligne + 1));
 }
 
-// A contract that is opened or created before any search is shown among the others all the same.
-void Ctr_Contrat::AssurerContrats() {
-  if (contratsLus_) return;
-  std::vector<ContratAidant> contrats;
-  PourChaqueContrat(
-      [&](const data::CItem& contrat) { contrats.push_back(ContratAidant::De(contrat)); });
-  RetenirContrats(std::move(contrats));
-}
-
 void Ctr_Contrat::OuvrirContrat(const std::string& cle) {
-  AssurerContrats();
+  contrats_.Assurer(W_Code);
   const editor::Frm_ElementsContrat& editeur =
       Editeur([&](editor::Frm_ElementsContrat& e) { e.Ouvrir(cle); });
   editeur_->ShowModal();
   screen::Attente retour(*this);
-  Noter(cle);
+  contrats_.Noter(cle);
   ActualiserLigne(cle);
   if (editeur.Enregistre()) Annoncer(cle, "enregistré");
   retour.Finir();
 }
 
 void Ctr_Contrat::Cmd_Ajouter_Click() {
-  AssurerContrats();
+  contrats_.Assurer(W_Code);
   editor::Frm_ElementsContrat& editeur = Editeur([](editor::Frm_ElementsContrat& e) { e.Creer(); });
   editeur.ShowModal();
   screen::Attente retour(*this);
   if (editeur.Cree()) AjouterLigneEnTete(editeur.Dossier().CleContratCourant);
   if (editeur.Enregistre()) Annoncer(editeur.Dossier().CleContratCourant, "enregistré");
-  if (editeur.Enregistre()) Noter(editeur.Dossier().CleContratCourant);
+  if (editeur.Enregistre()) contrats_.Noter(editeur.Dossier().CleContratCourant);
   retour.Finir();
   Lst_DatDebContrat.SetFocus();
 }
@@ -79,19 +68,6 @@ std::optional<ContratAidant> Ctr_Contrat::EnMain() const {
 void Ctr_Contrat::Annoncer(const std::string& cle, const char* sort) const {
   if (!SurAvis || cle.size() < data::LongueurCodeAidant) return;
   SurAvis("Contrat " + cle.substr(data::LongueurCodeAidant) + " " + sort);
-}
-
-void Ctr_Contrat::Noter(const std::string& cle) {
-  data::CItem contrat;
-  if (!session_.F_CONTRAT.Lire(cle, contrat)) return;
-  const auto connu = std::find_if(contrats_.begin(), contrats_.end(),
-                                  [&](const ContratAidant& c) { return c.cle == cle; });
-  if (connu == contrats_.end()) {
-    contrats_.push_back(ContratAidant::De(contrat));
-  } else {
-    *connu = ContratAidant::De(contrat);
-  }
-  if (SurContrats) SurContrats();
 }
 
 // The dates of the row that was opened, from the record as it stands now; employer and agreement

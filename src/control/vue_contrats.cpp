@@ -9,7 +9,7 @@
 namespace control {
 
 Compte VueContrats::Compter() const {
-  return compter(liste_.Contrats(), liste_.Services().poste.Aujourdhui());
+  return compter(liste_.Contrats().Tous(), liste_.Services().poste.Aujourdhui());
 }
 
 EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
@@ -17,15 +17,15 @@ EtatContrat VueContrats::Etat(const ContratAidant& contrat) const {
 }
 
 Frise VueContrats::FaireFrise() const {
-  return faireFrise(liste_.Contrats(), std::nullopt, liste_.Services().poste.Aujourdhui());
+  return faireFrise(liste_.Contrats().Tous(), std::nullopt, liste_.Services().poste.Aujourdhui());
 }
 
 Frise VueContrats::FaireFriseEnMain(int rangsMax) const {
   const long aujourdhui = liste_.Services().poste.Aujourdhui();
   const auto enMain = liste_.EnMain();
-  Frise frise = faireFrise(liste_.Contrats(), enMain, aujourdhui);
+  Frise frise = faireFrise(liste_.Contrats().Tous(), enMain, aujourdhui);
   if (frise.rangs <= rangsMax || !enMain || enMain->portee.association.empty()) return frise;
-  return faireFriseBande(liste_.Contrats(), *enMain, aujourdhui);
+  return faireFriseBande(liste_.Contrats().Tous(), *enMain, aujourdhui);
 }
 
 std::string VueContrats::Dire(const Barre& barre) const {
@@ -56,7 +56,7 @@ std::string VueContrats::DirePourquoiSansAjout() const {
 std::string VueContrats::DireVide() const {
   if (liste_.Lst_DatDebContrat.ListCount() > 0) return "";
   if (!liste_.Lst_DatDebContrat.Enabled()) return "Choisissez les filtres, puis Recherche (F5).";
-  if (!liste_.ContratsLus()) return "Les contrats n'ont pas pu être lus.";
+  if (!liste_.Contrats().Lus()) return "Les contrats n'ont pas pu être lus.";
   if (Compter().Vivants() > 0) return "Aucun contrat sous ces filtres.";
   const std::string sansAjout = DirePourquoiSansAjout();
   return "Cet aidant n'a aucun contrat. " +
@@ -86,7 +86,7 @@ void VueContrats::Montrer(EtatContrat etat) {
   LeverEntite();
   liste_.Affiche("", "", etat == EtatContrat::Termine ? "H" : "A");
   for (int i = 1; i <= liste_.ClesContrats().DCount(); ++i) {
-    const auto& contrats = liste_.Contrats();
+    const auto& contrats = liste_.Contrats().Tous();
     const std::string cle = liste_.ClesContrats()(i);
     const auto contrat = std::find_if(contrats.begin(), contrats.end(),
                                       [&](const ContratAidant& c) { return c.cle == cle; });
@@ -97,7 +97,7 @@ void VueContrats::Montrer(EtatContrat etat) {
 }
 
 bool VueContrats::Choisir(const std::string& cle) {
-  const auto& contrats = liste_.Contrats();
+  const auto& contrats = liste_.Contrats().Tous();
   const auto contrat = std::find_if(contrats.begin(), contrats.end(),
                                     [&](const ContratAidant& c) { return c.cle == cle; });
   if (contrat == contrats.end() || contrat->annule) return false;

@@ -16,6 +16,12 @@
 
 namespace dialogs {
 
+// Asked by every screen in which lines are entered.
+inline constexpr const char* QuestionArticle =
+    "Voulez-vous enregistrer les modifications apportées à cet article ?";
+inline constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
+inline constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
+
 class Dialogue : public screen::Form {
  protected:
   Dialogue(screen::Platform& platform, session::Dossier& dossier, std::string nom,

@@ -6,16 +6,11 @@ namespace {
 
 using screen::Boutons, screen::Icone, screen::Reponse;
 
-constexpr const char* QuestionSortie =
-    "Voulez-vous enregistrer les modifications apportées à cet article ?";
-constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
-constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
-
 }  // namespace
 
 DialogueLignes::DialogueLignes(screen::Platform& platform, session::Dossier& dossier,
                                std::string nom, std::string titre)
-    : DialogueContrat(platform, dossier, std::move(nom), std::move(titre), QuestionSortie) {}
+    : DialogueContrat(platform, dossier, std::move(nom), std::move(titre), QuestionArticle) {}
 
 void DialogueLignes::Finir() {
   enCreation_ = false;

@@ -129,7 +129,7 @@ void Frm_ContratAnnuel::Cmd_Ajouter_Click() {
 
 void Frm_ContratAnnuel::Cmd_Supprimer_Click() {
   if (enMain_ == LigneEnMain::Modification) {
-    if (!Confirmer("Etes-vous sûr de vouloir supprimer cette ligne ?")) return;
+    if (!Confirmer(SupprimerLigne)) return;
     Montree().SupprimerLigne();
   } else if (Montree().Nombre() > 0) {
     if (!Confirmer("Etes-vous sûr de vouloir supprimer ce suivi de contrat ?")) return;
@@ -148,8 +148,7 @@ void Frm_ContratAnnuel::Cmd_Ok_Click() {
 }
 
 void Frm_ContratAnnuel::Cmd_Annuler_Click() {
-  if (enMain_ == LigneEnMain::Creation &&
-      !Confirmer("Etes-vous sûr de vouloir quitter cette création ?")) {
+  if (enMain_ == LigneEnMain::Creation && !Confirmer(QuitterCreation)) {
     return;
   }
   Montree().Vider_Texte();
@@ -161,9 +160,7 @@ void Frm_ContratAnnuel::Cmd_Annuler_Click() {
 void Frm_ContratAnnuel::Cmd_Retour_Click() {
   if (session_.DroitComplet() && (remunere.Modifiee() || tempsEffectif.Modifiee())) {
     Services().curseur.Bip();
-    const Reponse reponse =
-        MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
-                   Boutons::OuiNonAnnuler, Icone::Exclamation);
+    const Reponse reponse = MessageBox(QuestionArticle, Boutons::OuiNonAnnuler, Icone::Exclamation);
     if (reponse == Reponse::Annuler) return;
     if (reponse == Reponse::Oui) Enregistrer();
   }

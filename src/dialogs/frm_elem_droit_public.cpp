@@ -4,6 +4,7 @@
 
 #include "data/nombre.h"
 #include "data/texte.h"
+#include "screen/touches.h"
 
 namespace dialogs {
 
@@ -68,20 +69,13 @@ void choisirLigne(screen::ComboBox& champ) {
   champ.SetListIndex(static_cast<int>(ligne - lignes.begin()));
 }
 
-bool chiffre(char32_t touche) {
-  return touche >= U'0' && touche <= U'9';
-}
-
 bool lettre(char32_t touche) {
   return (touche >= U'a' && touche <= U'z') || (touche >= U'A' && touche <= U'Z');
 }
 
 // Control keys pass: what the host hands over of them edits or leaves the field.
 void chiffresEtLettres(char32_t& touche) {
-  if (touche >= U' ' && !chiffre(touche) && !lettre(touche)) touche = 0;
-}
-void chiffresSeuls(char32_t& touche) {
-  if (touche >= U' ' && !chiffre(touche)) touche = 0;
+  if (touche >= U' ' && !screen::estChiffre(touche) && !lettre(touche)) touche = 0;
 }
 
 bool horsIndice(const screen::TextField& champ) {
@@ -127,7 +121,7 @@ void Frm_ElemDroitPublic::Lier() {
        {&Txt_CodeCorps, &Txt_CodeGrade, &Txt_CodeEmploi, &Txt_CodeEche}) {
     champ->KeyPress = chiffresEtLettres;
   }
-  Txt_IndBrut.KeyPress = Txt_IndMaj.KeyPress = chiffresSeuls;
+  Txt_IndBrut.KeyPress = Txt_IndMaj.KeyPress = screen::chiffresSeuls;
   Txt_NbPtsNBI.KeyPress = [this](char32_t& touche) {
     session_.Lib.FilterKey(Txt_NbPtsNBI.HorsSelection(), touche, false);
     if (touche != screen::ToucheEntree) return;

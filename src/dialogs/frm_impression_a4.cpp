@@ -3,16 +3,9 @@
 #include "data/nombre.h"
 #include "data/texte.h"
 #include "dialogs/imprimantes.h"
+#include "screen/touches.h"
 
 namespace dialogs {
-
-namespace {
-
-void chiffresSeuls(char32_t& touche) {
-  if (touche >= U' ' && (touche < U'0' || touche > U'9')) touche = 0;
-}
-
-}  // namespace
 
 Frm_ImpressionA4::Frm_ImpressionA4(screen::Platform& platform)
     : Form(platform, "Frm_ImpressionA4", "Impression") {
@@ -22,7 +15,7 @@ Frm_ImpressionA4::Frm_ImpressionA4(screen::Platform& platform)
   Bdh_NbCopies.SetValue(1);
   Txt_NbCopies.SetText("1");
   Cbo_Imprimante.Click = [this] { Cbo_Imprimante_Click(); };
-  Txt_NbCopies.KeyPress = chiffresSeuls;
+  Txt_NbCopies.KeyPress = screen::chiffresSeuls;
   Txt_NbCopies.Change = [this] { Txt_NbCopies_Change(); };
   Bdh_NbCopies.Change = [this] { Txt_NbCopies.SetText(std::to_string(Bdh_NbCopies.Value())); };
   Cmd_Ok.Click = [this] { Cmd_Ok_Click(); };

@@ -12,8 +12,6 @@ namespace {
 
 namespace C = data::Contrat;
 
-constexpr const char* QuestionSortie =
-    "Voulez-vous enregistrer les modifications apportées à cet article ?";
 constexpr const char* MotifObligatoire = "La saisie d'un motif d'embauche est obligatoire.";
 
 // The reasons for recourse, in row order.
@@ -43,7 +41,7 @@ int ligneDuRecours(std::string_view code) {
 
 Frm_MotifCDD::Frm_MotifCDD(screen::Platform& platform, session::Dossier& dossier,
                            const std::string& dateDebut, ContexteMotif contexte)
-    : DialogueContrat(platform, dossier, "Frm_MotifCDD", "Motif C.D.D.", QuestionSortie),
+    : DialogueContrat(platform, dossier, "Frm_MotifCDD", "Motif C.D.D.", QuestionArticle),
       contexte_(std::move(contexte)),
       zones_({session::texte(Txt_MotifEmbContrat_0, C::MotifEmbaucheTexte, 1),
               session::texte(Txt_MotifEmbContrat_1, C::MotifEmbaucheTexte, 2),

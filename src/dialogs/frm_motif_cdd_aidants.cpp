@@ -24,8 +24,6 @@ constexpr const char* AucuneAbsence = "Aucune absence en cours ou à venir pour 
 constexpr const char* AucunAidant = "Aucun aidant commençant par ";
 constexpr const char* NomNecessaire =
     "La saisie d'au moins un caractère est nécessaire pour la recherche.";
-constexpr const char* QuitterCreation = "Etes-vous sûr de vouloir quitter cette création ?";
-constexpr const char* SupprimerLigne = "Etes-vous sûr de vouloir supprimer cette ligne ?";
 
 // The question about leaving an entry is the one box without the suite's title.
 constexpr const char* SansTitre = "";

@@ -4,17 +4,13 @@
 
 #include "data/nombre.h"
 #include "editor/editeur.h"
+#include "screen/touches.h"
 
 namespace editor {
 
 namespace {
 
 namespace C = data::Contrat;
-
-// Whole days by the keys; a text that stands there, or is pasted, is kept as it is.
-void chiffresSeuls(char32_t& touche) {
-  if (touche >= U' ' && (touche < U'0' || touche > U'9')) touche = 0;
-}
 
 }  // namespace
 
@@ -23,7 +19,8 @@ DureeOrigine::DureeOrigine(Frm_ElementsContrat& editeur, screen::Frame& page)
 
 void DureeOrigine::Lier() {
   Txt_DatDebContrat.LostFocus = [this] { Txt_DatDebContrat_LostFocus(); };
-  Txt_PerEssaiContrat.KeyPress = chiffresSeuls;
+  // Whole days by the keys; a text that stands there, or is pasted, is kept as it is.
+  Txt_PerEssaiContrat.KeyPress = screen::chiffresSeuls;
 }
 
 std::vector<session::Zone> DureeOrigine::Zones() {

@@ -34,6 +34,14 @@ std::string texteDe(char32_t touche) {
   return texte;
 }
 
+bool estChiffre(char32_t touche) {
+  return touche >= U'0' && touche <= U'9';
+}
+
+void chiffresSeuls(char32_t& touche) {
+  if (touche >= U' ' && !estChiffre(touche)) touche = 0;
+}
+
 bool estCaractere(char32_t touche) {
   const bool control = touche < 0x20 || (touche >= 0x7F && touche < 0xA0);
   return !control && touche <= 0x10FFFF && (touche < 0xD800 || touche > 0xDFFF);

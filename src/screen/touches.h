@@ -12,5 +12,8 @@ std::u32string touchesDe(std::string_view texte);
 std::string texteDe(char32_t touche);
 // Whether the key can stand in a text: control keys cannot, nor what is no character at all.
 bool estCaractere(char32_t touche);
+bool estChiffre(char32_t touche);
+// A filter of what is typed: digits, and the keys that are no text.
+void chiffresSeuls(char32_t& touche);
 
 }  // namespace screen

@@ -186,12 +186,6 @@ void Zones::Ecrire(const data::Lib& lib, data::CItem& item, int avenant) const {
   }
 }
 
-bool Zones::Modifiees(const data::Lib& lib, const data::CItem& item, int avenant) const {
-  data::CItem ecrit = item;
-  Ecrire(lib, ecrit, avenant);
-  return ecrit.Text() != item.Text();
-}
-
 void Zones::Vider() const {
   for (const Zone& zone : zones_) {
     if (zone.forme == Forme::Option) continue;

@@ -104,8 +104,6 @@ class Zones {
   // Nothing is on file: every field will be written as it stands.
   void Oublier();
   void Ecrire(const data::Lib& lib, data::CItem& item, int avenant = 1) const;
-  // Writing would change `item`.
-  bool Modifiees(const data::Lib& lib, const data::CItem& item, int avenant = 1) const;
   // Empties every field, its options aside.
   void Vider() const;
   // The attribute that `champ` would write, whether or not it was touched.

@@ -38,14 +38,6 @@ constexpr Ordre kOterTout{"", "DELETE FROM contrats.entree"};
 
 constexpr std::string_view kFinDeTout = "\xFF";
 
-std::vector<std::int64_t> indicesDe(std::string_view fichier) {
-  std::vector<std::int64_t> indices;
-  for (const data::Index& index : data::IndexTenus) {
-    if (index.fichier == fichier) indices.push_back(data::rangIndex(index));
-  }
-  return indices;
-}
-
 }  // namespace
 
 struct PostgresStorage::Controleur::Page {

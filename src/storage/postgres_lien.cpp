@@ -225,10 +225,6 @@ void Lien::Regler() {
   voyages_ = avant;
 }
 
-int Lien::VersionServeur() const {
-  return PQserverVersion(connexion_.get());
-}
-
 bool Lien::Vivant() {
   PGconn* const c = connexion_.get();
   if (c == nullptr || PQstatus(c) == CONNECTION_BAD) return false;

@@ -88,7 +88,6 @@ class Lien {
 
   // Trips over the line since the beginning, those of connecting aside.
   long Voyages() const { return voyages_; }
-  int VersionServeur() const;
 
  private:
   struct Attendu {

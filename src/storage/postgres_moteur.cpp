@@ -79,6 +79,8 @@ constexpr const char* kIncertain =
 constexpr const char* kPasFait =
     "la liaison avec le serveur a été coupée, et rien de cette écriture n'est fait. Recommencez.";
 
+}  // namespace
+
 std::vector<std::int64_t> indicesDe(std::string_view fichier) {
   std::vector<std::int64_t> indices;
   for (const data::Index& index : data::IndexTenus) {
@@ -86,8 +88,6 @@ std::vector<std::int64_t> indicesDe(std::string_view fichier) {
   }
   return indices;
 }
-
-}  // namespace
 
 // Between two attempts: longer each time, and by chance, so that two stations do not meet again.
 class PostgresStorage::Moteur::Attente {

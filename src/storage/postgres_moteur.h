@@ -20,6 +20,9 @@
 
 namespace storage {
 
+// The places of the indexes that are kept of a file.
+std::vector<std::int64_t> indicesDe(std::string_view fichier);
+
 class PostgresStorage::Moteur {
  public:
   Moteur(const std::string& adresse, const data::Poste& poste, const PostgresOptions& options,
@@ -53,7 +56,6 @@ class PostgresStorage::Moteur {
 
   Lien& LaLigne() { return lien_; }
   MemoireDeRoute& Route() { return route_; }
-  bool EnBloc() const { return enBloc_; }
   void ExigerRepos() const;
 
  private:

@@ -29,7 +29,6 @@ inline constexpr Entite Entites[] = {
     {"003", "Soins et Services de l'Avranchin", "27 avenue Pasteur", "50300", "Avranches",
      "40112563900034", "1", "06", 2},
 };
-inline constexpr int NombreEntites = 3;
 
 struct Etablissement {
   const char* code;
