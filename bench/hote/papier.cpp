@@ -11,6 +11,7 @@
 #include "documents/declaration_matricielle.h"
 #include "lettres/lettre_odt.h"
 #include "liaison/bureau.h"
+#include "liaison/ecriture.h"
 #include "mesures.h"
 
 namespace bench {
