@@ -171,9 +171,25 @@ Avis Gardes::ArticleChange() {
   return Remplacement(surFichier);
 }
 
+// Another contract may stand in its place since: it does not come back by a save.
+bool Gardes::SupprimeAilleurs(const data::CItem& surFichier) {
+  const session::Dossier& dossier = editeur_.Dossier();
+  const bool supprime =
+      surFichier.Text().empty() || (surFichier.Vue(C::Annule) == C::MarqueAnnule &&
+                                    dossier.SurFichier.Vue(C::Annule) != C::MarqueAnnule);
+  if (supprime) {
+    editeur_.MessageBox("Le contrat " + dossier.NumeroContrat() +
+                            " a été supprimé par un autre poste pendant votre saisie, qui n'est "
+                            "pas enregistrée.",
+                        screen::Boutons::Ok, screen::Icone::Exclamation);
+  }
+  return supprime;
+}
+
 Avis Gardes::Remplacement(const data::CItem& surFichier) {
   session::Dossier& dossier = editeur_.Dossier();
   if (surFichier.Text() == dossier.SurFichier.Text()) return Avis::Passe;
+  if (SupprimeAilleurs(surFichier)) return Avis::Abandonne;
   const auto ecarts = rules::ecartsContrat(dossier.Session.Lib, surFichier, dossier.ItemContrat);
   const auto tranche =
       ecarts.empty()

@@ -39,6 +39,8 @@ class Gardes {
   static const Garde Depart[6];
   Avis Passer(std::span<const Garde> chaine);
 
+  // True, after a message, when somebody else has deleted the contract meanwhile.
+  bool SupprimeAilleurs(const data::CItem& surFichier);
   Avis Onglets();
   // What a confirmed new contract begins with.
   Avis Preparation();

@@ -112,29 +112,39 @@ class Poste {
  private:
   std::size_t Tirer(std::size_t n) { return hasard_() % n; }
 
-  // One act of a clerk, on a contract as its own last acts left it.
+  // One act of a clerk: a contract of its own, or what any station has made for the same carer, as
+  // it stood a moment ago. Whoever comes too late is refused.
   void UnActe() {
     const std::string& aidant = aidants_[(premier_ + Tirer(Ensemble)) % aidants_.size()];
-    Etat& etat = etats_[aidant];
-    if (etat.contrat.empty()) {
-      if (!Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", employeurDe(numero_))))
-        return;
-      etat = {aidant + DernierNumero(aidant, employeurDe(numero_)), false};
-      journal_ << "contrat " << etat.contrat << ' ' << employeurDe(numero_) << std::endl;
-    } else if (Tirer(2) == 0) {
-      Changer(aidant,
-              Tirer(2) == 0 ? etat.contrat : aidant + DernierNumero(aidant, employeurCommun()));
-    } else if (!etat.fini) {
-      etat.fini = Jouer("finir", aidant, etat.contrat, PourFinir);
-    } else if (Jouer("supprimer", aidant, etat.contrat, PourSupprimer)) {
-      etat = {};
+    const std::string mien = employeurDe(numero_);
+    const Etat etat = Lire(aidant, mien);
+    if (etat.contrat.empty() || etat.supprime) {
+      if (!Jouer("creer", aidant, "", remplacer(PourCreer, "EMPLOYEUR", mien))) return;
+      journal_ << "contrat " << Lire(aidant, mien).contrat << ' ' << mien << std::endl;
+      return;
+    }
+    const std::size_t autre = Tirer(static_cast<std::size_t>(options_.postes) + 1);
+    const Etat choisi = Tirer(2) == 0
+                            ? etat
+                            : Lire(aidant, autre == 0 ? employeurCommun()
+                                                      : employeurDe(static_cast<int>(autre) - 1));
+    if (choisi.contrat.empty() || choisi.supprime) return;
+    if (Tirer(2) == 0 || autre == 0) {
+      Changer(aidant, choisi.contrat);
+    } else if (!choisi.fini) {
+      Jouer("finir", aidant, choisi.contrat, Tranche() + PourFinir);
+    } else {
+      Jouer("supprimer", aidant, choisi.contrat, PourSupprimer);
     }
   }
 
   void Changer(const std::string& aidant, const std::string& contrat) {
     const std::string taux = "12," + std::to_string(10 + Tirer(80));
-    Jouer("changer", aidant, contrat, remplacer(PourChanger, "TAUX", taux));
+    Jouer("changer", aidant, contrat, Tranche() + remplacer(PourChanger, "TAUX", taux));
   }
+
+  // What is answered if somebody else has changed the contract meanwhile.
+  std::string Tranche() { return Tirer(2) == 0 ? "trancher GARDER\n" : "trancher REMPLACER\n"; }
 
   // False when the act was refused, as when another station has just ended the contract.
   bool Jouer(const char* acte, const std::string& aidant, const std::string& contrat,
@@ -154,7 +164,14 @@ class Poste {
     return false;
   }
 
-  std::string DernierNumero(const std::string& aidant, const std::string& employeur) {
+  struct Etat {
+    std::string contrat;
+    bool fini = false;
+    bool supprime = false;
+  };
+
+  // The last contract of a carer with an employer, as it stands now.
+  Etat Lire(const std::string& aidant, const std::string& employeur) {
     const data::PosteFixe poste(21511);
     storage::OptionsOuverture lecture;
     lecture.lecture = true;
@@ -162,13 +179,13 @@ class Poste {
     std::string texte;
     if (!magasin->Get("CONTRATINV", aidant + employeur, texte)) return {};
     const data::CItem inverse(texte);
-    return inverse(data::ContratInv::Numeros, inverse.DCount(data::ContratInv::Numeros));
+    const std::string cle =
+        aidant + inverse(data::ContratInv::Numeros, inverse.DCount(data::ContratInv::Numeros));
+    if (!magasin->Get("CONTRAT", cle, texte)) return {};
+    const data::CItem contrat(texte);
+    return {cle, !contrat.Vue(data::Contrat::DateFin).empty(),
+            !contrat.Vue(data::Contrat::Annule).empty()};
   }
-
-  struct Etat {
-    std::string contrat;
-    bool fini = false;
-  };
 
   const Options& options_;
   std::string base_;
@@ -177,7 +194,6 @@ class Poste {
   std::ostream& journal_;
   std::mt19937 hasard_;
   std::size_t premier_ = 0;  // of the carers that the stations work on now
-  std::map<std::string, Etat> etats_;
 };
 
 std::vector<std::string> preparer(const std::string& base, const Options& options) {
@@ -195,8 +211,8 @@ std::vector<std::string> preparer(const std::string& base, const Options& option
   return Poste(options, base, 0, std::move(aidants), journal).CreerCommuns();
 }
 
-// What the stations were told, held against what stands. The number of faults. A change alone may
-// be refused: another station was changing the same contract.
+// What the stations were told, held against what stands. The number of faults. Nobody is refused a
+// new contract; another station may have ended or deleted any other meanwhile.
 int controler(const std::string& base, const std::string& journaux, int postes) {
   int fautes = 0;
   const auto faute = [&](const std::string& texte) {
@@ -216,7 +232,7 @@ int controler(const std::string& base, const std::string& journaux, int postes) 
       std::string employeur;
       mots >> quoi >> cle >> employeur;
       if (quoi != "contrat") {
-        if (quoi == "motif" && cle != "changer") {
+        if (quoi == "motif" && cle == "creer") {
           faute(ligne);
         } else if (quoi != "motif") {
           ++comptes[quoi + " " + cle];
