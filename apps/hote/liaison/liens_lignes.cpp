@@ -187,6 +187,7 @@ class LienDeroulante : public Lien {
 
  protected:
   void PousserEtat() override {
+    SuivreEntree();
     QLineEdit* const ligne = combo_.lineEdit();
     if (proposee_ >= 0 && modele_.Rows() == poussees_ && modele_.Text() == versModele(tape_)) {
       return;
@@ -221,11 +222,12 @@ class LienDeroulante : public Lien {
 
  private:
   void Transmettre(const QString& texte) {
-    const bool plusLong = texte.size() > versQt(modele_.Text()).size();
+    const bool efface = versQt(modele_.Text()).startsWith(texte);
     proposee_ = -1;
+    frappe_ = true;
     const QPointer<QLineEdit> ligne(combo_.lineEdit());
     Binder().Jouer([&](screen::User& user) { user.Coller(modele_, versModele(texte)); });
-    if (ligne && plusLong && ligne->text() == texte && ligne->cursorPosition() == texte.size()) {
+    if (ligne && !efface && ligne->text() == texte && ligne->cursorPosition() == texte.size()) {
       Proposer(*ligne, texte);
     }
   }
@@ -258,12 +260,37 @@ class LienDeroulante : public Lien {
       return;
     }
   }
-  // The first Esc takes back what was proposed.
+  // The first Esc takes back what was proposed, the next one what was typed and is no row; then
+  // the key is the window's.
   bool Renoncer() {
-    if (proposee_ < 0) return false;
-    proposee_ = -1;
-    combo_.lineEdit()->setText(tape_);
+    if (proposee_ >= 0) {
+      proposee_ = -1;
+      combo_.lineEdit()->setText(tape_);
+      return true;
+    }
+    const std::vector<std::string>& rangs = modele_.Rows();
+    if (!frappe_ || modele_.ListIndex() >= 0 || modele_.Text() == entree_) return false;
+    frappe_ = false;
+    const auto place = std::find(rangs.begin(), rangs.end(), entree_);
+    const bool rangee = place != rangs.end();
+    const int ligne = static_cast<int>(place - rangs.begin());
+    // A search has other rows by now: what the field held cannot be chosen again.
+    const std::string texte = modele_.KeyPress ? "" : entree_;
+    Binder().Jouer([&](screen::User& user) {
+      if (rangee) {
+        user.Choisir(modele_, ligne);
+      } else {
+        user.Coller(modele_, texte);
+      }
+    });
     return true;
+  }
+  // Notes what the field holds when the user enters it.
+  void SuivreEntree() {
+    const bool dedans = modele_.Forme().Active() == &modele_;
+    if (dedans && !dedans_) entree_ = modele_.Text();
+    if (!dedans) frappe_ = false;
+    dedans_ = dedans;
   }
   // The rows may be filled now. False when a refused leave or a box keeps them hidden.
   bool Derouler() {
@@ -295,6 +322,10 @@ class LienDeroulante : public Lien {
   // The row that is proposed behind what was typed, -1 for none.
   int proposee_ = -1;
   QString tape_;
+  std::string entree_;
+  bool dedans_ = false;
+  // What stands there was typed since the field was entered.
+  bool frappe_ = false;
 };
 
 }  // namespace
