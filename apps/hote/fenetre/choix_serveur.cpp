@@ -37,6 +37,13 @@ ChoixServeur::ChoixServeur(QWidget* parent)
   page->addRow(boutons_);
   connect(boutons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(boutons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  // The password of a pasted address does not stay in sight.
+  connect(serveur_, &QLineEdit::editingFinished, this, [this] {
+    const std::string saisie = versModele(serveur_->text().trimmed());
+    if (storage::estAdresseServeur(saisie)) {
+      serveur_->setText(versQt(storage::sansMotDePasse(saisie)));
+    }
+  });
   Montrer();
 }
 
