@@ -224,7 +224,6 @@ inline constexpr int GroupeSuivi[] = {SuiviPeriode, SuiviHeures,     SuiviAbsenc
 inline constexpr int GroupeSuiviPrecedent[] = {SuiviPrecPeriode,    SuiviPrecHeures,
                                                SuiviPrecAbsences,   SuiviPrecReel,
                                                SuiviPrecDifference, SuiviPrecRegul};
-inline constexpr int GroupeAidantsRemplaces[] = {AidantsRemplaces, AbsencesRemplacees};
 // All that tells why a contract is of a fixed term: read, compared and blanked together.
 inline constexpr int GroupeMotifCDD[] = {MotifEmbaucheTexte, PersonnesRemplacees, MotifEmbauche,
                                          AidantsRemplaces,   AbsencesRemplacees,  MotifRecours};
