@@ -1,20 +1,17 @@
 #include "control/ctr_contrat.h"
 
-#include "data/jour.h"
+#include "control/lecteur_lignes.h"
+#include "control/placement.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
-#include "data/requete.h"
 #include "screen/attente.h"
 
 namespace control {
 
 Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
     : Form(platform, "Ctr_Contrat"), session_(platform.poste), aide_(platform.aide) {
-  Cbo_Association.Click = [this] { Cbo_Association_Click(); };
-  Cbo_Association.Change = [this] {
-    if (Cbo_Association.Text().empty()) codeAssocFiltre_.clear();
-  };
+  filtres_.Lier();
   Cmd_Recherche.Click = [this] { Cmd_Recherche_Click(); };
   Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
@@ -26,7 +23,7 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
     if (SurContrats) SurContrats();
   };
   aide_.Preparer(session::JeuAide::Trois);
-  PrendreFiltresParDefaut();
+  filtres_.ParDefaut();
   lignes_.Activer(false);
   Cmd_OK.SetEnabled(false);
   Mnu_Aide.SetEnabled(false);
@@ -58,29 +55,16 @@ void Ctr_Contrat::init() {
 
 void Ctr_Contrat::Affiche(std::string_view typeAct, std::string_view codeAsso,
                           std::string_view actifs) {
-  auto& type = typeAct == "P" ? Opt_Autres : typeAct == "M" ? Opt_PartEmpl : Opt_TousType;
-  type.SetValue(true);
-  for (int r = 0; r < associations_.Nombre() && !codeAsso.empty(); ++r) {
-    if (associations_.A(r).code == codeAsso) Cbo_Association.SetListIndex(r);
-  }
-  auto& validite = actifs == "A" ? Opt_Actif : actifs == "H" ? Opt_Historique : Opt_TousValid;
-  validite.SetValue(true);
+  filtres_.Prendre(typeAct, codeAsso, actifs);
   Cmd_Recherche_Click();
 }
 
 void Ctr_Contrat::Remplir_Association() {
-  associations_ =
-      data::ListeCodes::DeSelection(data::Requete(data::fichier::ASSOCIATION)
-                                        .Lire(*session_.Db, {data::Cle, data::Association::Nom}));
-  for (const auto& ligne : associations_.Lignes()) Cbo_Association.AddItem(ligne.libelle);
-  // A single entity is shown at once; the filter itself stays open, which makes no difference.
-  if (Cbo_Association.ListCount() == 1 && !Cbo_Association.List(0).empty()) {
-    Cbo_Association.SetText(Cbo_Association.List(0));
-  }
+  filtres_.Remplir_Association();
 }
 
 void Ctr_Contrat::Afficher_Liste() {
-  screen::Activer({&Cbo_Association, &Cdr_Validite, &Cdr_Type, &Cdr_TriContrat}, false);
+  filtres_.Activer(false);
   lignes_.Activer(true);
   Cmd_Recherche.SetEnabled(false);
   Cmd_OK.SetEnabled(true);
@@ -88,8 +72,8 @@ void Ctr_Contrat::Afficher_Liste() {
 
 void Ctr_Contrat::Effacer_Donnees() {
   Cbo_Association.SetText("");
-  PrendreFiltresParDefaut();
-  screen::Activer({&Cbo_Association, &Cdr_Validite, &Cdr_Type, &Cdr_TriContrat}, true);
+  filtres_.ParDefaut();
+  filtres_.Activer(true);
   ViderListes();
   lignes_.Activer(false);
   Cmd_Recherche.SetEnabled(true);
@@ -99,14 +83,14 @@ void Ctr_Contrat::Effacer_Donnees() {
 void Ctr_Contrat::Recherche_Contrat() {
   data::Route route(session_.Db->Stockage());
   contrats_.Annoncer(W_Code, route);
-  const FiltreContrats filtre = Filtre();
+  const FiltreContrats filtre = filtres_.Filtre();
   ViderListes();
   std::vector<LigneContrat> lignes;
   LecteurLignes lecteur(session_);
   contrats_.Lire(W_Code, [&](const data::CItem& contrat) {
     if (!filtre.Garde(contrat)) return;
     LigneContrat ligne = lecteur.Lire(contrat);
-    const auto rang = rangInsertion(lignes, ligne, TriChoisi());
+    const auto rang = rangInsertion(lignes, ligne, filtres_.TriChoisi());
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
   });
   for (const LigneContrat& ligne : lignes) {
@@ -120,10 +104,6 @@ void Ctr_Contrat::MouseDown(int bouton) {
   Mnu_Aide.SetEnabled(true);
   Mnu_Sommaire.SetEnabled(true);
   Services().modales.MontrerMenu(*this, Mnu_Aide.Nom());
-}
-
-void Ctr_Contrat::Cbo_Association_Click() {
-  codeAssocFiltre_ = associations_.A(Cbo_Association.ListIndex()).code;
 }
 
 void Ctr_Contrat::Cmd_Recherche_Click() {
@@ -148,34 +128,9 @@ void Ctr_Contrat::Cmd_Retour_Click() {
   if (Sortie) Sortie();
 }
 
-void Ctr_Contrat::PrendreFiltresParDefaut() {
-  Opt_Actif.SetValue(true);
-  Opt_TousType.SetValue(true);
-  Opt_TriDecroiss.SetValue(true);
-}
-
 void Ctr_Contrat::ViderListes() {
   lignes_.Vider();
   clesContrats_.SetText("");
-}
-
-FiltreContrats Ctr_Contrat::Filtre() const {
-  FiltreContrats filtre;
-  filtre.validite = Opt_Actif.Value()        ? FiltreContrats::Actifs
-                    : Opt_Historique.Value() ? FiltreContrats::Historiques
-                                             : FiltreContrats::TousValid;
-  filtre.type = Opt_PartEmpl.Value() ? FiltreContrats::ParticuliersEmployeurs
-                : Opt_Autres.Value() ? FiltreContrats::Autres
-                                     : FiltreContrats::TousType;
-  filtre.association = codeAssocFiltre_;
-  filtre.debutPeriode = data::premierJour(session_.PeriodePaie()).value_or(0);
-  filtre.aujourdhui = Services().poste.Aujourdhui();
-  return filtre;
-}
-
-Tri Ctr_Contrat::TriChoisi() const {
-  if (Opt_TriEmpl.Value()) return Tri::Employeur;
-  return Opt_TriCroiss.Value() ? Tri::AncienneteCroissante : Tri::AncienneteDecroissante;
 }
 
 }  // namespace control

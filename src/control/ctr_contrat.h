@@ -19,13 +19,10 @@
 #include <string>
 #include <vector>
 
+#include "control/choix_filtres.h"
 #include "control/contrat_aidant.h"
 #include "control/contrats_lus.h"
-#include "control/filtre.h"
-#include "control/lecteur_lignes.h"
-#include "control/placement.h"
 #include "data/citem.h"
-#include "data/liste_codes.h"
 #include "editor/editeur.h"
 #include "screen/colonnes.h"
 #include "screen/form.h"
@@ -82,9 +79,9 @@ class Ctr_Contrat : public screen::Form {
   // Called when they are others. Unset, nothing happens.
   screen::Handler SurContrats;
   const session::Session& Etat() const { return session_; }
-  // The contract in the editor is another than the one that was opened.
-  // As it stands in the editor's fields, nothing while none is shown.
+  // The contract as it stands in the editor's fields, nothing while none is shown.
   std::optional<ContratAidant> EnMain() const;
+  // It is another than the one that was opened.
   bool EnMainModifie() const { return editeur_ != nullptr && editeur_->Dossier().Modifie(); }
 
   // The rows that fit the lists without a scroll bar.
@@ -135,16 +132,11 @@ class Ctr_Contrat : public screen::Form {
   void MouseDown(int bouton) override;
 
  private:
-  void Cbo_Association_Click();
   void Cmd_Recherche_Click();
   void Cmd_Ajouter_Click();
   void Cmd_Ok_Click();
   void Cmd_Retour_Click();
-  void PrendreFiltresParDefaut();
   void ViderListes();
-  // What the options and the legal entity ask for.
-  FiltreContrats Filtre() const;
-  Tri TriChoisi() const;
 
   // Opens the contract of that key; a row of the list that it is follows.
   void OuvrirContrat(const std::string& cle);
@@ -158,10 +150,7 @@ class Ctr_Contrat : public screen::Form {
 
   session::Session session_;
   session::AideEnLigne aide_;
-  // The rows of the filter of legal entities.
-  data::ListeCodes associations_;
-  // The legal entity that the list is restricted to; "" for all.
-  std::string codeAssocFiltre_;
+  ChoixFiltres filtres_{*this};
   data::CItem clesContrats_;
   ContratsLus contrats_{session_};
   screen::Colonnes lignes_{

@@ -1,6 +1,7 @@
 // The two ways into the contract editor, and what the list does when it returns.
 
 #include "control/ctr_contrat.h"
+#include "control/lecteur_lignes.h"
 #include "data/cles.h"
 #include "data/layouts/contrat.h"
 #include "screen/attente.h"

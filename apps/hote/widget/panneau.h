@@ -11,13 +11,18 @@
 class Panneau : public QWidget {
  public:
   explicit Panneau(QWidget* parent = nullptr) : QWidget(parent) {
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* arrivee) {
+    const auto suivre = [this](QWidget*, const QWidget* arrivee) {
       const bool dedans = arrivee != nullptr && isAncestorOf(arrivee);
       if (dedans == clavier_) return;
       clavier_ = dedans;
       update();
-    });
+    };
+    suivi_ = connect(qApp, &QApplication::focusChanged, this, suivre);
   }
+  // Its lists go after it, and the keyboard with them: nothing is followed any more.
+  ~Panneau() override { disconnect(suivi_); }
+  Panneau(const Panneau&) = delete;
+  Panneau& operator=(const Panneau&) = delete;
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -32,5 +37,6 @@ class Panneau : public QWidget {
   }
 
  private:
+  QMetaObject::Connection suivi_{};
   bool clavier_ = false;
 };
