@@ -4,7 +4,6 @@
 #include "storage/postgres.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <thread>
 
@@ -17,6 +16,7 @@
 #include "storage/adresse.h"
 #include "storage/ouvrir.h"
 #include "storage/postgres_erreur.h"
+#include "support/enfant.h"
 #include "support/relais.h"
 #include "support/serveur.h"
 
@@ -25,6 +25,9 @@ namespace {
 using essai::etat;
 using essai::refus;
 using storage::PostgresStorage;
+
+using support::Attendre;
+using support::Lancer;
 
 class Postgres : public testing::Test {
  protected:
@@ -37,22 +40,6 @@ class Postgres : public testing::Test {
   std::string AdresseDe(const std::string& compte) const {
     std::string adresse = adresse_;
     return adresse.replace(adresse.find("essai@"), 5, compte);
-  }
-  // A child that runs `acte`, exits with 0 when it returns and with 1 when it throws.
-  static pid_t Lancer(const std::function<void()>& acte) {
-    const pid_t enfant = fork();
-    if (enfant != 0) return enfant;
-    try {
-      acte();
-    } catch (...) {
-      _exit(1);
-    }
-    _exit(0);
-  }
-  static int Attendre(pid_t enfant) {
-    int fin = -1;
-    waitpid(enfant, &fin, 0);
-    return fin;
   }
 
   support::Serveur& serveur_ = support::Serveur::Commun();

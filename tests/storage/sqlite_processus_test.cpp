@@ -1,38 +1,24 @@
 // Several processes on one data file, and processes that die.
 
 #include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <array>
 #include <csignal>
 
 #include "essai.h"
+#include "support/enfant.h"
 
 namespace {
 
 using essai::etat;
 using essai::refus;
 
+using support::Attendre;
+using support::Lancer;
+
 class Processus : public essai::Fichier {
  protected:
   Processus() { Creer()->Put("CONTRAT", "0", "a"); }
-  // A child that runs `acte`, exits with 0 when it returns and with 1 when it throws.
-  static pid_t Lancer(const std::function<void()>& acte) {
-    const pid_t enfant = fork();
-    if (enfant != 0) return enfant;
-    try {
-      acte();
-    } catch (...) {
-      _exit(1);
-    }
-    _exit(0);
-  }
-  static int Attendre(pid_t enfant) {
-    int fin = -1;
-    waitpid(enfant, &fin, 0);
-    return fin;
-  }
   static bool Tue(int fin) { return WIFSIGNALED(fin) && WTERMSIG(fin) == SIGKILL; }
 };
 
