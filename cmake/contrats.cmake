@@ -25,6 +25,12 @@ function(contrats_prefixe owner)
   endforeach()
 endfunction()
 
+# The sanitized preset compiles several sources as one: most of its time goes to headers. Sources that hold names of
+# their own which others of their target hold too are compiled one by one: contrats_a_part(sources of this folder).
+function(contrats_a_part)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # contrats_folder(name LINK below...): one library for one folder of src/, which links what stands below it. There is
 # one include root: scripts/inclusions holds who may include whom.
 function(contrats_folder name)

@@ -8,6 +8,9 @@
 
 namespace base {
 
+// Lines are gathered to this size before they are sent.
+inline constexpr std::size_t TailleEnvoi = std::size_t{256} << 10;
+
 // Between the values of one column; in a text the character itself comes with a backslash.
 inline constexpr std::string_view EntreValeurs = "¦";
 

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "base/affichage.h"
 #include "base/cles_vues.h"
 #include "base/commandes.h"
 #include "base/jsonl.h"
@@ -19,7 +20,6 @@ namespace {
 
 // More would only hide the first ones.
 constexpr int RefusMontres = 20;
-constexpr std::size_t TailleEnvoi = std::size_t{256} << 10;
 
 // Rolls the import back once all its lines have been looked at.
 struct ImportRefuse {};

@@ -11,8 +11,6 @@
 namespace base {
 namespace {
 
-constexpr std::size_t TailleEnvoi = std::size_t{256} << 10;
-
 // Column 1 of the result is the key that leads every row; it is not shown.
 void ecrireRangee(std::string& sortie, const data::CItem& rangees, int rangee, int colonnes,
                   bool json) {

@@ -6,7 +6,7 @@
 namespace base {
 namespace {
 
-std::string guillemets(std::string_view texte) {
+std::string cite(std::string_view texte) {
   std::string montre;
   ecrireColonne(montre, texte);
   return "« " + montre + " »";
@@ -25,18 +25,18 @@ std::string_view texteDe(std::string_view borne) {
 std::string decrire(const data::KeyRange& intervalle, const std::string& toutes) {
   const auto& [debut, fin, sansFin] = intervalle;
   if (intervalle.Vide()) return "aucune";
-  if (intervalle.EstUneCle()) return guillemets(debut);
+  if (intervalle.EstUneCle()) return cite(debut);
   const data::KeyRange prefixe = data::KeyRange::Prefixe(debut);
   if (!debut.empty() && !sansFin && !prefixe.sansFin && fin == prefixe.fin) {
-    return "commençant par " + guillemets(debut);
+    return "commençant par " + cite(debut);
   }
   std::string texte;
   if (!texteDe(debut).empty()) {
-    texte = (justeApres(debut) ? "après " : "à partir de ") + guillemets(texteDe(debut));
+    texte = (justeApres(debut) ? "après " : "à partir de ") + cite(texteDe(debut));
   }
   if (!sansFin) {
     if (!texte.empty()) texte += ", ";
-    texte += (justeApres(fin) ? "jusqu'à " : "avant ") + guillemets(texteDe(fin));
+    texte += (justeApres(fin) ? "jusqu'à " : "avant ") + cite(texteDe(fin));
   }
   return texte.empty() ? toutes : texte;
 }

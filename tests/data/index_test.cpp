@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 #include <stdexcept>
 
 #include "data/db.h"
@@ -16,12 +15,15 @@
 #include "storage/memory.h"
 #include "storage/postgres.h"
 #include "storage/sqlite.h"
+#include "support/random.h"
 #include "support/serveur.h"
 #include "support/table.h"
 #include "support/temp_dir.h"
 
 namespace data {
 namespace {
+
+using support::Random;
 
 // "116=12 116=12.0", in the order of the table of indexes.
 std::string entries(std::string_view file, const CItem& item) {
@@ -84,19 +86,6 @@ TEST(IndexTest, IsOfFieldsMadeOfTheirRecordAlone) {
     EXPECT_EQ(definition->autre, "") << index.nom;
   }
 }
-
-class Random {
- public:
-  explicit Random(unsigned seed) : engine_(seed) {}
-  std::size_t below(std::size_t n) { return engine_() % n; }
-  template <typename T, std::size_t n>
-  T of(const T (&table)[n]) {
-    return table[below(n)];
-  }
-
- private:
-  std::mt19937 engine_;
-};
 
 struct Looked {
   const char* file;

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <set>
 
 #include "data/db.h"
@@ -11,9 +10,12 @@
 #include "data/question.h"
 #include "data/select.h"
 #include "storage/memory.h"
+#include "support/random.h"
 
 namespace data {
 namespace {
+
+using support::Random;
 
 constexpr unsigned seed = 20260302;
 
@@ -26,18 +28,6 @@ constexpr const char* seeds[] = {
 };
 constexpr const char* pieces[] = {"AVEC", "SANS", " OR ", " AND ", "\"", "]", "[",  "=",    "<>",
                                   "#",    "PAR",  "0",    "@ID",   " ",  "é", "99", "\xC3", "\x1e"};
-
-class Random {
- public:
-  std::size_t below(std::size_t n) { return engine_() % n; }
-  template <typename T, std::size_t n>
-  T of(const T (&table)[n]) {
-    return table[below(n)];
-  }
-
- private:
-  std::mt19937 engine_{seed};
-};
 
 // A piece or any byte put in the place of a few bytes, or of none.
 std::string mutated(Random& random) {
@@ -68,7 +58,7 @@ TEST_F(QueryFuzzTest, MutatedQueriesRunOrAreRefused) {
   for (const char* file : {"CONTRAT", "PCS", "DETAILINTER", "CIVILAIDE", "TPSDETAILSINTERV"}) {
     for (const char* key : {"1", "12", "120000", "É"}) put(file, key, CItem("A"));
   }
-  Random random;
+  Random random(seed);
   int refused = 0;
   constexpr int runs = 20000;
   for (int i = 0; i < runs; ++i) {
@@ -89,7 +79,7 @@ TEST_F(QueryFuzzTest, MutatedQueriesRunOrAreRefused) {
 // it.
 TEST_F(QueryFuzzTest, QuotedValuesAreComparedAsTheyAre) {
   static constexpr const char* letters[] = {"[", "[", "]", "]", "\"", "\"", "a", " ", "é"};
-  Random random;
+  Random random(seed);
   std::vector<std::string> keys;
   for (int i = 0; i < 300; ++i) {
     std::string key;

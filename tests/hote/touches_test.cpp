@@ -1,5 +1,6 @@
 // Keys that type nothing, keys that type more than one character, and where Tab goes.
 
+#include <QCalendarWidget>
 #include <QClipboard>
 
 #include "essai.h"

@@ -20,7 +20,7 @@ namespace {
 
 using Impression = essai::Hote;
 
-QByteArray contenu(const QString& chemin) {
+QByteArray octets(const QString& chemin) {
   QFile fichier(chemin);
   EXPECT_TRUE(fichier.open(QIODevice::ReadOnly)) << chemin.toStdString();
   return fichier.readAll();
@@ -44,7 +44,7 @@ TEST_F(Impression, EachDocumentIsAWholePdfFileThatTheUserIsToldOf) {
   const QStringList fichiers = documents.entryList({"*.pdf"}, QDir::Files, QDir::Name);
   ASSERT_EQ(fichiers.size(), 2);
   for (int i = 0; i < 2; ++i) {
-    const QByteArray pdf = contenu(documents.filePath(fichiers[i]));
+    const QByteArray pdf = octets(documents.filePath(fichiers[i]));
     EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
     EXPECT_EQ(pdf.count("/Type /Page\n"), i == 0 ? 1 : 3);
     // A page without text has no font.

@@ -5,20 +5,17 @@
 #include <map>
 #include <sstream>
 
-#include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/poste.h"
 #include "data/texte.h"
 #include "storage/memory.h"
+#include "support/jour.h"
 #include "support/table.h"
 
 namespace {
 
 using rules::Dates, rules::Portee;
-
-long jour(const std::string& affichee) {
-  return data::lireDateAffichee(affichee).value();
-}
+using support::jour;
 
 // A contract on file or in hand, in the form of the tables.
 struct Cas {

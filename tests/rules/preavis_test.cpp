@@ -3,15 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "data/jour.h"
+#include "support/jour.h"
 #include "support/table.h"
 
 namespace {
 
 using rules::Anciennete, rules::DureePreavis, rules::SituationPreavis;
-
-long jour(const std::string& affichee) {
-  return data::lireDateAffichee(affichee).value();
-}
+using support::jour;
 
 // "2 mois", "6 jours", "-" for none.
 std::string ecrite(const DureePreavis& duree) {

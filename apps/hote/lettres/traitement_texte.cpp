@@ -9,6 +9,7 @@
 #include <QProgressDialog>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QUrl>
 
 #include "lettres/apercu.h"

@@ -19,7 +19,7 @@ std::optional<long> jourDuTexte(const QString& texte) {
   return data::lireDateAffichee(versModele(texte.trimmed()));
 }
 
-QDate versQt(long jour) {
+QDate dateQt(long jour) {
   const data::Date date = data::dateDe(jour);
   return {date.annee, date.mois, date.jour};
 }
@@ -29,7 +29,7 @@ long versJour(const QDate& date) {
 }
 
 QString afficher(long jour) {
-  return hote::versQt(data::dateAffichee(jour));
+  return versQt(data::dateAffichee(jour));
 }
 
 // Where the screen has no room below the field, above it.
@@ -82,7 +82,7 @@ void montrerCalendrier(QLineEdit& ligne, long aujourdhui,
   for (const Qt::DayOfWeek jour : {Qt::Saturday, Qt::Sunday}) {
     calendrier->setWeekdayTextFormat(jour, semaine);
   }
-  calendrier->setSelectedDate(versQt(jourDuTexte(ligne.text()).value_or(aujourdhui)));
+  calendrier->setSelectedDate(dateQt(jourDuTexte(ligne.text()).value_or(aujourdhui)));
   auto* const disposition = new QVBoxLayout(fenetre);
   disposition->setContentsMargins(2, 2, 2, 2);
   disposition->addWidget(calendrier);

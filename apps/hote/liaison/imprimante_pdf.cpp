@@ -8,6 +8,7 @@
 
 #include "liaison/bureau.h"
 #include "liaison/ecriture.h"
+#include "liaison/imprimantes_qt.h"
 #include "liaison/services_qt.h"
 #include "liaison/textes_qt.h"
 
@@ -16,7 +17,6 @@ namespace hote {
 namespace {
 
 constexpr int PointsParPouce = 600;
-constexpr double TwipsParPouce = 1440;
 
 int enPoints(int twips) {
   return qRound(twips * PointsParPouce / TwipsParPouce);

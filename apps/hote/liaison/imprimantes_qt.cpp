@@ -9,11 +9,7 @@
 
 namespace hote {
 
-namespace {
-
-constexpr double TwipsParPouce = 1440;
-
-}  // namespace
+namespace {}  // namespace
 
 ImprimantesQt::ImprimantesQt(Bureau& bureau, CurseurQt& curseur) : pdf_(bureau, curseur) {}
 ImprimantesQt::~ImprimantesQt() = default;

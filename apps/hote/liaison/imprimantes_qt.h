@@ -7,6 +7,9 @@ class QPrinter;
 
 namespace hote {
 
+// The unit of all that is put on a page.
+inline constexpr double TwipsParPouce = 1440;
+
 class ImprimantesQt : public screen::Imprimante {
  public:
   static constexpr int DocumentPdf = 0;
