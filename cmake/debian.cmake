@@ -13,12 +13,13 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 # Libraries, read from the programs. What is looked for when they run is named here: the client of a server, a window's
-# pictures, fonts and French texts.
+# archives, pictures, fonts and French texts.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libpq5")
 if(CONTRATS_HOTE)
+  get_property(libzip_paquet GLOBAL PROPERTY CONTRATS_PAQUET_LIBZIP)
   string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS
-    ", libqt6svg6, qt6-translations-l10n, fonts-dejavu-core, fonts-liberation2")
+    ", ${libzip_paquet}, libqt6svg6, qt6-translations-l10n, fonts-dejavu-core, fonts-liberation2")
 endif()
 include(CPack)
