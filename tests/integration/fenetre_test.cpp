@@ -17,6 +17,7 @@
 #include "control/ctr_contrat.h"
 #include "fenetre/aide.h"
 #include "fenetre/fichiers_recents.h"
+#include "fenetre/style_hote.h"
 #include "integration/hote_essai.h"
 #include "liaison/textes_qt.h"
 #include "screen/user.h"
@@ -305,6 +306,15 @@ TEST_F(Hote, OpensTheDemonstrationDataWhenNothingWasOpenedBefore) {
   EXPECT_EQ(Titre(), "demo.contrats – droits complets – Contrats de travail");
   EXPECT_EQ(hote::FichiersRecents(bureau_.Reglages()).Chemins(),
             QStringList{Chemin("contrats/demo.contrats")});
+}
+
+TEST_F(Hote, ItsStyleHasTheArrowOfANarrowMenuBar) {
+  const hote::StyleHote style;
+  const auto fleche = [](const QStyle& s) {
+    return s.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton).pixmap(16).toImage();
+  };
+  ASSERT_FALSE(fleche(style).isNull());
+  EXPECT_EQ(fleche(style), fleche(*style.baseStyle()));
 }
 
 TEST_F(Hote, HelpIsAboutTheScreenInFront) {

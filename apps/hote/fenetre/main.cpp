@@ -10,6 +10,7 @@
 #include "fenetre/base_ouverte.h"
 #include "fenetre/captures.h"
 #include "fenetre/fenetre_hote.h"
+#include "fenetre/style_hote.h"
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
 
@@ -60,6 +61,7 @@ int montrer(const QCommandLineParser& options) {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
+  QApplication::setStyle(new hote::StyleHote);
   QApplication::setApplicationName("contrat-hote");
   QApplication::setApplicationVersion(CONTRATS_VERSION);
   QApplication::setDesktopFileName("contrat-hote");
