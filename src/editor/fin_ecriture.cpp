@@ -53,16 +53,11 @@ void OngletFin::Ecrire_Ong5() {
     for (const int a : GroupeFin) contrat.Set(a, "");
     return;
   }
-  dates_.Ecrire(contrat);
+  zones_.Ecrire(Session().Lib, contrat);
   motif_.Ecrire(contrat);
-  const auto notification = dates_.Jour(Txt_DatNotifContrat);
-  contrat.Set(C::DateNotification, notification ? std::to_string(*notification) : "");
   contrat.Set(C::PrimePrecarite, Cac_PrecaLibContrat.Value() != 0 ? "1" : "0");
   preavis_.Ecrire(contrat);
-  contrat.Set(C::MotifNonVersement, Txt_NonVersContrat.Text());
   contrat.Set(C::DernierBulletin, bulletin_.Periode());
-  contrat.Set(C::ObservationsFin, 1, Txt_ObsFinContrat_0.Text());
-  contrat.Set(C::ObservationsFin, 2, Txt_ObsFinContrat_1.Text());
   contrat.Set(C::OrganismeRetraite, retraite_.Code());
 }
 

@@ -90,6 +90,8 @@ class OngletFin : public Onglet {
   screen::TextField Txt_ObsFinContrat_1{Page, "Txt_ObsFinContrat(1)", 0};
   RetraiteFin retraite_{Session(), Page, sourdine_};
   screen::Button Cmd_SupprimerContrat{Page, "Cmd_SupprimerContrat", "Supprimer ce contrat"};
+
+  session::Zones zones_;
 };
 
 }  // namespace editor
