@@ -28,7 +28,7 @@ Avenants::Avenants(Frm_ElementsContrat& editeur, OngletCaracteristiques& onglet,
   Cmd_AjoutAvenant.Click = [this] { Cmd_AjoutAvenant_Click(); };
   Cmd_OKAvenant.Click = [this] { Cmd_OKAvenant_Click(); };
   Cmd_AnnulerAvenant.Click = [this] { Cmd_AnnulerAvenant_Click(); };
-  Cmd_ImpAvenant.Click = [this] { editeur_.ImprimerAvenant(Txt_AvenantContrat.Text()); };
+  Cmd_ImpAvenant.Click = [this] { editeur_.Papiers().Avenant(Txt_AvenantContrat.Text()); };
   Bdh_Avenant.Change = sourdine_.SiAudible([this] { Bdh_Avenant_Change(); });
   Txt_DatEffetContrat.LostFocus = [this] { Txt_DatEffetContrat_LostFocus(); };
 }

@@ -119,14 +119,15 @@ void MotifFin::Cbo_MotifFinContrat_Click() {
 void MotifFin::SelonModulation() {
   const auto& origine = editeur_.origine;
   const bool retirees = origine.Genre().Mensuel() && origine.Genre().Production() &&
-                        editeur_.caracteristiques.Lissee() && rules::motifRetireHeures(Code());
+                        editeur_.caracteristiques.AccordModulation().Lissee() &&
+                        rules::motifRetireHeures(Code());
   Etq_InfoComplMotifFin.SetVisible(origine.Genre().Mensuel());
   Etq_InfoComplMotifFin.SetLibelle(!origine.Genre().Mensuel() ? ""
                                    : retirees                 ? HeuresRetirees
                                                               : HeuresGardees);
   const data::CItem& initial = editeur_.Dossier().Initial;
   const bool dejaLa = !Code().empty() && initial.Vue(C::MotifFin) == Code();
-  editeur_.caracteristiques.RetirerHeuresNegatives(
+  editeur_.caracteristiques.AccordModulation().RetirerHeuresNegatives(
       dejaLa ? initial.Vue(C::Modulation, initial.DCount(C::Avenant)) == ModulationRetrait
              : !origine.Genre().Mensuel() || retirees);
 }

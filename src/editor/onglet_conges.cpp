@@ -214,7 +214,7 @@ void OngletConges::Ecrire_Ong4() {
 // Dialogs.
 
 void OngletConges::Cmd_Conges_Click() {
-  const auto nomme = editeur_.origine.Nomme();
+  const auto nomme = editeur_.origine.Codes().Nomme();
   dialogs::Frm_Ventilation(editeur_.Services(),
                            {Session().CodeAidant, Session().NomPrenomAidant, nomme.code,
                             nomme.libelle, Dossier().CleContratCourant})

@@ -46,7 +46,7 @@ void OngletFin::Afficher_Ong5() {
   const auto& origine = editeur_.origine;
   zones_.Oublier();
   if (Creation()) {
-    QuitterEntite();
+    retraite_.Vider();
   } else {
     retraite_.Afficher(origine.Entite(), origine.Particuliers(), Contrat()(C::OrganismeRetraite));
     if (!Contrat().Vue(C::DateNotification).empty()) AfficherFin();

@@ -29,10 +29,8 @@ class OngletFin : public Onglet {
   void Entrer() override;
   // What only a fixed term has: the insecurity bonus.
   void SelonType(bool determine);
-  void ChoisirEntite(const std::string& entite, bool particuliers) {
-    retraite_.Choisir(entite, particuliers);
-  }
-  void QuitterEntite() { retraite_.Vider(); }
+  // The retirement body follows the entity.
+  RetraiteFin& Retraite() { return retraite_; }
 
   // The end of the contract as an internal day: the one place that says which end the rules see.
   std::optional<long> DateFin() const;
