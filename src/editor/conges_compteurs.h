@@ -1,7 +1,7 @@
 #pragma once
 // Leave counters that are shown and written together. A counter has one line in the table of its
-// group: its field, its attribute, the form in which it is typed and shown. One left empty is 0; one
-// of half-days goes by half-days, one of whole days by days.
+// group: its field, its attribute, the form in which it is typed and shown. One left empty is 0;
+// one of half-days goes by half-days, one of whole days by days.
 
 #include <functional>
 #include <vector>
