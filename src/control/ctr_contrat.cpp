@@ -16,7 +16,7 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
   Cmd_Ajouter.Click = [this] { Cmd_Ajouter_Click(); };
   Cmd_OK.Click = [this] { Cmd_Ok_Click(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
-  lignes_.SurDoubleClic = [this](int) { Appel_Contrat(); };
+  colonnes_.SurDoubleClic = [this](int) { Appel_Contrat(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
 
   contrats_.SurChangement = [this] {
@@ -24,7 +24,7 @@ Ctr_Contrat::Ctr_Contrat(screen::Platform& platform)
   };
   aide_.Preparer(session::JeuAide::Trois);
   filtres_.ParDefaut();
-  lignes_.Activer(false);
+  colonnes_.Activer(false);
   Cmd_OK.SetEnabled(false);
   Mnu_Aide.SetEnabled(false);
   Mnu_Sommaire.SetEnabled(false);
@@ -48,7 +48,7 @@ void Ctr_Contrat::init() {
   session_.CodeAidant = W_Code;
   session_.NomPrenomAidant = W_NomPrenom;
   session_.EtatSuppAidant = W_EtatSuppAidant;
-  clesContrats_ = data::CItem();
+  rangees_.Vider();
   if (!session_.DroitComplet()) Cmd_Ajouter.SetVisible(false);
   if (!W_CodeContrat.empty()) OuvrirContrat(W_CodeContrat);
 }
@@ -65,7 +65,7 @@ void Ctr_Contrat::Remplir_Association() {
 
 void Ctr_Contrat::Afficher_Liste() {
   filtres_.Activer(false);
-  lignes_.Activer(true);
+  colonnes_.Activer(true);
   Cmd_Recherche.SetEnabled(false);
   Cmd_OK.SetEnabled(true);
 }
@@ -74,8 +74,8 @@ void Ctr_Contrat::Effacer_Donnees() {
   Cbo_Association.SetText("");
   filtres_.ParDefaut();
   filtres_.Activer(true);
-  ViderListes();
-  lignes_.Activer(false);
+  rangees_.Vider();
+  colonnes_.Activer(false);
   Cmd_Recherche.SetEnabled(true);
   Cmd_OK.SetEnabled(false);
 }
@@ -84,7 +84,7 @@ void Ctr_Contrat::Recherche_Contrat() {
   data::Route route(session_.Db->Stockage());
   contrats_.Annoncer(W_Code, route);
   const FiltreContrats filtre = filtres_.Filtre();
-  ViderListes();
+  rangees_.Vider();
   std::vector<LigneContrat> lignes;
   LecteurLignes lecteur(session_);
   contrats_.Lire(W_Code, [&](const data::CItem& contrat) {
@@ -93,10 +93,7 @@ void Ctr_Contrat::Recherche_Contrat() {
     const auto rang = rangInsertion(lignes, ligne, filtres_.TriChoisi());
     lignes.insert(lignes.begin() + static_cast<std::ptrdiff_t>(rang), std::move(ligne));
   });
-  for (const LigneContrat& ligne : lignes) {
-    lignes_.Ajouter(ligne.Textes());
-    clesContrats_.Append(ligne.cle);
-  }
+  for (const LigneContrat& ligne : lignes) rangees_.Ajouter(ligne);
 }
 
 void Ctr_Contrat::MouseDown(int bouton) {
@@ -126,11 +123,6 @@ void Ctr_Contrat::Cmd_Retour_Click() {
   W_Sortir = 1;
   Hide();
   if (Sortie) Sortie();
-}
-
-void Ctr_Contrat::ViderListes() {
-  lignes_.Vider();
-  clesContrats_.SetText("");
 }
 
 }  // namespace control

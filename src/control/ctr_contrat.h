@@ -22,6 +22,7 @@
 #include "control/choix_filtres.h"
 #include "control/contrat_aidant.h"
 #include "control/contrats_lus.h"
+#include "control/rangees.h"
 #include "data/citem.h"
 #include "editor/editeur.h"
 #include "screen/colonnes.h"
@@ -73,7 +74,7 @@ class Ctr_Contrat : public screen::Form {
   void Appel_Contrat();
 
   // The contract key of each row: attribute = row + 1.
-  const data::CItem& ClesContrats() const { return clesContrats_; }
+  const data::CItem& ClesContrats() const { return rangees_.Cles(); }
   // Every contract of the carer, kept by the filters or not.
   const ContratsLus& Contrats() const { return contrats_; }
   // Called when they are others. Unset, nothing happens.
@@ -136,7 +137,6 @@ class Ctr_Contrat : public screen::Form {
   void Cmd_Ajouter_Click();
   void Cmd_Ok_Click();
   void Cmd_Retour_Click();
-  void ViderListes();
 
   // Opens the contract of that key; a row of the list that it is follows.
   void OuvrirContrat(const std::string& cle);
@@ -145,18 +145,16 @@ class Ctr_Contrat : public screen::Form {
       const std::function<void(editor::Frm_ElementsContrat&)>& preparer);
   // What became of the contract of that key.
   void Annoncer(const std::string& cle, const char* sort) const;
-  void ActualiserLigne(const std::string& cle);
-  void AjouterLigneEnTete(const std::string& cle);
 
   session::Session session_;
   session::AideEnLigne aide_;
   ChoixFiltres filtres_{*this};
-  data::CItem clesContrats_;
   ContratsLus contrats_{session_};
-  screen::Colonnes lignes_{
+  screen::Colonnes colonnes_{
       {&Lst_DatDebContrat, &Lst_DatFinContrat, &Lst_Type, &Lst_EmplEtabContrat, &Lst_QualifContrat},
       Bdv_Detail,
       LignesVisibles};
+  Rangees rangees_{session_, colonnes_};
   // Stays loaded between contracts; it is let go of before the session that it works on.
   std::unique_ptr<editor::Frm_ElementsContrat> editeur_;
 };

@@ -126,12 +126,6 @@ bool Monnaie::EntierOuDemi() const {
   return unites_ % (unite / 2) == 0;
 }
 
-Monnaie Monnaie::Arrondi(int decimales) const {
-  const std::int64_t pas =
-      powerOfTen(decimalesGardees - std::clamp(decimales, 0, decimalesGardees));
-  return DUnites(narrowed(divideRounded(unites_, pas) * pas));
-}
-
 Monnaie operator+(Monnaie a, Monnaie b) {
   return Monnaie::DUnites(narrowed(static_cast<Large>(a.unites_) + b.unites_));
 }

@@ -48,7 +48,6 @@ class Monnaie {
   Monnaie PartieEntiere() const;
   // Whole days and half-days, the only ones that leave counters take.
   bool EntierOuDemi() const;
-  Monnaie Arrondi(int decimales) const;
   Monnaie Absolue() const { return unites_ < 0 ? -*this : *this; }
 
   Monnaie operator-() const { return Monnaie() - *this; }

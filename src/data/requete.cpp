@@ -21,6 +21,10 @@ Requete& Requete::Avec(const Champ& champ, const char* operateur, std::string_vi
   return Clause("AVEC", champ).Ajouter({operateur, valeur});
 }
 
+Requete& Requete::OuAvec(const Champ& champ, const char* operateur, std::string_view valeur) {
+  return Ajouter({"OR AVEC", champ.texte, operateur, valeur});
+}
+
 Requete& Requete::Sans(const Champ& champ, const char* operateur, std::string_view valeur) {
   return Clause("SANS", champ).Ajouter({operateur, valeur});
 }

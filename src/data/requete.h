@@ -8,7 +8,7 @@
 //       .Lire(db, {Cle, Activites::Libelle})
 //
 // sends SSELECT ACTIVITES AVEC 0 = "001]" AND AVEC 12 = "M" PAR 1 for the columns "0 1". Values
-// come quoted, by citer or citerDebut. Clauses are joined by AND.
+// come quoted, by citer or citerDebut. Clauses are joined by AND, but for OuAvec.
 
 #include <initializer_list>
 #include <string>
@@ -36,6 +36,8 @@ class Requete {
   // The field holds something; a value of it compares so; no value does.
   Requete& Avec(const Champ& champ) { return Clause("AVEC", champ); }
   Requete& Avec(const Champ& champ, const char* operateur, std::string_view valeur);
+  // Another way to be found: what stands before it, or this and what follows.
+  Requete& OuAvec(const Champ& champ, const char* operateur, std::string_view valeur);
   Requete& Sans(const Champ& champ) { return Clause("SANS", champ); }
   Requete& Sans(const Champ& champ, const char* operateur, std::string_view valeur);
   // A further comparison of the clause before.

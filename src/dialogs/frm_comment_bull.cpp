@@ -12,10 +12,9 @@ namespace dialogs {
 namespace {
 
 namespace C = data::Contrat;
-using screen::Boutons, screen::Icone;
+using screen::Icone;
 
 constexpr const char* Incomplet = "La période ainsi que le libellé sont obligatoires.";
-constexpr const char* DejaLa = "La période sélectionnée est déjà renseignée.";
 
 // What is no month is shown as it is, so that a wrong record is seen.
 std::string libelle(const std::string& periode) {
@@ -102,28 +101,29 @@ void Frm_CommentBull::Descendre(int ligne) {
   Txt_Libelle.SetFocus();
 }
 
+// The month of the comment in hand.
+const std::string& Frm_CommentBull::Periode() const {
+  return enCreation_ ? ouvertes_[static_cast<std::size_t>(Cbo_Periode.ListIndex())]
+                     : lignes_[static_cast<std::size_t>(ligne_)].periode;
+}
+
+const rules::Verification<Frm_CommentBull> Frm_CommentBull::Verifications[3] = {
+    {[](Frm_CommentBull& f) { return f.Cbo_Periode.Text().empty(); }, Incomplet, Icone::Exclamation,
+     "Cbo_Periode"},
+    {[](Frm_CommentBull& f) { return data::sansBlancs(f.Txt_Libelle.Text()).empty(); }, Incomplet,
+     Icone::Exclamation, "Txt_Libelle"},
+    {[](Frm_CommentBull& f) {
+       return f.enCreation_ &&
+              std::any_of(f.lignes_.begin(), f.lignes_.end(),
+                          [&](const Commentaire& c) { return c.periode == f.Periode(); });
+     },
+     "La période sélectionnée est déjà renseignée.", Icone::Exclamation, "Cbo_Periode"},
+};
+
 bool Frm_CommentBull::Ranger() {
-  const bool sansTexte = data::sansBlancs(Txt_Libelle.Text()).empty();
-  if (Cbo_Periode.Text().empty() || sansTexte) {
-    MessageBox(Incomplet, Boutons::Ok, Icone::Exclamation);
-    screen::Field& vide =
-        Cbo_Periode.Text().empty() ? static_cast<screen::Field&>(Cbo_Periode) : Txt_Libelle;
-    vide.SetFocus();
-    return false;
-  }
-  if (!enCreation_) {
-    const std::string periode = lignes_[static_cast<std::size_t>(ligne_)].periode;
-    Retirer(ligne_);
-    Inserer({periode, Txt_Libelle.Text()});
-    return true;
-  }
-  const std::string periode = ouvertes_[static_cast<std::size_t>(Cbo_Periode.ListIndex())];
-  if (std::any_of(lignes_.begin(), lignes_.end(),
-                  [&](const Commentaire& c) { return c.periode == periode; })) {
-    MessageBox(DejaLa, Boutons::Ok, Icone::Exclamation);
-    Cbo_Periode.SetFocus();
-    return false;
-  }
+  if (!Verifier<Frm_CommentBull>(Verifications, *this)) return false;
+  const std::string periode = Periode();
+  if (!enCreation_) Retirer(ligne_);
   Inserer({periode, Txt_Libelle.Text()});
   return true;
 }

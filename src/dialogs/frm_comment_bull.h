@@ -44,12 +44,15 @@ class Frm_CommentBull : public DialogueLignes {
     std::string texte;
   };
 
+  static const rules::Verification<Frm_CommentBull> Verifications[3];
+
   void Remplir_Donnees();
   void Remplir_Periode();
   // At its place: before the first comment of a later month.
   void Inserer(const Commentaire& commentaire);
   void Retirer(int ligne);
 
+  const std::string& Periode() const;
   void Griser(bool saisie);
   void Cmd_Ajouter_Click();
   void Descendre(int ligne);

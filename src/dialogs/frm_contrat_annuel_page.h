@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "rules/suivi_annuel.h"
+#include "rules/verification.h"
 #include "screen/colonnes.h"
 #include "screen/form.h"
 #include "session/dossier.h"
@@ -62,11 +63,14 @@ class PageSuivi {
   void Message(const char* texte) {
     forme_.MessageBox(texte, screen::Boutons::Ok, screen::Icone::Exclamation);
   }
-  // The month asked for again, after a message.
-  void Redemander(screen::ComboBox& mois, const char* texte) {
-    Message(texte);
-    mois.SetListIndex(-1);
-    mois.SetFocus();
+  // The checks of a new line in their order; the first that fails is shown and its field takes the
+  // focus.
+  template <class Suivi>
+  bool Verifier(std::span<const rules::Verification<Suivi>> verifications, Suivi& suivi) {
+    return rules::Verifier(verifications, suivi, [this](const rules::Refus& refus) {
+      forme_.MessageBox(refus.texte, screen::Boutons::Ok, refus.icone);
+      if (screen::Field* const champ = forme_.Find(refus.champ)) champ->SetFocus();
+    });
   }
 
   static constexpr const char* PeriodeExistante =

@@ -179,17 +179,23 @@ bool SuiviEnRemunere::Confirmer(LigneEnMain enMain) {
   return true;
 }
 
+const std::string& SuiviEnRemunere::Periode() const {
+  return periodes_[static_cast<std::size_t>(Cbo_Periode.ListIndex())];
+}
+
+const rules::Verification<SuiviEnRemunere> SuiviEnRemunere::Verifications[2] = {
+    {[](SuiviEnRemunere& s) {
+       return s.Cbo_Periode.ListIndex() < 0 || s.Txt_HresParContrat.Text().empty();
+     },
+     "La période ainsi que les heures mensuelles sont obligatoires."},
+    {[](SuiviEnRemunere& s) { return s.enCours_.Table().Contient(s.Periode()); }, PeriodeExistante,
+     screen::Icone::Exclamation, "Cbo_Periode",
+     [](SuiviEnRemunere& s) { s.Cbo_Periode.SetListIndex(-1); }},
+};
+
 bool SuiviEnRemunere::Recherche_Periode() {
-  if (Cbo_Periode.ListIndex() < 0 || Txt_HresParContrat.Text().empty()) {
-    Message("La période ainsi que les heures mensuelles sont obligatoires.");
-    return false;
-  }
-  const std::string& periode = periodes_[static_cast<std::size_t>(Cbo_Periode.ListIndex())];
-  if (enCours_.Table().Contient(periode)) {
-    Redemander(Cbo_Periode, PeriodeExistante);
-    return false;
-  }
-  enCours_.Ajouter(periode, rules::lireForme(Txt_HresParContrat.Text()),
+  if (!Verifier<SuiviEnRemunere>(Verifications, *this)) return false;
+  enCours_.Ajouter(Periode(), rules::lireForme(Txt_HresParContrat.Text()),
                    rules::lireForme(Txt_Regul.Text()));
   return true;
 }

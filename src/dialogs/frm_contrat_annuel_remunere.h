@@ -54,11 +54,15 @@ class SuiviEnRemunere : public PageSuivi {
   screen::TextField Txt_Solde{Page, "Txt_Solde", Signee.Largeur()};
 
  private:
+  static const rules::Verification<SuiviEnRemunere> Verifications[2];
+
   void Lier();
   void Montrer() override;
   const rules::SuiviRemunere& Suivi() const;
   void Descendre_Liste(int ligne);
   bool Recherche_Periode();
+  // The month chosen for a new line.
+  const std::string& Periode() const;
   rules::HeuresMois Saisies(int ligne) const;
 
   void Txt_HresParContrat_LostFocus();

@@ -1,7 +1,6 @@
 #include "dialogs/frm_contrat_annuel_saisie.h"
 
 #include "rules/suivi_annuel_nombre.h"
-#include "screen/events.h"
 
 namespace dialogs {
 
@@ -9,13 +8,6 @@ void filtrerNombre(const session::Session& session, screen::TextField& champ, bo
   champ.KeyPress = [&session, &champ, signe](char32_t& touche) {
     const std::string& texte = champ.HorsSelection();
     session.Lib.FilterKey(texte, touche, signe && texte.empty());
-  };
-}
-
-void filtrerChiffres(screen::TextField& champ) {
-  champ.KeyPress = [](char32_t& touche) {
-    const bool chiffre = touche >= U'0' && touche <= U'9';
-    if (touche != screen::ToucheRetour && !chiffre) touche = 0;
   };
 }
 

@@ -11,8 +11,6 @@ namespace dialogs {
 
 // The keys of a number; "-" only in front of it.
 void filtrerNombre(const session::Session& session, screen::TextField& champ, bool signe);
-// Digits alone.
-void filtrerChiffres(screen::TextField& champ);
 
 // The number that was typed; that on file where the field still says what a column shows of it,
 // which may be less than it holds.

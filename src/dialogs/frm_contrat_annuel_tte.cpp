@@ -5,6 +5,7 @@
 #include "dialogs/frm_contrat_annuel_saisie.h"
 #include "rules/suivi_annuel_mois.h"
 #include "rules/suivi_annuel_nombre.h"
+#include "screen/touches.h"
 
 namespace dialogs {
 
@@ -50,7 +51,7 @@ SuiviEnTempsEffectif::SuiviEnTempsEffectif(screen::Form& forme, screen::TabStrip
 
 void SuiviEnTempsEffectif::Lier(const Champ& champ) {
   if (champ.genre == Champ::EnJours) {
-    filtrerChiffres(champ.champ);
+    champ.champ.KeyPress = screen::chiffresSeuls;
   } else {
     filtrerNombre(session_, champ.champ, true);
   }
@@ -223,17 +224,19 @@ bool SuiviEnTempsEffectif::Confirmer(LigneEnMain enMain) {
   return true;
 }
 
+const rules::Verification<SuiviEnTempsEffectif> SuiviEnTempsEffectif::Verifications[2] = {
+    {[](SuiviEnTempsEffectif& s) { return s.Periode().empty(); }, "Vous devez saisir une période.",
+     screen::Icone::Exclamation, "Cbo_PeriodeTTE",
+     [](SuiviEnTempsEffectif& s) { s.Cbo_PeriodeTTE.SetListIndex(-1); }},
+    {[](SuiviEnTempsEffectif& s) { return s.enCours_.Table().Contient(s.Periode()); },
+     PeriodeExistante, screen::Icone::Exclamation, "Cbo_PeriodeTTE",
+     [](SuiviEnTempsEffectif& s) { s.Cbo_PeriodeTTE.SetListIndex(-1); }},
+};
+
 bool SuiviEnTempsEffectif::Trier_ListeTTE(LigneEnMain enMain) {
   const bool creation = enMain == LigneEnMain::Creation;
   const std::string periode = Periode();
-  if (creation && periode.empty()) {
-    Redemander(Cbo_PeriodeTTE, "Vous devez saisir une période.");
-    return false;
-  }
-  if (creation && enCours_.Table().Contient(periode)) {
-    Redemander(Cbo_PeriodeTTE, PeriodeExistante);
-    return false;
-  }
+  if (creation && !Verifier<SuiviEnTempsEffectif>(Verifications, *this)) return false;
   for (const Champ& champ : champs_) {
     if (champ.champ.Text().empty()) champ.champ.SetText("0");
   }

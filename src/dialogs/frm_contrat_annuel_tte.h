@@ -78,6 +78,8 @@ class SuiviEnTempsEffectif : public PageSuivi {
     enum Genre { EnJours, EnNombre, EnForme } genre;
   };
 
+  static const rules::Verification<SuiviEnTempsEffectif> Verifications[2];
+
   void Lier(const Champ& champ);
   void Montrer() override;
   data::CItem ArticleDe(int annee) const;

@@ -61,14 +61,6 @@ void remplir(screen::ComboBox& champ, const data::ListeCodes& codes) {
   for (const auto& ligne : codes.Lignes()) champ.AddItem(ligne.libelle);
 }
 
-// A list that takes no typing shows its choice as a row.
-void choisirLigne(screen::ComboBox& champ) {
-  const auto& lignes = champ.Rows();
-  const auto ligne = std::find(lignes.begin(), lignes.end(), champ.Text());
-  if (ligne == lignes.end() || champ.Text().empty()) return;
-  champ.SetListIndex(static_cast<int>(ligne - lignes.begin()));
-}
-
 bool lettre(char32_t touche) {
   return (touche >= U'a' && touche <= U'z') || (touche >= U'A' && touche <= U'Z');
 }
@@ -146,7 +138,7 @@ void Frm_ElemDroitPublic::Montrer() {
   {
     const session::Sourdine::Silence silence(sourdine_);
     for (screen::ComboBox* const champ : {&Cbo_CodePopEmp, &Cbo_CodeStaJur, &Cbo_CodeCatSta}) {
-      choisirLigne(*champ);
+      session::ChoisirTexte(*champ);
     }
   }
   const std::string emploi = contrat(C::EmploiStatutaire, rangLu_);

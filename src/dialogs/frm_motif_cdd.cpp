@@ -12,8 +12,6 @@ namespace {
 
 namespace C = data::Contrat;
 
-constexpr const char* MotifObligatoire = "La saisie d'un motif d'embauche est obligatoire.";
-
 // The reasons for recourse, in row order.
 struct MotifRecours {
   const char* code;
@@ -107,13 +105,17 @@ void Frm_MotifCDD::Cmd_MotifsEmbauche_Click() {
   Cbo_MotifEmbauche.SetText(motifs_.Libelle(dossier_.ItemContrat.Vue(C::MotifEmbauche)));
 }
 
+const rules::Verification<Frm_MotifCDD> Frm_MotifCDD::Verifications[1] = {
+    {[](Frm_MotifCDD& f) {
+       return data::sansBlancs(f.Txt_MotifEmbContrat_0.Text()).empty() &&
+              f.motifs_.Code(f.Cbo_MotifEmbauche.Text()).empty();
+     },
+     "La saisie d'un motif d'embauche est obligatoire.", screen::Icone::Exclamation,
+     "Txt_MotifEmbContrat(0)"},
+};
+
 void Frm_MotifCDD::Cmd_Ok_Click() {
-  if (data::sansBlancs(Txt_MotifEmbContrat_0.Text()).empty() &&
-      motifs_.Code(Cbo_MotifEmbauche.Text()).empty()) {
-    MessageBox(MotifObligatoire, screen::Boutons::Ok, screen::Icone::Exclamation);
-    Txt_MotifEmbContrat_0.SetFocus();
-    return;
-  }
+  if (!Verifier<Frm_MotifCDD>(Verifications, *this)) return;
   MAJ_TabDyn();
   Sortir();
 }

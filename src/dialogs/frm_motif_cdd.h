@@ -67,6 +67,7 @@ class Frm_MotifCDD : public DialogueContrat {
   void Copier_Champs(data::CItem& contrat) const override;
 
  private:
+  static const rules::Verification<Frm_MotifCDD> Verifications[1];
   static const rules::Verification<Frm_MotifCDD> VerificationsAidant[4];
 
   void Afficher_Donnees();

@@ -1,5 +1,6 @@
 #include "dialogs/frm_reprise.h"
 
+#include "screen/touches.h"
 #include "session/saisie.h"
 
 namespace dialogs {
@@ -37,8 +38,7 @@ void Frm_Reprise::Afficher(const DonneesReprise& donnees) {
 // Whatever parts the digits, a "/" is typed.
 void Frm_Reprise::LierDateRecalculee(screen::TextField& champ) {
   champ.KeyPress = [](char32_t& touche) {
-    const bool chiffre = touche >= U'0' && touche <= U'9';
-    if (touche != screen::ToucheRetour && !chiffre) touche = U'/';
+    if (touche != screen::ToucheRetour && !screen::estChiffre(touche)) touche = U'/';
   };
   champ.LostFocus = [this, &champ] { DateRecalculee_LostFocus(champ); };
 }

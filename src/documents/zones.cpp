@@ -5,6 +5,7 @@
 #include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/voisins.h"
+#include "data/liste_codes.h"
 #include "data/nombre.h"
 #include "data/texte.h"
 
@@ -94,10 +95,9 @@ std::string zoneDate(const std::string& interne) {
 }
 
 std::optional<std::string> libelle(const CItem& table, std::string_view code) {
-  for (int v = 1; v <= table.DCount(Tables::Codes); ++v) {
-    if (!code.empty() && table.Vue(Tables::Codes, v) == code) return table(Tables::Libelles, v);
-  }
-  return std::nullopt;
+  const auto liste = ListeCodes::DeTable(table);
+  const auto* const ligne = liste.ParCode(code);
+  return ligne == nullptr ? std::nullopt : std::optional(ligne->libelle);
 }
 
 ZonesEmployeur Mise_En_Forme_Empl(const DossierDeclaration& d) {

@@ -22,25 +22,13 @@ void ouvrir(screen::Button& bouton, bool ouvert) {
 
 Avenants::Avenants(Frm_ElementsContrat& editeur, OngletCaracteristiques& onglet,
                    screen::Frame& page, session::Sourdine& sourdine)
-    : editeur_(editeur),
-      onglet_(onglet),
-      sourdine_(sourdine),
-      Etq_AvenantContrat(page, "Etq_AvenantContrat", "Numéro Avenant"),
-      Txt_AvenantContrat(page, "Txt_AvenantContrat", 3),
-      Bdh_Avenant(page, "Bdh_Avenant"),
-      Etq_RangAvenant(page, "Etq_RangAvenant"),
-      Etq_DatEffetContrat(page, "Etq_DatEffetContrat", "Date d'effet"),
-      Txt_DatEffetContrat(page, "Txt_DatEffetContrat", Onglet::LongueurDate),
-      Cmd_AjoutAvenant(page, "Cmd_AjoutAvenant", "Ajouter"),
-      Cmd_OKAvenant(page, "Cmd_OKAvenant", "OK"),
-      Cmd_AnnulerAvenant(page, "Cmd_AnnulerAvenant", "Annuler"),
-      Cmd_ImpAvenant(page, "Cmd_ImpAvenant", "Imprimer") {
+    : editeur_(editeur), onglet_(onglet), page_(page), sourdine_(sourdine) {
   Txt_AvenantContrat.SetEnabled(false);
   screen::Activer({&Cmd_OKAvenant, &Cmd_AnnulerAvenant, &Cmd_ImpAvenant}, false);
   Cmd_AjoutAvenant.Click = [this] { Cmd_AjoutAvenant_Click(); };
   Cmd_OKAvenant.Click = [this] { Cmd_OKAvenant_Click(); };
   Cmd_AnnulerAvenant.Click = [this] { Cmd_AnnulerAvenant_Click(); };
-  Cmd_ImpAvenant.Click = [this] { editeur_.ImprimerAvenant(Txt_AvenantContrat.Text()); };
+  Cmd_ImpAvenant.Click = [this] { editeur_.Papiers().Avenant(Txt_AvenantContrat.Text()); };
   Bdh_Avenant.Change = sourdine_.SiAudible([this] { Bdh_Avenant_Change(); });
   Txt_DatEffetContrat.LostFocus = [this] { Txt_DatEffetContrat_LostFocus(); };
 }

@@ -55,6 +55,7 @@ class Avenants {
 
   Frm_ElementsContrat& editeur_;
   OngletCaracteristiques& onglet_;
+  screen::Frame& page_;
   session::Sourdine& sourdine_;
   bool avenantEnCreation_ = false;
   // The contract before the entry began.
@@ -65,16 +66,16 @@ class Avenants {
   std::string effetMontre_;
   std::string effetSurFichier_;
 
-  screen::Label Etq_AvenantContrat;
-  screen::TextField Txt_AvenantContrat;
-  screen::UpDown Bdh_Avenant;
-  screen::Label Etq_RangAvenant;
-  screen::Label Etq_DatEffetContrat;
-  screen::TextField Txt_DatEffetContrat;
-  screen::Button Cmd_AjoutAvenant;
-  screen::Button Cmd_OKAvenant;
-  screen::Button Cmd_AnnulerAvenant;
-  screen::Button Cmd_ImpAvenant;
+  screen::Label Etq_AvenantContrat{page_, "Etq_AvenantContrat", "Numéro Avenant"};
+  screen::TextField Txt_AvenantContrat{page_, "Txt_AvenantContrat", 3};
+  screen::UpDown Bdh_Avenant{page_, "Bdh_Avenant"};
+  screen::Label Etq_RangAvenant{page_, "Etq_RangAvenant"};
+  screen::Label Etq_DatEffetContrat{page_, "Etq_DatEffetContrat", "Date d'effet"};
+  screen::TextField Txt_DatEffetContrat{page_, "Txt_DatEffetContrat", 10};
+  screen::Button Cmd_AjoutAvenant{page_, "Cmd_AjoutAvenant", "Ajouter"};
+  screen::Button Cmd_OKAvenant{page_, "Cmd_OKAvenant", "OK"};
+  screen::Button Cmd_AnnulerAvenant{page_, "Cmd_AnnulerAvenant", "Annuler"};
+  screen::Button Cmd_ImpAvenant{page_, "Cmd_ImpAvenant", "Imprimer"};
 };
 
 }  // namespace editor

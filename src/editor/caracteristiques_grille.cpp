@@ -21,8 +21,8 @@ constexpr std::string_view CategorieLibre = "VRAI";
 GrilleCarriere::GrilleCarriere(Frm_ElementsContrat& editeur, screen::Frame& page,
                                session::Sourdine& sourdine)
     : editeur_(editeur),
+      page_(page),
       sourdine_(sourdine),
-      Cdr_Grille(page, "Cdr_Grille", "Grille"),
       reference_(editeur.Session(), Txt_DepartGrilContrat, Txt_JourSusp, Txt_DatReference,
                  C::JoursSuspensionGrille, [this] { return editeur_.origine.DateDebut(); }),
       zones_({session::code(Cbo_GrilleContrat, C::Grille, ListeGrilles_).ParAvenant(),

@@ -53,6 +53,7 @@ class GrilleCarriere {
   std::string EcrireDepart(const data::CItem& contrat, const rules::Debut& debut) const;
 
   Frm_ElementsContrat& editeur_;
+  screen::Frame& page_;
   session::Sourdine& sourdine_;
   // The grids that Cbo_GrilleContrat offers, each with its category.
   data::ListeCodes ListeGrilles_;
@@ -67,7 +68,7 @@ class GrilleCarriere {
   // The grid that the user left last.
   std::string grilleQuittee_;
 
-  screen::Frame Cdr_Grille;
+  screen::Frame Cdr_Grille{page_, "Cdr_Grille", "Grille"};
   screen::Label Etq_GrilleContrat{Cdr_Grille, "Etq_GrilleContrat",
                                   "Grille déroulement de carrière"};
   screen::ComboBox Cbo_GrilleContrat{Cdr_Grille, "Cbo_GrilleContrat", true, LongueurLibelle};

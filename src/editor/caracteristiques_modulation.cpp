@@ -24,7 +24,7 @@ bool leve(const std::string& drapeau) {
 
 Modulation::Modulation(Frm_ElementsContrat& editeur, screen::Frame& page,
                        session::Sourdine& sourdine)
-    : editeur_(editeur), Cdr_Lissage(page, "Cdr_Lissage", "Accord de modulation") {
+    : editeur_(editeur), page_(page) {
   Cac_Lissage.Click = sourdine.SiAudible([this] { Cac_Lissage_Click(); });
   Cmd_SuiviAnnuel.Click = [this] { Cmd_SuiviAnnuel_Click(); };
   screen::Activer({&Cac_RetraitHeuresNeg, &Cac_PaiementHeuresPos, &Cmd_SuiviAnnuel}, false);

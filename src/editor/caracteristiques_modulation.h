@@ -34,13 +34,14 @@ class Modulation {
   std::string Traitement() const;
 
   Frm_ElementsContrat& editeur_;
+  screen::Frame& page_;
   // As the boxes stand untouched, with their attributes; nothing is on file for a new contract.
   bool surFichier_ = false;
   std::string casesMontrees_;
   std::string lissageSurFichier_;
   std::string traitementSurFichier_;
 
-  screen::Frame Cdr_Lissage;
+  screen::Frame Cdr_Lissage{page_, "Cdr_Lissage", "Accord de modulation"};
   screen::CheckBox Cac_Lissage{Cdr_Lissage, "Cac_Lissage", "Lissage des rémunérations"};
   screen::CheckBox Cac_RetraitHeuresNeg{Cdr_Lissage, "Cac_RetraitHeuresNeg",
                                         "Retrait des heures négatives"};

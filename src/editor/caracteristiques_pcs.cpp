@@ -26,8 +26,8 @@ constexpr const char* LimiteCategories = "100";
 NomenclaturePCS::NomenclaturePCS(session::Session& session, screen::Frame& page,
                                  session::Sourdine& sourdine)
     : session_(session),
+      page_(page),
       sourdine_(sourdine),
-      Cdr_PCS(page, "Cdr_PCS", "Nomenclature P.C.S. "),
       fonction_(Txt_CodPCSContrat, Cbo_FoncPCSContrat, sourdine, RegleFonction()),
       zones_({session::texte(Cbo_CategPCSContrat, C::CategoriePCS).ParAvenant(),
               session::texte(Txt_CodPCSContrat, C::CodePCS).ParAvenant(),

@@ -42,11 +42,12 @@ class NomenclaturePCS {
   std::string Libelle(const std::string& cle) const;
 
   session::Session& session_;
+  screen::Frame& page_;
   session::Sourdine& sourdine_;
   // The categories that Cbo_CategPCSContrat offers.
   data::ListeCodes ListePCS_;
 
-  screen::Frame Cdr_PCS;
+  screen::Frame Cdr_PCS{page_, "Cdr_PCS", "Nomenclature P.C.S. "};
   screen::Label Etq_CategPCSContrat{Cdr_PCS, "Etq_CategPCSContrat", "Catégorie"};
   screen::ComboBox Cbo_CategPCSContrat{Cdr_PCS, "Cbo_CategPCSContrat", true, LongueurLibelle};
   screen::Label Etq_CodPCSContrat{Cdr_PCS, "Etq_CodPCSContrat", "Code P.C.S."};

@@ -16,12 +16,8 @@ namespace T = data::Tables;
 Qualification::Qualification(Frm_ElementsContrat& editeur, screen::Frame& page,
                              session::Sourdine& sourdine)
     : editeur_(editeur),
+      page_(page),
       sourdine_(sourdine),
-      Etq_QualifContrat(page, "Etq_QualifContrat", "Qualif. Prof."),
-      Cbo_QualifContrat(page, "Cbo_QualifContrat", true, LongueurLibelle),
-      Cmd_QualifPro(page, "Cmd_QualifPro", "Ajouter Qualification"),
-      Etq_RegroupBudget(page, "Etq_RegroupBudget", "Regroup. budget"),
-      Txt_RegroupBudget(page, "Txt_RegroupBudget"),
       zones_({session::texte(Cbo_QualifContrat, C::Qualification).ParAvenant()}) {
   Txt_RegroupBudget.SetEnabled(false);
   Cbo_QualifContrat.DropDown = [this] { Remplir(); };
@@ -57,12 +53,11 @@ void Qualification::Remplir() {
   data::CItem qualifications;
   editeur_.Session().F_TABLES.Lire(T::Qualif, qualifications);
   regroupements_ = data::ListeCodes::DeTable(groupes);
-  ItemQualif_ = qualifications;
+  qualifications_ =
+      data::ListeCodes::DeTable(qualifications, T::QualifRegroupements, T::QualifLibelles);
   const std::string montree = Cbo_QualifContrat.Text();
   Cbo_QualifContrat.Clear();
-  for (int v = 1; v <= ItemQualif_.DCount(T::QualifLibelles); ++v) {
-    Cbo_QualifContrat.AddItem(ItemQualif_(T::QualifLibelles, v));
-  }
+  for (const auto& ligne : qualifications_.Lignes()) Cbo_QualifContrat.AddItem(ligne.libelle);
   const session::Sourdine::Silence silence(sourdine_);
   Cbo_QualifContrat.SetText(montree);
 }
@@ -70,12 +65,9 @@ void Qualification::Remplir() {
 // The label of the group whose code the qualification bears.
 void Qualification::MontrerRegroupement() {
   Txt_RegroupBudget.SetText("");
-  const std::string& libelle = Cbo_QualifContrat.Text();
-  if (editeur_.origine.Particuliers() || libelle.empty()) return;
-  int v = ItemQualif_.DCount(T::QualifLibelles);
-  while (v > 0 && ItemQualif_.Vue(T::QualifLibelles, v) != libelle) --v;
-  if (v == 0 || ItemQualif_.Vue(T::QualifRegroupements, v).empty()) return;
-  Txt_RegroupBudget.SetText(regroupements_.Libelle(ItemQualif_(T::QualifRegroupements, v)));
+  if (editeur_.origine.Particuliers()) return;
+  const std::string groupe = qualifications_.Code(Cbo_QualifContrat.Text());
+  Txt_RegroupBudget.SetText(regroupements_.Libelle(groupe));
 }
 
 void Qualification::Cmd_QualifPro_Click() {

@@ -30,15 +30,17 @@ class Qualification {
   void Cmd_QualifPro_Click();
 
   Frm_ElementsContrat& editeur_;
+  screen::Frame& page_;
   session::Sourdine& sourdine_;
-  data::CItem ItemQualif_;
+  // The labels of the table, each with the code of its budget group; the groups.
+  data::ListeCodes qualifications_;
   data::ListeCodes regroupements_;
 
-  screen::Label Etq_QualifContrat;
-  screen::ComboBox Cbo_QualifContrat;
-  screen::Button Cmd_QualifPro;
-  screen::Label Etq_RegroupBudget;
-  screen::TextField Txt_RegroupBudget;
+  screen::Label Etq_QualifContrat{page_, "Etq_QualifContrat", "Qualif. Prof."};
+  screen::ComboBox Cbo_QualifContrat{page_, "Cbo_QualifContrat", true, LongueurLibelle};
+  screen::Button Cmd_QualifPro{page_, "Cmd_QualifPro", "Ajouter Qualification"};
+  screen::Label Etq_RegroupBudget{page_, "Etq_RegroupBudget", "Regroup. budget"};
+  screen::TextField Txt_RegroupBudget{page_, "Txt_RegroupBudget"};
 
   session::Zones zones_;
 };

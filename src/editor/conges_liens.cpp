@@ -2,7 +2,7 @@
 
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
-#include "data/question.h"
+#include "data/requete.h"
 
 namespace editor {
 
@@ -86,9 +86,10 @@ void RompreEnRetour(const session::Dossier& dossier) {
 }
 
 void Nettoyer_LiensConges(const session::Dossier& dossier, const std::string& cle) {
-  const data::CItem lignes = dossier.Session.Db->Selectionner(
-      "SELECT CONTRAT AVEC 116 = " + data::citer(cle) + " OR AVEC 117 = " + data::citer(cle),
-      data::fichier::CONTRAT, "0");
+  const data::CItem lignes = data::Requete(data::fichier::CONTRAT, "SELECT")
+                                 .Avec(C::CongesReportesSur, "=", data::citer(cle))
+                                 .OuAvec(C::CongesReprisDe, "=", data::citer(cle))
+                                 .Lire(*dossier.Session.Db, {data::Cle});
   for (int i = 1; i <= lignes.DCount(); ++i) {
     data::CItem lie;
     if (!dossier.Session.F_CONTRAT.Lire(lignes(i, 1), lie)) continue;

@@ -20,6 +20,22 @@ constexpr std::string_view ServicesTelegestion[] = {"06", "VESPARIO"};
 // The entity whose settings hold for a contract not created yet.
 constexpr const char* PremiereEntite = "001";
 
+// Which contract this is, and what can be done to it.
+std::string titre(const session::Dossier& dossier, bool droitComplet) {
+  if (dossier.ModeCreation) return "Nouveau contrat (création)";
+  return "Contrat " + dossier.NumeroContrat() + (droitComplet ? "" : " (consultation)");
+}
+
+// The contract's entity uses remote time-tracking.
+bool utiliseTelegestion(const session::Dossier& dossier) {
+  data::CItem association;
+  dossier.Session.F_ASSOCIATION.Lire(
+      dossier.ModeCreation ? PremiereEntite : dossier.ItemContrat(C::Association), association);
+  const auto service = association.Vue(data::Association::Telegestion);
+  const auto* const fin = std::end(ServicesTelegestion);
+  return std::find(std::begin(ServicesTelegestion), fin, service) != fin;
+}
+
 }  // namespace
 
 Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Session& session)
@@ -31,7 +47,7 @@ Frm_ElementsContrat::Frm_ElementsContrat(screen::Platform& platform, session::Se
   Cmd_OK.Click = [this] { Confirmer(); };
   Cmd_Retour.Click = [this] { Cmd_Retour_Click(); };
   Cmd_ImpContrat.Click = [this] { impression_.Contrat(); };
-  Cmd_DPAE.Click = [this] { ImprimerDeclaration(); };
+  Cmd_DPAE.Click = [this] { impression_.Declaration(); };
   Mnu_Sommaire.Click = [this] { aide_.Sommaire(); };
   screen::Activer({&Mnu_Aide, &Mnu_Sommaire}, false);
 }
@@ -46,9 +62,7 @@ void Frm_ElementsContrat::Ouvrir(const std::string& cle) {
   conges.AfficherLiens();
   origine.Afficher();
   fin.Afficher();
-  Titrer();
-  SelonDroits();
-  SelonEntite();
+  Presenter();
 }
 
 // A new contract counts as loaded everywhere.
@@ -57,9 +71,7 @@ void Frm_ElementsContrat::Creer() {
   dossier_->ModeCreation = true;
   conges.AfficherLiens();
   for (Onglet* const onglet : onglets_) onglet->Afficher();
-  Titrer();
-  SelonDroits();
-  SelonEntite();
+  Presenter();
 }
 
 void Frm_ElementsContrat::Commencer() {
@@ -74,28 +86,13 @@ void Frm_ElementsContrat::Commencer() {
   Etq_NomPrenomAidant.SetLibelle(session_.NomPrenomAidant);
 }
 
-// Which contract this is, and what can be done to it.
-void Frm_ElementsContrat::Titrer() {
-  const std::string mode = session_.DroitComplet() ? "" : " (consultation)";
-  SetTitre(dossier_->ModeCreation ? "Nouveau contrat (création)"
-                                  : "Contrat " + dossier_->NumeroContrat() + mode);
-}
-
-void Frm_ElementsContrat::SelonDroits() {
+// The title, and what the rights, the settings of the contract's entity and its agreement show.
+void Frm_ElementsContrat::Presenter() {
   const bool complet = session_.DroitComplet();
+  SetTitre(titre(*dossier_, complet));
   Cmd_OK.SetVisible(complet);
   for (Onglet* const onglet : onglets_) onglet->SelonDroits(complet);
-}
-
-// What the settings of the contract's entity and its agreement decide.
-void Frm_ElementsContrat::SelonEntite() {
-  const data::CItem& contrat = dossier_->ItemContrat;
-  data::CItem association;
-  session_.F_ASSOCIATION.Lire(dossier_->ModeCreation ? PremiereEntite : contrat(C::Association),
-                              association);
-  const auto service = association.Vue(data::Association::Telegestion);
-  const auto* const dernier = std::end(ServicesTelegestion);
-  paie.SelonTelegestion(std::find(std::begin(ServicesTelegestion), dernier, service) != dernier);
+  paie.SelonTelegestion(utiliseTelegestion(*dossier_));
   Cmd_DPAE.SetVisible(!dossier_->ModeCreation);
   Cmd_DPAE.SetLibelle(dossier_->Particuliers() ? "D.E.F." : "DPAE");
 }
@@ -131,7 +128,7 @@ void Frm_ElementsContrat::Ong_Contrat_Click(int ancien) {
   }
   if (!origine.Genre().Administratif() || origine.Particuliers()) return;
   paie.MontrerParts();
-  caracteristiques.FermerModulation();
+  caracteristiques.AccordModulation().Ouvrir(false);
 }
 
 void Frm_ElementsContrat::ReserverSaisie(bool saisie) {
@@ -205,7 +202,7 @@ void Frm_ElementsContrat::QuitterCreation() {
 }
 
 bool Frm_ElementsContrat::ProposerEnregistrement() {
-  if (!dossier_->Modifie()) return !paie.RibManquant("paiment");
+  if (!dossier_->Modifie()) return !paie.Paiement().RibManquant("paiment");
   Services().curseur.Bip();
   switch (MessageBox("Voulez-vous enregistrer les modifications apportées à cet article ?",
                      Boutons::OuiNonAnnuler, Icone::Exclamation)) {
@@ -229,7 +226,7 @@ bool Frm_ElementsContrat::ProposerEnregistrement() {
       return true;
     }
     case Reponse::Non:
-      return !paie.Paiement().ModeChange() || !paie.RibManquant("paiment");
+      return !paie.Paiement().ModeChange() || !paie.Paiement().RibManquant("paiment");
     default:
       return false;
   }

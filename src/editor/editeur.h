@@ -60,10 +60,8 @@ class Frm_ElementsContrat : public screen::Form {
 
   // The tabs in their order, on which OK, leaving, saving and clearing work alike.
   const std::array<Onglet*, 5>& Onglets() const { return onglets_; }
-  // The hiring declaration of the contract, which stands on file.
-  void ImprimerDeclaration() { impression_.Declaration(); }
-  // The letter of the amendment of that number.
-  void ImprimerAvenant(const std::string& numero) { impression_.Avenant(numero); }
+  // What can be printed of the contract.
+  Impression& Papiers() { return impression_; }
   // The user's OK: checks, writes and closes. False when he was refused or gave a new contract up.
   // `contratImprime`: a new contract that goes on to its letter is not entered in the indexes.
   bool Confirmer(bool contratImprime = false);
@@ -102,9 +100,7 @@ class Frm_ElementsContrat : public screen::Form {
 
  private:
   void Commencer();
-  void Titrer();
-  void SelonDroits();
-  void SelonEntite();
+  void Presenter();
   void Ong_Contrat_Click(int ancien);
 
   void Cmd_Retour_Click();

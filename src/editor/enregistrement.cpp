@@ -58,7 +58,7 @@ Avis Enregistrement::Ecrire_Nouveau() {
   Ecrire_Tte();
   if (!Relire()) return Avis::Passe;
   Maj_PremiereEmbauche();
-  if (editeur_.Dossier().Particuliers()) editeur_.ImprimerDeclaration();
+  if (editeur_.Dossier().Particuliers()) editeur_.Papiers().Declaration();
   return Avis::Passe;
 }
 

@@ -27,22 +27,10 @@ DatesFin::DatesFin(Frm_ElementsContrat& editeur, screen::Frame& page, session::S
   Txt_FinReelle.LostFocus = [this] { QuitterJour(Txt_FinReelle, FinReelleAvantDebut); };
 }
 
-void DatesFin::Montrer(const data::CItem& contrat) {
-  const auto date = [&](int attribut) {
-    return editeur_.Session().Lib.DateFromInternal(contrat.Vue(attribut));
-  };
-  Txt_DateFinContrat.SetText(date(C::DateFin));
-  Txt_DernJrWContrat.SetText(date(C::DernierJourTravaille));
-  Txt_FinReelle.SetText(date(C::DateFinReelle));
-}
-
-void DatesFin::Ecrire(data::CItem& contrat) const {
-  const auto ecrire = [&](int attribut, std::optional<long> jour) {
-    contrat.Set(attribut, jour ? std::to_string(*jour) : "");
-  };
-  ecrire(C::DateFin, Fin());
-  ecrire(C::DernierJourTravaille, DernierJourTravaille());
-  ecrire(C::DateFinReelle, FinReelle());
+std::vector<session::Zone> DatesFin::Zones() {
+  return {session::jour(Txt_DateFinContrat, C::DateFin),
+          session::jour(Txt_DernJrWContrat, C::DernierJourTravaille),
+          session::jour(Txt_FinReelle, C::DateFinReelle)};
 }
 
 void DatesFin::Poser(const std::string& dateFin) {

@@ -4,10 +4,11 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "data/citem.h"
 #include "screen/field.h"
 #include "session/sourdine.h"
+#include "session/zones.h"
 
 namespace editor {
 
@@ -22,8 +23,7 @@ class DatesFin {
   std::function<void()> SurSaisie;
   std::function<void()> SurFin;
 
-  void Montrer(const data::CItem& contrat);
-  void Ecrire(data::CItem& contrat) const;
+  std::vector<session::Zone> Zones();
   // The end as if the user had typed it and left it, "" for none.
   void Poser(const std::string& dateFin);
   // The same, but not left.

@@ -9,25 +9,25 @@ namespace {
 
 namespace C = data::Contrat;
 
-// All that the end of a contract is on file.
-constexpr int GroupeFin[] = {C::DateFin,
-                             C::MotifFin,
-                             C::DateNotification,
-                             C::DernierJourTravaille,
+// What of the end of a contract is on file beside the fields of the table.
+constexpr int HorsTable[] = {C::MotifFin,
                              C::PrimePrecarite,
                              C::PreavisPayeDu,
                              C::PreavisPayeAu,
                              C::PreavisEffectueDu,
                              C::PreavisEffectueAu,
-                             C::MotifNonVersement,
                              C::DernierBulletin,
-                             C::ObservationsFin,
-                             C::DateFinReelle,
-                             C::ComplementMotifFin,
                              C::DateSignatureRupture,
                              C::PreavisNonEffectueDu,
                              C::PreavisNonEffectueAu,
                              C::CalculLicenciement};
+
+// All that it is.
+std::vector<int> attributsFin(const session::Zones& zones) {
+  std::vector<int> attributs = zones.Attributs();
+  attributs.insert(attributs.end(), std::begin(HorsTable), std::end(HorsTable));
+  return attributs;
+}
 
 }  // namespace
 
@@ -46,23 +46,19 @@ std::optional<long> OngletFin::DateFin() const {
 
 void OngletFin::Ecrire_Ong5() {
   data::CItem& contrat = Contrat();
-  for (const int a : GroupeFin) contrat.Set(a, initiale_.Contrat().Vue(a));
+  const std::vector<int> attributs = attributsFin(zones_);
+  for (const int a : attributs) contrat.Set(a, initiale_.Contrat().Vue(a));
   contrat.Set(C::OrganismeRetraite, initiale_.Contrat().Vue(C::OrganismeRetraite));
   if (initiale_.Intact(Txt_DatNotifContrat.Text())) return;
   if (Txt_DatNotifContrat.Text().empty()) {
-    for (const int a : GroupeFin) contrat.Set(a, "");
+    for (const int a : attributs) contrat.Set(a, "");
     return;
   }
-  dates_.Ecrire(contrat);
+  zones_.Ecrire(Session().Lib, contrat);
   motif_.Ecrire(contrat);
-  const auto notification = dates_.Jour(Txt_DatNotifContrat);
-  contrat.Set(C::DateNotification, notification ? std::to_string(*notification) : "");
   contrat.Set(C::PrimePrecarite, Cac_PrecaLibContrat.Value() != 0 ? "1" : "0");
   preavis_.Ecrire(contrat);
-  contrat.Set(C::MotifNonVersement, Txt_NonVersContrat.Text());
   contrat.Set(C::DernierBulletin, bulletin_.Periode());
-  contrat.Set(C::ObservationsFin, 1, Txt_ObsFinContrat_0.Text());
-  contrat.Set(C::ObservationsFin, 2, Txt_ObsFinContrat_1.Text());
   contrat.Set(C::OrganismeRetraite, retraite_.Code());
 }
 

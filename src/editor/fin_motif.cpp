@@ -46,7 +46,6 @@ void MotifFin::Afficher(const data::CItem& contrat) {
   const auto calcul = contrat.Vue(C::CalculLicenciement);
   const bool compense = rules::motifAvecIndemnite(Code()) && (calcul.empty() || calcul == Coche);
   Cac_CalcIndLic.SetValue(compense ? 1 : 0);
-  Txt_CmpltMotif.SetText(contrat.Vue(C::ComplementMotifFin));
 }
 
 void MotifFin::Ecrire(data::CItem& contrat) const {
@@ -58,7 +57,6 @@ void MotifFin::Ecrire(data::CItem& contrat) const {
               conventionnelle && signature ? std::to_string(*signature) : "");
   const char* const calcul = Cac_CalcIndLic.Value() != 0 ? Coche : Decoche;
   contrat.Set(C::CalculLicenciement, rules::motifAvecIndemnite(code) ? calcul : "");
-  contrat.Set(C::ComplementMotifFin, Txt_CmpltMotif.Text());
 }
 
 std::optional<long> MotifFin::Signature() const {
@@ -78,13 +76,14 @@ void MotifFin::Cbo_MotifFinContrat_DropDown() {
   if (!motifs_.Vide()) return;
   data::CItem table;
   editeur_.Session().F_TABLES.Lire(data::Tables::FinContrat, table);
-  const auto tous = data::ListeCodes::DeTable(table, data::Tables::Codes, data::Tables::Libelles);
+  const auto tous = data::ListeCodes::DeTable(table, data::Tables::Codes, data::Tables::Libelles,
+                                              data::Tables::FinObsoletes);
   const std::string actuel = editeur_.Dossier().Initial(C::MotifFin);
   std::vector<data::ListeCodes::Ligne> lignes;
   lignes.reserve(tous.Lignes().size());
-  for (int v = 1; const auto& motif : tous.Lignes()) {
-    const bool obsolete = table.Vue(data::Tables::FinObsoletes, v++) == "O";
-    if (!obsolete || (!actuel.empty() && motif.code == actuel)) lignes.push_back(motif);
+  for (const auto& motif : tous.Lignes()) {
+    if (motif.suite.front() != "O" || (!actuel.empty() && motif.code == actuel))
+      lignes.push_back(motif);
   }
   motifs_ = data::ListeCodes(std::move(lignes));
   const session::Sourdine::Silence silence(sourdine_);
@@ -120,14 +119,15 @@ void MotifFin::Cbo_MotifFinContrat_Click() {
 void MotifFin::SelonModulation() {
   const auto& origine = editeur_.origine;
   const bool retirees = origine.Genre().Mensuel() && origine.Genre().Production() &&
-                        editeur_.caracteristiques.Lissee() && rules::motifRetireHeures(Code());
+                        editeur_.caracteristiques.AccordModulation().Lissee() &&
+                        rules::motifRetireHeures(Code());
   Etq_InfoComplMotifFin.SetVisible(origine.Genre().Mensuel());
   Etq_InfoComplMotifFin.SetLibelle(!origine.Genre().Mensuel() ? ""
                                    : retirees                 ? HeuresRetirees
                                                               : HeuresGardees);
   const data::CItem& initial = editeur_.Dossier().Initial;
   const bool dejaLa = !Code().empty() && initial.Vue(C::MotifFin) == Code();
-  editeur_.caracteristiques.RetirerHeuresNegatives(
+  editeur_.caracteristiques.AccordModulation().RetirerHeuresNegatives(
       dejaLa ? initial.Vue(C::Modulation, initial.DCount(C::Avenant)) == ModulationRetrait
              : !origine.Genre().Mensuel() || retirees);
 }

@@ -5,11 +5,13 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "data/liste_codes.h"
 #include "screen/field.h"
 #include "session/dossier.h"
 #include "session/sourdine.h"
+#include "session/zones.h"
 
 namespace editor {
 
@@ -23,6 +25,11 @@ class MotifFin {
   // A reason was chosen, or typed in part: the notice depends on it.
   std::function<void()> SurMotif;
 
+  // What does not hang on the reason.
+  std::vector<session::Zone> Zones() {
+    return {session::texte(Txt_CmpltMotif, data::Contrat::ComplementMotifFin)};
+  }
+  // The reason, and what hangs on it.
   void Afficher(const data::CItem& contrat);
   void Ecrire(data::CItem& contrat) const;
   void Vider();

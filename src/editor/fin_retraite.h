@@ -4,10 +4,8 @@
 
 #include <string>
 
-#include "data/liste_codes.h"
-#include "screen/field.h"
+#include "session/paire_code.h"
 #include "session/session.h"
-#include "session/sourdine.h"
 
 namespace editor {
 
@@ -32,11 +30,13 @@ class RetraiteFin {
   session::Session& session_;
   screen::Frame& page_;
   session::Sourdine& sourdine_;
-  data::ListeCodes ListeOrgRetraite_;
 
   screen::Label Etq_OrgRetraite{page_, "Etq_OrgRetraite", "Organisme de retraite"};
   screen::TextField Txt_OrgRetraite{page_, "Txt_OrgRetraite", 0};
   screen::ComboBox Cbo_OrgRetraite{page_, "Cbo_OrgRetraite", true};
+
+  session::PaireCode organisme_{
+      Txt_OrgRetraite, Cbo_OrgRetraite, sourdine_, {.tape = session::RegleCode::Nomme}};
 };
 
 }  // namespace editor

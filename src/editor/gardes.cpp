@@ -64,7 +64,7 @@ Avis Gardes::Preparation() {
         .Lire(editeur_.origine.Employeur(), employeur);
     const auto debutPrev = employeur.Vue(data::EltsPartEmp::DateDebutPrev);
     if (!debutPrev.empty() && data::entier(debutPrev) < editeur_.Dates().debut) {
-      editeur_.paie.QuitterPrevoyance();
+      editeur_.paie.Cotisations().QuitterPrevoyance();
     }
   }
   dossier.ItemContrat.Set(C::Annule, "");

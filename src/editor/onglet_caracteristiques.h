@@ -33,16 +33,11 @@ class OngletCaracteristiques : public Onglet {
   void SelonSalaire(bool mensuel, bool production);
   // A new contract starts on that displayed day: so does its first state.
   void DebuterLe(const std::string& date) { avenants_.DebuterLe(date); }
-  // Administrative staff have no modulation.
-  void FermerModulation() { modulation_.Ouvrir(false); }
   bool GrilleChoisie() const { return grille_.Choisie(); }
   // What a notice looks at: the day from which seniority counts, its whole days of suspension
   // added; nothing when none is given.
   std::optional<long> DepartAnciennete() const { return anciennete_.Depart(); }
-  bool Lissee() const { return modulation_.Lissee(); }
-  // What the reason of an end decides of the hours not worked.
-  void RetirerHeuresNegatives(bool retirees) { modulation_.RetirerHeuresNegatives(retirees); }
-
+  Modulation& AccordModulation() { return modulation_; }
   std::vector<std::string> ClesPCS() const { return pcs_.Cles(); }
   // The legal hours, wherever the working time was changed: false when the user, asked, refuses
   // them, or when they cannot be weighed; and the same for the state on the screen.

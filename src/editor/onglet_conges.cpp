@@ -1,5 +1,7 @@
 #include "editor/onglet_conges.h"
 
+#include <algorithm>
+
 #include "data/jour.h"
 #include "data/layouts/voisins.h"
 #include "data/nombre.h"
@@ -13,13 +15,14 @@ namespace editor {
 namespace {
 
 namespace C = data::Contrat;
-using session::FormeNombre, session::nombre;
+using session::FormeNombre;
 
 constexpr FormeNombre Jours{5, 2, false, FormeNombre::Serree};
 constexpr FormeNombre JoursSignes{4, 2, true, FormeNombre::Serree};
 constexpr FormeNombre JoursEntiers{5, 0, false, FormeNombre::Serree};
 constexpr FormeNombre Heures{5, 2, false, FormeNombre::Serree};
 constexpr FormeNombre Montant{7, 2, false, FormeNombre::Serree};
+constexpr int Tel = 0;  // on file as it is typed
 constexpr int Centiemes = 2;
 
 constexpr const char* Acquis =
@@ -45,88 +48,48 @@ std::string jours(std::string_view mode) {
   return mode == ModeOuvres ? "Jours ouvrés" : "Jours ouvrables";
 }
 
-// A contract without one of its counters has none of it.
-constexpr int Compteurs[] = {
-    C::CPAcquis,         C::CPRestants,        C::FractionnementAcquis, C::FractionnementRestants,
-    C::ValeurJourHeures, C::ValeurJourMontant, C::CPEnCoursJours,       C::CPEnCoursHeures,
-    C::CPEnCoursMontant, C::AncienneteAcquis,  C::AncienneteRestants,   C::JoursAnticipation};
-constexpr int Delai[] = {C::DelaiPrevRestants, C::DelaiPrevAcquis};
-constexpr int Provisions[] = {C::ProvisionCP, C::ProvisionEnCours};
-
 }  // namespace
 
 OngletConges::OngletConges(Frm_ElementsContrat& editeur)
     : Onglet(editeur, DroitsConges, "Cdr_Ong4"),
-      compteurs_({nombre(Txt_CPConsoAcqContrat, C::CPAcquis, Jours, Centiemes),
-                  nombre(Txt_CPRestConsoContrat, C::CPRestants, JoursSignes, Centiemes),
-                  session::texte(Txt_CFConsoAcqContrat, C::FractionnementAcquis),
-                  nombre(Txt_CFRestConsoContrat, C::FractionnementRestants, Jours, Centiemes),
-                  nombre(Txt_JrOuvrHContrat, C::ValeurJourHeures, Heures, Centiemes),
-                  nombre(Txt_JrOuvrMContrat, C::ValeurJourMontant, Heures, Centiemes),
-                  nombre(Txt_CPCoursJContrat, C::CPEnCoursJours, JoursEntiers, Centiemes),
-                  nombre(Txt_CPCoursHContrat, C::CPEnCoursHeures, Heures, Centiemes),
-                  nombre(Txt_CPCoursMContrat, C::CPEnCoursMontant, Montant, Centiemes),
-                  session::texte(Txt_CAncAcqContrat, C::AncienneteAcquis),
-                  nombre(Txt_CAncRestContrat, C::AncienneteRestants, Jours, Centiemes),
-                  nombre(Txt_JourAnticipation, C::JoursAnticipation, Jours, Centiemes)}),
-      delai_({nombre(Txt_CDPRestants, C::DelaiPrevRestants, Jours, Centiemes),
-              session::texte(Txt_CDPAcquis, C::DelaiPrevAcquis)}),
-      provisions_({nombre(Txt_ProvisionCP, C::ProvisionCP, Montant, Centiemes),
-                   nombre(Txt_ProvisionCours, C::ProvisionEnCours, Montant, Centiemes)}) {
+      compteurs_(Session(), Compteurs()),
+      delai_(Session(), CompteursDelai()),
+      provisions_(Session(), Provisions()) {
   screen::Activer({&Txt_JrOuvreHContrat, &Txt_JrOuvreMContrat}, false);
-  Lier();
-}
-
-void OngletConges::Lier() {
-  LierCompteur(Txt_CPConsoAcqContrat, Jours, [this] {
-    QuitterDemiJournee(Txt_CPConsoAcqContrat, Acquis, Txt_CPConsoAcqContrat);
-  });
-  LierCompteur(Txt_CPRestConsoContrat, JoursSignes, [this] {
-    QuitterDemiJournee(Txt_CPRestConsoContrat, Restants, Txt_CPRestConsoContrat);
-  });
-  LierCompteur(Txt_CFRestConsoContrat, Jours, [this] {
-    QuitterDemiJournee(Txt_CFRestConsoContrat, Restants, Txt_CFRestConsoContrat);
-  });
-  LierCompteur(Txt_CAncRestContrat, Jours,
-               [this] { QuitterDemiJournee(Txt_CAncRestContrat, EnCours, Txt_CAncRestContrat); });
-  // A refused rest of notice-period leave sends back to that of seniority leave: users know it so.
-  LierCompteur(Txt_CDPRestants, Jours,
-               [this] { QuitterDemiJournee(Txt_CDPRestants, EnCours, Txt_CAncRestContrat); });
-  LierCompteur(Txt_JourAnticipation, Jours, [this] { QuitterAnticipation(); });
-  for (screen::TextField* const champ :
-       {&Txt_CPCoursHContrat, &Txt_JrOuvrHContrat, &Txt_JrOuvrMContrat}) {
-    LierCompteur(*champ, Heures);
-  }
-  for (screen::TextField* const champ :
-       {&Txt_CPCoursMContrat, &Txt_ProvisionCP, &Txt_ProvisionCours}) {
-    LierCompteur(*champ, Montant);
-  }
-  for (screen::TextField* const champ :
-       {&Txt_CFConsoAcqContrat, &Txt_CAncAcqContrat, &Txt_CDPAcquis, &Txt_CPCoursJContrat}) {
-    LierEntier(*champ);
-  }
   Txt_JrOuvrHContrat.Change = [this] { Ouvrer(Txt_JrOuvrHContrat, Txt_JrOuvreHContrat); };
   Txt_JrOuvrMContrat.Change = [this] { Ouvrer(Txt_JrOuvrMContrat, Txt_JrOuvreMContrat); };
   Cmd_Conges.Click = [this] { Cmd_Conges_Click(); };
   Cmd_Detail.Click = [this] { Cmd_Detail_Click(); };
 }
 
-void OngletConges::LierCompteur(screen::TextField& champ, const FormeNombre& forme,
-                                const std::function<void()>& ensuite) {
-  session::LierNombre(Session(), champ, forme);
-  champ.LostFocus = [this, &champ, forme, ensuite] {
-    if (champ.Text().empty()) champ.SetText("0");
-    if (session::QuitterNombre(Session(), champ, forme) && ensuite) ensuite();
-  };
+std::vector<Compteur> OngletConges::Compteurs() {
+  return {
+      {Txt_CPConsoAcqContrat, C::CPAcquis, Jours, Centiemes, Acquis, &Txt_CPConsoAcqContrat},
+      {Txt_CPRestConsoContrat, C::CPRestants, JoursSignes, Centiemes, Restants,
+       &Txt_CPRestConsoContrat},
+      {Txt_CFConsoAcqContrat, C::FractionnementAcquis, JoursEntiers, Tel},
+      {Txt_CFRestConsoContrat, C::FractionnementRestants, Jours, Centiemes, Restants,
+       &Txt_CFRestConsoContrat},
+      {Txt_JrOuvrHContrat, C::ValeurJourHeures, Heures},
+      {Txt_JrOuvrMContrat, C::ValeurJourMontant, Heures},
+      {Txt_CPCoursJContrat, C::CPEnCoursJours, JoursEntiers},
+      {Txt_CPCoursHContrat, C::CPEnCoursHeures, Heures},
+      {Txt_CPCoursMContrat, C::CPEnCoursMontant, Montant},
+      {Txt_CAncAcqContrat, C::AncienneteAcquis, JoursEntiers, Tel},
+      {Txt_CAncRestContrat, C::AncienneteRestants, Jours, Centiemes, EnCours, &Txt_CAncRestContrat},
+      {Txt_JourAnticipation, C::JoursAnticipation, Jours, Centiemes, Anticipation,
+       &Txt_JourAnticipation, [this] { QuitterAnticipation(); }}};
 }
 
-// What is not whole stays as it was typed: the tab's checks refuse it.
-void OngletConges::LierEntier(screen::TextField& champ) {
-  session::LierNombre(Session(), champ, JoursEntiers);
-  champ.LostFocus = [this, &champ] {
-    if (champ.Text().empty()) champ.SetText("0");
-    if (!AvecSeparateur(champ)) session::QuitterNombre(Session(), champ, JoursEntiers);
-  };
+// A refused rest of notice-period leave sends back to that of seniority leave: users know it so.
+std::vector<Compteur> OngletConges::CompteursDelai() {
+  return {{Txt_CDPRestants, C::DelaiPrevRestants, Jours, Centiemes, EnCours, &Txt_CAncRestContrat},
+          {Txt_CDPAcquis, C::DelaiPrevAcquis, JoursEntiers, Tel}};
+}
+
+std::vector<Compteur> OngletConges::Provisions() {
+  return {{Txt_ProvisionCP, C::ProvisionCP, Montant},
+          {Txt_ProvisionCours, C::ProvisionEnCours, Montant}};
 }
 
 // Display.
@@ -143,12 +106,8 @@ void OngletConges::Afficher_Ong4() {
     provisions_.Oublier();
     return;
   }
-  for (session::Zones* const zones : {&compteurs_, &delai_, &provisions_}) {
-    zones->Montrer(Session().Lib, montre_);
-  }
-  MettreZero();
-  for (session::Zones* const zones : {&compteurs_, &delai_, &provisions_}) {
-    zones->Retenir(montre_);
+  for (CompteursConges* const groupe : {&compteurs_, &delai_, &provisions_}) {
+    groupe->Montrer(montre_);
   }
 }
 
@@ -222,16 +181,7 @@ void OngletConges::Ouvrer(const screen::TextField& ouvrable, screen::TextField& 
   ouvree.SetText(valeur.Texte(2, Session().Lib.DecimalSeparator()));
 }
 
-void OngletConges::QuitterDemiJournee(screen::TextField& champ, const char* message,
-                                      screen::TextField& repris) {
-  if (Valeur(champ).EntierOuDemi()) return;
-  Message(message, screen::Icone::Exclamation);
-  repris.SetText("");
-  repris.SetFocus();
-}
-
 void OngletConges::QuitterAnticipation() {
-  QuitterDemiJournee(Txt_JourAnticipation, Anticipation, Txt_JourAnticipation);
   if (Valeur(Txt_JourAnticipation).PartieEntiere() <= Valeur(Txt_CPCoursJContrat).PartieEntiere()) {
     return;
   }
@@ -241,65 +191,30 @@ void OngletConges::QuitterAnticipation() {
 }
 
 void OngletConges::MettreZero() {
-  const std::pair<screen::TextField*, const FormeNombre*> champs[] = {
-      {&Txt_CPConsoAcqContrat, &Jours},
-      {&Txt_CPRestConsoContrat, &JoursSignes},
-      {&Txt_CFConsoAcqContrat, &JoursEntiers},
-      {&Txt_CFRestConsoContrat, &Jours},
-      {&Txt_JrOuvrHContrat, &Heures},
-      {&Txt_JrOuvrMContrat, &Heures},
-      {&Txt_CPCoursJContrat, &JoursEntiers},
-      {&Txt_CPCoursHContrat, &Heures},
-      {&Txt_CPCoursMContrat, &Montant},
-      {&Txt_CAncAcqContrat, &JoursEntiers},
-      {&Txt_CAncRestContrat, &Jours},
-      {&Txt_JourAnticipation, &Jours},
-      {&Txt_CDPAcquis, &JoursEntiers},
-      {&Txt_CDPRestants, &Jours},
-      {&Txt_ProvisionCP, &Montant},
-      {&Txt_ProvisionCours, &Montant}};
-  for (const auto& [champ, forme] : champs) {
-    if (champ->Text().empty()) {
-      champ->SetText(session::formater(Session().Lib, "0", *forme).value_or("0"));
-    }
+  for (const CompteursConges* const groupe : {&compteurs_, &delai_, &provisions_}) {
+    groupe->MettreZero();
   }
 }
 
 // Writing.
 
 void OngletConges::Ecrire_Ong4() {
-  data::CItem& contrat = Contrat();
   MettreZero();
-  const bool delai = Cdr_DelaiPrev.Enabled();
-  const bool provisions = Txt_ProvisionCP.Visible();
-  compteurs_.Ecrire(Session().Lib, contrat);
-  if (delai) delai_.Ecrire(Session().Lib, contrat);
-  if (provisions) provisions_.Ecrire(Session().Lib, contrat);
+  std::vector<const CompteursConges*> groupes{&compteurs_};
+  if (Cdr_DelaiPrev.Enabled()) groupes.push_back(&delai_);
+  if (Txt_ProvisionCP.Visible()) groupes.push_back(&provisions_);
+  data::CItem& contrat = Contrat();
+  for (const auto* const groupe : groupes) groupe->Ecrire(contrat);
   if (!Creation()) EcrireLiens();
-
-  const auto change = [&](std::span<const int> attributs) {
-    for (const int a : attributs) {
-      if (contrat.Vue(a) != montre_.Vue(a)) return true;
-    }
-    return false;
-  };
-  const bool touche = Creation() || change(Compteurs) || (delai && change(Delai)) ||
-                      (provisions && change(Provisions));
-  if (!touche) return;
-  const auto zeros = [&](std::span<const int> attributs) {
-    for (const int a : attributs) {
-      if (contrat.Vue(a).empty()) contrat.Set(a, "0");
-    }
-  };
-  zeros(Compteurs);
-  if (delai) zeros(Delai);
-  if (provisions) zeros(Provisions);
+  const auto touche = [&](const auto* groupe) { return groupe->Touches(contrat, montre_); };
+  if (!Creation() && std::none_of(groupes.begin(), groupes.end(), touche)) return;
+  for (const auto* const groupe : groupes) groupe->Completer(contrat);
 }
 
 // Dialogs.
 
 void OngletConges::Cmd_Conges_Click() {
-  const auto nomme = editeur_.origine.Nomme();
+  const auto nomme = editeur_.origine.Codes().Nomme();
   dialogs::Frm_Ventilation(editeur_.Services(),
                            {Session().CodeAidant, Session().NomPrenomAidant, nomme.code,
                             nomme.libelle, Dossier().CleContratCourant})

@@ -2,6 +2,7 @@
 // Fourth tab, "Droits aux congés": the leave counters of the contract. Payroll feeds them; they may
 // be corrected by hand. A counter left empty is 0.
 
+#include "editor/conges_compteurs.h"
 #include "editor/conges_liens.h"
 #include "editor/onglet.h"
 
@@ -27,19 +28,15 @@ class OngletConges : public Onglet {
 
  private:
   static const rules::Verification<OngletConges> Verifications[];
-  // What a counter of half-days does on leaving.
-  struct DemiJournee;
 
   void Afficher_Ong() override { Afficher_Ong4(); }
   bool Verif_Ong() override { return Verif_Ong4(); }
   void Ecrire_Ong() override { Ecrire_Ong4(); }
   void Vider_Ong() override;
 
-  void Lier();
-  void LierCompteur(screen::TextField& champ, const session::FormeNombre& forme,
-                    const std::function<void()>& ensuite = {});
-  void LierEntier(screen::TextField& champ);
-  void QuitterDemiJournee(screen::TextField& champ, const char* message, screen::TextField& repris);
+  std::vector<Compteur> Compteurs();
+  std::vector<Compteur> CompteursDelai();
+  std::vector<Compteur> Provisions();
   void QuitterAnticipation();
   // The value of a day in the five-day count, from that of the six-day count.
   void Ouvrer(const screen::TextField& ouvrable, screen::TextField& ouvree) const;
@@ -110,9 +107,9 @@ class OngletConges : public Onglet {
   // The contract as it was shown.
   data::CItem montre_;
   // The counters of every contract, those of notice-period leave, and the employer's provisions.
-  session::Zones compteurs_;
-  session::Zones delai_;
-  session::Zones provisions_;
+  CompteursConges compteurs_;
+  CompteursConges delai_;
+  CompteursConges provisions_;
 };
 
 }  // namespace editor

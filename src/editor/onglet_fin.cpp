@@ -23,7 +23,14 @@ constexpr const char* FinSansNotification =
 
 }  // namespace
 
-OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat, "Cdr_Ong5") {
+OngletFin::OngletFin(Frm_ElementsContrat& editeur)
+    : Onglet(editeur, FinContrat, "Cdr_Ong5"),
+      zones_(session::reunir({dates_.Zones(),
+                              motif_.Zones(),
+                              {session::jour(Txt_DatNotifContrat, C::DateNotification),
+                               session::texte(Txt_NonVersContrat, C::MotifNonVersement),
+                               session::texte(Txt_ObsFinContrat_0, C::ObservationsFin, 1),
+                               session::texte(Txt_ObsFinContrat_1, C::ObservationsFin, 2)}})) {
   Txt_DatNotifContrat.Change = sourdine_.SiAudible([this] { OuvrirSuite(); });
   Txt_DatNotifContrat.LostFocus = [this] { Txt_DatNotifContrat_LostFocus(); };
   dates_.SurSaisie = [this] { OuvrirSuite(); };
@@ -37,8 +44,9 @@ OngletFin::OngletFin(Frm_ElementsContrat& editeur) : Onglet(editeur, FinContrat,
 
 void OngletFin::Afficher_Ong5() {
   const auto& origine = editeur_.origine;
+  zones_.Oublier();
   if (Creation()) {
-    QuitterEntite();
+    retraite_.Vider();
   } else {
     retraite_.Afficher(origine.Entite(), origine.Particuliers(), Contrat()(C::OrganismeRetraite));
     if (!Contrat().Vue(C::DateNotification).empty()) AfficherFin();
@@ -49,15 +57,12 @@ void OngletFin::Afficher_Ong5() {
 
 void OngletFin::AfficherFin() {
   const data::CItem& contrat = Contrat();
-  Txt_DatNotifContrat.SetText(Session().Lib.DateFromInternal(contrat.Vue(C::DateNotification)));
+  zones_.Montrer(Session().Lib, contrat);
   motif_.Afficher(contrat);
-  dates_.Montrer(contrat);
+  // The number 1 alone stands for the bonus.
   Cac_PrecaLibContrat.SetValue(data::entier(contrat.Vue(C::PrimePrecarite)) == 1 ? 1 : 0);
   preavis_.Montrer(contrat);
-  Txt_NonVersContrat.SetText(contrat.Vue(C::MotifNonVersement));
   bulletin_.Montrer(contrat(C::DernierBulletin));
-  Txt_ObsFinContrat_0.SetText(contrat.Vue(C::ObservationsFin, 1));
-  Txt_ObsFinContrat_1.SetText(contrat.Vue(C::ObservationsFin, 2));
   motif_.Activer(true);
   ActiverFin(true);
   if (const auto fin = FinAffichee()) bulletin_.Borner(editeur_.origine.Debut(), *fin);

@@ -29,10 +29,8 @@ class OngletFin : public Onglet {
   void Entrer() override;
   // What only a fixed term has: the insecurity bonus.
   void SelonType(bool determine);
-  void ChoisirEntite(const std::string& entite, bool particuliers) {
-    retraite_.Choisir(entite, particuliers);
-  }
-  void QuitterEntite() { retraite_.Vider(); }
+  // The retirement body follows the entity.
+  RetraiteFin& Retraite() { return retraite_; }
 
   // The end of the contract as an internal day: the one place that says which end the rules see.
   std::optional<long> DateFin() const;
@@ -90,6 +88,8 @@ class OngletFin : public Onglet {
   screen::TextField Txt_ObsFinContrat_1{Page, "Txt_ObsFinContrat(1)", 0};
   RetraiteFin retraite_{Session(), Page, sourdine_};
   screen::Button Cmd_SupprimerContrat{Page, "Cmd_SupprimerContrat", "Supprimer ce contrat"};
+
+  session::Zones zones_;
 };
 
 }  // namespace editor

@@ -37,10 +37,9 @@ class OngletOrigine : public Onglet {
   const std::string& Nature() const { return nature_.Libelle(); }
   const std::string& Entite() const { return codes_.Entite(); }
   const std::string& Employeur() const { return codes_.Employeur(); }
-  const std::string& LibelleEmployeur() const { return codes_.LibelleEmployeur(); }
   bool Particuliers() const { return codes_.Particuliers(); }
-  // Whom the leave statement and the reports name.
-  data::ListeCodes::Ligne Nomme() const { return codes_.Nomme(); }
+  // The three with their labels.
+  const CodesOrigine& Codes() const { return codes_; }
   // Term, pay basis and status.
   const GenreOrigine& Genre() const { return genre_; }
   // The start as displayed, and its internal day; nothing for what is no date.

@@ -40,17 +40,10 @@ class OngletPaie : public Onglet {
     return activites_.ChoisirEntite(entite, particuliers);
   }
   void ViderActivites() { activites_.Oublier(); }
-  // The provident contract of that private employer, none for "".
-  void PrevoyanceEmployeur(const std::string& employeur) {
-    cotisations_.PrevoyanceEmployeur(employeur);
-  }
-  void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
   const PaieActivites& Activites() const { return activites_; }
-  const PaiePaiement& Paiement() const { return paiement_; }
-  // A transfer needs bank details: refused here, when the carer has none. `modePaiement`: the word
-  // "paiement" as that place spells it.
-  bool RibManquant(const char* modePaiement) { return paiement_.RibManquant(modePaiement); }
+  PaiePaiement& Paiement() { return paiement_; }
+  PaieCotisations& Cotisations() { return cotisations_; }
 
  private:
   // Ceilings, in euros a month.

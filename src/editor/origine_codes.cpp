@@ -114,7 +114,7 @@ void CodesOrigine::ChoisirConvention() {
 // An establishment belongs to its entity; a private employer stays while the entity is typed.
 void CodesOrigine::ViderEntite() {
   editeur_.paie.ViderActivites();
-  editeur_.fin.QuitterEntite();
+  editeur_.fin.Retraite().Vider();
   if (Particuliers()) return;
   employeur_.Vider();
   employeur_.Oublier();
@@ -126,7 +126,7 @@ void CodesOrigine::ChoisirEntite() {
     return;
   }
   if (!Particuliers()) employeur_.Remplir_Etablissements();
-  editeur_.fin.ChoisirEntite(Entite(), Particuliers());
+  editeur_.fin.Retraite().Choisir(Entite(), Particuliers());
 }
 
 }  // namespace editor

@@ -47,7 +47,7 @@ session::RegleCode EmployeurOrigine::Regle() {
     regle.source = [this](const std::string& code) { return NomParticulier(code); };
     regle.choisi = [this] {
       Cmd_DetailEmpl.SetEnabled(true);
-      editeur_.paie.PrevoyanceEmployeur(Code());
+      editeur_.paie.Cotisations().PrevoyanceEmployeur(Code());
     };
   } else {
     regle.longueur = LongueurEtablissement;
@@ -91,7 +91,7 @@ void EmployeurOrigine::Reprendre() {
 void EmployeurOrigine::Quitter() {
   employeur_.Montrer("");
   Cmd_DetailEmpl.SetEnabled(false);
-  if (codes_.Particuliers()) editeur_.paie.PrevoyanceEmployeur("");
+  if (codes_.Particuliers()) editeur_.paie.Cotisations().PrevoyanceEmployeur("");
   editeur_.origine.RafraichirEmployeur();
 }
 

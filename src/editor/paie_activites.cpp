@@ -28,7 +28,7 @@ PaieActivites::PaieActivites(Frm_ElementsContrat& editeur, screen::Frame& page,
       offre_(editeur, champs_.Cbo_Activite),
       lignes_(editeur.Session().Lib, champs_.Lst_ActiviteContrat, champs_.Lst_RepartActContrat,
               champs_.VS_Bdv),
-      saisie_(champs_, lignes_, editeur.Session(), sourdine, std::move(griser)) {
+      saisie_(champs_, lignes_, offre_, editeur.Session(), sourdine, std::move(griser)) {
   champs_.Cbo_Activite.Click = sourdine_.SiAudible([this] { Cbo_Activite_Click(); });
   lignes_.Suivre(
       [this](int ligne) {

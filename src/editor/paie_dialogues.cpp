@@ -62,7 +62,7 @@ void PaieDialogues::Cmd_Telegestion_Click() {
   dialogs::ContexteTelegestion contexte;
   contexte.association = origine.Entite();
   contexte.employeur = origine.Employeur();
-  contexte.nomEmployeur = origine.LibelleEmployeur();
+  contexte.nomEmployeur = origine.Codes().LibelleEmployeur();
   contexte.codeAidant = session.CodeAidant;
   contexte.nomAidant = session.NomPrenomAidant;
   contexte.particuliers = origine.Particuliers();

@@ -1,7 +1,5 @@
 #include "editor/paie_paiement.h"
 
-#include <algorithm>
-
 #include "data/layouts/contrat.h"
 #include "data/layouts/voisins.h"
 #include "editor/editeur.h"
@@ -15,16 +13,6 @@ namespace C = data::Contrat;
 constexpr const char* ModesPaiement[] = {"Virement bancaire", "Chèque", "Espèces"};
 constexpr int Virement = 0;  // row of Cbo_ModPaieContrat
 constexpr int Cheque = 1;
-
-// A text typed into a list is one of its rows, which is chosen, or nothing. False when it is not.
-bool reconnaitre(screen::ComboBox& champ) {
-  if (champ.Text().empty() || champ.ListIndex() >= 0) return true;
-  const auto& lignes = champ.Rows();
-  const auto trouvee = std::find(lignes.begin(), lignes.end(), champ.Text());
-  if (trouvee == lignes.end()) return false;
-  champ.SetListIndex(static_cast<int>(trouvee - lignes.begin()));
-  return true;
-}
 
 }  // namespace
 
@@ -93,7 +81,7 @@ void PaiePaiement::MontrerProvision() {
 }
 
 void PaiePaiement::Cbo_ModPaieContrat_LostFocus() {
-  if (reconnaitre(Cbo_ModPaieContrat)) return;
+  if (session::ChoisirTexte(Cbo_ModPaieContrat)) return;
   Refuser("Le mode de paiement saisi n'existe pas, veuillez le ressaisir.");
   Cbo_ModPaieContrat.SetText("");
 }

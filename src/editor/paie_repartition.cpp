@@ -26,10 +26,11 @@ std::string periodeDeDate(const data::Lib& lib, const std::string& date) {
 }  // namespace
 
 SaisieRepartition::SaisieRepartition(ChampsActivites& champs, LignesActivites& lignes,
-                                     session::Session& session, session::Sourdine& sourdine,
-                                     std::function<void(bool)> griser)
+                                     const OffreActivites& offre, session::Session& session,
+                                     session::Sourdine& sourdine, std::function<void(bool)> griser)
     : champs_(champs),
       lignes_(lignes),
+      offre_(offre),
       session_(session),
       sourdine_(sourdine),
       griser_(std::move(griser)) {
@@ -121,15 +122,9 @@ void SaisieRepartition::MontrerRepartition() {
   lignes_.Vider();
   const auto parts = Periode().empty() ? tab_.EnVigueur() : tab_.A(Periode());
   for (const auto& part : parts) {
-    lignes_.Ajouter(part.activite, Libelle(part.activite), lignes_.PartAffichee(part.part));
+    lignes_.Ajouter(part.activite, offre_.Libelle(part.activite), lignes_.PartAffichee(part.part));
   }
   Maj_Total();
-}
-
-std::string SaisieRepartition::Libelle(const std::string& code) const {
-  data::CItem activite;
-  if (!session_.F_ACTIVITES.Lire(code, activite)) return code;
-  return activite(data::Activites::Libelle);
 }
 
 // A line in hand.

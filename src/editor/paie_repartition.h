@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "editor/paie_lignes.h"
+#include "editor/paie_offre.h"
 #include "session/session.h"
 #include "session/sourdine.h"
 
@@ -40,8 +41,9 @@ struct ChampsActivites {
 class SaisieRepartition {
  public:
   // `griser` closes or opens what is not part of the entry. `sourdine` is the tab's.
-  SaisieRepartition(ChampsActivites& champs, LignesActivites& lignes, session::Session& session,
-                    session::Sourdine& sourdine, std::function<void(bool)> griser);
+  SaisieRepartition(ChampsActivites& champs, LignesActivites& lignes, const OffreActivites& offre,
+                    session::Session& session, session::Sourdine& sourdine,
+                    std::function<void(bool)> griser);
 
   // Nothing is split: the beginning of a contract.
   void Oublier();
@@ -78,11 +80,11 @@ class SaisieRepartition {
   void CommencerPeriode(const std::vector<std::string>& offertes);
   void FermerLigne();
   void Fermer();
-  std::string Libelle(const std::string& code) const;
   void Indiquer(const screen::Field& champ, const std::string& texte) const;
 
   ChampsActivites& champs_;
   LignesActivites& lignes_;
+  const OffreActivites& offre_;
   session::Session& session_;
   session::Sourdine& sourdine_;
   std::function<void(bool)> griser_;

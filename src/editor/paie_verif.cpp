@@ -42,7 +42,7 @@ bool OngletPaie::Verif_Ong3() {
 
 // The bank details of a transfer, and the headings that hang on the activities.
 bool OngletPaie::Ecrivable_Ong() {
-  if (RibManquant("paiement")) return false;
+  if (paiement_.RibManquant("paiement")) return false;
   if (activites_.RubriqueSansActivite()) {
     Refuser({RubriquesSansActivite});
     return false;

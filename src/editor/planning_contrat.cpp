@@ -94,7 +94,7 @@ void PlanningContrat::Appliquer(const rules::ContratPlanifie& contrat,
 }
 
 PlanningContrat::Reponse PlanningContrat::Demander(const std::string& texte) {
-  const auto nomme = editeur_.origine.Nomme();
+  const auto nomme = editeur_.origine.Codes().Nomme();
   dialogs::Frm_AnomaliesAjoutgraph rapport(
       editeur_.Services(), editeur_.Dossier(),
       {texte, editeur_.origine.Genre().Determine(), nomme.code + " " + nomme.libelle});

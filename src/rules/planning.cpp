@@ -6,7 +6,7 @@
 #include "data/jour.h"
 #include "data/layouts/fichiers.h"
 #include "data/layouts/voisins.h"
-#include "data/question.h"
+#include "data/requete.h"
 #include "data/texte.h"
 
 namespace rules {
@@ -42,16 +42,20 @@ std::string annonce(Sort sort, long dernierJour) {
 std::vector<Incidence> incidences(data::Db& db, const ContratPlanifie& contrat) {
   std::vector<Incidence> trouvees;
   if (!contrat.dernierJour) return trouvees;
-  const bool particulier = contrat.convention == data::ConventionParticuliers;
+  using namespace data::TpsDetailsInterv;
+  data::Requete requete(data::fichier::TPSDETAILSINTERV, "SELECT");
+  requete.Avec(data::Cle, "=", citerDebut(contrat.codeAidant))
+      .Avec(DateFin, ">", citer(std::to_string(*contrat.dernierJour)))
+      .Ou("=", citer(""))
+      .Avec("CodeActInterv", "=", citerDebut(contrat.association));
+  if (contrat.convention == data::ConventionParticuliers) {
+    requete.Avec("CodeAide", "=", citer(contrat.employeur))
+        .Avec("TypeActDetailInterv", "=", citer(Mandat));
+  } else {
+    requete.Avec("TypeActDetailInterv", "#", citer(Mandat));
+  }
   const data::CItem lignes =
-      db.Selectionner("SELECT TPSDETAILSINTERV = " + citerDebut(contrat.codeAidant) + " AVEC 1 > " +
-                          citer(std::to_string(*contrat.dernierJour)) +
-                          " OR = \"\" AND AVEC CodeActInterv = " + citerDebut(contrat.association) +
-                          (particulier ? " AND AVEC CodeAide = " + citer(contrat.employeur) +
-                                             " AND AVEC TypeActDetailInterv = \"M\""
-                                       : " AND AVEC TypeActDetailInterv # \"M\"") +
-                          " PAR JourInterv PAR HeureInterv",
-                      "TPSDETAILSINTERV", "0 1 2 3 4 5 6");
+      requete.Par("JourInterv").Par("HeureInterv").Lire(db, {data::Cle, DateFin, HeureFin});
   const ParametresPlanning parametres = parametresPlanning(db);
   for (int i = 1; i <= lignes.DCount(); ++i) {
     const Intervention intervention{lignes(i, 1), lignes(i, 2), lignes(i, 3)};
@@ -127,9 +131,10 @@ void MiseAJourPlanning::Remplacer(const std::string& cle) {
 
 void MiseAJourPlanning::Supprimer_ExceptionsApres(const std::string& cle) {
   const data::CItem lignes =
-      db_.Selectionner("SELECT TPSEXCEPTIONS AVEC 1 = " + citer(cle) + " AND AVEC DateDebExcep > " +
-                           citer(std::to_string(*contrat_.dernierJour)),
-                       "TPSEXCEPTIONS", "0");
+      data::Requete(data::fichier::TPSEXCEPTIONS, "SELECT")
+          .Avec(data::TpsExceptions::Intervention, "=", citer(cle))
+          .Avec("DateDebExcep", ">", citer(std::to_string(*contrat_.dernierJour)))
+          .Lire(db_, {data::Cle});
   const data::DbFile exceptions = db_.OpenFile(data::fichier::TPSEXCEPTIONS);
   for (int i = 1; i <= lignes.DCount(); ++i) exceptions.DeleteItem(lignes(i, 1));
 }

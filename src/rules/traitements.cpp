@@ -4,16 +4,21 @@
 
 #include "data/cles.h"
 #include "data/layouts/fichiers.h"
-#include "data/question.h"
+#include "data/layouts/voisins.h"
+#include "data/requete.h"
 
 namespace rules {
 
 namespace {
 
+namespace fichier = data::fichier;
 using data::citer, data::citerDebut, data::citerFin;
+using data::Cle, data::Requete;
 
-bool trouve(data::Db& db, std::string_view fichier, const std::string& question) {
-  return !db.Selectionner(question, fichier, "0").Vide();
+constexpr const char* Mandat = "M";
+
+bool trouve(data::Db& db, const data::Requete& requete) {
+  return !requete.Lire(db, {Cle}).Vide();
 }
 
 bool particulier(const ContratTraite& contrat) {
@@ -22,11 +27,11 @@ bool particulier(const ContratTraite& contrat) {
 
 // The files of its results whose keys go on with the month; those of the interventions have "000"
 // between.
-std::vector<std::string> fichiersMensuels(const ContratTraite& contrat) {
-  std::vector<std::string> fichiers{"DETAILCALCUL"};
-  if (particulier(contrat)) fichiers.emplace_back("DETAILMANDAT");
-  if (contrat.administratif) fichiers.emplace_back("DETAILADMIN");
-  if (contrat.typeActivite == "P") fichiers.emplace_back("DETAILPREST");
+std::vector<std::string_view> fichiersMensuels(const ContratTraite& contrat) {
+  std::vector<std::string_view> fichiers{fichier::DETAILCALCUL};
+  if (particulier(contrat)) fichiers.push_back(fichier::DETAILMANDAT);
+  if (contrat.administratif) fichiers.push_back(fichier::DETAILADMIN);
+  if (contrat.typeActivite == "P") fichiers.push_back(fichier::DETAILPREST);
   return fichiers;
 }
 
@@ -37,10 +42,10 @@ bool parInterventions(const ContratTraite& contrat) {
 }  // namespace
 
 std::optional<Refus> Verif_SuppressionPossible(data::Db& db, const ContratTraite& contrat) {
-  std::vector<std::string> fichiers = fichiersMensuels(contrat);
-  if (parInterventions(contrat)) fichiers.emplace_back("DETAILINTER");
-  for (const auto& fichier : fichiers) {
-    if (trouve(db, fichier, "SSELECT " + fichier + " AVEC 0 = " + citerDebut(contrat.cle))) {
+  std::vector<std::string_view> fichiers = fichiersMensuels(contrat);
+  if (parInterventions(contrat)) fichiers.push_back(fichier::DETAILINTER);
+  for (const auto nom : fichiers) {
+    if (trouve(db, Requete(nom).Avec(Cle, "=", citerDebut(contrat.cle)))) {
       return Refus{
           "Suppression impossible du contrat car des traitements ont été effectués sur celui-ci."};
     }
@@ -53,24 +58,23 @@ std::optional<Refus> Verif_ModificationPossible(data::Db& db, const ContratTrait
   const Refus refus{
       "Date de fin du contrat non compatible car des traitements ont été effectués après "
       "celle-ci."};
-  for (const auto& fichier : fichiersMensuels(contrat)) {
-    if (trouve(db, fichier,
-               "SSELECT " + fichier + " AVEC 0 > " + citer(contrat.cle + mois) +
-                   " AND = " + citerDebut(contrat.cle))) {
+  for (const auto nom : fichiersMensuels(contrat)) {
+    if (trouve(db, Requete(nom)
+                       .Avec(Cle, ">", citer(contrat.cle + mois))
+                       .Et("=", citerDebut(contrat.cle)))) {
       return refus;
     }
   }
-  if (parInterventions(contrat) &&
-      trouve(
-          db, "DETAILINTER",
-          "SSELECT DETAILINTER AVEC 0 = " + citerDebut(contrat.cle) + " AND > " + citerFin(mois))) {
+  if (parInterventions(contrat) && trouve(db, Requete(fichier::DETAILINTER)
+                                                  .Avec(Cle, "=", citerDebut(contrat.cle))
+                                                  .Et(">", citerFin(mois)))) {
     return refus;
   }
   return std::nullopt;
 }
 
 std::optional<Refus> Verif_Opposition(data::Db& db, const ContratTraite& contrat) {
-  if (!trouve(db, "OPPOSITION", "SSELECT OPPOSITION AVEC 0 = " + citerDebut(contrat.cle))) {
+  if (!trouve(db, Requete(fichier::OPPOSITION).Avec(Cle, "=", citerDebut(contrat.cle)))) {
     return std::nullopt;
   }
   return Refus{"Il existe une opposition sur ce contrat, impossible de supprimer ce contrat."};
@@ -80,24 +84,29 @@ std::optional<Refus> Verif_PlanningSuppression(data::Db& db, const ContratTraite
                                                const JoursPlanifies& jours) {
   const std::string aidant = contrat.cle.substr(0, data::LongueurCodeAidant);
   // The activities of the entity are those whose codes begin with its own.
-  std::string question =
-      "SELECT TPSDETAILSINTERV AVEC @ID = " +
-      (particulier(contrat)
-           ? citerDebut(aidant + contrat.employeur) + " AND AVEC TypeActDetailInterv = \"M\""
-           : citerDebut(aidant) + " AND AVEC TypeActDetailInterv = " + citer(contrat.typeActivite) +
-                 " AND AVEC CodeActInterv = " + citerDebut(contrat.association));
-  if (jours.dernierJour) {
-    question += " AND AVEC DateDebInterv <= " + citer(std::to_string(*jours.dernierJour)) +
-                " AND AVEC 1 >= " + citer(std::to_string(jours.fin.value_or(*jours.dernierJour)));
+  Requete interventions(fichier::TPSDETAILSINTERV, "SELECT");
+  if (particulier(contrat)) {
+    interventions.Avec(Cle, "=", citerDebut(aidant + contrat.employeur))
+        .Avec("TypeActDetailInterv", "=", citer(Mandat));
   } else {
-    question += " AND AVEC 1 >= " + citer(std::to_string(jours.debut)) + " OR = \"\"";
+    interventions.Avec(Cle, "=", citerDebut(aidant))
+        .Avec("TypeActDetailInterv", "=", citer(contrat.typeActivite))
+        .Avec("CodeActInterv", "=", citerDebut(contrat.association));
   }
-  if (trouve(db, "TPSDETAILSINTERV", question)) {
+  using data::TpsDetailsInterv::DateFin;
+  if (jours.dernierJour) {
+    interventions.Avec("DateDebInterv", "<=", citer(std::to_string(*jours.dernierJour)))
+        .Avec(DateFin, ">=", citer(std::to_string(jours.fin.value_or(*jours.dernierJour))));
+  } else {
+    interventions.Avec(DateFin, ">=", citer(std::to_string(jours.debut))).Ou("=", citer(""));
+  }
+  if (trouve(db, interventions)) {
     return Refus{
         "Impossible de supprimer ce contrat car des interventions ont été saisies dans le menu "
         "Planning.\r\n"};
   }
-  if (trouve(db, "TPSMOI", "SELECT TPSMOI AVEC 4 = " + citer(contrat.cle))) {
+  if (trouve(db, Requete(fichier::TPSMOI, "SELECT")
+                     .Avec(data::TpsMoi::Contrat, "=", citer(contrat.cle)))) {
     return Refus{
         "Impossible de supprimer ce contrat car de la Main d'Oeuvre Indirecte a été saisie dans le "
         "menu Planning.\r\n"};

@@ -1,5 +1,7 @@
 #include "session/saisie.h"
 
+#include <algorithm>
+
 #include "data/texte.h"
 #include "screen/form.h"
 
@@ -72,6 +74,15 @@ void LierNombre(Session& session, screen::TextField& champ, const FormeNombre& f
   champ.LostFocus = [&session, &champ, forme, ensuite] {
     if (QuitterNombre(session, champ, forme) && ensuite) ensuite();
   };
+}
+
+bool ChoisirTexte(screen::ComboBox& champ) {
+  if (champ.Text().empty() || champ.ListIndex() >= 0) return true;
+  const auto& lignes = champ.Rows();
+  const auto ligne = std::find(lignes.begin(), lignes.end(), champ.Text());
+  if (ligne == lignes.end()) return false;
+  champ.SetListIndex(static_cast<int>(ligne - lignes.begin()));
+  return true;
 }
 
 bool ZoneNumCarac(Session& session, screen::TextField& champ, int& avant, int apres) {

@@ -42,6 +42,10 @@ void LierDate(Session& session, screen::TextField& champ,
 void LierNombre(Session& session, screen::TextField& champ, const FormeNombre& forme,
                 const std::function<void()>& ensuite = {});
 
+// Chooses the row of a drop-down whose text stands in the box. False when no row has it; an empty
+// box passes.
+bool ChoisirTexte(screen::ComboBox& champ);
+
 // The check of a typed decimal: shows its message and gives the field the focus. True when the text
 // passes.
 bool ZoneNumCarac(Session& session, screen::TextField& champ, int& avant, int apres);

@@ -186,6 +186,13 @@ void Zones::Ecrire(const data::Lib& lib, data::CItem& item, int avenant) const {
   }
 }
 
+std::vector<int> Zones::Attributs() const {
+  std::vector<int> attributs;
+  attributs.reserve(zones_.size());
+  for (const Zone& zone : zones_) attributs.push_back(zone.attribut);
+  return attributs;
+}
+
 void Zones::Vider() const {
   for (const Zone& zone : zones_) {
     if (zone.forme == Forme::Option) continue;

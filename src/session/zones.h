@@ -104,6 +104,8 @@ class Zones {
   // Nothing is on file: every field will be written as it stands.
   void Oublier();
   void Ecrire(const data::Lib& lib, data::CItem& item, int avenant = 1) const;
+  // The attributes of the table, in its order.
+  std::vector<int> Attributs() const;
   // Empties every field, its options aside.
   void Vider() const;
   // The attribute that `champ` would write, whether or not it was touched.

@@ -26,7 +26,7 @@ class TransfertPostgres : public testing::Test {
   std::string retour_ = dossier_.Chemin("b.contrats");
 };
 
-TEST_F(TransfertPostgres, ABaseComesBackAsItWent) {
+TEST_F(TransfertPostgres, UneBaseRevientTelleQuelle) {
   Dire({"demo", fichier_, "--aidants", "60", "--graine", "1"});
   for (const char* item : {"[\"a\"]", "[\"b\"]"}) {
     Dire({"ecrire", fichier_, "PAYS", "999", "--item", item});
@@ -53,7 +53,7 @@ TEST_F(TransfertPostgres, ABaseComesBackAsItWent) {
 }
 
 // What was made there before, by another, is told apart from what is copied.
-TEST_F(TransfertPostgres, ACopyThatDiffersIsNoCopy) {
+TEST_F(TransfertPostgres, UneCopieQuiDiffereNEnEstPasUne) {
   Dire({"demo", fichier_, "--aidants", "5", "--graine", "1"});
   const std::string adresse = serveur_.NouvelleBase();
   Dire({"creer", adresse});

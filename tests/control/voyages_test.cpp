@@ -100,7 +100,7 @@ class VoyagesPostgres : public testing::Test {
   long ouverture_ = 0;  // trips from the beginning of the act to the window shown
 };
 
-TEST_F(VoyagesPostgres, ListingACarer) {
+TEST_F(VoyagesPostgres, ListerUnAidant) {
   const struct {
     const char* aidant;
     int contrats;
@@ -113,7 +113,7 @@ TEST_F(VoyagesPostgres, ListingACarer) {
   }
 }
 
-TEST_F(VoyagesPostgres, OpeningAContract) {
+TEST_F(VoyagesPostgres, OuvrirUnContrat) {
   Afficher("90020");
   screen::User(*controle_).Cliquer(controle_->Cmd_Recherche);
   for (int ligne = 0; ligne < 20; ++ligne) {
@@ -125,7 +125,7 @@ TEST_F(VoyagesPostgres, OpeningAContract) {
 }
 
 // A contract on file, whose marks stand: one record, with what must be read before it.
-TEST_F(VoyagesPostgres, ChangingAContract) {
+TEST_F(VoyagesPostgres, ModifierUnContrat) {
   std::string cle;
   serveur_->Scan("CONTRAT", data::KeyRange::Tout(), [&](std::string_view k, std::string_view t) {
     const data::CItem contrat(t);
@@ -152,7 +152,7 @@ TEST_F(VoyagesPostgres, ChangingAContract) {
   EXPECT_LE(voyages, 4);
 }
 
-TEST_F(VoyagesPostgres, SavingAContract) {
+TEST_F(VoyagesPostgres, EnregistrerUnContrat) {
   Afficher("90000");
   long voyages = 0;
   acte_ = [&](screen::Form& form) {

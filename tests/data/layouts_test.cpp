@@ -38,7 +38,7 @@ TEST(Contrat, GroupesDAttributsParalleles) {
   EXPECT_EQ(numeros(C::GroupeSuiviPrecedent, true), "71 72 73 74 75 99 ");
 }
 
-TEST(Fichiers, FormeDesCles) {
+TEST(Fichiers, ShapesOfKeys) {
   for (const auto& [fichier, bonnes, mauvaises] :
        support::table<3>("data/tables.md", "Shapes of keys")) {
     SCOPED_TRACE(fichier);

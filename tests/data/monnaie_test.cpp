@@ -52,7 +52,6 @@ TEST(Monnaie, RoundsAndWrites) {
     EXPECT_EQ(m(valeur).TexteCourt(), court);
     EXPECT_EQ(m(valeur).PartieEntiere(), m(plancher));
     EXPECT_EQ(m(valeur).EntierOuDemi(), demi == "yes");
-    EXPECT_EQ(m(valeur).Arrondi(2), m(deux));
   }
   EXPECT_EQ(m("2,5").Texte(0) + m("2,5").Texte(1, "."), "32.5");
 }
@@ -70,7 +69,6 @@ TEST(Monnaie, OverflowRaises) {
   EXPECT_THROW(moins * moins, NombreInvalide);
   EXPECT_THROW(moins / m("-1"), NombreInvalide);
   EXPECT_THROW(moins.PartieEntiere(), NombreInvalide);
-  EXPECT_THROW(plus.Arrondi(0), NombreInvalide);
   EXPECT_THROW(Monnaie::DeDixMilliemes("9223372036854775808"), NombreInvalide);
   EXPECT_THROW(Monnaie::Entier(LLONG_MIN), NombreInvalide);
 }

@@ -102,7 +102,7 @@ class SuiviAnnuel : public EssaiDialogue {
   }
 };
 
-TEST_F(SuiviAnnuel, WhatEachModeOpens) {
+TEST_F(SuiviAnnuel, CeQuOuvreChaqueMode) {
   const char* const tout = "EnCours Precedent SuivContrat Periode Ajouter Supprimer OK Retour";
   const char* const lu = "EnCours Precedent SuivContrat Periode Retour";
   const char* const ligne = "HresParContrat HresAbs HresReel Difference Regul Supprimer OK Annuler";
@@ -131,7 +131,7 @@ TEST_F(SuiviAnnuel, WhatEachModeOpens) {
 }
 
 // What is no number of the field keeps the user there, with a hint.
-TEST_F(SuiviAnnuel, NonsenseInTheEditLine) {
+TEST_F(SuiviAnnuel, NImporteQuoiDansLaLigne) {
   ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {
     SuiviEnRemunere& p = f.remunere;
     user.DoubleCliquer(p.Lst_Periode, 1);
@@ -166,7 +166,7 @@ TEST_F(SuiviAnnuel, NonsenseInTheEditLine) {
 }
 
 // The answer is No first; leaving with Yes stores.
-TEST_F(SuiviAnnuel, DeletingALineAndTheWhole) {
+TEST_F(SuiviAnnuel, SupprimerUneLigneEtLeTout) {
   dossier.SuiviModifie = true;
   ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {
     user.DoubleCliquer(f.remunere.Lst_Periode, 0);
@@ -189,7 +189,7 @@ TEST_F(SuiviAnnuel, DeletingALineAndTheWhole) {
   EXPECT_FALSE(dossier.SuiviModifie);
 }
 
-TEST_F(SuiviAnnuel, PrivateEmployersCloseTheirOwnYear) {
+TEST_F(SuiviAnnuel, UnParticulierClotSonAnnee) {
   dossier.ItemContrat.Set(1, "02");
   article("ETABLISSEMENT", "00100007", "24=08");
   ouvrir(
@@ -232,7 +232,7 @@ constexpr const char* Janvier =
 constexpr const char* Mars =
     "MARS 2026|7,00|31|9|0|0,5|0|0,0|21,50|150,50|150,00|-  0,50|9,50|0,00|6,50\n";
 
-TEST_F(SuiviTte, AddsAMonthAmongTheOthers) {
+TEST_F(SuiviTte, UnMoisSInsereParmiLesAutres) {
   const std::string avant = dossier.ItemContrat.Text();
   ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {
     SuiviEnTempsEffectif& p = f.tempsEffectif;
@@ -265,7 +265,7 @@ TEST_F(SuiviTte, AddsAMonthAmongTheOthers) {
 }
 
 // The whole goes, but for its key: that is what is to be erased.
-TEST_F(SuiviTte, DeletesTheWholeYear) {
+TEST_F(SuiviTte, SupprimeTouteLAnnee) {
   ouvrir([&](Frm_ContratAnnuel& f, screen::User& user) {
     user.DoubleCliquer(f.tempsEffectif.Lst_TTE, 0);
     EXPECT_EQ(accessibles(f),
@@ -282,7 +282,7 @@ TEST_F(SuiviTte, DeletesTheWholeYear) {
 
 // Any acts, sensible or not, then No: the dossier is what it was, byte for byte, and so are the
 // files. Each failure names its seed.
-TEST_F(SuiviTte, GivingUpLeavesNothing) {
+TEST_F(SuiviTte, RenoncerNeLaisseRien) {
   dossier.ItemContrat.Set(78, "abc");  // ragged and wrong
   const std::string avant = dossier.ItemContrat.Text();
   const std::string article = texteDe("AIDANTTTE", "000010022026");

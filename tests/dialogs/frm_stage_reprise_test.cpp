@@ -23,6 +23,11 @@ TEST_F(StageEtReprise, LeSeuilEstEnCentiemes) {
     montrer(*f, [&, &saisie = tape, refuse = ecrit == stocke](screen::User& user) {
       user.Taper(f->Txt_Seuil, saisie);
       EXPECT_EQ(user.Cliquer(f->Cmd_OK), refuse ? Acte::Avale : Acte::Fait) << saisie;
+      const std::string trop = "Txt_Seuil : « " + data::sansBlancs(f->Txt_Seuil.Text()) +
+                               " » ne tient pas ici : au plus 5 chiffres avant la virgule et 2 "
+                               "chiffres après, sans signe.";
+      EXPECT_EQ(hote.indications.Prendre(),
+                refuse ? std::vector{trop} : std::vector<std::string>());
       if (!f->Visible()) return;
       user.Taper(f->Txt_Seuil, "");
       hote.messages.Repondre(Reponse::Non);

@@ -392,6 +392,7 @@ TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
     choisir(cbo("GrilleContrat"), 0);
     remplir(txt("DepartGrilContrat"), "05/01/2026");
     remplir(txt("DateAnciennete"), "06/01/2026");
+    editeur->Dossier().ItemContrat.Set(C::CongesReprisDe, "00001009");
     repondreReprise([&](dialogs::Frm_Reprise& f) {
       screen::User(f).Cliquer(acceptee ? f.Cmd_Ok : f.Cmd_Annuler);
     });
@@ -399,6 +400,7 @@ TEST_F(Enregistre, LaRepriseRefuseeNeRetireRien) {
     EXPECT_EQ(fiche("00001002")(C::DepartGrille), jour("05/01/2026"));
     EXPECT_EQ(fiche("00001002")(C::DateAnciennete),
               acceptee ? jour("01/02/2024") : jour("06/01/2026"));
+    EXPECT_EQ(fiche("00001002")(C::CongesReprisDe), "00001009");
   }
 }
 
@@ -426,6 +428,7 @@ TEST_F(Panne, UneSecondeTentativeOublieLaPremiere) {
 TEST_F(Panne, UneCreationAMoitieSeQuitte) {
   const auto preparer = [&] {
     vider();
+    article("CONTRATINV", "0000100007", {{1, "001"}});
     creerContrat("01/12/2026", "02", "00007");
   };
   preparer();
@@ -437,6 +440,8 @@ TEST_F(Panne, UneCreationAMoitieSeQuitte) {
     stockage->EchouerEcriture(derniere);
     EXPECT_THROW(cliquer(cmd("OK")), data::StoreError);
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), jour("01/12/2026"));
+    // A write whose answer is lost may have reached the file.
+    if (!encore) memoire.Put("CONTRAT00102", "00001002", "");
     stockage->EchouerEcriture(encore ? 1 : 0);
     quitter(Reponse::Oui);
     EXPECT_FALSE(editeur->Visible());
@@ -444,7 +449,7 @@ TEST_F(Panne, UneCreationAMoitieSeQuitte) {
     EXPECT_EQ(vus.find("Le contrat 002 a été enregistré en partie") != std::string::npos, encore);
     EXPECT_EQ(fiche("00001002")(C::Annule), encore ? "" : "O");
     EXPECT_EQ(attribut("CIVILAIDANT", "00001", 40), encore ? jour("01/12/2026") : "");
-    EXPECT_EQ(texteDe("CONTRATINV", "0000100007"), encore ? "002" : "-");
+    EXPECT_EQ(texteDe("CONTRATINV", "0000100007"), encore ? "001|002" : "001");
     EXPECT_EQ(texteDe("CONTRAT00102", "00001002"), "-");
   }
 }

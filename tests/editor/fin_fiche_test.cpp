@@ -131,6 +131,12 @@ TEST_F(FinFiche, CeQuiEstSaisiEstEcrit) {
                               jour("14/10/2026") + " Dispense 202608 " + "|Deuxième" + " " +
                               jour("31/10/2026") + " Économique    0 001A");
   EXPECT_EQ(db.OpenFile("DSNEVENEMENT").Read("00001001")(2), "1");
+  // Without its notification nothing is left of the end.
+  ouvrir("00001001");
+  onglet(editor::FinContrat);
+  remplir(txt("DatNotifContrat"), "");
+  enregistrer();
+  EXPECT_EQ(stocke(Tout), std::string(Tout.size() - 1, ' ') + "001A");
 }
 
 TEST_F(FinFiche, LesMotifsObsoletesNeSontOffertsQueSurFichier) {

@@ -119,7 +119,7 @@ TEST_F(Lettre, ElleDemandeUnTraitementDeTexte) {
   hote.reglages.Ecrire("Office", "Version", "Aucune");
   cliquer(editeur->Cmd_ImpContrat);
   EXPECT_EQ(messages(), "Pour pouvoir lancer l'impression des contrats, vous devez posséder Word.");
-  editeur->ImprimerAvenant("01");
+  editeur->Papiers().Avenant("01");
   EXPECT_EQ(messages(), "Pour pouvoir lancer l'impression des avenants, vous devez posséder Word.");
   EXPECT_TRUE(editeur->Visible());
 }
@@ -151,7 +151,7 @@ TEST_F(Lettre, UnNouveauContratEstEnregistrePuisImprime) {
 TEST_F(Lettre, UnAvenantDonneSonNumeroEtSonEntite) {
   auto& controle = equiper();
   ouvrirContrat();
-  editeur->ImprimerAvenant("02");
+  editeur->Papiers().Avenant("02");
   EXPECT_EQ(messages(), "");
   EXPECT_FALSE(editeur->Visible());
   EXPECT_TRUE(journal(controle).ends_with(

@@ -274,6 +274,8 @@ TEST_F(Fiche, QuitterEnEnregistrantCompareAuDebutSurFichier) {
        "01/05/2026",
        "Impossible de modifier la date de début : un bulletin a déjà été calculé pour ce contrat."},
       {{{C::DateFin, jour("30/06/2026")}}, "", "La date de début de contrat est obligatoire."}};
+  // Without a start, the end reaches back over an earlier contract.
+  contrat("00001002", {{C::DateDebut, jour("01/01/2025")}, {C::DateFin, jour("31/12/2025")}});
   for (const auto& [attributs, debut, message] : cas) {
     ouvrirContrat(attributs);
     debuter(debut);

@@ -381,6 +381,11 @@ TEST_F(FichePaie, LaTelegestionDemandeDAbordLOrigine) {
   cliquer(cmd("Telegestion"));
   EXPECT_EQ(messages(), "");
   EXPECT_EQ(controle.Lire("W_StrAct"), "001DOM");
+  // A contract on file has the button of its own entity.
+  for (const auto& [entite, utilisee] : {std::pair{"002", false}, {"001", true}}) {
+    ouvrirContrat({{C::Association, entite}});
+    EXPECT_EQ(cmd("Telegestion").Visible(), utilisee) << entite;
+  }
 }
 
 // A visit that a read interrupts is made anew, and leaves nothing half shown behind.

@@ -40,7 +40,7 @@ class SuiviDansLEditeur : public essai::Editeur {
 
 // Effective time alone was changed: the question comes although the contract's text is the same.
 // What is tried again after a fault, changed meanwhile, is what stands there in the end.
-TEST_F(SuiviDansLEditeur, EffectiveTimeIsStoredOnceAndAgainAfterAFault) {
+TEST_F(SuiviDansLEditeur, LeTempsEffectifSEcritUneFoisEtEncoreApresUnePanne) {
   corrigerTte("160");
   quitter(Reponse::Non);
   EXPECT_EQ(messages() + solde(),

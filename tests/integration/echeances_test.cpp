@@ -32,7 +32,7 @@ class Echeances : public essai::Hote {
   }
 };
 
-TEST_F(Echeances, UnClicOuvreLeContrat) {
+TEST_F(Echeances, AClickOpensTheContract) {
   const QString fichier = Chemin("a.contrats");
   {
     const auto stockage = storage::SqliteStorage::Creer(hote::versModele(fichier), poste_);

@@ -33,7 +33,7 @@ void setValeurs(data::CItem& item, int attribut, std::string texte) {
   item.Set(attribut, texte);
 }
 
-TEST(SuiviNombre, ShownForm) {
+TEST(SuiviNombre, FormeMontree) {
   for (const auto& [valeur, avant, apres, forme] :
        support::table<4>("rules/suivi_annuel.md", "Un nombre affiché")) {
     EXPECT_EQ(
@@ -47,7 +47,7 @@ TEST(SuiviNombre, ShownForm) {
   EXPECT_EQ(rules::etiquetteMois("2026"), "2026");
 }
 
-TEST(SuiviMois, OfferedMonths) {
+TEST(SuiviMois, MoisOfferts) {
   for (const auto& [traitee, paie, decembre, particulier, cloture, premier, dernier, nombre] :
        support::table<8>("rules/suivi_annuel.md", "Les mois offerts")) {
     SCOPED_TRACE(traitee + " " + paie + " " + cloture);
@@ -59,7 +59,7 @@ TEST(SuiviMois, OfferedMonths) {
   }
 }
 
-TEST(SuiviMois, YearOfTheEffectiveTime) {
+TEST(SuiviMois, AnneeDuTempsEffectif) {
   for (const auto& [traitee, calculee, cloture, annee] :
        support::table<4>("rules/suivi_annuel.md", "L'année du temps effectif")) {
     data::CItem contrat;
@@ -81,7 +81,7 @@ std::string calculs(const SuiviRemunere& suivi) {
 
 // A missing period ends the table, other missing or wrong numbers count as 0, and a visit leaves it
 // all as it is. Correcting one line leaves the texts of the others.
-TEST(SuiviRemunere, RaggedAndWrongRecords) {
+TEST(SuiviRemunere, ArticlesInegauxOuFaux) {
   data::CItem contrat;
   setValeurs(contrat, 71, "202501");
   setValeurs(contrat, 75, "-150");
@@ -125,7 +125,7 @@ std::string calculs(const SuiviTte& suivi) {
   return texte;
 }
 
-TEST(SuiviTte, HalfDaysAndLeapFebruary) {
+TEST(SuiviTte, DemiJoursEtFevrierBissextile) {
   SuiviTte suivi;
   // 31 - 9 - 2 = 20 days of 7,77 h: 155,40. 150,00 - 155,40 = -5,40.
   suivi.Ajouter("202803", temps("31", "9", "2", "7,77", "0", "150", "-1"));
@@ -145,7 +145,7 @@ TEST(SuiviTte, HalfDaysAndLeapFebruary) {
 
 // A balance on file is shown as it is until a line is confirmed; fields that this system does not
 // know stay.
-TEST(SuiviTte, VisitLeavesTheRecord) {
+TEST(SuiviTte, UneVisiteLaisseLArticle) {
   data::CItem article;
   setValeurs(article, 1, "202601^^202603");
   setValeurs(article, 2, "700^700");
@@ -177,7 +177,7 @@ std::string joints(std::string texte, const std::string& valeur) {
   return texte.empty() ? valeur : texte + "^" + valeur;
 }
 
-TEST(SuiviAnnuelAlea, PaidHoursStayARunningSum) {
+TEST(SuiviAnnuelAlea, LesHeuresPayeesRestentUneSommeCourante) {
   std::mt19937 alea(20261123);
   const auto tirer = [&](long de, long a) {
     return std::uniform_int_distribution<long>(de, a)(alea);
@@ -232,7 +232,7 @@ TEST(SuiviAnnuelAlea, PaidHoursStayARunningSum) {
   }
 }
 
-TEST(SuiviAnnuelAlea, EffectiveTimeStaysARunningSum) {
+TEST(SuiviAnnuelAlea, LeTempsEffectifResteUneSommeCourante) {
   std::mt19937 alea(20261124);
   const auto tirer = [&](long de, long a) {
     return std::uniform_int_distribution<long>(de, a)(alea);

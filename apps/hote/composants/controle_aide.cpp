@@ -8,7 +8,7 @@
 #include <QPushButton>
 
 #include "data/jour.h"
-#include "data/layouts/voisins.h"
+#include "data/liste_codes.h"
 #include "data/store_error.h"
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
@@ -80,10 +80,9 @@ class ControleAide::Saisie : public QWidget {
   QComboBox* Voies(const QString& code) {
     auto* const voies = new QComboBox(this);
     voies->addItem("");
-    const data::CItem& natures = fiche_.NaturesVoie();
-    for (int v = 1; v <= natures.DCount(data::Tables::Codes); ++v) {
-      voies->addItem(versQt(natures.Vue(data::Tables::Libelles, v)),
-                     versQt(natures.Vue(data::Tables::Codes, v)));
+    const auto natures = data::ListeCodes::DeTable(fiche_.NaturesVoie());
+    for (const auto& nature : natures.Lignes()) {
+      voies->addItem(versQt(nature.libelle), versQt(nature.code));
     }
     // A kind that the table does not know stays.
     if (!code.isEmpty() && voies->findData(code) < 0) voies->addItem(code, code);

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
-#include "data/layouts/voisins.h"
+#include "data/liste_codes.h"
 #include "data/texte.h"
 #include "liaison/bureau.h"
 #include "liaison/textes_qt.h"
@@ -65,10 +65,9 @@ class ControleTable::Lignes : public QWidget {
     saisie->setRowVisible(regroupement_, table_.Genre().regroupements != 0);
     code_->setMaximumWidth(120);
     regroupement_->addItem("");
-    const data::CItem& groupes = table_.Regroupements();
-    for (int v = 1; v <= groupes.DCount(data::Tables::Codes); ++v) {
-      regroupement_->addItem(versQt(groupes.Vue(data::Tables::Libelles, v)),
-                             versQt(groupes.Vue(data::Tables::Codes, v)));
+    const auto groupes = data::ListeCodes::DeTable(table_.Regroupements());
+    for (const auto& groupe : groupes.Lignes()) {
+      regroupement_->addItem(versQt(groupe.libelle), versQt(groupe.code));
     }
     colonne.addLayout(saisie);
   }

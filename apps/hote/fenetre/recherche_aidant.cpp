@@ -18,8 +18,6 @@ namespace hote {
 
 namespace {
 
-constexpr int LargeurRepere = 3;  // pixels
-
 // What the directory gives in another colour steps back, as far as it still reads on this palette.
 // The open carer has a bar at the left, as a contract that runs has in its list.
 class LigneAidant : public LigneListe {
@@ -30,13 +28,9 @@ class LigneAidant : public LigneListe {
   void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
     LigneListe::paint(pinceau, option, index);
-    if (index.column() != Annuaire::Code || !annuaire_.EstOuvert(index.row())) return;
-    const bool choisie = option.state.testFlag(QStyle::State_Selected);
-    QRect barre = option.rect.adjusted(0, 1, 0, -1);
-    barre.setWidth(LargeurRepere);
-    pinceau->fillRect(
-        barre, option.palette.color(QPalette::Active,
-                                    choisie ? QPalette::HighlightedText : QPalette::Highlight));
+    if (index.column() == Annuaire::Code && annuaire_.EstOuvert(index.row())) {
+      Marquer(*pinceau, option);
+    }
   }
 
  protected:

@@ -35,9 +35,7 @@ void ImprimantePdf::Choisir(int imprimante) {
 }
 
 void ImprimantePdf::Police(const std::string& nom, double points, bool gras) {
-  police_ = nom;
-  points_ = points;
-  gras_ = gras;
+  police_ = policeImprimee(nom, points, gras);
 }
 
 QPainter& ImprimantePdf::Pinceau() {
@@ -58,12 +56,16 @@ QPainter& ImprimantePdf::Pinceau() {
 
 void ImprimantePdf::Texte(int x, int y, const std::string& texte, int largeur) {
   QPainter& pinceau = Pinceau();
-  QFont police(versQt(police_));
-  police.setPointSizeF(points_);
-  police.setBold(gras_);
-  police.setStyleHint(QFont::TypeWriter);
-  pinceau.setFont(police);
+  pinceau.setFont(police_);
   ecrireLigne(pinceau, QPoint(enPoints(x), enPoints(y)), versQt(texte), enPoints(largeur));
+}
+
+QFont policeImprimee(const std::string& nom, double points, bool gras) {
+  QFont police(versQt(nom));
+  police.setPointSizeF(points);
+  police.setBold(gras);
+  police.setStyleHint(QFont::TypeWriter);
+  return police;
 }
 
 void ecrireLigne(QPainter& pinceau, const QPoint& place, const QString& ligne, int largeur) {

@@ -43,9 +43,7 @@ void ImprimantesQt::Choisir(int imprimante) {
 
 void ImprimantesQt::Police(const std::string& nom, double points, bool gras) {
   pdf_.Police(nom, points, gras);
-  police_ = nom;
-  points_ = points;
-  gras_ = gras;
+  police_ = policeImprimee(nom, points, gras);
 }
 
 QPainter& ImprimantesQt::Pinceau() {
@@ -65,11 +63,7 @@ QPainter& ImprimantesQt::Pinceau() {
 void ImprimantesQt::Texte(int x, int y, const std::string& texte, int largeur) {
   if (choisie_.isEmpty()) return pdf_.Texte(x, y, texte, largeur);
   QPainter& pinceau = Pinceau();
-  QFont police(versQt(police_));
-  police.setPointSizeF(points_);
-  police.setBold(gras_);
-  police.setStyleHint(QFont::TypeWriter);
-  pinceau.setFont(police);
+  pinceau.setFont(police_);
   const double echelle = imprimante_->resolution() / TwipsParPouce;
   ecrireLigne(pinceau, QPoint(qRound(x * echelle), qRound(y * echelle)), versQt(texte),
               qRound(largeur * echelle));

@@ -42,9 +42,7 @@ class ImprimantesQt : public screen::Imprimante {
   std::unique_ptr<QPrinter> imprimante_;
   std::unique_ptr<QPainter> pinceau_;
   bool pageFinie_ = false;
-  std::string police_ = "Courier New";
-  double points_ = 10;
-  bool gras_ = false;
+  QFont police_ = policeImprimee("Courier New", 10, false);
 };
 
 }  // namespace hote

@@ -2,6 +2,7 @@
 // The services of the platform, on Qt.
 
 #include <QByteArray>
+#include <QFont>
 #include <QString>
 #include <functional>
 #include <map>
@@ -82,6 +83,9 @@ class ModalesQt : public screen::Modales {
   CurseurQt& curseur_;
 };
 
+// A font of a printed page, of even width where the machine does not have it.
+QFont policeImprimee(const std::string& nom, double points, bool gras);
+
 // Paper is a PDF file in the user's documents.
 class ImprimantePdf : public screen::Imprimante {
  public:
@@ -106,9 +110,7 @@ class ImprimantePdf : public screen::Imprimante {
   std::unique_ptr<QPdfWriter> document_;
   std::unique_ptr<QPainter> pinceau_;
   bool pageFinie_ = false;
-  std::string police_ = "Courier New";
-  double points_ = 10;
-  bool gras_ = false;
+  QFont police_ = policeImprimee("Courier New", 10, false);
 };
 
 // One line in the painter's font, with its top at the place; drawn narrower where it would not fit

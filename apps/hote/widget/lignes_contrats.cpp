@@ -19,7 +19,6 @@ constexpr const char* ListeDebuts = "Lst_DatDebContrat";
 constexpr const char* ListeFins = "Lst_DatFinContrat";
 constexpr const char* Colonnes[] = {ListeDebuts, ListeFins, "Lst_Type", "Lst_EmplEtabContrat",
                                     "Lst_QualifContrat"};
-constexpr int LargeurRepere = 3;  // pixels
 
 std::string texte(const QListWidget& liste, int ligne) {
   const QListWidgetItem* const element = liste.item(ligne);
@@ -53,13 +52,7 @@ class LigneContrat : public LigneListe {
     LigneListe::paint(pinceau, option, index);
     const bool repere = option.widget == &debuts_ && Etat(index.row()) == EtatContrat::EnCours &&
                         option.state.testFlag(QStyle::State_Enabled);
-    if (!repere) return;
-    QRect barre = option.rect.adjusted(0, 1, 0, -1);
-    barre.setWidth(LargeurRepere);
-    const bool choisie = option.state.testFlag(QStyle::State_Selected);
-    pinceau->fillRect(
-        barre, option.palette.color(QPalette::Active,
-                                    choisie ? QPalette::HighlightedText : QPalette::Highlight));
+    if (repere) Marquer(*pinceau, option);
   }
 
  protected:

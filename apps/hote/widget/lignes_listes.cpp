@@ -10,6 +10,8 @@ namespace hote {
 
 namespace {
 
+constexpr int LargeurMarque = 3;  // pixels
+
 QStyle& styleDe(const QStyleOptionViewItem& cellule) {
   return cellule.widget == nullptr ? *QApplication::style() : *cellule.widget->style();
 }
@@ -55,6 +57,14 @@ void LigneListe::paint(QPainter* pinceau, const QStyleOptionViewItem& option,
   focus.QStyleOption::operator=(cellule);
   focus.backgroundColor = cellule.palette.color(groupe(cellule), QPalette::Base);
   style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, pinceau, cellule.widget);
+}
+
+void LigneListe::Marquer(QPainter& pinceau, const QStyleOptionViewItem& option) {
+  QRect barre = option.rect.adjusted(0, 1, 0, -1);
+  barre.setWidth(LargeurMarque);
+  const bool choisie = option.state.testFlag(QStyle::State_Selected);
+  pinceau.fillRect(barre, option.palette.color(QPalette::Active, choisie ? QPalette::HighlightedText
+                                                                         : QPalette::Highlight));
 }
 
 QSize LigneListe::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {

@@ -23,6 +23,10 @@ class LigneListe : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   bool helpEvent(QHelpEvent* evenement, QAbstractItemView* vue, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
+
+ protected:
+  // The bar at the left edge of a row that stands out.
+  static void Marquer(QPainter& pinceau, const QStyleOptionViewItem& option);
 };
 
 }  // namespace hote

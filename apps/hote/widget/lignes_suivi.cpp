@@ -13,7 +13,6 @@ namespace {
 
 constexpr const char* PeriodePaie = "Etq_PeriodePaie";
 constexpr const char* Decimales = "decimales";
-constexpr int LargeurRepere = 3;  // pixels
 constexpr QChar Moins(0x2212);
 constexpr QChar BlancVirgule(0x2008);
 constexpr QChar BlancChiffre(0x2007);
@@ -30,13 +29,7 @@ class LigneSuivi : public LigneListe {
   void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
     LigneListe::paint(pinceau, option, index);
-    if (&colonne_ != &periodes_ || !EnPaie(index.row())) return;
-    QRect barre = option.rect.adjusted(0, 1, 0, -1);
-    barre.setWidth(LargeurRepere);
-    const bool choisie = option.state.testFlag(QStyle::State_Selected);
-    pinceau->fillRect(
-        barre, option.palette.color(QPalette::Active,
-                                    choisie ? QPalette::HighlightedText : QPalette::Highlight));
+    if (&colonne_ == &periodes_ && EnPaie(index.row())) Marquer(*pinceau, option);
   }
 
  protected:
