@@ -18,9 +18,11 @@ using data::KeyRange;
 void AnnoncerGardes(Frm_ElementsContrat& editeur, data::Route& route) {
   const session::Session& s = editeur.Session();
   if (!route.Utile() || s.CodeAidant.empty()) return;
+  route.AnnoncerBloc();
   const auto aidant = KeyRange::Prefixe(s.CodeAidant);
   std::vector<data::Annonce> annonces = {
       {f::CONTRAT, {}, {aidant}},
+      {f::DSNEVENEMENT, {}, {aidant}},
       {f::TPSAIDANTINDISPO, {}, {aidant}},
       {f::CONSTANTESPAIE, {data::ConstantesPaie::Cle}, {}},
       {f::PCS, editeur.caracteristiques.ClesPCS(), {}},
@@ -33,7 +35,9 @@ void AnnoncerGardes(Frm_ElementsContrat& editeur, data::Route& route) {
     annonces.push_back({f::TPSPARAM, {data::TpsParam::Cle}, {}});
   }
   const session::Dossier& dossier = editeur.Dossier();
-  if (!dossier.ModeCreation) {
+  if (dossier.ModeCreation) {
+    annonces.push_back({f::CIVILAIDANT, {s.CodeAidant}, {}});
+  } else {
     annonces.push_back({f::PROFIL, {dossier.ItemContrat(C::Profil)}, {}});
     annonces.push_back({f::RUBCHARGE, {}, {KeyRange::Tout()}});
   }
@@ -59,16 +63,36 @@ void AnnoncerModification(const session::Dossier& dossier, data::Route& route) {
   route.Annoncer({{f::CONTRAT, cles, {}}, {f::DSNEVENEMENT, cles, {}}});
 }
 
-void AnnoncerSuites(const session::Dossier& dossier, data::Route& route) {
-  if (!route.Utile()) return;
+namespace {
+
+std::vector<data::Annonce> suites(const session::Dossier& dossier, const std::string& cle) {
   const data::CItem& contrat = dossier.ItemContrat;
   const std::string suffixe = contrat(C::Association) + contrat(C::Convention);
   const std::string& code = dossier.Session.CodeAidant;
-  route.Annoncer({{f::ACTUSUIVICONTRAT, {code}, {}},
-                  {f::AIDANTTTE, {dossier.ItemAidantTte(0)}, {}},
-                  {f::CONTRAT, {dossier.CleContratCourant}, {}},
-                  {f::LIENCONTRAT, {std::string(f::PrefixeContrats) + suffixe}, {}},
-                  {f::LIENAVENANT, {std::string(f::PrefixeAvenants) + suffixe}, {}}});
+  std::vector<data::Annonce> annonces = {
+      {f::CONTRAT, {cle}, {}},
+      {f::AIDANTTTE, {dossier.ItemAidantTte(0)}, {}},
+      {f::MISSIONSAIDANT, {code}, {}},
+      {f::LIENCONTRAT, {std::string(f::PrefixeContrats) + suffixe}, {}},
+      {f::LIENAVENANT, {std::string(f::PrefixeAvenants) + suffixe}, {}},
+  };
+  if (dossier.Particuliers()) {
+    annonces.push_back({f::CIVILAIDANT, {code}, {}});
+    annonces.push_back({f::CONTRATINV, {code + contrat(C::Employeur)}, {}});
+  } else {
+    annonces.push_back({f::ACTUSUIVICONTRAT, {code}, {}});
+  }
+  return annonces;
+}
+
+}  // namespace
+
+void AnnoncerSuite(const session::Dossier& dossier, const std::string& cle, data::Route& route) {
+  if (route.Utile()) route.AnnoncerSuite(suites(dossier, cle));
+}
+
+void RelireSuite(const session::Dossier& dossier, data::Route& route) {
+  if (route.Utile()) route.Annoncer(suites(dossier, dossier.CleContratCourant));
 }
 
 }  // namespace editor

@@ -53,7 +53,7 @@ Avis Enregistrement::Ecrire_Nouveau() {
   }
   if (!bloc.Avis().empty()) editeur_.MessageBox(bloc.Avis(), Boutons::Ok, Icone::Information);
   data::Route route(editeur_.Session().Db->Stockage());
-  AnnoncerSuites(editeur_.Dossier(), route);
+  RelireSuite(editeur_.Dossier(), route);
   Marquer_Suivi();
   Ecrire_Tte();
   if (!Relire()) return Avis::Passe;
@@ -77,6 +77,7 @@ bool Enregistrement::RemplacerEnBloc(data::CItem& surFichier) {
     RompreEnRetour(dossier);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
     dossier.ItemContrat.DBWriteU();
+    AnnoncerSuite(dossier, dossier.CleContratCourant, route);
   });
   return remplace;
 }
@@ -92,7 +93,7 @@ Avis Enregistrement::Ecrire_Existant() {
   data::Route route(dossier.Session.Db->Stockage());
   dossier.SurFichier = dossier.ItemContrat;
   for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
-  AnnoncerSuites(dossier, route);
+  RelireSuite(dossier, route);
   Marquer_Suivi();
   Ecrire_Tte();
   return Avis::Passe;

@@ -175,14 +175,24 @@ void PostgresStorage::DebuterRoute() {
 
 void PostgresStorage::FinirRoute() noexcept {
   moteur_->Route().Finir();
+  if (!moteur_->Route().Ouverte()) moteur_->Renoncer();
 }
 
 void PostgresStorage::OublierRoute() noexcept {
   moteur_->Route().Vider();
+  moteur_->Renoncer();
 }
 
 void PostgresStorage::Annoncer(const std::vector<data::Annonce>& annonces) {
   moteur_->Annoncer(annonces);
+}
+
+void PostgresStorage::AnnoncerBloc() {
+  moteur_->Promettre();
+}
+
+void PostgresStorage::AnnoncerSuite(const std::vector<data::Annonce>& annonces) {
+  moteur_->NoterSuite(annonces);
 }
 
 void PostgresStorage::ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) {

@@ -173,13 +173,8 @@ void PostgresStorage::Moteur::Feuilleter(const Acte& acte, data::KeyRange cles,
   }
 }
 
-void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonces) {
-  if (!route_.Ouverte()) return;
-  struct Demande {
-    std::string_view fichier;
-    std::vector<std::string_view> cles;     // either these
-    const data::KeyRange* plage = nullptr;  // or that
-  };
+std::vector<PostgresStorage::Moteur::Demande> PostgresStorage::Moteur::Inconnues(
+    const std::vector<data::Annonce>& annonces) {
   std::vector<Demande> demandes;
   for (const data::Annonce& annonce : annonces) {
     Demande cles{annonce.fichier, {}};
@@ -192,16 +187,21 @@ void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonce
       demandes.push_back({annonce.fichier, {}, &plage});
     }
   }
-  if (demandes.empty()) return;
-  const auto reponses = Interroger(kAnnonce, demandes.size(), [&] {
-    for (const Demande& d : demandes) {
-      if (d.plage != nullptr) {
-        lien_.Envoyer(kPlage, parametresPlage(d.fichier, *d.plage), kAnnonce);
-      } else {
-        lien_.Envoyer(kLireCles, Parametres().Texte(d.fichier).Textes(d.cles), kAnnonce);
-      }
+  return demandes;
+}
+
+void PostgresStorage::Moteur::EnvoyerDemandes(const std::vector<Demande>& demandes) {
+  for (const Demande& d : demandes) {
+    if (d.plage != nullptr) {
+      lien_.Envoyer(kPlage, parametresPlage(d.fichier, *d.plage), kAnnonce);
+    } else {
+      lien_.Envoyer(kLireCles, Parametres().Texte(d.fichier).Textes(d.cles), kAnnonce);
     }
-  });
+  }
+}
+
+void PostgresStorage::Moteur::RetenirDemandes(const std::vector<Demande>& demandes,
+                                              const std::vector<Reponse>& reponses) {
   for (std::size_t i = 0; i < demandes.size(); ++i) {
     const Demande& d = demandes[i];
     // What is too much to be kept is read when it is asked for.
@@ -214,6 +214,14 @@ void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonce
     for (const std::string_view cle : d.cles) route_.Retenir(d.fichier, cle, std::nullopt);
     for (const auto& [cle, texte] : *rangs) route_.Retenir(d.fichier, cle, texte);
   }
+}
+
+void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonces) {
+  if (!route_.Ouverte()) return;
+  const std::vector<Demande> demandes = Inconnues(annonces);
+  if (demandes.empty()) return;
+  RetenirDemandes(demandes,
+                  Interroger(kAnnonce, demandes.size(), [&] { EnvoyerDemandes(demandes); }));
 }
 
 // Within a road the few records of a way are fetched with their number: whoever counts them asks
@@ -294,7 +302,7 @@ std::optional<Rangs> PostgresStorage::Moteur::LireChemins(
   }
   bool tenus = true;
   // One order sees one state by itself; several see one in a transaction, which goes with them.
-  const bool ensemble = inconnus.size() > 1 && !enBloc_ && !enUnEtat_;
+  const bool ensemble = inconnus.size() > 1 && !enBloc_ && !enUnEtat_ && !promis_;
   std::vector<Reponse> reponses;
   if (!inconnus.empty()) {
     reponses = Interroger(acte, inconnus.size() + (ensemble ? 2 : 0), [&] {
