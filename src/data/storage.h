@@ -62,6 +62,7 @@ struct Annonce {
   std::string_view fichier;  // of data/layouts/fichiers.h
   std::vector<std::string> cles;
   std::vector<KeyRange> plages;
+  std::vector<Chemin> chemins = {};  // by an index, to few records
 };
 
 class Storage {
@@ -122,8 +123,8 @@ class Storage {
 // line fetches what is announced in one trip, and answers the same read twice without a second one.
 // What this station writes meanwhile is read back as written; what others write may be seen later,
 // in a block never: it sees nothing of what was read before it, unless that belongs to it
-// (AnnoncerBloc). Nothing is kept once the road ends, or over a question to the user. Roads may
-// nest: the outer one counts. A program has one store with roads at a time.
+// (AnnoncerBloc). Nothing is kept once the road ends, or over a question to the user, after which what was announced is fetched anew when it is first
+// asked for. Roads may nest: the outer one counts. A program has one store with roads at a time.
 class Route {
  public:
   explicit Route(Storage& storage);

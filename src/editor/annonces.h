@@ -3,8 +3,10 @@
 // few trips. On a store of this machine nothing is done.
 
 #include <string>
+#include <vector>
 
 #include "data/storage.h"
+#include "rules/planning.h"
 
 namespace session {
 struct Dossier;
@@ -24,5 +26,13 @@ void AnnoncerModification(const session::Dossier& dossier, data::Route& route);
 // In its block, and behind it what the user's answer to a message has made forgotten.
 void AnnoncerSuite(const session::Dossier& dossier, const std::string& cle, data::Route& route);
 void RelireSuite(const session::Dossier& dossier, data::Route& route);
+
+// What the report of a shortened contract names.
+void AnnoncerIncidences(const std::vector<rules::Incidence>& incidences, data::Route& route);
+// Before the deletion is asked about, and once it is confirmed: its guards and its block.
+void AnnoncerSuppression(Frm_ElementsContrat& editeur, data::Route& route);
+void AnnoncerSupprimee(Frm_ElementsContrat& editeur, data::Route& route);
+// What the hiring declaration shows.
+void AnnoncerDeclaration(const session::Dossier& dossier, data::Route& route);
 
 }  // namespace editor

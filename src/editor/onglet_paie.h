@@ -46,6 +46,7 @@ class OngletPaie : public Onglet {
   }
   void QuitterPrevoyance() { cotisations_.QuitterPrevoyance(); }
 
+  std::vector<std::string> ClesProfils() const { return profils_.Cles(); }
   const PaieActivites& Activites() const { return activites_; }
   const PaiePaiement& Paiement() const { return paiement_; }
   // A transfer needs bank details: refused here, when the carer has none. `modePaiement`: the word

@@ -22,11 +22,11 @@ bool particulier(const ContratTraite& contrat) {
 
 // The files of its results whose keys go on with the month; those of the interventions have "000"
 // between.
-std::vector<std::string> fichiersMensuels(const ContratTraite& contrat) {
-  std::vector<std::string> fichiers{"DETAILCALCUL"};
-  if (particulier(contrat)) fichiers.emplace_back("DETAILMANDAT");
-  if (contrat.administratif) fichiers.emplace_back("DETAILADMIN");
-  if (contrat.typeActivite == "P") fichiers.emplace_back("DETAILPREST");
+std::vector<std::string_view> fichiersMensuels(const ContratTraite& contrat) {
+  std::vector<std::string_view> fichiers{data::fichier::DETAILCALCUL};
+  if (particulier(contrat)) fichiers.push_back(data::fichier::DETAILMANDAT);
+  if (contrat.administratif) fichiers.push_back(data::fichier::DETAILADMIN);
+  if (contrat.typeActivite == "P") fichiers.push_back(data::fichier::DETAILPREST);
   return fichiers;
 }
 
@@ -36,11 +36,16 @@ bool parInterventions(const ContratTraite& contrat) {
 
 }  // namespace
 
+std::vector<std::string_view> fichiersTraites(const ContratTraite& contrat) {
+  std::vector<std::string_view> fichiers = fichiersMensuels(contrat);
+  if (parInterventions(contrat)) fichiers.push_back(data::fichier::DETAILINTER);
+  return fichiers;
+}
+
 std::optional<Refus> Verif_SuppressionPossible(data::Db& db, const ContratTraite& contrat) {
-  std::vector<std::string> fichiers = fichiersMensuels(contrat);
-  if (parInterventions(contrat)) fichiers.emplace_back("DETAILINTER");
-  for (const auto& fichier : fichiers) {
-    if (trouve(db, fichier, "SSELECT " + fichier + " AVEC 0 = " + citerDebut(contrat.cle))) {
+  for (const auto fichier : fichiersTraites(contrat)) {
+    if (trouve(db, fichier,
+               "SSELECT " + std::string(fichier) + " AVEC 0 = " + citerDebut(contrat.cle))) {
       return Refus{
           "Suppression impossible du contrat car des traitements ont été effectués sur celui-ci."};
     }
@@ -53,9 +58,9 @@ std::optional<Refus> Verif_ModificationPossible(data::Db& db, const ContratTrait
   const Refus refus{
       "Date de fin du contrat non compatible car des traitements ont été effectués après "
       "celle-ci."};
-  for (const auto& fichier : fichiersMensuels(contrat)) {
+  for (const auto fichier : fichiersMensuels(contrat)) {
     if (trouve(db, fichier,
-               "SSELECT " + fichier + " AVEC 0 > " + citer(contrat.cle + mois) +
+               "SSELECT " + std::string(fichier) + " AVEC 0 > " + citer(contrat.cle + mois) +
                    " AND = " + citerDebut(contrat.cle))) {
       return refus;
     }

@@ -174,13 +174,11 @@ void PostgresStorage::DebuterRoute() {
 }
 
 void PostgresStorage::FinirRoute() noexcept {
-  moteur_->Route().Finir();
-  if (!moteur_->Route().Ouverte()) moteur_->Renoncer();
+  moteur_->FinirRoute();
 }
 
 void PostgresStorage::OublierRoute() noexcept {
-  moteur_->Route().Vider();
-  moteur_->Renoncer();
+  moteur_->OublierRoute();
 }
 
 void PostgresStorage::Annoncer(const std::vector<data::Annonce>& annonces) {

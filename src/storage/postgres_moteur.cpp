@@ -372,6 +372,7 @@ void PostgresStorage::Moteur::NoterSuite(const std::vector<data::Annonce>& annon
 bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool& coupee) {
   const bool tenue = lien_.Assurer(kBloc) && promis_;
   promis_ = false;
+  OublierAnnonces();
   if (!tenue) {
     lien_.Envoyer(kDebut, {}, kBloc);
     route_.Vider();

@@ -59,6 +59,10 @@ class PostgresStorage::Moteur {
   void EnUnBloc(const std::function<void()>& travail);
   void EnvoyerEntrees(const Acte& acte, const std::vector<data::EntreeIndex>& entrees);
 
+  // A question to the user, and the end of the road.
+  void OublierRoute() noexcept;
+  void FinirRoute() noexcept;
+
   Lien& LaLigne() { return lien_; }
   MemoireDeRoute& Route() { return route_; }
   void ExigerRepos() const;
@@ -71,6 +75,7 @@ class PostgresStorage::Moteur {
     std::string_view fichier;
     std::vector<std::string_view> cles;     // either these
     const data::KeyRange* plage = nullptr;  // or that
+    const data::Chemin* chemin = nullptr;   // or these
   };
 
   void ExigerBlocSain() const;
@@ -89,6 +94,11 @@ class PostgresStorage::Moteur {
   std::vector<Demande> Inconnues(const std::vector<data::Annonce>& annonces);
   void EnvoyerDemandes(const std::vector<Demande>& demandes);
   void RetenirDemandes(const std::vector<Demande>& demandes, const std::vector<Reponse>& reponses);
+  bool Rappeler(std::string_view fichier, std::string_view cle);
+  void OublierAnnonces() noexcept;
+  void EnvoyerPoignee(const Acte& acte, const data::Chemin& chemin, std::size_t plafond);
+  std::optional<std::size_t> RetenirPoignee(const Reponse& reponse, const data::Chemin& chemin,
+                                            std::size_t plafond);
   void EnvoyerChemin(const Acte& acte, const data::Chemin& chemin);
   std::optional<std::size_t> CompterEtRetenir(const Acte& acte, const data::Chemin& chemin,
                                               std::size_t plafond);
@@ -108,6 +118,10 @@ class PostgresStorage::Moteur {
   bool enBloc_ = false;
   bool enUnEtat_ = false;
   bool promis_ = false;  // the transaction of the block to come has begun, for reads so far
+  // What was announced on this road, and forgotten over a question; with the block to come.
+  std::vector<data::Annonce> annoncees_;
+  bool oubliees_ = false;
+  bool blocOublie_ = false;
   std::vector<data::Annonce> suite_;  // of the block under way
   std::vector<Demande> demandesSuite_;
   int parcours_ = 0;            // scans under way
