@@ -123,8 +123,9 @@ class Storage {
 // line fetches what is announced in one trip, and answers the same read twice without a second one.
 // What this station writes meanwhile is read back as written; what others write may be seen later,
 // in a block never: it sees nothing of what was read before it, unless that belongs to it
-// (AnnoncerBloc). Nothing is kept once the road ends, or over a question to the user, after which what was announced is fetched anew when it is first
-// asked for. Roads may nest: the outer one counts. A program has one store with roads at a time.
+// (AnnoncerBloc). Nothing is kept once the road ends, or over a question to the user; what was
+// announced before it is then fetched anew when the first of it is asked for. Roads may nest: the
+// outer one counts. A program has one store with roads at a time.
 class Route {
  public:
   explicit Route(Storage& storage);

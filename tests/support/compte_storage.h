@@ -1,7 +1,7 @@
 #pragma once
-// A store on a server that counts what an act of the user takes of trips over the line, and how much
-// it writes: from the beginning of its road, or from his answer to a question on the way, to the
-// next question or the end.
+// A store on a server that counts what an act of the user takes of trips over the line, and how
+// much it writes: from the beginning of its road, or from his answer to a question on the way, to
+// the next question or the end.
 
 #include <vector>
 
