@@ -370,7 +370,14 @@ void PostgresStorage::Moteur::NoterSuite(const std::vector<data::Annonce>& annon
 // False when it can be run again, and nothing of it stands: another station got in between, or the
 // line was cut for the first time.
 bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool& coupee) {
-  const bool tenue = lien_.Assurer(kBloc) && promis_;
+  bool tenue = promis_;
+  try {
+    tenue = lien_.Assurer(kBloc) && tenue;
+  } catch (const PanneServeur&) {
+    promis_ = false;
+    if (coupee) throw erreur(NumeroErreur::EntreeSortie, lien_.Adresse(), kBloc, kPasFait);
+    throw;
+  }
   promis_ = false;
   OublierAnnonces();
   if (!tenue) {

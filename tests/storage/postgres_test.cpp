@@ -295,6 +295,15 @@ TEST_F(Postgres, AServerThatIsDownIsToldAndFoundAgain) {
             "EntreeSortie");
   serveur_.Demarrer();
   EXPECT_EQ(etat(*store), "CONTRAT[0=a]");
+  const auto enPleinBloc = [&] {
+    store->Put("CONTRAT", "0", "b");
+    serveur_.Arreter();
+    store->Get("CONTRAT", "0", texte);
+  };
+  EXPECT_EQ(refus([&] { store->EnUnBloc(enPleinBloc); }, &message), "EntreeSortie");
+  EXPECT_NE(message.find("rien de cette écriture n'est fait"), std::string::npos) << message;
+  serveur_.Demarrer();
+  EXPECT_EQ(etat(*store), "CONTRAT[0=a]");
 }
 
 TEST_F(Postgres, StationsWaitForEachOtherAndLoseNothing) {
