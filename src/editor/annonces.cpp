@@ -122,6 +122,7 @@ void RelireSuite(const session::Dossier& dossier, data::Route& route) {
 void AnnoncerIncidences(const std::vector<rules::Incidence>& incidences, data::Route& route) {
   if (!route.Utile()) return;
   std::vector<std::string> aides;
+  aides.reserve(incidences.size());
   for (const auto& incidence : incidences) {
     aides.push_back(data::milieu(incidence.intervention.cle, data::TpsDetailsInterv::PosAide,
                                  data::LongueurCodeAidant));
