@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "data/storage.h"
+#include "support/relais_storage.h"
 
 namespace bench {
 
@@ -20,9 +20,9 @@ struct Ecriture {
   std::string texte;
 };
 
-class Journal : public data::Storage {
+class Journal : public support::RelaisStorage {
  public:
-  explicit Journal(data::Storage& dessous) : dessous_(dessous) {}
+  using RelaisStorage::RelaisStorage;
 
   bool noter = false;
   std::vector<Lecture> lectures;
@@ -30,40 +30,20 @@ class Journal : public data::Storage {
 
   bool Get(std::string_view fichier, std::string_view cle, std::string& texte) override {
     if (noter) lectures.push_back({std::string(fichier), std::string(cle), ""});
-    return dessous_.Get(fichier, cle, texte);
+    return RelaisStorage::Get(fichier, cle, texte);
   }
   void Put(std::string_view fichier, std::string_view cle, std::string_view texte) override {
     if (noter) ecritures.push_back({std::string(fichier), std::string(cle), std::string(texte)});
-    dessous_.Put(fichier, cle, texte);
+    RelaisStorage::Put(fichier, cle, texte);
   }
-  bool Erase(std::string_view fichier, std::string_view cle) override {
-    return dessous_.Erase(fichier, cle);
-  }
+  // Roads by an index are not noted: no act that is measured here takes one.
   void Scan(std::string_view fichier, const data::KeyRange& cles,
             const Visiteur& visiteur) override {
     if (noter) {
       lectures.push_back({std::string(fichier), cles.debut, cles.sansFin ? "\x7f" : cles.fin});
     }
-    dessous_.Scan(fichier, cles, visiteur);
+    RelaisStorage::Scan(fichier, cles, visiteur);
   }
-  // Roads are followed as they are: no act that is measured here takes one.
-  std::optional<std::size_t> Compter(std::string_view fichier, const data::Chemin& chemin,
-                                     std::size_t plafond) override {
-    return dessous_.Compter(fichier, chemin, plafond);
-  }
-  bool ScanChemins(std::string_view fichier, const std::vector<data::Chemin>& chemins,
-                   const Visiteur& visiteur) override {
-    return dessous_.ScanChemins(fichier, chemins, visiteur);
-  }
-  std::vector<data::FichierCompte> Fichiers() override { return dessous_.Fichiers(); }
-  std::vector<data::AncienTexte> Historique(std::string_view fichier,
-                                            std::string_view cle) override {
-    return dessous_.Historique(fichier, cle);
-  }
-  void EnUnBloc(const std::function<void()>& travail) override { dessous_.EnUnBloc(travail); }
-
- private:
-  data::Storage& dessous_;
 };
 
 }  // namespace bench

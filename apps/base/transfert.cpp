@@ -155,7 +155,23 @@ std::unique_ptr<Magasin> ouvrirServeur(const std::string& cible, const data::Pos
     return storage::creer(cible, poste, options);
   }
   throw Echec(Refuse, storage::sansMotDePasse(cible) +
-                          " a déjà des articles. Donnez l'adresse d'une base sans article.");
+                          " a déjà des articles. Donnez l'adresse d'une base sans article. Si une "
+                          "copie s'y est arrêtée pendant sa relecture, elle y est entière : la "
+                          "commande verifier la contrôle.");
+}
+
+// On a server the copy stands before it is read again.
+void relire(Transfert& transfert, bool surServeur) {
+  try {
+    transfert.Comparer();
+  } catch (const data::StoreError& erreur) {
+    if (!surServeur) throw;
+    throw data::StoreError(erreur.Numero(),
+                           std::string(erreur.what()) +
+                               " Tout est copié, mais la relecture n'est pas finie : contrôlez la "
+                               "copie par la commande verifier.",
+                           erreur.Fichier(), erreur.Cle());
+  }
 }
 
 std::string nombre(long n, const char* un, const char* plusieurs) {
@@ -178,16 +194,15 @@ int transferer(Contexte& contexte, const Arguments& arguments) {
                                   : storage::creer(fichier->Nom(), poste, options);
   Transfert transfert(contexte, base.Magasin(), *cible);
   transfert.Copier();
-  transfert.Comparer();
-  if (fichier == nullptr) {
-    cible->Compacter();
-  } else {
+  relire(transfert, fichier == nullptr);
+  if (fichier != nullptr) {
     cible.reset();
     fichier->Arriver();
   }
   contexte.Ecrit(storage::sansMotDePasse(copie) + " est une copie entière, relue : " +
                  nombre(transfert.Articles(), " article", " articles") + " et " +
                  nombre(transfert.Anciens(), " ancien texte.\n", " anciens textes.\n"));
+  if (cible != nullptr) cible->Compacter();
   return Fait;
 }
 

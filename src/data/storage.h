@@ -62,6 +62,7 @@ struct Annonce {
   std::string_view fichier;  // of data/layouts/fichiers.h
   std::vector<std::string> cles;
   std::vector<KeyRange> plages;
+  std::vector<Chemin> chemins = {};  // by an index, to few records
 };
 
 class Storage {
@@ -114,14 +115,17 @@ class Storage {
   virtual void FinirRoute() noexcept {}
   virtual void OublierRoute() noexcept {}
   virtual void Annoncer(const std::vector<Annonce>& /*annonces*/) {}
+  virtual void AnnoncerBloc() {}
+  virtual void AnnoncerSuite(const std::vector<Annonce>& /*annonces*/) {}
 };
 
 // A road: the reads between one act of the user and its answer. While it lasts, a store across a
 // line fetches what is announced in one trip, and answers the same read twice without a second one.
 // What this station writes meanwhile is read back as written; what others write may be seen later,
-// in a block never: it sees nothing of what was read before it. Nothing is kept once the road ends,
-// or over a question to the user. Roads may nest: the outer one counts. A program has one store
-// with roads at a time.
+// in a block never: it sees nothing of what was read before it, unless that belongs to it
+// (AnnoncerBloc). Nothing is kept once the road ends, or over a question to the user; what was
+// announced before it is then fetched anew when the first of it is asked for. Roads may nest: the
+// outer one counts. A program has one store with roads at a time.
 class Route {
  public:
   explicit Route(Storage& storage);
@@ -132,6 +136,14 @@ class Route {
   // Whether announcing gains anything: no need to put keys together where it does not.
   bool Utile() const { return storage_.ALaLigne(); }
   void Annoncer(const std::vector<Annonce>& annonces) { storage_.Annoncer(annonces); }
+  // A block comes next: what is read from here on belongs to it, so that it need not read again
+  // what was read for the decision to write. It is checked with the block, which another station's
+  // write has run again, from its beginning, on what stands then. A write before it, a question to
+  // the user or the road's end gives that up.
+  void AnnoncerBloc() { storage_.AnnoncerBloc(); }
+  // In a block: what will be read once it stands comes back with the word that it does, and belongs
+  // to a block that may come next.
+  void AnnoncerSuite(const std::vector<Annonce>& annonces) { storage_.AnnoncerSuite(annonces); }
   // What came back so far is asked for again: a user is about to be asked something, and others
   // may write before the answer.
   static void Interrompre() noexcept;

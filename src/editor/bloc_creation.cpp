@@ -64,6 +64,7 @@ bool BlocCreation::Stocker(const Reprise& reprise) {
       Maj_EvenementDSN(dossier_, cle, contrat);
       contrat.DBWriteU();
       aidant.DBWriteU();
+      AnnoncerSuite(dossier_, cle, route);
       stocke = true;
     });
   } catch (const Rien&) {

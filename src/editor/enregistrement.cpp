@@ -53,7 +53,7 @@ Avis Enregistrement::Ecrire_Nouveau() {
   }
   if (!bloc.Avis().empty()) editeur_.MessageBox(bloc.Avis(), Boutons::Ok, Icone::Information);
   data::Route route(editeur_.Session().Db->Stockage());
-  AnnoncerSuites(editeur_.Dossier(), route);
+  RelireSuite(editeur_.Dossier(), route);
   Marquer_Suivi();
   Ecrire_Tte();
   if (!Relire()) return Avis::Passe;
@@ -77,6 +77,7 @@ bool Enregistrement::RemplacerEnBloc(data::CItem& surFichier) {
     RompreEnRetour(dossier);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, dossier.ItemContrat);
     dossier.ItemContrat.DBWriteU();
+    AnnoncerSuite(dossier, dossier.CleContratCourant, route);
   });
   return remplace;
 }
@@ -92,7 +93,7 @@ Avis Enregistrement::Ecrire_Existant() {
   data::Route route(dossier.Session.Db->Stockage());
   dossier.SurFichier = dossier.ItemContrat;
   for (const auto& rompu : rompus) editeur_.MessageBox(rompu, Boutons::Ok, Icone::Information);
-  AnnoncerSuites(dossier, route);
+  RelireSuite(dossier, route);
   Marquer_Suivi();
   Ecrire_Tte();
   return Avis::Passe;
@@ -215,24 +216,29 @@ void Enregistrement::Maj_PremiereEmbauche() {
   });
 }
 
+// The missions for the contract's entity end with it. False when none of them is to be changed.
+bool Enregistrement::FinirMissions(data::CItem& missions, long fin) const {
+  using namespace data;
+  const session::Dossier& dossier = editeur_.Dossier();
+  if (!dossier.Session.F_MISSIONSAIDANT.Lire(dossier.Session.CodeAidant, missions)) return false;
+  const std::string avant = missions.Text();
+  for (int v = 1; !missions.Vue(MissionsAidant::Associations, v).empty(); ++v) {
+    const std::string finMission = missions(MissionsAidant::Fins, v);
+    if (missions.Vue(MissionsAidant::Associations, v) == dossier.ItemContrat.Vue(C::Association) &&
+        (finMission.empty() || entier(finMission) > fin)) {
+      missions.Set(MissionsAidant::Fins, v, std::to_string(fin));
+    }
+  }
+  return missions.Text() != avant;
+}
+
 void Enregistrement::Maj_Missions() {
   const session::Dossier& dossier = editeur_.Dossier();
   const auto fin = editeur_.fin.DateFin();
-  if (!fin || dossier.ItemContrat.Vue(C::Type) != "I") return;
-  using namespace data;
+  data::CItem missions;
+  if (!fin || dossier.ItemContrat.Vue(C::Type) != "I" || !FinirMissions(missions, *fin)) return;
   dossier.Session.Db->Stockage().EnUnBloc([&] {
-    CItem missions;
-    if (!dossier.Session.F_MISSIONSAIDANT.Lire(dossier.Session.CodeAidant, missions)) return;
-    const std::string avant = missions.Text();
-    for (int v = 1; !missions.Vue(MissionsAidant::Associations, v).empty(); ++v) {
-      const std::string finMission = missions(MissionsAidant::Fins, v);
-      if (missions.Vue(MissionsAidant::Associations, v) ==
-              dossier.ItemContrat.Vue(C::Association) &&
-          (finMission.empty() || entier(finMission) > *fin)) {
-        missions.Set(MissionsAidant::Fins, v, std::to_string(*fin));
-      }
-    }
-    if (missions.Text() != avant) missions.DBWriteU();
+    if (FinirMissions(missions, *fin)) missions.DBWriteU();
   });
 }
 
@@ -248,7 +254,10 @@ void Enregistrement::Maj_IndexCreation(bool sansLiens) {
   session::Dossier& dossier = editeur_.Dossier();
   session::Session& s = dossier.Session;
   const data::CItem& contrat = dossier.ItemContrat;
+  data::Route route(s.Db->Stockage());
   if (dossier.Particuliers()) {
+    route.AnnoncerBloc();
+    RelireSuite(dossier, route);
     dossier.Tente.inverse = s.CodeAidant + contrat(C::Employeur);
     s.Db->Stockage().EnUnBloc([&] {
       data::CItem inverse;
@@ -261,6 +270,7 @@ void Enregistrement::Maj_IndexCreation(bool sansLiens) {
       }
       inverse.Set(data::ContratInv::Numeros, place, dossier.Tente.numero);
       inverse.DBWriteU();
+      AnnoncerSuite(dossier, dossier.CleContratCourant, route);
     });
   }
   if (sansLiens) return;

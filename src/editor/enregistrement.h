@@ -45,6 +45,7 @@ class Enregistrement {
   void Marquer_Suivi();
   bool RemplacerEnBloc(data::CItem& surFichier);
   void Ecrire_Tte();
+  bool FinirMissions(data::CItem& missions, long fin) const;
   void Maj_PremiereEmbauche();
   void Maj_IndexCreation(bool sansLiens);
   void Maj_IndexAvenants();

@@ -191,11 +191,13 @@ Avis Gardes::Remplacement(const data::CItem& surFichier) {
   if (surFichier.Text() == dossier.SurFichier.Text()) return Avis::Passe;
   if (SupprimeAilleurs(surFichier)) return Avis::Abandonne;
   const auto ecarts = rules::ecartsContrat(dossier.Session.Lib, surFichier, dossier.ItemContrat);
-  const auto tranche =
-      ecarts.empty()
-          ? screen::Tranche::Remplacer
-          : editeur_.Services().conflits.Trancher(
-                {"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier), ecarts});
+  auto tranche = screen::Tranche::Remplacer;
+  if (!ecarts.empty()) {
+    const screen::Conflit conflit{"le contrat " + dossier.NumeroContrat(), dernierAuteur(dossier),
+                                  ecarts};
+    data::Route::Interrompre();
+    tranche = editeur_.Services().conflits.Trancher(conflit);
+  }
   if (tranche == screen::Tranche::Garder) return Avis::Abandonne;
   if (tranche == screen::Tranche::Revenir) return Avis::Reste;
   dossier.SurFichier = surFichier;

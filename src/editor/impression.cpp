@@ -4,6 +4,7 @@
 
 #include "dialogs/frm_impression_a4.h"
 #include "documents/dossier_declaration.h"
+#include "editor/annonces.h"
 #include "editor/editeur.h"
 #include "screen/attente.h"
 
@@ -40,6 +41,8 @@ struct Impression::Lettre {
 
 void Impression::Declaration() {
   const session::Dossier& dossier = editeur_.Dossier();
+  data::Route route(dossier.Session.Db->Stockage());
+  AnnoncerDeclaration(dossier, route);
   documents::DossierDeclaration declaration = documents::lireDossierDeclaration(
       dossier.Session, dossier.CleContratCourant, dossier.ItemContrat);
   declaration.dossierImages = editeur_.Services().aide.Dossier();
@@ -136,6 +139,8 @@ void Impression::NoterDeclaration() const {
     if (!dossier.Session.F_CONTRAT.Lire(dossier.CleContratCourant, contrat)) return;
     contrat.Set(C::DateDeclaration, jour);
     contrat.DBWriteU();
+    data::Route route(dossier.Session.Db->Stockage());
+    AnnoncerSuite(dossier, dossier.CleContratCourant, route);
   });
   for (data::CItem* const item : {&dossier.ItemContrat, &dossier.Initial, &dossier.SurFichier}) {
     item->Set(C::DateDeclaration, jour);

@@ -41,6 +41,7 @@ class OngletPaie : public Onglet {
   }
   void ViderActivites() { activites_.Oublier(); }
 
+  std::vector<std::string> ClesProfils() const { return profils_.Cles(); }
   const PaieActivites& Activites() const { return activites_; }
   PaiePaiement& Paiement() { return paiement_; }
   PaieCotisations& Cotisations() { return cotisations_; }

@@ -28,6 +28,10 @@ class PaieProfils {
   // Profiles of the other kind of employer go.
   void ChangerConvention();
 
+  // The codes that stand in the boxes, "" for none.
+  std::vector<std::string> Cles() const {
+    return {Txt_ProfilContrat.Text(), Txt_ProfilContrat2.Text()};
+  }
   bool Manque() const;
   // The profile rule for the boxes, or for the profiles on file: monthly paid production staff have
   // no profile with a home help heading. False after a message.

@@ -1,6 +1,7 @@
 #include "editor/planning_contrat.h"
 
 #include "dialogs/frm_anomalies_ajoutgraph.h"
+#include "editor/annonces.h"
 #include "editor/editeur.h"
 #include "screen/attente.h"
 
@@ -55,6 +56,8 @@ bool PlanningContrat::Raccourcir(const rules::ContratPlanifie& contrat,
                                  const std::vector<rules::Incidence>& incidences,
                                  std::string& anomalies) {
   data::Db& db = *editeur_.Session().Db;
+  data::Route route(db.Stockage());
+  AnnoncerIncidences(incidences, route);
   const Reponse reponse = Demander(rules::rapportIncidences(db, contrat, incidences, anomalies));
   if (!reponse.acceptee) return false;
   anomalies.clear();

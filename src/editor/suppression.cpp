@@ -1,6 +1,7 @@
 #include "editor/suppression.h"
 
 #include "data/layouts/voisins.h"
+#include "editor/annonces.h"
 #include "editor/editeur.h"
 #include "editor/evenement_dsn.h"
 #include "rules/traitements.h"
@@ -28,6 +29,8 @@ void Suppression::Cmd_SupprimerContrat_Click() {
     return;
   }
   {
+    data::Route route(editeur_.Session().Db->Stockage());
+    AnnoncerSupprimee(editeur_, route);
     const screen::Attente attente(editeur_);
     if (!admis(editeur_,
                rules::Verif_Opposition(*editeur_.Session().Db, editeur_.ContratTraite())) ||
@@ -44,6 +47,8 @@ void Suppression::Cmd_SupprimerContrat_Click() {
 
 bool Suppression::Admise() {
   std::optional<rules::Refus> refus;
+  data::Route route(editeur_.Session().Db->Stockage());
+  AnnoncerSuppression(editeur_, route);
   {
     const screen::Attente attente(editeur_);
     refus = rules::Verif_SuppressionPossible(*editeur_.Session().Db, editeur_.ContratTraite());
@@ -74,8 +79,8 @@ void Suppression::Supprimer() {
     supprime.Set(C::CongesReprisDe, "");
     supprime.Set(C::Annule, C::MarqueAnnule);
     Maj_EvenementDSN(dossier, dossier.CleContratCourant, supprime);
-    supprime.DBWriteU();
     Nettoyer_LiensConges(dossier, dossier.CleContratCourant);
+    supprime.DBWriteU();
   });
 }
 

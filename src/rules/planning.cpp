@@ -5,6 +5,7 @@
 #include "data/cles.h"
 #include "data/jour.h"
 #include "data/layouts/fichiers.h"
+#include "data/layouts/recherches.h"
 #include "data/layouts/voisins.h"
 #include "data/requete.h"
 #include "data/texte.h"
@@ -18,6 +19,20 @@ using data::citer, data::citerDebut;
 constexpr int LongueurUtilisateur = 20;
 constexpr const char* PremierAppel = "AFAIRE";
 constexpr const char* Mandat = "M";
+
+// What shortening an intervention reads, which belongs to the block that does it.
+void annoncer(const std::string& cle, data::Route& route) {
+  namespace f = data::fichier;
+  if (!route.Utile()) return;
+  const std::string aide =
+      data::milieu(cle, data::TpsDetailsInterv::PosAide, data::LongueurCodeAidant);
+  route.AnnoncerBloc();
+  route.Annoncer({{f::TPSDETAILSINTERV, {cle}, {}},
+                  {f::TPSEXCEPTIONS, {}, {}, {{&data::IndexExceptions, data::KeyRange::Une(cle)}}},
+                  {f::TPSPARAM, {data::TpsParam::Cle}, {}},
+                  {f::CIVILAIDE, {aide}, {}},
+                  {f::CIVILAIDANT, {cle.substr(0, data::LongueurCodeAidant)}, {}}});
+}
 
 Sort sortDe(const Intervention& intervention, const ContratPlanifie& contrat,
             const ParametresPlanning& parametres) {
@@ -88,6 +103,8 @@ void MiseAJourPlanning::Appliquer(const std::vector<Incidence>& incidences) {
   try {
     for (const Incidence& incidence : incidences) {
       if (incidence.sort != Sort::SansContrat) {
+        data::Route route(db_.Stockage());
+        annoncer(incidence.intervention.cle, route);
         Remplacer(incidence.intervention.cle);
         db_.Stockage().EnUnBloc([&] { Ecourter(incidence.intervention.cle, incidence.sort); });
       }

@@ -41,10 +41,14 @@ bool parInterventions(const ContratTraite& contrat) {
 
 }  // namespace
 
-std::optional<Refus> Verif_SuppressionPossible(data::Db& db, const ContratTraite& contrat) {
+std::vector<std::string_view> fichiersTraites(const ContratTraite& contrat) {
   std::vector<std::string_view> fichiers = fichiersMensuels(contrat);
   if (parInterventions(contrat)) fichiers.push_back(fichier::DETAILINTER);
-  for (const auto nom : fichiers) {
+  return fichiers;
+}
+
+std::optional<Refus> Verif_SuppressionPossible(data::Db& db, const ContratTraite& contrat) {
+  for (const auto nom : fichiersTraites(contrat)) {
     if (trouve(db, Requete(nom).Avec(Cle, "=", citerDebut(contrat.cle)))) {
       return Refus{
           "Suppression impossible du contrat car des traitements ont été effectués sur celui-ci."};

@@ -5,6 +5,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "data/db.h"
 #include "rules/refus.h"
@@ -23,6 +25,8 @@ struct ContratTraite {
   std::string typeActivite;
 };
 
+// The files that hold its results, under keys that begin with its own.
+std::vector<std::string_view> fichiersTraites(const ContratTraite& contrat);
 // Any payslip was computed for it.
 std::optional<Refus> Verif_SuppressionPossible(data::Db& db, const ContratTraite& contrat);
 // One was computed for a month after `mois`, AAAAMM: the month of its end, or that of its last

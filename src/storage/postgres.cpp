@@ -174,15 +174,23 @@ void PostgresStorage::DebuterRoute() {
 }
 
 void PostgresStorage::FinirRoute() noexcept {
-  moteur_->Route().Finir();
+  moteur_->FinirRoute();
 }
 
 void PostgresStorage::OublierRoute() noexcept {
-  moteur_->Route().Vider();
+  moteur_->OublierRoute();
 }
 
 void PostgresStorage::Annoncer(const std::vector<data::Annonce>& annonces) {
   moteur_->Annoncer(annonces);
+}
+
+void PostgresStorage::AnnoncerBloc() {
+  moteur_->Promettre();
+}
+
+void PostgresStorage::AnnoncerSuite(const std::vector<data::Annonce>& annonces) {
+  moteur_->NoterSuite(annonces);
 }
 
 void PostgresStorage::ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) {

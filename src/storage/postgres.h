@@ -70,6 +70,8 @@ class PostgresStorage : public Magasin {
   void FinirRoute() noexcept override;
   void OublierRoute() noexcept override;
   void Annoncer(const std::vector<data::Annonce>& annonces) override;
+  void AnnoncerBloc() override;
+  void AnnoncerSuite(const std::vector<data::Annonce>& annonces) override;
 
   void ParcourirAnciens(std::string_view avant, const VisiteurAnciens& visiteur) override;
   void OublierAvant(std::string_view avant) override;

@@ -108,6 +108,7 @@ bool PostgresStorage::Moteur::Lire(const Acte& acte, std::string& texte) {
     if (connu->has_value()) texte = **connu;
     return connu->has_value();
   }
+  if (Rappeler(acte.fichier, acte.cle)) return Lire(acte, texte);
   const auto reponses = Interroger(acte, 1, [&] {
     lien_.Envoyer(kLire, Parametres().Texte(acte.fichier).Texte(acte.cle), acte);
   });
@@ -137,6 +138,7 @@ void PostgresStorage::Moteur::Parcourir(const Acte& acte, const data::KeyRange& 
     Servir(*connus, cles, visiteur);
     return;
   }
+  if (Rappeler(acte.fichier, cles.debut)) return Parcourir(acte, cles, visiteur);
   const auto reponses = Interroger(
       acte, 1, [&] { lien_.Envoyer(kPlage, parametresPlage(acte.fichier, cles), acte); });
   const Reponse& reponse = reponses.front();
@@ -173,13 +175,8 @@ void PostgresStorage::Moteur::Feuilleter(const Acte& acte, data::KeyRange cles,
   }
 }
 
-void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonces) {
-  if (!route_.Ouverte()) return;
-  struct Demande {
-    std::string_view fichier;
-    std::vector<std::string_view> cles;     // either these
-    const data::KeyRange* plage = nullptr;  // or that
-  };
+std::vector<PostgresStorage::Moteur::Demande> PostgresStorage::Moteur::Inconnues(
+    const std::vector<data::Annonce>& annonces) {
   std::vector<Demande> demandes;
   for (const data::Annonce& annonce : annonces) {
     Demande cles{annonce.fichier, {}};
@@ -191,19 +188,33 @@ void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonce
       if (plage.Vide() || route_.Plage(annonce.fichier, plage)) continue;
       demandes.push_back({annonce.fichier, {}, &plage});
     }
-  }
-  if (demandes.empty()) return;
-  const auto reponses = Interroger(kAnnonce, demandes.size(), [&] {
-    for (const Demande& d : demandes) {
-      if (d.plage != nullptr) {
-        lien_.Envoyer(kPlage, parametresPlage(d.fichier, *d.plage), kAnnonce);
-      } else {
-        lien_.Envoyer(kLireCles, Parametres().Texte(d.fichier).Textes(d.cles), kAnnonce);
-      }
+    for (const data::Chemin& chemin : annonce.chemins) {
+      if (!route_.Chemin(chemin)) demandes.push_back({annonce.fichier, {}, nullptr, &chemin});
     }
-  });
+  }
+  return demandes;
+}
+
+void PostgresStorage::Moteur::EnvoyerDemandes(const std::vector<Demande>& demandes) {
+  for (const Demande& d : demandes) {
+    if (d.plage != nullptr) {
+      lien_.Envoyer(kPlage, parametresPlage(d.fichier, *d.plage), kAnnonce);
+    } else if (d.chemin != nullptr) {
+      EnvoyerPoignee({kAnnonce.nom, d.fichier}, *d.chemin, kPoignee);
+    } else {
+      lien_.Envoyer(kLireCles, Parametres().Texte(d.fichier).Textes(d.cles), kAnnonce);
+    }
+  }
+}
+
+void PostgresStorage::Moteur::RetenirDemandes(const std::vector<Demande>& demandes,
+                                              const std::vector<Reponse>& reponses) {
   for (std::size_t i = 0; i < demandes.size(); ++i) {
     const Demande& d = demandes[i];
+    if (d.chemin != nullptr) {
+      RetenirPoignee(reponses[i], *d.chemin, kPoignee);
+      continue;
+    }
     // What is too much to be kept is read when it is asked for.
     if (d.plage != nullptr && reponses[i].Lignes() > kPage) continue;
     const auto rangs = Relire(reponses[i], d.fichier, 0);
@@ -216,28 +227,82 @@ void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonce
   }
 }
 
+void PostgresStorage::Moteur::Annoncer(const std::vector<data::Annonce>& annonces) {
+  if (!route_.Ouverte()) return;
+  if (!enBloc_) annoncees_.insert(annoncees_.end(), annonces.begin(), annonces.end());
+  const std::vector<Demande> demandes = Inconnues(annonces);
+  if (demandes.empty()) return;
+  RetenirDemandes(demandes,
+                  Interroger(kAnnonce, demandes.size(), [&] { EnvoyerDemandes(demandes); }));
+}
+
+// True when that read was announced and what came back forgotten: it has come back anew.
+bool PostgresStorage::Moteur::Rappeler(std::string_view fichier, std::string_view cle) {
+  if (!oubliees_ || enBloc_ || enUnEtat_) return false;
+  const bool annoncee = std::any_of(annoncees_.begin(), annoncees_.end(), [&](const auto& a) {
+    return a.fichier == fichier &&
+           (std::find(a.cles.begin(), a.cles.end(), cle) != a.cles.end() ||
+            std::any_of(a.plages.begin(), a.plages.end(),
+                        [&](const data::KeyRange& plage) { return plage.Contient(cle); }));
+  });
+  if (!annoncee) return false;
+  oubliees_ = false;
+  if (std::exchange(blocOublie_, false)) Promettre();
+  Annoncer(std::exchange(annoncees_, {}));
+  return true;
+}
+
+void PostgresStorage::Moteur::OublierRoute() noexcept {
+  route_.Vider();
+  oubliees_ = !annoncees_.empty();
+  blocOublie_ = blocOublie_ || promis_;
+  Renoncer();
+}
+
+void PostgresStorage::Moteur::FinirRoute() noexcept {
+  route_.Finir();
+  if (route_.Ouverte()) return;
+  OublierAnnonces();
+  Renoncer();
+}
+
+void PostgresStorage::Moteur::OublierAnnonces() noexcept {
+  annoncees_.clear();
+  oubliees_ = false;
+  blocOublie_ = false;
+}
+
+void PostgresStorage::Moteur::EnvoyerPoignee(const Acte& acte, const data::Chemin& chemin,
+                                             std::size_t plafond) {
+  lien_.Envoyer(kPoignees,
+                Parametres()
+                    .Texte(acte.fichier)
+                    .Nombre(data::rangIndex(*chemin.index))
+                    .Texte(chemin.valeurs.debut)
+                    .Texte(finDe(chemin.valeurs))
+                    .Nombre(static_cast<std::int64_t>(plafond)),
+                acte);
+}
+
+// How many there are, at most `plafond`; nothing while the indexes are not those of this program.
+std::optional<std::size_t> PostgresStorage::Moteur::RetenirPoignee(const Reponse& reponse,
+                                                                   const data::Chemin& chemin,
+                                                                   std::size_t plafond) {
+  if (reponse.Lignes() == 0 || reponse.Nombre(0, 0) != signatureIndex()) return std::nullopt;
+  Rangs rangs = *Relire(reponse, chemin.index->fichier, 1);
+  const std::size_t compte = rangs.size();
+  ordonner(rangs);
+  if (compte < plafond) route_.Retenir(chemin, std::make_shared<Rangs>(std::move(rangs)));
+  return compte;
+}
+
 // Within a road the few records of a way are fetched with their number: whoever counts them asks
 // for them next.
 std::optional<std::size_t> PostgresStorage::Moteur::CompterEtRetenir(const Acte& acte,
                                                                      const data::Chemin& chemin,
                                                                      std::size_t plafond) {
-  const auto reponses = Interroger(acte, 1, [&] {
-    lien_.Envoyer(kPoignees,
-                  Parametres()
-                      .Texte(acte.fichier)
-                      .Nombre(data::rangIndex(*chemin.index))
-                      .Texte(chemin.valeurs.debut)
-                      .Texte(finDe(chemin.valeurs))
-                      .Nombre(static_cast<std::int64_t>(plafond)),
-                  acte);
-  });
-  const Reponse& reponse = reponses.front();
-  if (reponse.Lignes() == 0 || reponse.Nombre(0, 0) != signatureIndex()) return std::nullopt;
-  Rangs rangs = *Relire(reponse, acte.fichier, 1);
-  const std::size_t compte = rangs.size();
-  ordonner(rangs);
-  if (compte < plafond) route_.Retenir(chemin, std::make_shared<Rangs>(std::move(rangs)));
-  return compte;
+  const auto reponses = Interroger(acte, 1, [&] { EnvoyerPoignee(acte, chemin, plafond); });
+  return RetenirPoignee(reponses.front(), chemin, plafond);
 }
 
 std::optional<std::size_t> PostgresStorage::Moteur::Compter(const Acte& acte,
@@ -294,7 +359,7 @@ std::optional<Rangs> PostgresStorage::Moteur::LireChemins(
   }
   bool tenus = true;
   // One order sees one state by itself; several see one in a transaction, which goes with them.
-  const bool ensemble = inconnus.size() > 1 && !enBloc_ && !enUnEtat_;
+  const bool ensemble = inconnus.size() > 1 && !enBloc_ && !enUnEtat_ && !promis_;
   std::vector<Reponse> reponses;
   if (!inconnus.empty()) {
     reponses = Interroger(acte, inconnus.size() + (ensemble ? 2 : 0), [&] {

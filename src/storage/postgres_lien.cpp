@@ -15,6 +15,7 @@ namespace storage {
 namespace {
 
 constexpr int kBinaire = 1;
+constexpr const char* kBorne = "|";
 constexpr int kAttenteConnexionMs = 10000;
 // Orders after which statements are planned anew, and how much later each time.
 constexpr long kPremierPlan = 100;
@@ -179,6 +180,7 @@ void Lien::Connecter(const Acte& acte) {
   valeurs.push_back(nullptr);
   prepares_.clear();
   attendus_.clear();
+  enPartance_ = false;
   envois_ = 0;
   prochainPlan_ = kPremierPlan;
   connexion_.reset(PQconnectStartParams(noms.data(), valeurs.data(), 1));
@@ -237,8 +239,10 @@ bool Lien::Vivant() {
   }
 }
 
-void Lien::Assurer(const Acte& acte) {
-  if (!Vivant()) Connecter(acte);
+bool Lien::Assurer(const Acte& acte) {
+  if (Vivant()) return true;
+  Connecter(acte);
+  return false;
 }
 
 void Lien::Reconnecter(const Acte& acte) {
@@ -246,6 +250,7 @@ void Lien::Reconnecter(const Acte& acte) {
 }
 
 void Lien::Noter(const char* prepare, const Acte& acte) {
+  enPartance_ = true;
   attendus_.push_back(
       {prepare, std::string(acte.nom), std::string(acte.fichier), std::string(acte.cle)});
 }
@@ -302,26 +307,46 @@ void Lien::Partir() {
   if (connexion_ != nullptr && PQflush(connexion_.get()) != 0) Couper();
 }
 
-std::vector<Reponse> Lien::Attendre() {
+void Lien::Borner(const Acte& acte) {
   PGconn* const c = connexion_.get();
+  if (c == nullptr || PQpipelineSync(c) == 0) Couper();
+  Noter(kBorne, acte);
+}
+
+// The answer to the first of what is waited for, which stays there.
+Reponse Lien::Recevoir() {
+  PGconn* const c = connexion_.get();
+  Reponse reponse(PQgetResult(c));
+  const bool borne = attendus_.front().prepare == kBorne;
+  if (PQstatus(c) == CONNECTION_BAD || reponse.FinDeVoyage() != borne) Couper();
+  if (!borne) PQclear(PQgetResult(c));  // the end of this order's answer, nothing
+  return reponse;
+}
+
+std::vector<Reponse> Lien::Attendre() {
   std::vector<Reponse> reponses;
   if (attendus_.empty()) return reponses;
-  ++voyages_;
+  if (std::exchange(enPartance_, false)) {
+    ++voyages_;
+    const Attendu& dernier = attendus_.back();
+    if (dernier.prepare != kBorne) Borner({dernier.acte, dernier.fichier, dernier.cle});
+    enPartance_ = false;
+  }
   std::optional<PanneServeur> panne;
-  if (c == nullptr || PQpipelineSync(c) == 0) Couper();
-  while (!attendus_.empty()) {
-    Reponse reponse(PQgetResult(c));
-    const Attendu attendu = attendus_.front();
-    const Acte acte{attendu.acte, attendu.fichier, attendu.cle};
-    if (PQstatus(c) == CONNECTION_BAD || reponse.FinDeVoyage()) Couper();
-    attendus_.pop_front();
+  for (bool encore = true; encore && !attendus_.empty(); attendus_.pop_front()) {
+    Reponse reponse = Recevoir();
+    const Attendu& attendu = attendus_.front();
+    if (attendu.prepare == kBorne) {
+      encore = panne.has_value();
+      continue;
+    }
     const bool fait = reponse.Faite();
     if (!fait && attendu.prepare != nullptr) prepares_.erase(attendu.prepare);
-    if (!fait && !panne) panne = reponse.Panne(adresse_, acte);
+    if (!fait && !panne) {
+      panne = reponse.Panne(adresse_, {attendu.acte, attendu.fichier, attendu.cle});
+    }
     if (attendu.prepare == nullptr) reponses.push_back(std::move(reponse));
-    PQclear(PQgetResult(c));  // the end of this order's answer, nothing
   }
-  PQclear(PQgetResult(c));  // the end of the trip
   if (panne) throw *panne;
   return reponses;
 }

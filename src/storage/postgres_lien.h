@@ -74,13 +74,18 @@ class Lien {
 
   // The address to show: it holds no password.
   const std::string& Adresse() const { return adresse_; }
-  // Connects anew when the server has closed the line meanwhile. Nothing is under way.
-  void Assurer(const Acte& acte);
+  // Connects anew when the server has closed the line meanwhile: false then, and what was under way
+  // is no more.
+  bool Assurer(const Acte& acte);
   void Reconnecter(const Acte& acte);
 
   void Envoyer(const Ordre& ordre, const Parametres& parametres, const Acte& acte);
-  // The answers to all that was sent since the last wait, in order. The first failure of one is a
-  // PanneServeur, after which the rest of them was not done.
+  // What follows is done whether what precedes it is or not, and is waited for by itself. It goes
+  // along on the same trip.
+  void Borner(const Acte& acte);
+  // The answers to all that was sent since the last wait, in order, up to the next border. The
+  // first failure of one is a PanneServeur, after which the rest of them was not done; what follows
+  // a border then comes back and is dropped.
   std::vector<Reponse> Attendre();
   // Sends what was put on its way, without waiting for an answer.
   void Partir();
@@ -91,7 +96,8 @@ class Lien {
 
  private:
   struct Attendu {
-    const char* prepare;  // null for an order; else what was prepared, "" when all was let go of
+    const char* prepare;  // null for an order; else what was prepared, "" when all was let go of,
+                          // kBorne
     std::string acte;
     std::string fichier;
     std::string cle;
@@ -105,6 +111,7 @@ class Lien {
   bool Vivant();
   void Replanifier(const Acte& acte);
   void Noter(const char* prepare, const Acte& acte);
+  Reponse Recevoir();
   [[noreturn]] void Couper();
 
   std::string base_;
@@ -114,7 +121,8 @@ class Lien {
   std::deque<Attendu> attendus_;
   std::set<std::string_view> prepares_;
   long voyages_ = 0;
-  long envois_ = 0;  // over this connection
+  bool enPartance_ = false;  // something was sent since the last wait
+  long envois_ = 0;          // over this connection
   long prochainPlan_ = 0;
   int generation_ = 0;  // of the statements that are prepared
 };

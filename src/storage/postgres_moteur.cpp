@@ -178,20 +178,28 @@ std::vector<Reponse> PostgresStorage::Moteur::Interroger(const Acte& acte, std::
       Rompre(panne);
     }
   }
-  lien_.Assurer(acte);
+  if (!lien_.Assurer(acte)) promis_ = false;
   try {
     envoyer();
     return Exiger(lien_.Attendre(), nombre);
   } catch (const PanneServeur& panne) {
-    if (!panne.Coupure()) throw;
+    if (panne.Coupure()) {
+      promis_ = false;
+      lien_.Reconnecter(acte);
+    } else if (promis_) {
+      // Not for the sake of a block that may not come.
+      Renoncer();
+    } else {
+      throw;
+    }
   }
-  lien_.Reconnecter(acte);
   envoyer();
   return Exiger(lien_.Attendre(), nombre);
 }
 
 void PostgresStorage::Moteur::EnUnEtat(const Acte& acte, const std::function<void()>& travail) {
   if (enBloc_ || enUnEtat_) return travail();
+  Renoncer();
   lien_.Assurer(acte);
   lien_.Envoyer(kDebutLecture, {}, acte);
   enUnEtat_ = true;
@@ -223,6 +231,7 @@ std::vector<Reponse> PostgresStorage::Moteur::Ecrire(const Acte& acte, std::size
       Rompre(panne);
     }
   }
+  Renoncer();
   bool coupee = false;
   for (Attente attente(options_.attenteMs);;) {
     try {
@@ -338,23 +347,57 @@ bool PostgresStorage::Moteur::Confirmer(const Acte& acte) {
 
 // False when it can be run again, and nothing of it stands: another station got in between, or the
 // line was cut for the first time.
+void PostgresStorage::Moteur::Promettre() {
+  if (!route_.Ouverte() || enBloc_ || enUnEtat_ || lecture_) return;
+  if (!lien_.Assurer(kBloc)) promis_ = false;
+  if (std::exchange(promis_, true)) return;
+  route_.Vider();
+  try {
+    lien_.Envoyer(kDebut, {}, kBloc);
+  } catch (const PanneServeur&) {
+    promis_ = false;  // the line was cut: the next read finds it
+  }
+}
+
+void PostgresStorage::Moteur::Renoncer() noexcept {
+  if (std::exchange(promis_, false)) Annuler();
+}
+
+void PostgresStorage::Moteur::NoterSuite(const std::vector<data::Annonce>& annonces) {
+  if (enBloc_ && route_.Ouverte()) suite_ = annonces;
+}
+
+// False when it can be run again, and nothing of it stands: another station got in between, or the
+// line was cut for the first time.
 bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool& coupee) {
-  lien_.Assurer(kBloc);
-  lien_.Envoyer(kDebut, {}, kBloc);
+  bool tenue = promis_;
+  try {
+    tenue = lien_.Assurer(kBloc) && tenue;
+  } catch (const PanneServeur&) {
+    promis_ = false;
+    if (coupee) throw erreur(NumeroErreur::EntreeSortie, lien_.Adresse(), kBloc, kPasFait);
+    throw;
+  }
+  promis_ = false;
+  OublierAnnonces();
+  if (!tenue) {
+    lien_.Envoyer(kDebut, {}, kBloc);
+    route_.Vider();
+  }
   struct Bloc {
     Moteur& moteur;
     explicit Bloc(Moteur& m) : moteur(m) {
       moteur.enBloc_ = true;
       moteur.ecrit_ = false;
       moteur.ecrits_.clear();
-      moteur.route_.Vider();
+      moteur.suite_.clear();
     }
     ~Bloc() {
       moteur.enBloc_ = false;
       moteur.aReprendre_ = false;
       moteur.coupure_ = false;
       moteur.rupture_ = nullptr;
-      moteur.route_.Vider();
+      if (!moteur.promis_) moteur.route_.Vider();
     }
     Bloc(const Bloc&) = delete;
     Bloc& operator=(const Bloc&) = delete;
@@ -370,14 +413,30 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool&
     throw;
   }
   if (!ecrit_) {
-    Annuler();
+    suite_.clear();
+    // What it has read serves the next block.
+    promis_ = route_.Ouverte();
+    if (!promis_) Annuler();
     return true;
   }
+  return Finir(coupee);
+}
+
+bool PostgresStorage::Moteur::Finir(bool& coupee) {
   try {
     lien_.Envoyer(kFin, {}, kBloc);
+    if (!route_.Ouverte()) suite_.clear();
+    if (!suite_.empty()) {
+      lien_.Borner(kBloc);
+      lien_.Envoyer(kDebut, {}, kBloc);
+      route_.Vider();
+      demandesSuite_ = Inconnues(suite_);
+      EnvoyerDemandes(demandesSuite_);
+    }
     lien_.Attendre();
     return true;
   } catch (const PanneServeur& panne) {
+    suite_.clear();
     if (panne.Coupure()) {
       enBloc_ = false;
       route_.Vider();
@@ -391,6 +450,20 @@ bool PostgresStorage::Moteur::Tenter(const std::function<void()>& travail, bool&
   }
 }
 
+// What came back behind the end of a block, which stands. When it did not come, it is read when it
+// is asked for.
+void PostgresStorage::Moteur::RetenirSuite() {
+  if (suite_.empty()) return;
+  promis_ = true;
+  try {
+    RetenirDemandes(demandesSuite_, Exiger(lien_.Attendre(), demandesSuite_.size()));
+  } catch (const data::StoreError&) {
+    route_.Vider();
+    Renoncer();
+  }
+  suite_.clear();
+}
+
 void PostgresStorage::Moteur::EnUnBloc(const std::function<void()>& travail) {
   ExigerRepos();
   ExigerEcriture(kBloc);
@@ -399,6 +472,7 @@ void PostgresStorage::Moteur::EnUnBloc(const std::function<void()>& travail) {
     if (attente.Finie()) throw erreurServeur("40001", "", lien_.Adresse(), kBloc);
     attente.Patienter();
   }
+  RetenirSuite();
 }
 
 }  // namespace storage

@@ -37,6 +37,11 @@ class PostgresStorage::Moteur {
   bool ParcourirChemins(const Acte& acte, const std::vector<data::Chemin>& chemins,
                         const Visiteur& visiteur);
   void Annoncer(const std::vector<data::Annonce>& annonces);
+  // Begins the transaction of the block to come, and gives it up.
+  void Promettre();
+  void Renoncer() noexcept;
+  // What is fetched behind the end of the block under way.
+  void NoterSuite(const std::vector<data::Annonce>& annonces);
   // The answers to the `nombre` orders that `envoyer` sends, in one trip: in the block under way,
   // or over a connection that is made anew when it was lost.
   std::vector<Reponse> Interroger(const Acte& acte, std::size_t nombre,
@@ -54,6 +59,10 @@ class PostgresStorage::Moteur {
   void EnUnBloc(const std::function<void()>& travail);
   void EnvoyerEntrees(const Acte& acte, const std::vector<data::EntreeIndex>& entrees);
 
+  // A question to the user, and the end of the road.
+  void OublierRoute() noexcept;
+  void FinirRoute() noexcept;
+
   Lien& LaLigne() { return lien_; }
   MemoireDeRoute& Route() { return route_; }
   void ExigerRepos() const;
@@ -61,6 +70,13 @@ class PostgresStorage::Moteur {
  private:
   using Horloge = std::chrono::steady_clock;
   class Attente;
+  // A part of what was announced that is not known yet.
+  struct Demande {
+    std::string_view fichier;
+    std::vector<std::string_view> cles;     // either these
+    const data::KeyRange* plage = nullptr;  // or that
+    const data::Chemin* chemin = nullptr;   // or these
+  };
 
   void ExigerBlocSain() const;
   void ExigerEcriture(const Acte& acte) const;
@@ -75,11 +91,21 @@ class PostgresStorage::Moteur {
                              std::string_view cle) const;
   bool Servir(const Rangs& rangs, const data::KeyRange& cles, const Visiteur& visiteur);
   void Feuilleter(const Acte& acte, data::KeyRange cles, const Visiteur& visiteur);
+  std::vector<Demande> Inconnues(const std::vector<data::Annonce>& annonces);
+  void EnvoyerDemandes(const std::vector<Demande>& demandes);
+  void RetenirDemandes(const std::vector<Demande>& demandes, const std::vector<Reponse>& reponses);
+  bool Rappeler(std::string_view fichier, std::string_view cle);
+  void OublierAnnonces() noexcept;
+  void EnvoyerPoignee(const Acte& acte, const data::Chemin& chemin, std::size_t plafond);
+  std::optional<std::size_t> RetenirPoignee(const Reponse& reponse, const data::Chemin& chemin,
+                                            std::size_t plafond);
   void EnvoyerChemin(const Acte& acte, const data::Chemin& chemin);
   std::optional<std::size_t> CompterEtRetenir(const Acte& acte, const data::Chemin& chemin,
                                               std::size_t plafond);
   std::optional<Rangs> LireChemins(const Acte& acte, const std::vector<data::Chemin>& chemins);
   bool Tenter(const std::function<void()>& travail, bool& coupee);
+  bool Finir(bool& coupee);
+  void RetenirSuite();
   // After a connection that was lost with the end of a block on its way: whether it stands.
   bool Confirmer(const Acte& acte);
   bool ToutEcrit(const Acte& acte);
@@ -91,6 +117,13 @@ class PostgresStorage::Moteur {
   MemoireDeRoute route_;
   bool enBloc_ = false;
   bool enUnEtat_ = false;
+  bool promis_ = false;  // the transaction of the block to come has begun, for reads so far
+  // What was announced on this road, and forgotten over a question; with the block to come.
+  std::vector<data::Annonce> annoncees_;
+  bool oubliees_ = false;
+  bool blocOublie_ = false;
+  std::vector<data::Annonce> suite_;  // of the block under way
+  std::vector<Demande> demandesSuite_;
   int parcours_ = 0;            // scans under way
   bool ecrit_ = false;          // by the block under way
   std::exception_ptr rupture_;  // the first order of the block that failed

@@ -256,10 +256,12 @@ TEST_F(Postgres, AnAnswerThatIsLostIsNoWriteThatIsLost) {
   const auto store =
       PostgresStorage::Ouvrir(adresse_.substr(0, hote) + ici.Dossier().string(), poste_);
   int tours = 0;
+  data::Route route(*store);
   store->EnUnBloc([&] {
     ++tours;
     store->Put("CONTRAT", "0", "b");
     store->Put("PAYS", "1", "p");
+    route.AnnoncerSuite({{"PAYS", {"1"}, {}}});
     relais.PerdreLaReponse();
   });
   EXPECT_EQ(tours, 1);
@@ -291,6 +293,15 @@ TEST_F(Postgres, AServerThatIsDownIsToldAndFoundAgain) {
   EXPECT_EQ(refus([&] { store->Put("CONTRAT", "0", "b"); }), "EntreeSortie CONTRAT 0");
   EXPECT_EQ(refus([&] { store->EnUnBloc([&] { store->Put("CONTRAT", "0", "b"); }); }),
             "EntreeSortie");
+  serveur_.Demarrer();
+  EXPECT_EQ(etat(*store), "CONTRAT[0=a]");
+  const auto enPleinBloc = [&] {
+    store->Put("CONTRAT", "0", "b");
+    serveur_.Arreter();
+    store->Get("CONTRAT", "0", texte);
+  };
+  EXPECT_EQ(refus([&] { store->EnUnBloc(enPleinBloc); }, &message), "EntreeSortie");
+  EXPECT_NE(message.find("rien de cette écriture n'est fait"), std::string::npos) << message;
   serveur_.Demarrer();
   EXPECT_EQ(etat(*store), "CONTRAT[0=a]");
 }
@@ -403,6 +414,49 @@ TEST_F(Postgres, WhatIsAnnouncedTakesOneTrip) {
               });
             }),
             1);
+}
+
+// The decision to write and the write are one transaction, and two trips with what follows it.
+TEST_F(Postgres, WhatIsReadForABlockBelongsToIt) {
+  const auto store = Ouvrir();
+  const auto autre = Ouvrir();
+  const struct {
+    const char* nom;
+    std::function<void()> entre;  // between the reads and the block
+    std::string lus;              // by each run of the block
+    long voyages;
+  } cas[] = {
+      {"alone", [] {}, " a", 2},
+      {"another station wrote", [&] { autre->Put("CONTRAT", "0", "b"); }, " a b", 4},
+      {"a question", [&] { data::Route::Interrompre(), autre->Put("CONTRAT", "0", "b"); }, " b", 3},
+      {"a write", [&] { autre->Put("CONTRAT", "0", "b"), store->Put("PAYS", "1", "p"); }, " b", 4},
+      {"a line cut", [&] { serveur_.CouperTout(), autre->Put("CONTRAT", "0", "b"); }, " b", 3},
+  };
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.nom);
+    autre->Put("CONTRAT", "0", "a");
+    const long avant = store->Voyages();
+    std::string lus;
+    std::string texte;
+    {
+      data::Route route(*store);
+      route.AnnoncerBloc();
+      route.Annoncer({{"CONTRAT", {"0"}, {}}});
+      store->Get("CONTRAT", "0", texte);
+      c.entre();
+      store->EnUnBloc([&] {
+        store->Get("CONTRAT", "0", texte);
+        lus += " " + texte;
+        store->Put("CONTRAT", "0", texte + "+");
+        route.AnnoncerSuite({{"CONTRAT", {"0"}, {}}});
+      });
+      store->Get("CONTRAT", "0", texte);
+    }
+    EXPECT_EQ(lus, c.lus);
+    EXPECT_EQ(" " + texte, " " + lus.substr(lus.size() - 1) + "+");
+    EXPECT_EQ(store->Voyages() - avant, c.voyages);
+    EXPECT_EQ(etat(*autre).substr(0, 13), "CONTRAT[0=" + texte + "]");
+  }
 }
 
 TEST_F(Postgres, AQuestionByAnIndexTakesOneTrip) {

@@ -56,6 +56,10 @@ class RelaisStorage : public data::Storage {
     if (ALaLigne()) Appel({}, {});
     dessous_.Annoncer(annonces);
   }
+  void AnnoncerBloc() override { dessous_.AnnoncerBloc(); }
+  void AnnoncerSuite(const std::vector<data::Annonce>& annonces) override {
+    dessous_.AnnoncerSuite(annonces);
+  }
 
  protected:
   // Before everything but a write.

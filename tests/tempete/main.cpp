@@ -3,7 +3,8 @@
 // Stations, each a process of its own, create, change, end and delete contracts of the same carers
 // through the screens for a while, on one data file, on one server, or on both in turn. Then no
 // contract that a station was told is stored may be missing, no number given twice, and the data
-// tool's check must be silent.
+// tool's check must be silent. The summary counts what passed, what was refused, and how often a
+// station was asked whose version of a contract stands.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,6 +26,7 @@
 #include "demo/generateur.h"
 #include "pilote/programme.h"
 #include "storage/ouvrir.h"
+#include "support/relais_storage.h"
 #include "support/serveur.h"
 #include "support/temp_dir.h"
 
@@ -75,6 +77,24 @@ std::string employeurCommun() {
 std::string remplacer(std::string texte, const std::string& mot, const std::string& par) {
   return texte.replace(texte.find(mot), mot.size(), par);
 }
+
+// The store of one act. Its screens ask for the history of a contract when they ask the user whose
+// version stands, and at no other time.
+class Temoin : public support::RelaisStorage {
+ public:
+  Temoin(std::unique_ptr<data::Storage> dessous, int& questions)
+      : RelaisStorage(*dessous), dessous_(std::move(dessous)), questions_(questions) {}
+
+  std::vector<data::AncienTexte> Historique(std::string_view fichier,
+                                            std::string_view cle) override {
+    ++questions_;
+    return RelaisStorage::Historique(fichier, cle);
+  }
+
+ private:
+  std::unique_ptr<data::Storage> dessous_;
+  int& questions_;
+};
 
 class Poste {
  public:
@@ -155,7 +175,12 @@ class Poste {
     std::istringstream entree(scenario);
     std::ostringstream sortie;
     std::ostringstream erreurs;
-    const int code = pilote::executer(arguments, entree, sortie, erreurs);
+    int questions = 0;
+    const int code = pilote::executer(
+        arguments, entree, sortie, erreurs, [&](const std::string& chemin, const auto& poste) {
+          return std::make_unique<Temoin>(pilote::ouvrirBase(chemin, poste), questions);
+        });
+    for (; questions > 0; --questions) journal_ << "question " << acte << std::endl;
     journal_ << (code == 0 ? "fait " : "refuse ") << acte << std::endl;
     if (code == 0) return true;
     std::string erreur = erreurs.str();

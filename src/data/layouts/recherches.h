@@ -41,6 +41,10 @@ inline constexpr Index IndexTenus[] = {
     // The contracts by the days that must not be missed.
     {fichier::CONTRAT, 0, "Echeances", &valeursEcheances},
 };
+inline constexpr const Index& IndexReportes = IndexTenus[0];
+inline constexpr const Index& IndexRepris = IndexTenus[1];
+inline constexpr const Index& IndexExceptions = IndexTenus[4];
+inline constexpr const Index& IndexMainOeuvre = IndexTenus[5];
 // The last one, for who walks it.
 inline constexpr const Index& IndexEcheances = IndexTenus[std::size(IndexTenus) - 1];
 
