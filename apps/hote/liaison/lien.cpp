@@ -14,6 +14,7 @@
 #include <array>
 #include <utility>
 
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
 #include "screen/animation.h"
@@ -164,9 +165,19 @@ class LienFleches : public LienPlage<QSpinBox> {
       : LienPlage(liaison, champ, fleches) {
     if (auto* const nombre = fleches.findChild<QLineEdit*>()) nombre->setReadOnly(true);
   }
+
+ protected:
+  void PousserDisponibilite() override {
+    LienPlage::PousserDisponibilite();
+    Widget().setEnabled(Champ().Enabled() && !Fige());
+  }
 };
 
 }  // namespace
+
+bool Lien::Fige() const {
+  return liaison_.Consultation() && !widget_.property(ProprieteConsultable).toBool();
+}
 
 void Lien::Pousser() {
   PousserEtat();

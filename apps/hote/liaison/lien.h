@@ -43,6 +43,8 @@ class Lien : public QObject {
   virtual void PousserEtat() {}
   virtual void PousserDisponibilite();
   Liaison& Binder() const { return liaison_; }
+  // Nothing that the field would take can be saved: it is there to be read.
+  bool Fige() const;
 
  private:
   Liaison& liaison_;
