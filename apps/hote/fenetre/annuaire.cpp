@@ -159,10 +159,11 @@ QVariant Annuaire::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::AccessibleDescriptionRole) return "Aidant ouvert";
   }
-  if (role == Qt::ToolTipRole && aidant.supprime) return "Aidant supprimé : aucun ajout possible";
-  // The list's own leaves out what it takes to be read in the row.
-  if (role == Qt::ToolTipRole && !distinction.isEmpty()) {
-    return (versQt(aidant.nomPrenom) + distinction).toHtmlEscaped();
+  // A narrow list leaves out the code and the end of a name.
+  if (role == Qt::ToolTipRole) {
+    const QString entier = versQt(aidant.code + " " + aidant.nomPrenom) + distinction;
+    const char* const etat = aidant.supprime ? "<br>Aidant supprimé : aucun ajout possible" : "";
+    return entier.toHtmlEscaped() + etat;
   }
   if (role == Qt::ForegroundRole && aidant.supprime) {
     return QGuiApplication::palette().brush(QPalette::PlaceholderText);

@@ -37,6 +37,9 @@ class LienEtiquette : public Lien {
     if (etiquette.text() == texte) return;
     etiquette.setTextFormat(Qt::PlainText);
     etiquette.setText(texte);
+    // One that takes what room is left may show the beginning only.
+    const auto place = etiquette.sizePolicy().horizontalPolicy();
+    if (place == QSizePolicy::Ignored) etiquette.setToolTip(texte.toHtmlEscaped());
   }
 };
 
