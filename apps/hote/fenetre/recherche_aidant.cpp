@@ -95,6 +95,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
       Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
   ouvert_->setObjectName("aidantOuvert");
   ouvert_->setTextFormat(Qt::PlainText);
+  ouvert_->setWordWrap(true);
   ouvert_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   ouvert_->hide();
   auto* const disposition = new QVBoxLayout(this);
