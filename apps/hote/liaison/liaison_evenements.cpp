@@ -156,10 +156,7 @@ bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
 
 bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   if (!Recevable(&widget)) return true;
-  // Alt and a letter that no button has: it is no text either.
-  const bool alt = evenement.modifiers().testFlag(Qt::AltModifier) &&
-                   !evenement.modifiers().testFlag(Qt::ControlModifier);
-  if (alt && !evenement.text().isEmpty()) return true;
+  if (appelleUnAcces(evenement)) return true;
   const bool controle = evenement.modifiers().testFlag(Qt::ControlModifier);
   const bool arriere =
       evenement.key() == Qt::Key_Backtab || evenement.modifiers().testFlag(Qt::ShiftModifier);

@@ -271,6 +271,11 @@ char32_t toucheDe(const QKeyEvent& evenement) {
   return points.size() == 1 && screen::estCaractere(points.front()) ? points.front() : 0;
 }
 
+bool appelleUnAcces(const QKeyEvent& evenement) {
+  return evenement.modifiers().testFlag(Qt::AltModifier) &&
+         !evenement.modifiers().testFlag(Qt::ControlModifier) && !evenement.text().isEmpty();
+}
+
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,
                        char32_t touche, const QString& horsSelection) {
   if (!filtre) return touche;
