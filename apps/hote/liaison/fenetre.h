@@ -6,10 +6,11 @@
 
 namespace hote {
 
-// The first size of a window: what it asks for, as far as the screen has room for it and its title.
+// The size of a window: what it asks for, as far as the screen has room for it and for the frame
+// that it gets when it is shown, in pixels.
 inline void donnerTaille(QWidget& fenetre, const QSize& voulue) {
-  constexpr int HauteurTitre = 40;  // pixels
-  fenetre.resize(voulue.boundedTo(fenetre.screen()->availableSize() - QSize(0, HauteurTitre)));
+  constexpr QSize Cadre{8, 40};
+  fenetre.resize(voulue.boundedTo(fenetre.screen()->availableSize() - Cadre));
 }
 
 // Esc asks for the same as the close box: the model decides.
