@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -107,6 +108,8 @@ class LienSaisie : public Lien {
   bool Retablir() {
     if (!dedans_ || modele_.Text() == entree_) return false;
     Transmettre(versQt(entree_));
+    // A hint spoke of the text that is gone.
+    QToolTip::hideText();
     return true;
   }
 
