@@ -96,6 +96,8 @@ TEST_F(Composants, ACivilStateIsCheckedBeforeItIsStored) {
              {2, " ", "« Nom » est obligatoire.", nullptr},
              {10, "3530", "Le code postal a cinq chiffres.", nullptr},
              {20, "31/02/1950", "« 31/02/1950 » n'est pas une date.", nullptr},
+             {20, "01/05/38", "« 01/05/2038 » est à venir : donnez les quatre chiffres de l'année.",
+              nullptr},
              {20, "1/1/1968", "", "1"},
              {5, "1234567", "« N° » a plus de 6 caractères.", nullptr}};
   for (const auto& c : cas) {

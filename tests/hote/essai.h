@@ -295,8 +295,9 @@ class Essai : public ::testing::Test {
       evenement.setCommitString(QString::fromStdString(nom));
       QCoreApplication::sendEvent(QApplication::focusWidget(), &evenement);
     }
-    if (verbe == "griser" || verbe == "poser") {
+    if (verbe == "griser" || verbe == "poser" || verbe == "cacher") {
       screen::Field& champ = *forme.Find(nom);
+      if (verbe == "cacher") champ.SetVisible(false);
       if (verbe == "griser") champ.SetEnabled(false);
       if (auto* const texte = dynamic_cast<screen::TextField*>(&champ)) texte->SetText(reste);
       if (auto* const liste = dynamic_cast<screen::ListBox*>(&champ)) {
@@ -306,7 +307,7 @@ class Essai : public ::testing::Test {
       if (auto* const n = dynamic_cast<screen::UpDown*>(&champ)) n->SetValue(std::stoi(reste));
       liaison->Pousser();
     }
-    if (verbe == "griser" || verbe == "garder") forme.Prendre();
+    if (verbe == "griser" || verbe == "cacher" || verbe == "garder") forme.Prendre();
     if (verbe == "garder") forme.optionGardee = true;
   }
   // What the widget shows, and for a text the model too.

@@ -123,6 +123,10 @@ TEST_F(Focus, KeysMoveAndPress) {
   }
 }
 
+TEST_F(Focus, NothingChangesThatCannotBeSaved) {
+  parcourir("En consultation");
+}
+
 // A field that its own click disables loses the keyboard to another, which the model then enters.
 TEST_F(Focus, DisabledFieldHandsTheKeyboardOn) {
   forme.SurOk = [this] { forme.Cmd_OK.SetEnabled(false); };

@@ -122,6 +122,10 @@ TEST_F(Hote, OpensACarerFromTheKeyboardAndSaysSo) {
             "DURAND Gwenaëlle (00001) – a.contrats – droits complets – Contrats de travail");
   ASSERT_NE(fenetre_.Ecran(), nullptr);
   EXPECT_TRUE(fenetre_.Ecran()->Controle().Cmd_Ajouter.Visible());
+  // A letter that no menu has is no text.
+  saisie->setFocus();
+  QTest::keyClick(saisie, Qt::Key_Z, Qt::AltModifier);
+  EXPECT_EQ(saisie->text(), "gwenaelle");
   // He stays marked whatever is typed; Esc empties the line.
   auto* const liste = fenetre_.findChild<QTreeView*>("listeAidants");
   QTest::keyClicks(saisie, "petit");

@@ -12,6 +12,7 @@
 
 #include "lettres/apercu.h"
 #include "lettres/archive_zip.h"
+#include "liaison/fenetre.h"
 
 namespace hote {
 
@@ -86,7 +87,7 @@ FenetreLettre::FenetreLettre(const LettreOdt& lettre, QWidget* parente) : QDialo
     });
   }
   colonne->addWidget(boutons);
-  resize(Taille);
+  donnerTaille(*this, Taille);
 }
 
 }  // namespace hote

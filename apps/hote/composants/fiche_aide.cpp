@@ -63,6 +63,10 @@ std::string FicheAide::Ecrire(const PlaceAide& place, const std::string& saisi) 
   if (place.genre == PlaceAide::Genre::Date && !texte.empty()) {
     const auto jour = lireDateSaisie(texte, annee_);
     if (!jour) return "« " + texte + " » n'est pas une date.";
+    // A short year may be read as one of this century.
+    if (dateDe(*jour).annee > annee_) {
+      return "« " + dateAffichee(*jour) + " » est à venir : donnez les quatre chiffres de l'année.";
+    }
     texte = std::to_string(*jour);
   }
   item_.Set(place.attribut, texte);

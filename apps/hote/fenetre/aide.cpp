@@ -8,6 +8,7 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "liaison/fenetre.h"
 #include "widget/apparence.h"
 
 // The pages stand in a static library: its resources are linked by name.
@@ -44,7 +45,7 @@ FenetreAide::FenetreAide(QWidget* parente) : QDialog(parente), texte_(new QTextB
   texte_->setFrameShape(QFrame::NoFrame);
   connect(sommaire, &QPushButton::clicked, this, [this] { Montrer(Accueil); });
   connect(fermer, &QPushButton::clicked, this, &QDialog::close);
-  resize(Taille);
+  donnerTaille(*this, Taille);
   Colorer();
 }
 

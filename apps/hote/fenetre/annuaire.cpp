@@ -78,12 +78,19 @@ void Annuaire::DistinguerHomonymes() {
     const auto fin = std::find_if(debut, fiches_.end(),
                                   [&](const Fiche& fiche) { return fiche.nom != debut->nom; });
     std::set<long> naissances;
-    for (auto fiche = debut; fiche != fin; ++fiche) naissances.insert(fiche->aidant.naissance);
-    const bool parNaissance =
-        naissances.count(0) == 0 && naissances.size() == static_cast<std::size_t>(fin - debut);
-    for (auto fiche = debut; fiche != fin && fin - debut > 1; ++fiche) {
-      fiche->distinction =
-          parNaissance ? data::dateAffichee(fiche->aidant.naissance) : fiche->aidant.ville;
+    std::set<std::string> villes;
+    for (auto fiche = debut; fiche != fin; ++fiche) {
+      naissances.insert(fiche->aidant.naissance);
+      villes.insert(fiche->aidant.ville);
+    }
+    const auto nombre = static_cast<std::size_t>(fin - debut);
+    const bool parNaissance = naissances.count(0) == 0 && naissances.size() == nombre;
+    const bool parVille = villes.count("") == 0 && villes.size() == nombre;
+    for (auto fiche = debut; fiche != fin && nombre > 1; ++fiche) {
+      const Aidant& aidant = fiche->aidant;
+      fiche->distinction = parNaissance ? data::dateAffichee(aidant.naissance)
+                           : parVille   ? aidant.ville
+                                        : aidant.code;
     }
     debut = fin;
   }
@@ -159,10 +166,11 @@ QVariant Annuaire::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::AccessibleDescriptionRole) return "Aidant ouvert";
   }
-  if (role == Qt::ToolTipRole && aidant.supprime) return "Aidant supprimé : aucun ajout possible";
-  // The list's own leaves out what it takes to be read in the row.
-  if (role == Qt::ToolTipRole && !distinction.isEmpty()) {
-    return (versQt(aidant.nomPrenom) + distinction).toHtmlEscaped();
+  // A narrow list leaves out the code and the end of a name.
+  if (role == Qt::ToolTipRole) {
+    const QString entier = versQt(aidant.code + " " + aidant.nomPrenom) + distinction;
+    const char* const etat = aidant.supprime ? "<br>Aidant supprimé : aucun ajout possible" : "";
+    return entier.toHtmlEscaped() + etat;
   }
   if (role == Qt::ForegroundRole && aidant.supprime) {
     return QGuiApplication::palette().brush(QPalette::PlaceholderText);

@@ -37,8 +37,8 @@ class Annuaire : public QAbstractTableModel {
   // The end of a name's text that tells it from its namesakes, or "".
   enum Role { Distinction = Qt::UserRole };
 
-  // By name, then code; the filter is lifted. Those of one name are shown with their birth date or,
-  // where that does not part them, their town.
+  // By name, then code; the filter is lifted. Those of one name are shown with their birth date,
+  // where that does not part them with their town, else with their code.
   void Remplir(std::vector<Aidant> aidants);
   // Deleted carers are left out while they are hidden.
   void Filtrer(const QString& saisie);

@@ -1,20 +1,15 @@
 #include "fenetre/captures.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSettings>
-#include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <algorithm>
 #include <stdexcept>
 
 #include "control/ctr_contrat.h"
-#include "data/jour.h"
 #include "data/layouts/contrat.h"
 #include "data/layouts/fichiers.h"
 #include "dialogs/frm_anim.h"
@@ -29,13 +24,13 @@
 #include "dialogs/frm_stage.h"
 #include "fenetre/aide.h"
 #include "fenetre/album.h"
+#include "fenetre/captures_etats.h"
 #include "fenetre/captures_liste.h"
 #include "fenetre/captures_papier.h"
 #include "fenetre/fenetre_hote.h"
 #include "liaison/bureau.h"
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
-#include "screen/user.h"
 #include "storage/copie.h"
 #include "storage/sqlite.h"
 #include "widget/contrat_widget.h"
@@ -44,95 +39,8 @@ namespace hote {
 
 namespace {
 
-constexpr int ToursMax = 400;  // of 10 ms: how long the editor may take to show and to leave
 constexpr QSize TailleControle{1010, 690};
 constexpr QSize TailleFenetre{1280, 720};
-
-// Stands for the user while the editor's own loop runs: a picture of each tab, one of an end whose
-// notice was computed, then out.
-class Visite : public QObject {
- public:
-  Visite(Album& album, Bureau& bureau) : album_(album), bureau_(bureau) {
-    connect(&minuteur_, &QTimer::timeout, this, [this] { Tour(); });
-    minuteur_.start(10);
-  }
-  const QString& Echec() const { return echec_; }
-  bool Vue() const { return vue_; }
-
- private:
-  void Tour() {
-    if (occupee_) return;
-    occupee_ = true;
-    try {
-      Agir();
-    } catch (const std::exception& erreur) {
-      echec_ = versQt(erreur.what());
-    }
-    occupee_ = false;
-    if (++tours_ < ToursMax) return;
-    // Nobody is there to see what keeps the editor open.
-    qFatal("L'éditeur ne se ferme pas.");
-  }
-
-  void Agir() {
-    QWidget* const fenetre = QApplication::activeModalWidget();
-    if (auto* const boite = qobject_cast<QMessageBox*>(fenetre)) {
-      Refuser(*boite);
-    } else if (fenetre != nullptr && !vue_) {
-      vue_ = true;
-      fenetre->resize(album_.Taille().isValid() ? album_.Taille() : TailleControle);
-      auto* const onglets = fenetre->findChild<QTabWidget*>("Ong_Contrat");
-      for (int i = 0; onglets != nullptr && i < onglets->count(); ++i) {
-        onglets->setCurrentIndex(i);
-        album_.Prendre(*fenetre, QString("editeur-%1").arg(i + 1));
-      }
-      if (Notifier()) album_.Prendre(*fenetre, "editeur-fin");
-    } else if (fenetre != nullptr && !partie_) {
-      partie_ = true;
-      // Outside this round: what is asked on leaving is answered by the next ones.
-      if (auto* const retour = fenetre->findChild<QAbstractButton*>("Cmd_Retour")) {
-        QTimer::singleShot(0, retour, &QAbstractButton::click);
-      }
-    }
-  }
-
-  // On the last tab: a notification of today, and the first reason there is. False for a contract
-  // that has not begun, or that ends already.
-  bool Notifier() {
-    screen::Form& editeur = *bureau_.FormeCourante();
-    const auto champ = [&](const char* nom) -> screen::TextField& {
-      return dynamic_cast<screen::TextField&>(*editeur.Find(nom));
-    };
-    const long aujourdhui = bureau_.Plateforme().poste.Aujourdhui();
-    const auto debut = data::lireDateAffichee(champ("Txt_DatDebContrat").Text());
-    screen::TextField& notification = champ("Txt_DatNotifContrat");
-    if (!debut || *debut > aujourdhui || !notification.Text().empty()) return false;
-    screen::User clerc(editeur);
-    auto& motifs = dynamic_cast<screen::ComboBox&>(*editeur.Find("Cbo_MotifFinContrat"));
-    clerc.Taper(notification, data::dateAffichee(aujourdhui));
-    clerc.Derouler(motifs);
-    clerc.Choisir(motifs, 0);
-    bureau_.PousserTout();
-    return true;
-  }
-
-  // Nothing is kept of the visit.
-  static void Refuser(QMessageBox& boite) {
-    for (QAbstractButton* const bouton : boite.buttons()) {
-      if (boite.buttonRole(bouton) == QMessageBox::NoRole) return bouton->click();
-    }
-    boite.close();
-  }
-
-  Album& album_;
-  Bureau& bureau_;
-  QTimer minuteur_{};
-  QString echec_{};
-  bool vue_ = false;
-  bool partie_ = false;
-  bool occupee_ = false;
-  int tours_ = 0;
-};
 
 // As a desktop with light letters on a dark ground has it.
 void assombrir() {
@@ -181,25 +89,32 @@ void capturer(Album& album, Bureau& bureau, screen::Form& forme, const QString& 
   forme.Show();
   const Liaison liaison(forme, *fenetre, bureau);
   fenetre->show();
+  // As the desk fits a window to the screen.
+  if (album.Taille().isValid()) fenetre->resize(fenetre->size().boundedTo(album.Taille()));
   album.Prendre(*fenetre, nom);
 }
 
-void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat& liste) {
+// `suffixe`: of the names of the pictures.
+void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat& liste, int niveau,
+                       const char* suffixe) {
   session::Session session(bureau.Plateforme().poste);
   session.Db = liste.Etat().Db;
   session.OuvrirFichiers();
-  const session::DroitsUniformes droits(session::Droit::Plein);
+  const session::DroitsUniformes droits(niveau);
   session.W_Droits = &droits;
   session.CodeAidant = liste.W_Code;
   session.NomPrenomAidant = liste.W_NomPrenom;
   session::Dossier dossier(session);
   session.F_CONTRAT.Lire(liste.ClesContrats()(1), dossier.ItemContrat);
+  const auto prendre = [&](screen::Form& forme, const char* nom) {
+    capturer(album, bureau, forme, QString(nom) + suffixe);
+  };
   const auto jour = [&](int attribut) {
     return session.Lib.DateFromInternal(dossier.ItemContrat.Vue(attribut));
   };
 
   dialogs::Frm_MotifCDD motif(bureau.Plateforme(), dossier, jour(data::Contrat::DateDebut), {});
-  capturer(album, bureau, motif, "motif-cdd");
+  prendre(motif, "motif-cdd");
 
   // Of a contract under public law, where the file has one.
   session::Dossier publique(session);
@@ -207,21 +122,21 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
       session.Db->Selectionner("SSELECT CONTRAT AVEC 121 <> \"\"", "CONTRAT", "0");
   session.F_CONTRAT.Lire(publics(1, 1), publique.ItemContrat);
   dialogs::Frm_ElemDroitPublic droitPublic(bureau.Plateforme(), publique, 1);
-  capturer(album, bureau, droitPublic, "droit-public");
+  prendre(droitPublic, "droit-public");
   dossier.CleContratCourant = liste.ClesContrats()(1);
   dialogs::Frm_ContratAnnuel suivi(bureau.Plateforme(), dossier, {});
-  capturer(album, bureau, suivi, "suivi-1");
+  prendre(suivi, "suivi-1");
   suivi.Hide();
   suivi.Ong_SuivContrat.SetTab(1 - suivi.Ong_SuivContrat.Tab());
-  capturer(album, bureau, suivi, "suivi-2");
+  prendre(suivi, "suivi-2");
 
   dialogs::Frm_Stage stage(bureau.Plateforme(), dossier);
-  capturer(album, bureau, stage, "stage");
+  prendre(stage, "stage");
 
   dialogs::Frm_RubSaisie rubriques(bureau.Plateforme(), dossier, {});
-  capturer(album, bureau, rubriques, "rubriques");
+  prendre(rubriques, "rubriques");
   dialogs::Frm_CommentBull commentaires(bureau.Plateforme(), dossier);
-  capturer(album, bureau, commentaires, "commentaires");
+  prendre(commentaires, "commentaires");
 
   dialogs::Frm_Reprise reprise(bureau.Plateforme(), dossier);
   dialogs::DonneesReprise donnees;
@@ -229,7 +144,7 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
   donnees.debut = jour(data::Contrat::DateDebut);
   donnees.fin = jour(data::Contrat::DateFin);
   reprise.Afficher(donnees);
-  capturer(album, bureau, reprise, "reprise");
+  prendre(reprise, "reprise");
 
   dialogs::Frm_AnomaliesAjoutgraph incidences(
       bureau.Plateforme(), dossier,
@@ -239,11 +154,11 @@ void capturerDialogues(Album& album, Bureau& bureau, const control::Ctr_Contrat&
        "\r\nMardi    de 14h00 à 15h30 chez ARNAUD Louis à partir du 08/12/2026\r\n"
        "                    Sera sans contrat.",
        true, "001 Aide du Val"});
-  capturer(album, bureau, incidences, "incidences");
+  prendre(incidences, "incidences");
   dialogs::Frm_ImpressionA4 impression(bureau.Plateforme());
-  capturer(album, bureau, impression, "impression");
+  prendre(impression, "impression");
   dialogs::Frm_Anim attente(bureau.Plateforme());
-  capturer(album, bureau, attente, "attente");
+  prendre(attente, "attente");
 }
 
 // The list before a search, when the filters are free.
@@ -280,16 +195,16 @@ void capturerEcrans(Album& album, Bureau& bureau, const QString& copie, std::str
   fenetre.Ecran()->Affiche("", "", "");
   album.Prendre(fenetre, "liste");
   capturerEtatsListe(album, fenetre);
-  control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
   fenetre.Ecran()->Affiche("", "", "");
-  if (liste.Lst_DatDebContrat.ListCount() == 0) {
+  if (fenetre.Ecran()->Controle().Lst_DatDebContrat.ListCount() == 0) {
     throw std::runtime_error("L'aidant « " + aidant + " » n'a pas de contrat à montrer.");
   }
-  Visite visite(album, bureau);
-  screen::User(liste).DoubleCliquer(liste.Lst_DatDebContrat, 0);
-  if (!visite.Echec().isEmpty()) throw std::runtime_error(versModele(visite.Echec()));
-  if (!visite.Vue()) throw std::runtime_error("L'éditeur ne s'est pas ouvert.");
-  capturerDialogues(album, bureau, liste);
+  capturerEtats(album, fenetre, copie, aidant);
+  fenetre.OuvrirAidant(aidant);
+  fenetre.Ecran()->Affiche("", "", "");
+  const control::Ctr_Contrat& liste = fenetre.Ecran()->Controle();
+  capturerDialogues(album, bureau, liste, session::Droit::Plein, "");
+  capturerDialogues(album, bureau, liste, 1, "-consultation");
   capturerPapiers(album, bureau, liste);
   capturerHebergees(album, bureau, liste);
   capturerSelection(album, bureau, liste);

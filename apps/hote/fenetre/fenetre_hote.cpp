@@ -24,6 +24,7 @@
 #include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "liaison/textes_qt.h"
 #include "widget/contrat_widget.h"
 
@@ -333,14 +334,7 @@ void FenetreHote::RetrouverPlace() {
   partage_->setSizes({LargeurRecherche, TaillePremiere.width() - LargeurRecherche});
   partage_->restoreState(bureau_.Reglages().value(ClePartage).toByteArray());
   if (restoreGeometry(bureau_.Reglages().value(CleFenetre).toByteArray())) return;
-  resize(TaillePremiere.boundedTo(screen()->availableSize()));
-}
-
-bool FenetreHote::eventFilter(QObject* objet, QEvent* evenement) {
-  if (evenement->type() != QEvent::KeyPress || !objet->isWidgetType()) return false;
-  if (static_cast<QKeyEvent*>(evenement)->key() != Qt::Key_F1) return false;
-  FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
-  return true;
+  donnerTaille(*this, TaillePremiere);
 }
 
 }  // namespace hote

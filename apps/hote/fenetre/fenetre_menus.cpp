@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
@@ -21,6 +23,7 @@
 #include "fenetre/page_echeances.h"
 #include "fenetre/recherche_aidant.h"
 #include "liaison/bureau.h"
+#include "liaison/lien.h"
 
 namespace hote {
 
@@ -112,6 +115,18 @@ void FenetreHote::FaireMenuAide() {
                            QApplication::applicationVersion() +
                            ".\nFenêtre d'essai de l'écran des contrats.");
   });
+}
+
+bool FenetreHote::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() != QEvent::KeyPress || !objet->isWidgetType()) return false;
+  const auto& touche = static_cast<QKeyEvent&>(*evenement);
+  // The toolkit's own fields would take the letter.
+  if (appelleUnAcces(touche) && qobject_cast<QLineEdit*>(QApplication::focusWidget()) == objet) {
+    return true;
+  }
+  if (touche.key() != Qt::Key_F1) return false;
+  FenetreAide::Appeler(ecran_ != nullptr ? "Ctr_Contrat" : FenetreAide::Accueil);
+  return true;
 }
 
 void FenetreHote::RemplirRecents() {

@@ -18,6 +18,9 @@ namespace hote {
 
 namespace {
 
+// A list that is narrower, in digits, keeps its room for the names: the code stands in the tooltip.
+constexpr int LargeurAvecCode = 24;
+
 // What the directory gives in another colour steps back, as far as it still reads on this palette.
 // The open carer has a bar at the left, as a contract that runs has in its list.
 class LigneAidant : public LigneListe {
@@ -28,9 +31,7 @@ class LigneAidant : public LigneListe {
   void paint(QPainter* pinceau, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
     LigneListe::paint(pinceau, option, index);
-    if (index.column() == Annuaire::Code && annuaire_.EstOuvert(index.row())) {
-      Marquer(*pinceau, option);
-    }
+    if (option.rect.left() <= 0 && annuaire_.EstOuvert(index.row())) Marquer(*pinceau, option);
   }
 
  protected:
@@ -44,14 +45,15 @@ class LigneAidant : public LigneListe {
   }
 
  private:
-  // Of namesakes the name gives way, not what tells them apart, which ends the text.
+  // Of namesakes the name gives way to what tells them apart, which ends the text; half of the row
+  // stays its own.
   static void Abreger(QStyleOptionViewItem& cellule, const QString& distinction) {
     if (distinction.isEmpty() || !cellule.rect.isValid()) return;
     const int place = cellule.rect.width() - 2 * Marge;
     const int reste = place - cellule.fontMetrics.horizontalAdvance(distinction);
     const QString nom = cellule.text.chopped(distinction.size());
-    cellule.text =
-        cellule.fontMetrics.elidedText(nom, Qt::ElideRight, std::max(reste, 0)) + distinction;
+    cellule.text = cellule.fontMetrics.elidedText(nom, Qt::ElideRight, std::max(reste, place / 2)) +
+                   distinction;
   }
 
   const Annuaire& annuaire_;
@@ -86,6 +88,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
       Annuaire::Code, fontMetrics().horizontalAdvance("000000") + 2 * LigneListe::Marge);
   ouvert_->setObjectName("aidantOuvert");
   ouvert_->setTextFormat(Qt::PlainText);
+  ouvert_->setWordWrap(true);
   ouvert_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   ouvert_->hide();
   auto* const disposition = new QVBoxLayout(this);
@@ -96,6 +99,7 @@ RechercheAidant::RechercheAidant(QWidget* parent)
   disposition->addWidget(liste_);
   disposition->addWidget(compte_);
   appliquerApparence(*this);
+  liste_->viewport()->installEventFilter(this);
   connect(saisie_, &QLineEdit::textChanged, this, [this] { Filtrer(); });
   connect(saisie_, &QLineEdit::returnPressed, this, [this] { Choisir(); });
   connect(liste_, &QTreeView::activated, this, [this] { Choisir(); });
@@ -171,6 +175,10 @@ void RechercheAidant::Choisir() {
 }
 
 bool RechercheAidant::eventFilter(QObject* objet, QEvent* evenement) {
+  if (objet == liste_->viewport() && evenement->type() == QEvent::Resize) {
+    const int place = fontMetrics().horizontalAdvance(QString(LargeurAvecCode, '0'));
+    liste_->setColumnHidden(Annuaire::Code, liste_->viewport()->width() < place);
+  }
   if (objet != saisie_ || evenement->type() != QEvent::KeyPress) return false;
   const int touche = static_cast<QKeyEvent*>(evenement)->key();
   if (touche == Qt::Key_Escape && !saisie_->text().isEmpty()) {

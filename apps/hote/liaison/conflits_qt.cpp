@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "liaison/services_qt.h"
 #include "liaison/textes_qt.h"
 
@@ -89,7 +90,7 @@ Tranche ConflitsQt::Trancher(const screen::Conflit& conflit) {
     });
   }
   disposition->addWidget(boutons);
-  boite.resize(Taille);
+  donnerTaille(boite, Taille);
   boite.exec();
   if (dessous) dessous->activateWindow();
   return tranche;

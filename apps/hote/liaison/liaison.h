@@ -119,6 +119,7 @@ class Liaison : public QObject {
   bool PasserAHote(bool arriere);
   bool ChangerOnglet(int sens);
   bool Commander(const QKeyEvent& evenement);
+  void Partir(screen::Field& bouton);
   bool Raccourci(QWidget& widget, const QShortcutEvent& evenement);
   bool Composer(QWidget& widget, const QInputMethodEvent& evenement);
 

@@ -156,10 +156,7 @@ bool Liaison::Souris(QWidget& widget, const QMouseEvent& evenement) {
 
 bool Liaison::Clavier(QWidget& widget, QKeyEvent& evenement) {
   if (!Recevable(&widget)) return true;
-  // Alt and a letter that no button has: it is no text either.
-  const bool alt = evenement.modifiers().testFlag(Qt::AltModifier) &&
-                   !evenement.modifiers().testFlag(Qt::ControlModifier);
-  if (alt && !evenement.text().isEmpty()) return true;
+  if (appelleUnAcces(evenement)) return true;
   const bool controle = evenement.modifiers().testFlag(Qt::ControlModifier);
   const bool arriere =
       evenement.key() == Qt::Key_Backtab || evenement.modifiers().testFlag(Qt::ShiftModifier);
@@ -195,15 +192,28 @@ bool Liaison::Commander(const QKeyEvent& evenement) {
     if (commande.cle == Qt::Key_Escape && !racine_.isWindow()) continue;
     screen::Field* const bouton = forme_.Find(commande.bouton);
     if (bouton == nullptr || !bouton->Disponible()) continue;
-    if (!evenement.isAutoRepeat()) {
+    if (evenement.isAutoRepeat()) return true;
+    if (commande.cle == Qt::Key_Escape) {
+      Partir(*bouton);
+    } else {
       Jouer([&](screen::User& user) {
-        if (commande.cle != Qt::Key_Escape) Conclure();
+        Conclure();
         user.Cliquer(*bouton);
       });
     }
     return true;
   }
   return false;
+}
+
+// Whoever stays after all goes on where he was, not on the button that the key stands for.
+void Liaison::Partir(screen::Field& bouton) {
+  screen::Field* const avant = forme_.Active();
+  const QPointer<Liaison> la(this);
+  Jouer([&](screen::User& user) { user.Cliquer(bouton); });
+  const bool reste = la && forme_.Visible() && forme_.Active() == &bouton;
+  if (!reste || avant == nullptr || !avant->Disponible()) return;
+  Jouer([&](screen::User& user) { user.Focus(*avant); });
 }
 
 // The order is the model's.

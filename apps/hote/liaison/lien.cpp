@@ -14,6 +14,7 @@
 #include <array>
 #include <utility>
 
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/textes_qt.h"
 #include "screen/animation.h"
@@ -36,6 +37,9 @@ class LienEtiquette : public Lien {
     if (etiquette.text() == texte) return;
     etiquette.setTextFormat(Qt::PlainText);
     etiquette.setText(texte);
+    // One that takes what room is left may show the beginning only.
+    const auto place = etiquette.sizePolicy().horizontalPolicy();
+    if (place == QSizePolicy::Ignored) etiquette.setToolTip(texte.toHtmlEscaped());
   }
 };
 
@@ -164,9 +168,19 @@ class LienFleches : public LienPlage<QSpinBox> {
       : LienPlage(liaison, champ, fleches) {
     if (auto* const nombre = fleches.findChild<QLineEdit*>()) nombre->setReadOnly(true);
   }
+
+ protected:
+  void PousserDisponibilite() override {
+    LienPlage::PousserDisponibilite();
+    Widget().setEnabled(Champ().Enabled() && !Fige());
+  }
 };
 
 }  // namespace
+
+bool Lien::Fige() const {
+  return liaison_.Consultation() && !widget_.property(ProprieteConsultable).toBool();
+}
 
 void Lien::Pousser() {
   PousserEtat();
@@ -255,6 +269,11 @@ char32_t toucheDe(const QKeyEvent& evenement) {
   if (alt != evenement.modifiers().testFlag(Qt::ControlModifier)) return 0;
   const QList<uint> points = evenement.text().toUcs4();
   return points.size() == 1 && screen::estCaractere(points.front()) ? points.front() : 0;
+}
+
+bool appelleUnAcces(const QKeyEvent& evenement) {
+  return evenement.modifiers().testFlag(Qt::AltModifier) &&
+         !evenement.modifiers().testFlag(Qt::ControlModifier) && !evenement.text().isEmpty();
 }
 
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,

@@ -43,6 +43,8 @@ class Lien : public QObject {
   virtual void PousserEtat() {}
   virtual void PousserDisponibilite();
   Liaison& Binder() const { return liaison_; }
+  // Nothing that the field would take can be saved: it is there to be read.
+  bool Fige() const;
 
  private:
   Liaison& liaison_;
@@ -65,6 +67,8 @@ std::vector<screen::Field*> colonnesDe(const screen::Field& champ);
 // The key as the model counts keys: a character, Entree or Retour; 0 for any other. Esc is the
 // window's, once it has put back what the field held.
 char32_t toucheDe(const QKeyEvent& evenement);
+// A letter with Alt alone asks for an access key: where nothing has it, it is no text either.
+bool appelleUnAcces(const QKeyEvent& evenement);
 // Shows `filtre`, the field's KeyPress, a key typed in it. What is left of it; 0 when it is
 // dropped. `horsSelection`: what the widget's text holds beside its selection.
 char32_t filtrerTouche(Liaison& liaison, screen::Field& champ, const screen::KeyHandler& filtre,

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "liaison/consultation.h"
 #include "liaison/liaison.h"
 #include "liaison/lien.h"
 #include "liaison/textes_qt.h"
@@ -65,12 +66,33 @@ class LienBouton : public LienPressable {
   }
 };
 
-class LienOption : public LienPressable {
+// An option or a box: a value beside its caption. In consultation it is read as a text is: it takes
+// the keyboard, but neither a click nor a key that would change it.
+class LienValeur : public LienPressable {
  public:
   using LienPressable::LienPressable;
 
+  bool Pression(const QWidget& /*ou*/, const QMouseEvent& /*evenement*/) override { return Fige(); }
+  bool Touche(QKeyEvent& evenement) override {
+    const int touche = evenement.key();
+    return Fige() && (touche == Qt::Key_Space || touche == Qt::Key_Select ||
+                      (touche >= Qt::Key_Left && touche <= Qt::Key_Down));
+  }
+
+ protected:
+  void PousserEtat() override {
+    LienPressable::PousserEtat();
+    montrerConsultation(bouton_, Fige());
+  }
+};
+
+class LienOption : public LienValeur {
+ public:
+  using LienValeur::LienValeur;
+
   // Qt's own arrows click before they move the focus, and only where an option is on already.
   bool Touche(QKeyEvent& evenement) override {
+    if (LienValeur::Touche(evenement)) return true;
     const int sens = sensDe(evenement.key());
     if (sens == 0) return false;
     std::vector<screen::Field*> groupe;
@@ -89,7 +111,7 @@ class LienOption : public LienPressable {
 
  protected:
   void PousserEtat() override {
-    LienPressable::PousserEtat();
+    LienValeur::PousserEtat();
     const bool valeur = static_cast<screen::OptionButton&>(Champ()).Value();
     if (bouton_.isChecked() == valeur) return;
     if (valeur) {
@@ -106,13 +128,13 @@ class LienOption : public LienPressable {
   }
 };
 
-class LienCase : public LienPressable {
+class LienCase : public LienValeur {
  public:
-  using LienPressable::LienPressable;
+  using LienValeur::LienValeur;
 
  protected:
   void PousserEtat() override {
-    LienPressable::PousserEtat();
+    LienValeur::PousserEtat();
     const bool cochee = static_cast<screen::CheckBox&>(Champ()).Value() != 0;
     if (bouton_.isChecked() != cochee) bouton_.setChecked(cochee);
   }

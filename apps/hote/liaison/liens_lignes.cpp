@@ -66,6 +66,8 @@ class LienListe : public Lien {
 
  protected:
   void PousserEtat() override {
+    // The rows stand on the page then; they are chosen to be read on.
+    liste_.viewport()->setAutoFillBackground(!Fige());
     if (modele_.Rows() != poussees_) Remplir();
     const auto choix = liste_.selectionModel()->selectedRows();
     const int ligne = choix.isEmpty() ? -1 : choix.front().row();
@@ -160,9 +162,9 @@ class LienDeroulante : public Lien {
     });
   }
   bool Touche(QKeyEvent& evenement) override {
+    if (Fige()) return false;
     if (evenement.key() == Qt::Key_Escape) return Renoncer();
     const char32_t touche = toucheDe(evenement);
-    if (Binder().Consultation() && combo_.isEditable()) return false;
     if (touche == 0) return Garnir(evenement.key());
     if (touche == screen::ToucheEntree) {
       Entrer();
@@ -199,6 +201,7 @@ class LienDeroulante : public Lien {
     const bool toutes = Tete() > 0 && modele_.Text().empty();
     const int rang = toutes ? 0 : modele_.ListIndex() < 0 ? -1 : modele_.ListIndex() + Tete();
     if (combo_.currentIndex() != rang) combo_.setCurrentIndex(rang);
+    combo_.Figer(Fige());
     const QString texte = versQt(modele_.Text());
     if (ligne == nullptr) {
       // A text that is none of the rows. Setting it lays the window out anew: not for every row.
@@ -209,7 +212,7 @@ class LienDeroulante : public Lien {
       combo_.setCurrentIndex(-1);
       return;
     }
-    montrerConsultation(*ligne, Binder().Consultation());
+    montrerConsultation(*ligne, Fige());
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
     const int longueur = std::max(limite, static_cast<int>(texte.size()));
     if (ligne->maxLength() != longueur) ligne->setMaxLength(longueur);

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -42,7 +43,7 @@ class LienSaisie : public Lien {
       : Lien(liaison, champ, widget), modele_(champ) {}
 
   bool Touche(QKeyEvent& evenement) override {
-    if (Binder().Consultation()) return false;
+    if (Fige()) return false;
     if (evenement.key() == Qt::Key_Escape) return Retablir();
     const char32_t touche = toucheDe(evenement);
     if (touche == 0) return false;
@@ -107,6 +108,8 @@ class LienSaisie : public Lien {
   bool Retablir() {
     if (!dedans_ || modele_.Text() == entree_) return false;
     Transmettre(versQt(entree_));
+    // A hint spoke of the text that is gone.
+    QToolTip::hideText();
     return true;
   }
 
@@ -141,7 +144,7 @@ class LienLigne : public LienSaisie {
   void PousserEtat() override {
     if (enEdition_) return;
     SuivreEntree();
-    montrerConsultation(ligne_, Binder().Consultation());
+    montrerConsultation(ligne_, Fige());
     const QString texte = versQt(modele_.Text());
     // A program may set more than the user can type.
     const int limite = modele_.Longueur() > 0 ? modele_.Longueur() : longueurQt_;
@@ -213,7 +216,7 @@ class LienTexteLong : public LienSaisie {
   // The widget knows one line end only; the records of the suite hold CR LF.
   void PousserEtat() override {
     SuivreEntree();
-    montrerConsultation(page_, *page_.viewport(), Binder().Consultation());
+    montrerConsultation(page_, *page_.viewport(), Fige());
     QString texte = versQt(modele_.Text());
     texte.replace("\r\n", "\n").replace('\r', '\n');
     if (Texte() == texte) return;

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "liaison/bureau.h"
+#include "liaison/fenetre.h"
 #include "liaison/liaison.h"
 #include "liaison/services_qt.h"
 #include "liaison/textes_qt.h"
@@ -47,12 +48,13 @@ void ModalesQt::Placer(QWidget& fenetre, QWidget* parente, const QString& cle) {
   if (parente != nullptr && fenetre.windowHandle() != nullptr) {
     fenetre.windowHandle()->setTransientParent(parente->windowHandle());
   }
-  if (fenetre.restoreGeometry(bureau_.Reglages().value(cle).toByteArray())) return;
+  const bool retrouvee = fenetre.restoreGeometry(bureau_.Reglages().value(cle).toByteArray());
+  if (retrouvee && fenetre.windowState() != Qt::WindowNoState) return;
   const QRect ecran = fenetre.screen()->availableGeometry();
-  const QSize bords = fenetre.frameGeometry().size() - fenetre.size();
-  fenetre.resize(fenetre.sizeHint().boundedTo(ecran.size() - bords));
+  donnerTaille(fenetre, retrouvee ? fenetre.size() : fenetre.sizeHint());
   QRect cadre = fenetre.frameGeometry();
-  cadre.moveCenter((parente == nullptr ? ecran : parente->frameGeometry()).center());
+  if (!retrouvee)
+    cadre.moveCenter((parente == nullptr ? ecran : parente->frameGeometry()).center());
   // Where it is larger than the screen, its upper left corner is in sight.
   cadre.moveRight(std::min(cadre.right(), ecran.right()));
   cadre.moveBottom(std::min(cadre.bottom(), ecran.bottom()));

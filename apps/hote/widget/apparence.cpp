@@ -70,7 +70,7 @@ void dimensionner(QListWidget& liste) {
   QFont gras = liste.font();
   gras.setBold(true);
   const QFontMetrics mesures(gras);
-  const int bords = 2 * (LigneListe::Marge + liste.frameWidth());
+  const int bords = 2 * (LigneListe::MargeDe(&liste) + liste.frameWidth());
   const int largeur = liste.property(Caracteres).toInt();
   const int largeurMax = liste.property(CaracteresMax).toInt();
   const int rangees = liste.property(Rangees).toInt();

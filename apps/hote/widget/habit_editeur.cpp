@@ -45,11 +45,15 @@ bool HabitEditeur::eventFilter(QObject*, QEvent* evenement) {
 }
 
 void HabitEditeur::GuetterSaisie() {
-  const auto noter = [this] { saisie_ = true; };
+  // A text is noted after the push of its own change.
+  const auto noter = [this] {
+    saisie_ = true;
+    Marquer();
+  };
   const QWidget& fenetre = liaison_.Racine();
   for (const auto* const ligne : fenetre.findChildren<QLineEdit*>()) {
-    connect(ligne, &QLineEdit::textChanged, this, [this, ligne] {
-      if (ligne->hasFocus()) saisie_ = true;
+    connect(ligne, &QLineEdit::textChanged, this, [ligne, noter] {
+      if (ligne->hasFocus()) noter();
     });
   }
   for (const auto* const combo : fenetre.findChildren<QComboBox*>()) {
@@ -67,6 +71,10 @@ void HabitEditeur::Regarder() {
     montre_ = std::move(enMain);
     frise_->Montrer(vue_.FaireFriseEnMain(RangsMax));
   }
+  Marquer();
+}
+
+void HabitEditeur::Marquer() {
   liaison_.Marquer(controle_.Etat().DroitComplet() && (saisie_ || controle_.EnMainModifie()));
 }
 

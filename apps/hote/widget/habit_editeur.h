@@ -32,6 +32,7 @@ class HabitEditeur : public QObject {
   // Any of the user's ways to change a field; what the form fills in itself is none.
   void GuetterSaisie();
   void Regarder();
+  void Marquer();
 
   const control::Ctr_Contrat& controle_;
   Liaison& liaison_;

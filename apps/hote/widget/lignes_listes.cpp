@@ -22,10 +22,15 @@ QPalette::ColorGroup groupe(const QStyleOptionViewItem& cellule) {
 }
 
 QRect placeDuTexte(const QStyleOptionViewItem& cellule) {
-  return cellule.rect.adjusted(LigneListe::Marge, 0, -LigneListe::Marge, 0);
+  const int marge = LigneListe::MargeDe(cellule.widget);
+  return cellule.rect.adjusted(marge, 0, -marge, 0);
 }
 
 }  // namespace
+
+int LigneListe::MargeDe(const QWidget* liste) {
+  return liste != nullptr && liste->property(Serree).toBool() ? MargeSerree : Marge;
+}
 
 // 22 pixels for the 14 of a usual font.
 int LigneListe::Hauteur(const QFontMetrics& mesures) {
@@ -70,7 +75,7 @@ void LigneListe::Marquer(QPainter& pinceau, const QStyleOptionViewItem& option) 
 QSize LigneListe::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QStyleOptionViewItem cellule = option;
   initStyleOption(&cellule, index);
-  return {cellule.fontMetrics.horizontalAdvance(cellule.text) + 2 * Marge,
+  return {cellule.fontMetrics.horizontalAdvance(cellule.text) + 2 * MargeDe(option.widget),
           Hauteur(option.fontMetrics)};
 }
 

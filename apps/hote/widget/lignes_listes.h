@@ -14,6 +14,10 @@ class LigneListe : public QStyledItemDelegate {
 
   // Between the text and either side of its cell, in pixels. Captions over a list stand as far in.
   static constexpr int Marge = 8;
+  static constexpr int MargeSerree = 4;
+  // The property of a list that is one column of many: it has the narrow margin.
+  static constexpr const char* Serree = "serree";
+  static int MargeDe(const QWidget* liste);
   // The property of a list whose texts are numbers: they end in one line.
   static constexpr const char* ADroite = "aDroite";
   static int Hauteur(const QFontMetrics& mesures);
