@@ -98,8 +98,7 @@ const std::vector<Pas> Employeurs = {
     {"", &Joueur::Saisir, "Txt_ConvColContrat", "02\t"},
     {"", &Joueur::Saisir, "Txt_AssocContrat", "001\t"},
     {"employeur-rien", &Joueur::Saisir, "Cbo_LibEmplEtabContrat", "zzzz\n"},
-    {"employeur-trouves", &Joueur::Saisir, "Cbo_LibEmplEtabContrat", "mar\n"},
-    {"", &Joueur::Touche, "", "Escape"},
+    {"employeur-trouves", &Joueur::Saisir, "Cbo_LibEmplEtabContrat", "m\n"},
     {"", &Joueur::Cliquer, "Cmd_Retour"},
     {"", &Joueur::Repondre, "", "Oui"},
 };
@@ -180,8 +179,8 @@ void capturerEtats(Album& album, FenetreHote& fenetre, const QString& base,
   edition.push_back({"", &Joueur::Faire, "", "", ailleurs});
   edition.insert(edition.end(), Conflit.begin(), Conflit.end());
   clerc.Jouer(std::move(edition));
-  clerc.Jouer(Employeurs);
   fenetre.ChangerDroits(1);
+  fenetre.Ecran()->Affiche("", "", "");
   clerc.Jouer(Consultation);
   fenetre.ChangerDroits(session::Droit::Plein);
 
@@ -200,6 +199,7 @@ void capturerEtats(Album& album, FenetreHote& fenetre, const QString& base,
   }
   fenetre.OuvrirAidant(std::string(AidantCharge));
   fenetre.Ecran()->Affiche("", "", "");
+  clerc.Jouer(Employeurs);
   data::Storage& stockage = fenetre.Ecran()->Controle().Etat().Db->Stockage();
   if (const auto ancien = contratTermine(stockage, fenetre.Ecran()->Controle().ClesContrats())) {
     clerc.Jouer(creerPendant(*ancien, libelleNature(stockage, (*ancien)(C::Nature))));

@@ -23,6 +23,8 @@ namespace {
 
 // Between two steps, in milliseconds: what the first one brought is shown by then.
 constexpr int Pause = 40;
+// Pauses that a window may take to get the keyboard.
+constexpr int AttentesMax = 100;
 
 void presser(int cle, Qt::KeyboardModifiers avec, const QString& texte) {
   QWidget* const popup = QApplication::activePopupWidget();
@@ -58,6 +60,12 @@ void Joueur::Jouer(std::vector<Pas> pas) {
 
 // The next step is due before this one begins: it may not return until a window is left.
 void Joueur::Avancer() {
+  // A window has the keyboard a moment after it is shown.
+  if (!Devant().isActiveWindow() && ++attentes_ < AttentesMax) {
+    QTimer::singleShot(Pause, this, [this] { Avancer(); });
+    return;
+  }
+  attentes_ = 0;
   const std::size_t rang = rang_++;
   try {
     if (rang > 0 && *pas_[rang - 1].image != '\0') Photographier(pas_[rang - 1].image);
@@ -112,6 +120,7 @@ void Joueur::Touche(const Pas& pas) {
 }
 
 void Joueur::Cliquer(const Pas& pas) {
+  if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
   dynamic_cast<QAbstractButton&>(Trouver(pas)).click();
 }
 

@@ -59,6 +59,7 @@ class Joueur : public QObject {
   QMainWindow& fenetre_;
   std::vector<Pas> pas_{};
   std::size_t rang_ = 0;
+  int attentes_ = 0;
   QEventLoop boucle_{};
 };
 

@@ -45,6 +45,7 @@ class LienListe : public Lien {
     });
     connect(&liste_, &QListWidget::doubleClicked, this, [this](const QModelIndex& index) {
       choisie_ = true;
+      if (Fige()) return;
       const int ligne = index.row();
       Binder().Jouer([&](screen::User& user) { user.DoubleCliquer(modele_, ligne); });
     });
@@ -56,7 +57,7 @@ class LienListe : public Lien {
   bool Touche(QKeyEvent& evenement) override {
     const char32_t touche = toucheDe(evenement);
     if (touche == screen::ToucheEntree) {
-      if (!evenement.isAutoRepeat()) Entrer();
+      if (!evenement.isAutoRepeat() && !Fige()) Entrer();
       return true;
     }
     if (touche != 0)
@@ -66,7 +67,7 @@ class LienListe : public Lien {
 
  protected:
   void PousserEtat() override {
-    // The rows stand on the page then; they are chosen to be read on.
+    // The rows stand on the page then; they are chosen to be read on, not opened or taken out.
     liste_.viewport()->setAutoFillBackground(!Fige());
     if (modele_.Rows() != poussees_) Remplir();
     const auto choix = liste_.selectionModel()->selectedRows();
