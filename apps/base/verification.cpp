@@ -252,7 +252,8 @@ class Verification {
     CItem contrat;
     const bool pris =
         Lire(data::fichier::CONTRAT, std::string(aidant) + std::string(numero), contrat);
-    if (pris && contrat.Vue(Contrat::Annule) != Contrat::MarqueAnnule) return " est celui d'un contrat existant";
+    if (pris && contrat.Vue(Contrat::Annule) != Contrat::MarqueAnnule)
+      return " est celui d'un contrat existant";
     return {};
   }
 
