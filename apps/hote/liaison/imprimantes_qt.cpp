@@ -9,8 +9,6 @@
 
 namespace hote {
 
-namespace {}  // namespace
-
 ImprimantesQt::ImprimantesQt(Bureau& bureau, CurseurQt& curseur) : pdf_(bureau, curseur) {}
 ImprimantesQt::~ImprimantesQt() = default;
 

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "data/jour.h"
 #include "widget/apparence.h"
@@ -73,13 +74,13 @@ FriseContrats::FriseContrats(QWidget* parent) : QWidget(parent) {
 }
 
 void FriseContrats::Montrer(control::Frise frise) {
-  const bool autreHauteur = frise.rangs != frise_.rangs;
+  const int rangs = gardeHauteur_ ? std::max(frise.rangs, rangs_) : frise.rangs;
   frise_ = std::move(frise);
   noms_.clear();
   for (const control::Bande& bande : frise_.bandes) {
     noms_.push_back(NommerBande ? NommerBande(bande.portee) : QString());
   }
-  if (autreHauteur) updateGeometry();
+  if (std::exchange(rangs_, rangs) != rangs) updateGeometry();
   update();
 }
 
@@ -115,12 +116,11 @@ void FriseContrats::SetLignesMax(int lignes) {
 // Geometry.
 
 QSize FriseContrats::sizeHint() const {
-  const int rangs = frise_.rangs;
-  if (rangs == 0) return minimumSizeHint();
+  if (rangs_ == 0) return minimumSizeHint();
   const int ligne = fontMetrics().height();
-  const int place = std::min(rangs * RangIdeal, lignesMax_ * ligne - ligne);
+  const int place = std::min(rangs_ * RangIdeal, lignesMax_ * ligne - ligne);
   return {fontMetrics().averageCharWidth() * 60,
-          std::max(place, rangs * RangMin) + ligne + 3 * Air};
+          std::max(place, rangs_ * RangMin) + ligne + 3 * Air};
 }
 
 // On a low screen the list needs the room more.
@@ -140,8 +140,7 @@ QRect FriseContrats::Cadre() const {
 }
 
 double FriseContrats::HauteurRang() const {
-  return std::min<double>(RangIdeal,
-                          Cadre().height() / static_cast<double>(std::max(frise_.rangs, 1)));
+  return std::min<double>(RangIdeal, Cadre().height() / static_cast<double>(std::max(rangs_, 1)));
 }
 
 double FriseContrats::X(long jour) const {

@@ -33,6 +33,8 @@ class FriseContrats : public QWidget {
   QRect Place(const control::Barre& barre) const;
   // The greatest height, in lines of text; the rows become lower before it is passed.
   void SetLignesMax(int lignes);
+  // Rows that go leave their room: what stands below does not move while a date is typed.
+  void GarderHauteur() { gardeHauteur_ = true; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -71,4 +73,6 @@ class FriseContrats : public QWidget {
   std::string choisie_;
   std::vector<QString> noms_;
   int lignesMax_ = 10;
+  int rangs_ = 0;  // that it has room for
+  bool gardeHauteur_ = false;
 };

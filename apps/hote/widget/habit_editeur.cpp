@@ -30,6 +30,7 @@ HabitEditeur::HabitEditeur(control::Ctr_Contrat& controle, Liaison& liaison, QSe
       vue_(controle),
       frise_(liaison.Racine().findChild<FriseContrats*>("frise")) {
   frise_->SetLignesMax(LignesFrise);
+  frise_->GarderHauteur();
   habillerFrise(*frise_, vue_, reglages);
   liaison_.Racine().installEventFilter(this);
   GuetterSaisie();
