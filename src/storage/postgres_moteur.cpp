@@ -345,8 +345,7 @@ bool PostgresStorage::Moteur::Confirmer(const Acte& acte) {
   }
 }
 
-// False when it can be run again, and nothing of it stands: another station got in between, or the
-// line was cut for the first time.
+// What the road has read so far does not belong to the block that is to come.
 void PostgresStorage::Moteur::Promettre() {
   if (!route_.Ouverte() || enBloc_ || enUnEtat_ || lecture_) return;
   if (!lien_.Assurer(kBloc)) promis_ = false;
