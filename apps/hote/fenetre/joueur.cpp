@@ -12,6 +12,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -24,7 +25,7 @@ namespace {
 // Between two steps, in milliseconds: what the first one brought is shown by then.
 constexpr int Pause = 40;
 // Pauses that a window may take to get the keyboard.
-constexpr int AttentesMax = 100;
+constexpr int AttentesMax = 25;
 
 void presser(int cle, Qt::KeyboardModifiers avec, const QString& texte) {
   QWidget* const popup = QApplication::activePopupWidget();
@@ -66,6 +67,8 @@ void Joueur::Avancer() {
     return;
   }
   attentes_ = 0;
+  // A display without a window manager gives it to nobody.
+  if (!Devant().isActiveWindow()) QApplication::setActiveWindow(&Devant());
   const std::size_t rang = rang_++;
   try {
     if (rang > 0 && *pas_[rang - 1].image != '\0') Photographier(pas_[rang - 1].image);
@@ -74,8 +77,9 @@ void Joueur::Avancer() {
     (this->*pas_[rang].acte)(pas_[rang]);
   } catch (const std::exception& erreur) {
     const Pas& pas = pas_[rang];
-    qFatal("%s %s : %s. Devant : %s", pas.widget, pas.texte.c_str(), erreur.what(),
-           qPrintable(Devant().windowTitle()));
+    qCritical("%s %s : %s. Devant : %s", pas.widget, pas.texte.c_str(), erreur.what(),
+              qPrintable(Devant().windowTitle()));
+    std::_Exit(EXIT_FAILURE);  // windows stand open that wait for answers
   }
 }
 
