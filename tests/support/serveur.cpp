@@ -118,8 +118,9 @@ void Serveur::Arreter(int signal) {
 }
 
 void Serveur::CouperTout() const {
+  // A process that is only told to end takes its time on a busy machine, and its end is not seen.
   Sql("postgres",
-      "SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
+      "SELECT pg_terminate_backend(pid, 10000) FROM pg_stat_activity "
       "WHERE usename IS NOT NULL AND pid <> pg_backend_pid()");
 }
 

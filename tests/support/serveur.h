@@ -38,7 +38,7 @@ class Serveur {
   void Demarrer();
   // SIGQUIT is as sudden as a power cut.
   void Arreter(int signal = SIGQUIT);
-  // Ends every connection but its own, as a restart of a router does.
+  // Ends every connection but its own, as a restart of a router does; all are gone on return.
   void CouperTout() const;
 
  private:
