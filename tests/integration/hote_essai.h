@@ -55,6 +55,8 @@ class DansForme {
       Guetter();
       QWidget* const active = QApplication::activeModalWidget();
       if (active == nullptr || active->objectName() != nom_) return;
+      // A form that is shown, but not active yet, does not see its fields being left.
+      if (faits_ == 0 && !active->isActiveWindow()) return;
       // A failed check must leave no loop open.
       if (faits_ >= actes_.size() && ++tours_ > 500) std::abort();
       if (faits_ < actes_.size()) actes_[faits_++](*active);

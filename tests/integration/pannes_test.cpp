@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTabWidget>
 #include <sstream>
 
@@ -84,9 +85,12 @@ class Pannes : public ::testing::TestWithParam<const char*> {
          {"Cbo_FreqWContrat", "H"},
          {"Txt_TauxHorContrat", "12"}},
         {{"Txt_ProfilContrat", "101"}, {"Cbo_Activite", ""}}};
-    auto* const onglets = editeur.findChild<QTabWidget*>("Ong_Contrat");
+    QTabBar* const barre = editeur.findChild<QTabWidget*>("Ong_Contrat")->tabBar();
+    const auto aller = [&](int onglet) {
+      QTest::mouseClick(barre, Qt::LeftButton, {}, barre->tabRect(onglet).center());
+    };
     for (int page = 0; const auto& saisies : pages) {
-      onglets->setCurrentIndex(page++);
+      aller(page++);
       for (const auto& [nom, texte] : saisies) {
         auto* const champ = editeur.findChild<QWidget*>(nom);
         ASSERT_NE(champ, nullptr) << nom;
@@ -95,7 +99,7 @@ class Pannes : public ::testing::TestWithParam<const char*> {
         if (*texte == '\0') QTest::keyClick(champ, Qt::Key_Down);
       }
     }
-    onglets->setCurrentIndex(0);
+    aller(0);
   }
   static std::string Texte(QWidget& fenetre, const char* champ) {
     return fenetre.findChild<QLineEdit*>(champ)->text().toStdString();
