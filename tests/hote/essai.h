@@ -283,6 +283,8 @@ class Essai : public ::testing::Test {
       QTabBar& barre = *w<QTabWidget>("Ong").tabBar();
       cliquer(barre, barre.tabRect(std::stoi(nom)).center());
     }
+    // As a screen reader does, which moves no focus.
+    if (verbe == "activer") w<QTabWidget>("Ong").setCurrentIndex(std::stoi(nom));
     if (verbe == "tout") w<QLineEdit>(nom.c_str()).selectAll();
     if (verbe == "touche") touche(combinaison().key(), combinaison().keyboardModifiers());
     if (verbe == "taper") taper(QString::fromStdString(nom));

@@ -221,6 +221,10 @@ TEST_F(Saisie, OptionsFollowTheModel) {
   parcourir("Les options");
 }
 
+TEST_F(Saisie, ATabThatAScreenReaderActivatesIsShown) {
+  parcourir("Un onglet qu'un lecteur d'écran active");
+}
+
 TEST_F(Saisie, ArrowsCountAndTheirTextDoesNot) {
   parcourir("Les flèches");
 }

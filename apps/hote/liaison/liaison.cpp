@@ -168,6 +168,10 @@ void Liaison::Attendre(Lien& lien) {
   QTimer::singleShot(0, this, [this] { Drainer(); });
 }
 
+void Liaison::OublierFocus(const QWidget& partie) {
+  if (enAttente_ != nullptr && partie.isAncestorOf(&enAttente_->Widget())) enAttente_ = nullptr;
+}
+
 bool Liaison::Drainer() {
   if (enAttente_ == nullptr) return true;
   screen::Field& champ = std::exchange(enAttente_, nullptr)->Champ();

@@ -69,6 +69,8 @@ class Liaison : public QObject {
   bool Jouer(const std::function<void(screen::User&)>& acte);
   // Delivers the focus change that is waiting. False when the act that made it must be dropped.
   bool Drainer();
+  // A focus that has come into a part of the window by itself is no act of the user's.
+  void OublierFocus(const QWidget& partie);
   // The model's state to the widgets, the focus included.
   void Pousser();
   // The title of a window shows that what is typed is not stored yet.

@@ -101,6 +101,8 @@ class LienOnglets : public Lien {
     onglets_.tabBar()->setFocusPolicy(Qt::StrongFocus);
     onglets_.installEventFilter(this);
     connect(&onglets_, &QTabWidget::currentChanged, this, [this](int onglet) {
+      // Into the page that a screen reader shows comes the focus that stood on the one before.
+      Binder().OublierFocus(onglets_);
       Binder().Jouer([&](screen::User& user) { user.Onglet(modele_, onglet); });
     });
   }
