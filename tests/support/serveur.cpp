@@ -118,7 +118,7 @@ void Serveur::Arreter(int signal) {
 }
 
 void Serveur::CouperTout() const {
-  // A process that is only told to end takes its time on a busy machine, and its end is not seen.
+  // Told to end, a process takes its time on a busy machine; until then its line looks alive.
   Sql("postgres",
       "SELECT pg_terminate_backend(pid, 10000) FROM pg_stat_activity "
       "WHERE usename IS NOT NULL AND pid <> pg_backend_pid()");
